@@ -1,0 +1,30 @@
+# What every target of the project is built with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+
+# Everything runs from the build tree as it does when installed.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
+set(PACKAGINGCONTROL_PLUGIN_DIR ${CMAKE_INSTALL_LIBDIR}/packagingcontrol/plugins)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wnull-dereference)
+if(PACKAGINGCONTROL_WERROR)
+    add_compile_options(-Werror)
+endif()
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+add_link_options(-Wl,--no-undefined -Wl,--as-needed)
+
+if(PACKAGINGCONTROL_LINT)
+    find_program(CLANG_TIDY NAMES clang-tidy REQUIRED)
+    set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet --warnings-as-errors=*)
+endif()

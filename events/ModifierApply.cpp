@@ -1,0 +1,40 @@
+#include "events/EventPosition.h"
+#include "host/Finally.h"
+#include "plugin/PackagingControl.h"
+
+#include <algorithm>
+
+void PackagingControl::onModifierApplyEvent(const Event &event)
+{
+    const auto position = packaging::eventPosition(event);
+    if (!position)
+        return;
+    const Finally save([this] { savePluginData(); });
+    if (isTara(position))
+        resizeTara(position);
+    else if (isPackaging(position))
+        modifyPackagingUsedCapacity(getPackagingInfoByPosnum(position->getPosnum()),
+                                    position->getBquant());
+}
+
+void PackagingControl::resizeTara(const QSharedPointer<GoodsItem> &position)
+{
+    const auto tara = getTaraByPosnum(position->getPosnum());
+    if (!tara)
+        return;
+    const double oldCapacity = tara->capacity;
+    // The base quantity here, although the record was created from the count of pieces.
+    const double newCapacity = position->getTmcTaraCapacity().toDouble() * position->getBquant();
+    modifyTaraCapacity(tara, newCapacity);
+    if (tara->isEmpty())
+        return;
+
+    // The first goods take the whole change, even when several share the tara.
+    const auto user =
+        std::find_if(packagingList.cbegin(), packagingList.cend(),
+                     [&tara](const auto &info) { return info->usedTara.contains(tara->id); });
+    if (user == packagingList.cend())
+        return;
+    const auto info = *user; // held: the host's events may take it out of the list
+    modifyPackagingPositionQuantity(info, newCapacity - oldCapacity);
+}

@@ -1,0 +1,4 @@
+#include "host/AbstractDocument.h"
+
+AbstractDocument::AbstractDocument() = default;
+AbstractDocument::~AbstractDocument() = default;

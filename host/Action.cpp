@@ -1,0 +1,32 @@
+#include "host/Action.h"
+
+namespace control {
+
+struct Action::Data
+{
+    EActionType type;
+    QMultiMap<QString, QVariant> arguments;
+};
+
+Action::Action(EActionType type, const QMultiMap<QString, QVariant> &arguments)
+    : m_data(new Data{type, arguments})
+{
+}
+
+EActionType Action::getType() const
+{
+    return m_data->type;
+}
+
+QMultiMap<QString, QVariant> Action::getArguments() const
+{
+    return m_data->arguments;
+}
+
+void Action::setArgument(const QString &key, const QVariant &value) const
+{
+    m_data->arguments.remove(key);
+    m_data->arguments.insert(key, value);
+}
+
+} // namespace control

@@ -1,0 +1,79 @@
+#include "host/ActionArguments.h"
+
+namespace control::args {
+
+namespace {
+
+QString positionNumberKey()
+{
+    return QStringLiteral("positionNumber");
+}
+
+QString withoutDialogKey()
+{
+    return QStringLiteral("withoutDialog");
+}
+
+} // namespace
+
+Basic::Basic(const Action &action)
+    : m_action(action)
+{
+}
+
+const Action &Basic::action() const
+{
+    return m_action;
+}
+
+QVariant Basic::value(const QString &key) const
+{
+    return m_action.getArguments().value(key);
+}
+
+void Basic::setValue(const QString &key, const QVariant &value) const
+{
+    m_action.setArgument(key, value);
+}
+
+Core::Core(const Action &action)
+    : Basic(action)
+{
+}
+
+int Core::positionNumber() const
+{
+    return value(positionNumberKey()).toInt();
+}
+
+void Core::setPositionNumber(int posnum) const
+{
+    setValue(positionNumberKey(), posnum);
+}
+
+Input::Input(const Action &action)
+    : Core(action)
+{
+}
+
+Pos::Pos(const Action &action)
+    : Input(action)
+{
+}
+
+Storno::Storno(const Action &action)
+    : Pos(action)
+{
+}
+
+bool Storno::withoutDialog() const
+{
+    return value(withoutDialogKey()).toBool();
+}
+
+void Storno::setWithoutDialog(bool without) const
+{
+    setValue(withoutDialogKey(), without);
+}
+
+} // namespace control::args

@@ -1,0 +1,8 @@
+#include "host/BaseActivityListener.h"
+
+BaseActivityListener::BaseActivityListener(QObject *parent)
+    : QObject(parent)
+{
+}
+
+BaseActivityListener::~BaseActivityListener() = default;

@@ -1,0 +1,63 @@
+#include "host/Config.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QFile>
+#include <QtCore/QSettings>
+#include <QtCore/QStringList>
+
+#include <optional>
+
+template <>
+SingletonSlot<Config> Singleton<Config>::instance{};
+
+namespace {
+
+std::optional<bool> parseBool(const QVariant &value)
+{
+    const QString text = value.toString().trimmed().toLower();
+    if (QStringList{"true", "yes", "on", "1"}.contains(text))
+        return true;
+    if (QStringList{"false", "no", "off", "0"}.contains(text))
+        return false;
+    return std::nullopt;
+}
+
+} // namespace
+
+Config::Config() = default;
+Config::~Config() = default;
+
+bool Config::getBool(const QString &key, bool defaultValue) const
+{
+    const auto found = m_values.constFind(key);
+    if (found == m_values.cend())
+        return defaultValue;
+    const std::optional<bool> parsed = parseBool(*found);
+    if (!parsed) {
+        qWarning().noquote() << "setting" << key
+                             << "is neither true nor false:" << found->toString();
+    }
+    return parsed.value_or(defaultValue);
+}
+
+void Config::set(const QString &key, const QVariant &value)
+{
+    m_values.insert(key, value);
+}
+
+QString Config::readFile(const QString &path)
+{
+    // QSettings takes a missing file for an empty one.
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("%1: %2").arg(path, file.errorString());
+    file.close();
+
+    const QSettings settings(path, QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError)
+        return QStringLiteral("%1: not a settings file").arg(path);
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys)
+        set(QString(key).replace(QLatin1Char('/'), QLatin1Char(':')), settings.value(key));
+    return {};
+}

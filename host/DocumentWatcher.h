@@ -1,0 +1,26 @@
+#ifndef HOST_DOCUMENTWATCHER_H
+#define HOST_DOCUMENTWATCHER_H
+
+#include "host/AbstractDocument.h"
+#include "host/HostGlobal.h"
+
+#include <QtCore/QSharedPointer>
+
+//! Holds the document in hand. Its one virtual operation is binary contract.
+class HOST_EXPORT DocumentWatcher
+{
+public:
+    DocumentWatcher();
+    Q_DISABLE_COPY_MOVE(DocumentWatcher)
+
+    //! Called by the host whenever the document in hand changes. Holds \a newDocument, null too.
+    virtual void setDocument(const QSharedPointer<AbstractDocument> &newDocument);
+
+protected:
+    // Never deleted through this base, whose table has no destructor.
+    ~DocumentWatcher();
+
+    QSharedPointer<AbstractDocument> document; //!< the document in hand, or null
+};
+
+#endif // HOST_DOCUMENTWATCHER_H

@@ -1,0 +1,121 @@
+#include "log4qt/appenderskeleton.h"
+#include "log4qt/logger.h"
+#include "log4qt/loggingevent.h"
+#include "log4qt/logmanager.h"
+
+#include <QtCore/QMap>
+
+#include <memory>
+
+namespace Log4Qt {
+
+Level::Level(Value value)
+    : m_value(value)
+{
+}
+
+int Level::toInt() const
+{
+    return m_value;
+}
+
+QString Level::toString() const
+{
+    return m_value == ERROR_INT ? QStringLiteral("ERROR") : QStringLiteral("INFO");
+}
+
+LoggingEvent::LoggingEvent(const Logger *logger, Level level, const QString &message)
+    : m_loggerName(logger->name())
+    , m_level(level)
+    , m_message(message)
+{
+}
+
+Level LoggingEvent::level() const
+{
+    return m_level;
+}
+
+QString LoggingEvent::message() const
+{
+    return m_message;
+}
+
+QString LoggingEvent::loggerName() const
+{
+    return m_loggerName;
+}
+
+Appender::Appender(QObject *parent)
+    : QObject(parent)
+{
+}
+
+Appender::~Appender() = default;
+
+AppenderSkeleton::AppenderSkeleton(QObject *parent)
+    : Appender(parent)
+{
+}
+
+AppenderSkeleton::~AppenderSkeleton() = default;
+
+void AppenderSkeleton::doAppend(const LoggingEvent &event)
+{
+    append(event);
+}
+
+Logger::Logger(const QString &name)
+    : m_name(name.toUtf8())
+    , m_category(m_name.constData())
+{
+}
+
+QString Logger::name() const
+{
+    return QString::fromUtf8(m_name);
+}
+
+void Logger::info(const QString &message)
+{
+    append(Level::INFO_INT, message);
+    qCInfo(m_category).noquote() << message;
+}
+
+void Logger::error(const QString &message)
+{
+    append(Level::ERROR_INT, message);
+    qCCritical(m_category).noquote() << message;
+}
+
+void Logger::addAppender(const AppenderSharedPtr &appender)
+{
+    if (appender && !m_appenders.contains(appender))
+        m_appenders.append(appender);
+}
+
+void Logger::removeAppender(const AppenderSharedPtr &appender)
+{
+    m_appenders.removeAll(appender);
+}
+
+void Logger::append(Level level, const QString &message) const
+{
+    if (m_appenders.isEmpty())
+        return;
+    const LoggingEvent event(this, level, message);
+    const auto appenders = m_appenders; // an appender may add or remove appenders
+    for (const auto &appender : appenders)
+        appender->doAppend(event);
+}
+
+Logger *LogManager::logger(const QString &name)
+{
+    static QMap<QString, std::shared_ptr<Logger>> loggers;
+    std::shared_ptr<Logger> &logger = loggers[name];
+    if (!logger)
+        logger = std::make_shared<Logger>(name);
+    return logger.get();
+}
+
+} // namespace Log4Qt

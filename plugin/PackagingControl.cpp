@@ -1,0 +1,132 @@
+#include "plugin/PackagingControl.h"
+
+#include "host/ActivityNotifier.h"
+#include "host/Config.h"
+#include "host/Event.h"
+#include "host/GoodsItem.h"
+#include "host/Quantity.h"
+
+#include <log4qt/logger.h>
+#include <log4qt/logmanager.h>
+
+#include <QtCore/QSet>
+#include <QtCore/QUuid>
+
+#include <functional>
+
+namespace {
+
+//! Names under which events and actions carry the host's types.
+void registerMetaTypes()
+{
+    qRegisterMetaType<Event>("Event");
+    qRegisterMetaType<GoodsItemPtr>("GoodsItemPtr");
+    qRegisterMetaType<GoodsItemPtrList>("GoodsItemPtrList");
+    qRegisterMetaType<Quantity>("Quantity");
+}
+
+QString allowSaleEmptyTaraKey()
+{
+    return QStringLiteral("PackagingControl:allowSaleEmptyTara");
+}
+
+} // namespace
+
+PackagingControl::PackagingControl()
+    : BaseActivityListener(nullptr)
+    , logger(Log4Qt::LogManager::logger(QStringLiteral("packaging")))
+{
+    registerMetaTypes();
+    setObjectName(QStringLiteral("PackagingControl"));
+}
+
+PackagingControl::~PackagingControl() = default;
+
+bool PackagingControl::init()
+{
+    using Callback = EContext::Result (PackagingControl::*)(const control::Action &);
+    const auto attach = [this](control::EActionType type, ActionTrigger::Order order,
+                               Callback callback, ActionTrigger::Priority priority) {
+        addTrigger(ActionTrigger(EContext::Receipt, type, order, std::bind_front(callback, this),
+                                 ActionTrigger::DefaultResult, priority));
+    };
+
+    attach(control::ApplyModifiers, ActionTrigger::Before, &PackagingControl::beforeApplyModifiers,
+           ActionTrigger::Normal);
+    attach(control::SplitPositions, ActionTrigger::After, &PackagingControl::afterSplitPositions,
+           ActionTrigger::Low);
+    attach(control::UnitePositions, ActionTrigger::After, &PackagingControl::afterUnitePositions,
+           ActionTrigger::Low);
+    if (!Singleton<Config>::instance()->getBool(allowSaleEmptyTaraKey(), true)) {
+        attach(control::Subtotal, ActionTrigger::Before, &PackagingControl::beforeSubtotal,
+               ActionTrigger::High);
+        attach(control::Payment, ActionTrigger::Before, &PackagingControl::beforeSubtotal,
+               ActionTrigger::High);
+    }
+    attach(control::AddSoftCheck, ActionTrigger::After, &PackagingControl::afterSoftcheck,
+           ActionTrigger::Normal);
+
+    Singleton<ActivityNotifier>::instance()->subscribe(
+        this, {EActivityListener::eventPositionAdded, EActivityListener::eventPositionStorno,
+               EActivityListener::eventModifierApplied, EActivityListener::eventModifierApplied2});
+    return true;
+}
+
+void PackagingControl::setDocument(const QSharedPointer<AbstractDocument> &newDocument)
+{
+    constexpr int saleReceipt = 1;
+    if (!newDocument || newDocument->getType() != saleReceipt) {
+        disablePlugin();
+        return;
+    }
+    if (newDocument->getOrder()) {
+        logger->info(QStringLiteral(
+            "Обрабатываемый документ содержит заказ, работа плагина приостановлена"));
+        return;
+    }
+    Singleton<ActivityNotifier>::instance()->enableListener(this);
+    DocumentWatcher::setDocument(newDocument);
+    restorePluginData();
+}
+
+void PackagingControl::handleEvent(const Event &event)
+{
+    switch (event.getCode()) {
+    case EActivityListener::eventPositionAdded:
+        onPositionAddEvent(event);
+        break;
+    case EActivityListener::eventPositionStorno:
+        onPositionStornoEvent(event);
+        break;
+    case EActivityListener::eventModifierApplied:
+    case EActivityListener::eventModifierApplied2:
+        onModifierApplyEvent(event);
+        break;
+    default:
+        break;
+    }
+}
+
+EContext::Result PackagingControl::afterSoftcheck(const control::Action &action)
+{
+    Q_UNUSED(action)
+    logger->info(QStringLiteral("Добавлен софт-чек или заказ, работа плагина приостановлена"));
+    disablePlugin();
+    return EContext::Continue;
+}
+
+void PackagingControl::disablePlugin()
+{
+    document.reset();
+    Singleton<ActivityNotifier>::instance()->disableListener(this);
+}
+
+QString PackagingControl::getId() const
+{
+    return QUuid::createUuid().toString(QUuid::WithBraces);
+}
+
+QSharedPointer<GoodsItem> PackagingControl::findPosition(int posnum) const
+{
+    return document ? document->getPositionByPosnum(posnum) : nullptr;
+}

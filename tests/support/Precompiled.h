@@ -1,0 +1,14 @@
+#ifndef TESTS_SUPPORT_PRECOMPILED_H
+#define TESTS_SUPPORT_PRECOMPILED_H
+
+// What nearly every test includes, compiled once for each program.
+
+#include "tests/support/FakeHost.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/Printers.h"
+#include "tests/support/TestPlugin.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#endif // TESTS_SUPPORT_PRECOMPILED_H
