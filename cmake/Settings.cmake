@@ -22,7 +22,11 @@ if(PACKAGINGCONTROL_WERROR)
     add_compile_options(-Werror)
 endif()
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
-add_link_options(-Wl,--no-undefined -Wl,--as-needed)
+add_link_options(-Wl,--as-needed)
+# Clang leaves the sanitizers' own symbols to the program, so that libraries cannot be complete.
+if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    add_link_options(-Wl,--no-undefined)
+endif()
 
 if(PACKAGINGCONTROL_LINT)
     find_program(CLANG_TIDY NAMES clang-tidy REQUIRED)

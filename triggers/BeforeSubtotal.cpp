@@ -47,6 +47,8 @@ bool PackagingControl::stornoAllEmptyTara(const control::Action &action)
         MockFactory<DocumentLogic>::create()->stornoPosition(storno);
         if (receipt->getPositionByPosnum(tara->posnum) || receipt->getPositionList().isEmpty())
             return false;
+        if (document != receipt)
+            break; // the host turned to another receipt, whose positions are not these
     }
     return true;
 }
