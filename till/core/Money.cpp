@@ -15,7 +15,7 @@ QString toText(Kopecks amount)
 
 std::optional<Kopecks> parseMoney(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral("^([0-9]{1,12})(?:[.,]([0-9]{1,2}))?$"));
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,12})(?:[.,]([0-9]{1,2}))?\\z"));
     const auto match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;
@@ -35,7 +35,7 @@ QString toText(double quantity)
 
 std::optional<double> parseQuantity(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral("^-?[0-9]{1,9}(?:[.,][0-9]{1,3})?$"));
+    static const QRegularExpression form(QStringLiteral("^-?[0-9]{1,9}(?:[.,][0-9]{1,3})?\\z"));
     if (!form.match(text).hasMatch())
         return std::nullopt;
     return QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();

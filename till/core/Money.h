@@ -14,7 +14,10 @@ using Kopecks = qint64;
 //! Price of \a quantity pieces at \a price each, rounded to the nearest kopeck, halves away from 0.
 inline Kopecks sumOf(Kopecks price, double quantity)
 {
-    return std::llround(static_cast<double>(price) * quantity);
+    // Three decimals of quantity make whole thousandths of a kopeck: only these tell halves
+    // exactly.
+    const double thousandths = std::round(static_cast<double>(price) * quantity * 1000.0);
+    return std::llround(thousandths / 1000.0);
 }
 
 //! \a amount in roubles with two decimals and a point: 123450 is "1234.50".
