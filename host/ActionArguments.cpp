@@ -71,7 +71,7 @@ bool Storno::withoutDialog() const
     return value(withoutDialogKey()).toBool();
 }
 
-void Storno::setWithoutDialog(bool without) const
+void Storno::setWithoutDialog(bool without)
 {
     setValue(withoutDialogKey(), without);
 }

@@ -57,7 +57,7 @@ public:
 
     //! Whether the host stornoes without asking the cashier; false when not set.
     bool withoutDialog() const;
-    void setWithoutDialog(bool without) const;
+    void setWithoutDialog(bool without);
 };
 
 } // namespace control::args

@@ -4,6 +4,8 @@
 #include "host/Event.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 template <>
 SingletonSlot<ActivityNotifier> Singleton<ActivityNotifier>::instance{};
@@ -13,8 +15,6 @@ struct ActivityNotifier::Subscription
     QPointer<BaseActivityListener> listener;
     QSet<int> codes;
     bool enabled = true;
-
-    bool wants(int code) const { return enabled && listener && codes.contains(code); }
 };
 
 ActivityNotifier::ActivityNotifier() = default;
@@ -59,11 +59,13 @@ void ActivityNotifier::enableListener(BaseActivityListener *listener)
 
 void ActivityNotifier::notify(const Event &event)
 {
-    // The list may change under the walk, so a copy of it is walked; whether a listener still wants
-    // the event is asked of the live subscription when its turn comes.
-    const auto subscriptions = m_subscriptions;
-    for (const auto &subscription : subscriptions) {
-        if (subscription->wants(event.getCode()))
+    // The list may change under the walk. Who is asked is settled by the subscriptions at its
+    // start; whether a listener is still there and enabled, when its turn comes.
+    QList<QSharedPointer<Subscription>> asked;
+    std::copy_if(m_subscriptions.cbegin(), m_subscriptions.cend(), std::back_inserter(asked),
+                 [&event](const auto &s) { return s->codes.contains(event.getCode()); });
+    for (const auto &subscription : std::as_const(asked)) {
+        if (subscription->enabled && subscription->listener)
             subscription->listener->handleEvent(event);
     }
 }

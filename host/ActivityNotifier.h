@@ -45,7 +45,7 @@ public:
 
     /*!
      * Delivers \a event to every enabled listener of its code, in the order of subscription. A
-     * listener that subscribes meanwhile gets the next event first.
+     * listener that subscribes to the code meanwhile gets the next event first.
      */
     virtual void notify(const Event &event);
 

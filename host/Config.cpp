@@ -4,6 +4,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QSettings>
 #include <QtCore/QStringList>
+#include <QtCore/QTemporaryFile>
 
 #include <optional>
 
@@ -47,16 +48,22 @@ void Config::set(const QString &key, const QVariant &value)
 
 QString Config::readFile(const QString &path)
 {
-    // QSettings takes a missing file for an empty one.
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("%1: %2").arg(path, file.errorString());
-    file.close();
+    const QByteArray text = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return QStringLiteral("%1: %2").arg(path, file.errorString());
+    // QSettings remembers what it read from a path, and takes a broken file for a good one when it
+    // meets it again. So it reads a copy, whose path is new.
+    QTemporaryFile copy;
+    if (!copy.open() || copy.write(text) != text.size() || !copy.flush())
+        return QStringLiteral("%1: cannot be copied: %2").arg(path, copy.errorString());
 
-    const QSettings settings(path, QSettings::IniFormat);
+    const QSettings settings(copy.fileName(), QSettings::IniFormat);
+    const QStringList keys = settings.allKeys(); // only this parses the sections
     if (settings.status() != QSettings::NoError)
         return QStringLiteral("%1: not a settings file").arg(path);
-    const QStringList keys = settings.allKeys();
     for (const QString &key : keys)
         set(QString(key).replace(QLatin1Char('/'), QLatin1Char(':')), settings.value(key));
     return {};

@@ -21,7 +21,7 @@ Tmc *GoodsItem::getTmc()
     return m_tmc.get();
 }
 
-QVariant GoodsItem::getTmcTaraCapacity()
+QVariant GoodsItem::getTmcTaraCapacity() const
 {
     return m_tmc->getTaraCapacity();
 }

@@ -33,7 +33,7 @@ public:
     Tmc *getTmc();
     //! Tara capacity of one unit of the article; whatever the catalogue holds, to be read as a
     //! number.
-    QVariant getTmcTaraCapacity();
+    QVariant getTmcTaraCapacity() const;
 
     //! Quantity in base units: what is poured.
     double getBquant() const;

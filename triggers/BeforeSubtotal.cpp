@@ -36,7 +36,7 @@ bool PackagingControl::stornoAllEmptyTara(const control::Action &action)
     if (!receipt)
         return true;
     const control::Action storno(control::StornoPosition, {});
-    const control::args::Storno arguments(storno);
+    control::args::Storno arguments(storno);
     arguments.setWithoutDialog(true);
 
     const auto taras = taraList; // each storno comes back as an event, which shortens the live list

@@ -1,0 +1,86 @@
+#include "host/Dialog.h"
+#include "host/DocumentLogic.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+//! A type of which the host library knows nothing.
+struct UserDefined
+{
+    virtual ~UserDefined() = default;
+    virtual bool isSubstitute() const { return false; }
+};
+
+template <class T>
+class Factory : public testing::Test
+{
+protected:
+    Factory() { MockFactory<T>::mocked.reset(); }
+    ~Factory() override { MockFactory<T>::mocked.reset(); }
+};
+
+using Types = testing::Types<Dialog, DocumentLogic, UserDefined>;
+TYPED_TEST_SUITE(Factory, Types);
+
+TYPED_TEST(Factory, NoSubstitute_MakesANewObjectEachTime)
+{
+    const auto first = MockFactory<TypeParam>::create();
+    const auto second = MockFactory<TypeParam>::create();
+
+    ASSERT_FALSE(first.isNull());
+    ASSERT_FALSE(second.isNull());
+    EXPECT_NE(first, second);
+}
+
+TYPED_TEST(Factory, NewObject_IsNotKept)
+{
+    const QWeakPointer<TypeParam> made = MockFactory<TypeParam>::create();
+
+    EXPECT_TRUE(made.isNull());
+    EXPECT_TRUE(MockFactory<TypeParam>::mocked.isNull());
+}
+
+TYPED_TEST(Factory, Substitute_IsHandedOutEachTime)
+{
+    const QSharedPointer<TypeParam> substitute(new TypeParam);
+    MockFactory<TypeParam>::mocked = substitute;
+
+    EXPECT_EQ(MockFactory<TypeParam>::create(), substitute);
+    EXPECT_EQ(MockFactory<TypeParam>::create(), substitute);
+}
+
+TYPED_TEST(Factory, Substitute_OutlivesItsUse)
+{
+    MockFactory<TypeParam>::mocked.reset(new TypeParam);
+    const auto *substitute = MockFactory<TypeParam>::mocked.get();
+    MockFactory<TypeParam>::create().reset();
+
+    EXPECT_EQ(MockFactory<TypeParam>::create().get(), substitute);
+}
+
+TYPED_TEST(Factory, SubstituteTakenAway_NewObjectsAgain)
+{
+    const QSharedPointer<TypeParam> substitute(new TypeParam);
+    MockFactory<TypeParam>::mocked = substitute;
+    MockFactory<TypeParam>::mocked.reset();
+
+    EXPECT_NE(MockFactory<TypeParam>::create(), substitute);
+}
+
+using UserDefinedFactory = Factory<UserDefined>;
+
+TEST_F(UserDefinedFactory, SubstituteOfASubclass_IsCalled)
+{
+    struct Substitute : UserDefined
+    {
+        bool isSubstitute() const override { return true; }
+    };
+    EXPECT_FALSE(MockFactory<UserDefined>::create()->isSubstitute());
+
+    MockFactory<UserDefined>::mocked.reset(new Substitute);
+
+    EXPECT_TRUE(MockFactory<UserDefined>::create()->isSubstitute());
+}
+
+} // namespace
