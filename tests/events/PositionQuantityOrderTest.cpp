@@ -1,0 +1,318 @@
+#include "tests/support/FakeHost.h"
+#include "tests/support/Printers.h"
+#include "tests/support/TestPlugin.h"
+
+#include "host/ActionArguments.h"
+#include "host/ActionQueueController.h"
+#include "host/Quantity.h"
+
+#include <log4qt/appenderskeleton.h>
+#include <log4qt/logger.h>
+#include <log4qt/loggingevent.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+// What the host is asked when goods change with their tara, and in which order: one journal of the
+// position's lookup, the log, the session and the action queue.
+
+namespace {
+
+using Journal = QStringList;
+
+class JournalingDocument : public Document
+{
+public:
+    explicit JournalingDocument(Journal &journal)
+        : m_journal(journal)
+    {
+    }
+
+    QSharedPointer<GoodsItem> getPositionByPosnum(int posnum) const override
+    {
+        m_journal << QString("look up %1").arg(posnum);
+        return Document::getPositionByPosnum(posnum);
+    }
+
+private:
+    Journal &m_journal;
+};
+
+class JournalingSession : public Session
+{
+public:
+    explicit JournalingSession(Journal &journal)
+        : m_journal(journal)
+    {
+    }
+
+    ModifiersContainer *getModifiers() override
+    {
+        m_journal << "modifiers";
+        return Session::getModifiers();
+    }
+
+    //! As `getModifiers`, without an entry.
+    ModifiersContainer &current() { return *Session::getModifiers(); }
+
+private:
+    Journal &m_journal;
+};
+
+class JournalingQueue : public ActionQueueController
+{
+public:
+    explicit JournalingQueue(Journal &journal)
+        : m_journal(journal)
+    {
+    }
+
+    int runAction(const control::Action &action) override
+    {
+        m_journal << QString("run %1").arg(action.getType());
+        actions << action;
+        if (whenRun)
+            whenRun();
+        return answer;
+    }
+
+    int answer = EContext::Continue;
+    QList<control::Action> actions;
+    std::function<void()> whenRun;
+
+private:
+    Journal &m_journal;
+};
+
+class JournalingAppender : public Log4Qt::AppenderSkeleton
+{
+public:
+    JournalingAppender(Journal &journal, std::function<QString()> group)
+        : m_journal(journal)
+        , m_group(std::move(group))
+    {
+    }
+
+    bool requiresLayout() const override { return false; }
+
+protected:
+    void append(const Log4Qt::LoggingEvent &event) override
+    {
+        m_journal << event.level().toString() + ' ' + event.message() + " [" + m_group() + ']';
+    }
+
+private:
+    Journal &m_journal;
+    std::function<QString()> m_group;
+};
+
+//! Position 3 holds 5 of goods, in the group "g"; log lines show the group as it then is.
+class PositionQuantityOrder : public testing::Test
+{
+protected:
+    PositionQuantityOrder()
+    {
+        Singleton<Session>::instance = &session;
+        Singleton<ActionQueueController>::instance = &queue;
+        position->setBquant(5);
+        position->setCquant(1000);
+        position->setGroupId("g");
+        document->addPosition(position);
+        plugin.setDocument(document);
+        plugin.putGoods(3);
+        plugin.logger->addAppender(appender);
+        journal.clear();
+    }
+
+    ~PositionQuantityOrder() override { plugin.logger->removeAppender(appender); }
+
+    bool changeBy(double delta)
+    {
+        const auto info = plugin.packagingList.constFirst();
+        return plugin.modifyPackagingPositionQuantity(info, delta);
+    }
+
+    FakeHost host; // the services that this test does not look at
+    Journal journal;
+    JournalingSession session{journal};
+    JournalingQueue queue{journal};
+    QSharedPointer<JournalingDocument> document =
+        QSharedPointer<JournalingDocument>::create(journal);
+    QSharedPointer<GoodsItem> position =
+        QSharedPointer<GoodsItem>::create(3, QSharedPointer<Tmc>::create(Tmc::PackagingGoods));
+    Log4Qt::AppenderSharedPtr appender{
+        new JournalingAppender(journal, [this] { return position->getGroupId(); })};
+    TestPlugin plugin;
+};
+
+TEST_F(PositionQuantityOrder, Change_LogsSetsTheModifierThenRuns)
+{
+    EXPECT_TRUE(changeBy(-1.5));
+    EXPECT_EQ(journal, (Journal{"look up 3",
+                                "INFO Изменение количества позиции 3, размещенной в таре, на "
+                                "-1.500, в связи с изменением тары [g]",
+                                "modifiers", "run 5"}));
+}
+
+TEST_F(PositionQuantityOrder, ChangeThatFails_LogsAnErrorAfterwards)
+{
+    queue.answer = EContext::Error;
+
+    EXPECT_FALSE(changeBy(-1.5));
+    EXPECT_EQ(journal,
+              (Journal{"look up 3",
+                       "INFO Изменение количества позиции 3, размещенной в таре, на -1.500, в "
+                       "связи с изменением тары [g]",
+                       "modifiers", "run 5",
+                       "ERROR Не удалось изменить количество позиции, размещенной в тару [g]"}));
+}
+
+TEST_F(PositionQuantityOrder, Change_ModifierIsSetWhenTheActionRuns)
+{
+    QVariant atRun;
+    queue.whenRun = [&] { atRun = session.current().value(static_cast<modifiers::Type>(3)); };
+
+    changeBy(-1.5);
+
+    ASSERT_EQ(atRun.metaType(), QMetaType::fromType<Quantity>());
+    EXPECT_EQ(atRun.value<Quantity>().amount(), 3.5);
+    EXPECT_EQ(static_cast<int>(atRun.value<Quantity>().mode()), 7);
+}
+
+TEST_F(PositionQuantityOrder, Change_KeepsOtherModifiersAndTheGroup)
+{
+    session.current().set(static_cast<modifiers::Type>(4), "other");
+
+    changeBy(-1.5);
+
+    EXPECT_EQ(session.current().value(static_cast<modifiers::Type>(4)), QVariant("other"));
+    EXPECT_EQ(position->getGroupId(), "g");
+}
+
+TEST_F(PositionQuantityOrder, Change_ReplacesAQuantityThatWasSet)
+{
+    session.current().set(modifiers::Quantity, QVariant::fromValue(Quantity(99, quantModeNone)));
+
+    changeBy(2);
+
+    EXPECT_EQ(session.current().value(modifiers::Quantity).value<Quantity>(),
+              Quantity(7, quantModeRecalculated));
+}
+
+TEST_F(PositionQuantityOrder, Change_ActionCarriesThePositionNumberOnly)
+{
+    changeBy(-1.5);
+
+    ASSERT_EQ(queue.actions.size(), 1);
+    EXPECT_EQ(static_cast<int>(queue.actions[0].getType()), 5);
+    EXPECT_EQ(control::args::Core(queue.actions[0]).positionNumber(), 3);
+    EXPECT_EQ(queue.actions[0].getArguments().size(), 1);
+}
+
+TEST_F(PositionQuantityOrder, Change_DoesNotTouchThePositionItself)
+{
+    changeBy(-1.5);
+
+    EXPECT_EQ(position->getBquant(), 5);
+    EXPECT_EQ(position->getCquant(), 1000);
+}
+
+TEST_F(PositionQuantityOrder, Removal_LogsClearsTheGroupThenRuns)
+{
+    QString groupAtRun = "unseen";
+    queue.whenRun = [&] { groupAtRun = position->getGroupId(); };
+
+    EXPECT_TRUE(changeBy(-5));
+    EXPECT_EQ(journal, (Journal{"look up 3",
+                                "INFO Удаление позиции 3, размещенной в таре, в связи с "
+                                "изменением тары [g]",
+                                "run 202"}));
+    EXPECT_EQ(groupAtRun, "");
+}
+
+TEST_F(PositionQuantityOrder, RemovalThatFails_LogsAnErrorAfterwards)
+{
+    queue.answer = EContext::Cancel;
+
+    EXPECT_FALSE(changeBy(-5));
+    EXPECT_EQ(journal,
+              (Journal{"look up 3",
+                       "INFO Удаление позиции 3, размещенной в таре, в связи с "
+                       "изменением тары [g]",
+                       "run 202", "ERROR Не удалось удалить позицию, размещенную в тару []"}));
+}
+
+TEST_F(PositionQuantityOrder, Removal_ActionCarriesThePositionNumberOnly)
+{
+    changeBy(-5);
+
+    ASSERT_EQ(queue.actions.size(), 1);
+    EXPECT_EQ(static_cast<int>(queue.actions[0].getType()), 202);
+    EXPECT_EQ(control::args::Core(queue.actions[0]).positionNumber(), 3);
+    EXPECT_EQ(queue.actions[0].getArguments().size(), 1);
+}
+
+TEST_F(PositionQuantityOrder, Removal_SetsNoModifier)
+{
+    changeBy(-5);
+
+    EXPECT_FALSE(session.current().isSet(modifiers::Quantity));
+}
+
+TEST_F(PositionQuantityOrder, TwoChanges_AreTwoActions)
+{
+    changeBy(1);
+    changeBy(2);
+
+    ASSERT_EQ(queue.actions.size(), 2);
+    control::args::Core(queue.actions[0]).setPositionNumber(77);
+    EXPECT_EQ(control::args::Core(queue.actions[1]).positionNumber(), 3);
+}
+
+class AnswerOfTheQueue : public PositionQuantityOrder, public testing::WithParamInterface<int>
+{
+};
+
+TEST_P(AnswerOfTheQueue, OnlyTwoIsSuccess)
+{
+    queue.answer = GetParam();
+
+    EXPECT_EQ(changeBy(-1), GetParam() == 2);
+    EXPECT_EQ(changeBy(-5), GetParam() == 2);
+    EXPECT_EQ(journal.filter("ERROR").size(), GetParam() == 2 ? 0 : 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, AnswerOfTheQueue, testing::Values(0, 1, 2, 3, -1, 258));
+
+TEST_F(PositionQuantityOrder, ServicesThatAreMissing_AreMadeOnFirstUse)
+{
+    Singleton<Session>::instance = nullptr;
+    Singleton<ActionQueueController>::instance = nullptr;
+
+    EXPECT_FALSE(changeBy(-1)); // nobody carries actions out
+    EXPECT_TRUE(Singleton<Session>::instance->getModifiers()->isSet(modifiers::Quantity));
+    EXPECT_TRUE(Singleton<ActionQueueController>::instance);
+
+    delete static_cast<Session *>(Singleton<Session>::instance);
+    delete static_cast<ActionQueueController *>(Singleton<ActionQueueController>::instance);
+}
+
+TEST_F(PositionQuantityOrder, PositionTakenOutWhileTheActionRuns_StaysInHandForTheLog)
+{
+    queue.whenRun = [this] { document->removePosition(3); };
+    queue.answer = EContext::Error;
+
+    EXPECT_FALSE(changeBy(-5));
+    EXPECT_EQ(journal.last(), "ERROR Не удалось удалить позицию, размещенную в тару []");
+}
+
+TEST_F(PositionQuantityOrder, DocumentTakenAwayWhileTheActionRuns_DoesNotMatter)
+{
+    queue.whenRun = [this] { plugin.disablePlugin(); };
+
+    EXPECT_TRUE(changeBy(-1));
+}
+
+} // namespace
