@@ -1,4 +1,3 @@
-#include "host/LoyaltySystemLayer.h"
 #include "tests/events/ReceiptEvents.h"
 
 #include <memory>
@@ -200,19 +199,6 @@ TEST_F(PositionStorno, LoyaltyLayerThatNobodyMade_IsMadeOnFirstUse)
     const std::unique_ptr<LoyaltySystemLayer> made(Singleton<LoyaltySystemLayer>::instance);
     EXPECT_NE(made, nullptr);
 }
-
-class LoyaltyOfReceipts : public LoyaltySystemLayer
-{
-public:
-    LoyaltyOfReceipts() { Singleton<LoyaltySystemLayer>::instance = this; }
-
-    void updateDocument(const QSharedPointer<AbstractDocument> &document) override
-    {
-        told << document;
-    }
-
-    QList<QSharedPointer<AbstractDocument>> told;
-};
 
 TEST_F(PositionStorno, LoyaltyLayer_IsToldOfTheReceipt)
 {

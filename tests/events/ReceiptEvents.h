@@ -3,6 +3,7 @@
 
 #include "host/ActionArguments.h"
 #include "host/ActionQueueController.h"
+#include "host/LoyaltySystemLayer.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
@@ -61,6 +62,20 @@ inline int positionNumber(const control::Action &action)
 {
     return control::args::Core(action).positionNumber();
 }
+
+//! The loyalty layer in the host's place; it notes which receipts it is told of.
+class LoyaltyOfReceipts : public LoyaltySystemLayer
+{
+public:
+    LoyaltyOfReceipts() { Singleton<LoyaltySystemLayer>::instance = this; }
+
+    void updateDocument(const QSharedPointer<AbstractDocument> &document) override
+    {
+        told << document;
+    }
+
+    QList<QSharedPointer<AbstractDocument>> told;
+};
 
 //! A plugin at work on an empty sale receipt.
 class ReceiptEvents : public testing::Test

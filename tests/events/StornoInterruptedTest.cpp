@@ -1,4 +1,3 @@
-#include "host/LoyaltySystemLayer.h"
 #include "tests/events/ReceiptEvents.h"
 
 #include <stdexcept>
@@ -85,19 +84,6 @@ TEST_F(InterruptedStorno, AddedOrder_CountsAsSuspension)
     EXPECT_EQ(plugin.heldDocument(), nullptr);
     EXPECT_TRUE(host.receipt()->isSwitchedOn());
 }
-
-class LoyaltyOfReceipts : public LoyaltySystemLayer
-{
-public:
-    LoyaltyOfReceipts() { Singleton<LoyaltySystemLayer>::instance = this; }
-
-    void updateDocument(const QSharedPointer<AbstractDocument> &document) override
-    {
-        told << document;
-    }
-
-    QList<QSharedPointer<AbstractDocument>> told;
-};
 
 TEST_F(InterruptedStorno, AnotherReceipt_LeavesTheFirstOneSwitchedOn)
 {

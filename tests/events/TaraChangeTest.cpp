@@ -7,7 +7,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class ModifierApply : public ReceiptEvents
+class TaraChange : public ReceiptEvents
 {
 protected:
     void publishChanged(const QSharedPointer<GoodsItem> &position)
@@ -16,14 +16,12 @@ protected:
     }
 };
 
-// Tara.
-
-class ModifierApplyByCode : public ModifierApply,
-                            public testing::WithParamInterface<EActivityListener::Event>
+class TaraChangeByCode : public TaraChange,
+                         public testing::WithParamInterface<EActivityListener::Event>
 {
 };
 
-TEST_P(ModifierApplyByCode, GrownTara_GrowsItsGoods)
+TEST_P(TaraChangeByCode, Growth_GrowsItsGoods)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
@@ -37,23 +35,11 @@ TEST_P(ModifierApplyByCode, GrownTara_GrowsItsGoods)
     expectSavedRecordsAreThoseOf(plugin);
 }
 
-TEST_P(ModifierApplyByCode, Goods_ArePlacedByTheirNewQuantity)
-{
-    standsTara(2, "A", 5.0, 4.0);
-    standsGoods(7, 1.0, {{"A", 1.0}});
-
-    host.changeQuantity(7, 3, GetParam());
-
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 2.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
-    EXPECT_EQ(host.journal, save());
-}
-
-INSTANTIATE_TEST_SUITE_P(Codes, ModifierApplyByCode,
+INSTANTIATE_TEST_SUITE_P(Codes, TaraChangeByCode,
                          testing::Values(EActivityListener::eventModifierApplied,
                                          EActivityListener::eventModifierApplied2));
 
-TEST_F(ModifierApply, GrownTara_IsResizedBeforeItsGoodsAreAskedFor)
+TEST_F(TaraChange, GrownTara_IsResizedBeforeItsGoodsAreAskedFor)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
@@ -71,7 +57,7 @@ TEST_F(ModifierApply, GrownTara_IsResizedBeforeItsGoodsAreAskedFor)
     EXPECT_EQ(host.journal, QStringList{"asked"} + save());
 }
 
-TEST_F(ModifierApply, ShrunkTara_DrawsItsGoodsBackOut)
+TEST_F(TaraChange, ShrunkTara_DrawsItsGoodsBackOut)
 {
     standsTara(2, "A", 3.0, 0.0, 2);
     standsGoods(7, 3.0, {{"A", 3.0}});
@@ -89,7 +75,7 @@ TEST_F(ModifierApply, ShrunkTara_DrawsItsGoodsBackOut)
                      "INFO Изменение использованной позицией 7 ёмкости тары 2 на -1.500"}));
 }
 
-TEST_F(ModifierApply, ShrunkTaraWhoseGoodsAnswerLate_IsOverfullUntilTheyDo)
+TEST_F(TaraChange, ShrunkTaraWhoseGoodsAnswerLate_IsOverfullUntilTheyDo)
 {
     standsTara(2, "A", 3.0, 0.0, 2);
     standsGoods(7, 3.0, {{"A", 3.0}});
@@ -103,7 +89,7 @@ TEST_F(ModifierApply, ShrunkTaraWhoseGoodsAnswerLate_IsOverfullUntilTheyDo)
     EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 1.5}}}));
 }
 
-TEST_F(ModifierApply, TaraShrunkToNothing_RemovesItsGoods)
+TEST_F(TaraChange, TaraShrunkToNothing_RemovesItsGoods)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
@@ -116,7 +102,7 @@ TEST_F(ModifierApply, TaraShrunkToNothing_RemovesItsGoods)
     expectSavedRecordsAreThoseOf(plugin);
 }
 
-TEST_F(ModifierApply, ChangedTara_TakesCapacityFromBaseQuantity)
+TEST_F(TaraChange, ChangedTara_TakesCapacityFromBaseQuantity)
 {
     plugin.putTara(2, "A", 1.5, 1.5);
 
@@ -125,7 +111,7 @@ TEST_F(ModifierApply, ChangedTara_TakesCapacityFromBaseQuantity)
     EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 3.0}));
 }
 
-TEST_F(ModifierApply, ChangedTara_IsReadFromTheEventNotFromTheDocument)
+TEST_F(TaraChange, ChangedTara_IsReadFromTheEventNotFromTheDocument)
 {
     plugin.putTara(2, "A", 1.5, 1.5);
     const auto changed = host.putPosition(2, Tmc::Tara, 1.5, 1, 2);
@@ -136,7 +122,7 @@ TEST_F(ModifierApply, ChangedTara_IsReadFromTheEventNotFromTheDocument)
     EXPECT_EQ(plugin.taraList[0]->capacity, 3.0);
 }
 
-TEST_F(ModifierApply, TaraOfTheSameCapacity_LogsNothingAdjustsNoGoodsAndSaves)
+TEST_F(TaraChange, TaraOfTheSameCapacity_LogsNothingAdjustsNoGoodsAndSaves)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
@@ -149,7 +135,7 @@ TEST_F(ModifierApply, TaraOfTheSameCapacity_LogsNothingAdjustsNoGoodsAndSaves)
     EXPECT_EQ(position(7)->getBquant(), 1.5);
 }
 
-TEST_F(ModifierApply, EmptyTara_ChangesOnlyItsCapacity)
+TEST_F(TaraChange, EmptyTara_ChangesOnlyItsCapacity)
 {
     standsTara(2, "A", 1.5, 1.5);
     standsGoods(7, 1.0, {{"B", 1.0}});
@@ -161,7 +147,7 @@ TEST_F(ModifierApply, EmptyTara_ChangesOnlyItsCapacity)
     EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 3.0}));
 }
 
-TEST_F(ModifierApply, EmptyTaraThatGoodsStillName_LeavesThemAlone)
+TEST_F(TaraChange, EmptyTaraThatGoodsStillName_LeavesThemAlone)
 {
     standsTara(2, "A", 1.5, 1.5);
     standsGoods(7, 1.0, {{"A", 0.0}});
@@ -171,7 +157,7 @@ TEST_F(ModifierApply, EmptyTaraThatGoodsStillName_LeavesThemAlone)
     EXPECT_EQ(host.journal, save());
 }
 
-TEST_F(ModifierApply, TaraOfSeveralGoods_GivesTheWholeChangeToTheFirst)
+TEST_F(TaraChange, TaraOfSeveralGoods_GivesTheWholeChangeToTheFirst)
 {
     standsTara(2, "A", 4.0, 0.0);
     standsGoods(5, 1.0, {{"B", 1.0}});
@@ -185,7 +171,7 @@ TEST_F(ModifierApply, TaraOfSeveralGoods_GivesTheWholeChangeToTheFirst)
     EXPECT_EQ(position(5)->getBquant(), 1.0);
 }
 
-TEST_F(ModifierApply, GoodsThatUseNothingOfTheTaraButNameIt_AreTheFirstGoods)
+TEST_F(TaraChange, GoodsThatUseNothingOfTheTaraButNameIt_AreTheFirstGoods)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.0, {{"A", 0.0}});
@@ -196,7 +182,7 @@ TEST_F(ModifierApply, GoodsThatUseNothingOfTheTaraButNameIt_AreTheFirstGoods)
     EXPECT_EQ(host.journal.value(0), "change 7 to 2.500");
 }
 
-TEST_F(ModifierApply, FilledTaraThatNoGoodsName_AsksForNothing)
+TEST_F(TaraChange, FilledTaraThatNoGoodsName_AsksForNothing)
 {
     standsTara(2, "A", 1.5, 0.5);
     standsGoods(7, 1.0, {{"B", 1.0}});
@@ -207,7 +193,7 @@ TEST_F(ModifierApply, FilledTaraThatNoGoodsName_AsksForNothing)
     EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 2.0}));
 }
 
-TEST_F(ModifierApply, RefusedGoods_LeaveTheNewCapacityStanding)
+TEST_F(TaraChange, RefusedGoods_LeaveTheNewCapacityStanding)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
@@ -222,7 +208,7 @@ TEST_F(ModifierApply, RefusedGoods_LeaveTheNewCapacityStanding)
     EXPECT_EQ(host.journal, QStringList{"change 7 to 3.000"} + save());
 }
 
-TEST_F(ModifierApply, TaraWithoutRecord_OnlySaves)
+TEST_F(TaraChange, TaraWithoutRecord_OnlySaves)
 {
     publishChanged(host.putPosition(2, Tmc::Tara, 1.5, 2, 2));
 
@@ -231,73 +217,9 @@ TEST_F(ModifierApply, TaraWithoutRecord_OnlySaves)
     EXPECT_EQ(host.journal, save());
 }
 
-// Goods.
+// The ways out.
 
-TEST_F(ModifierApply, Goods_PourBaseQuantity)
-{
-    plugin.putTara(2, "A", 500.0, 500.0);
-    plugin.putGoods(7);
-
-    publishChanged(host.putPosition(7, Tmc::PackagingGoods, QVariant(), 100, 4));
-
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 4.0}}}));
-}
-
-TEST_F(ModifierApply, GoodsGrownBeyondAllTara_FillItAndLeaveTheRestUnplaced)
-{
-    standsTara(2, "A", 2.0, 1.0);
-    standsTara(3, "B", 2.0, 2.0);
-    standsGoods(7, 1.0, {{"A", 1.0}});
-
-    host.changeQuantity(7, 10);
-
-    EXPECT_THAT(values(plugin.taraList),
-                ElementsAre(TaraInfo{2, "A", 2.0, 0.0}, TaraInfo{3, "B", 2.0, 0.0}));
-    EXPECT_THAT(values(plugin.packagingList),
-                ElementsAre(PackagingInfo{7, {{"A", 2.0}, {"B", 2.0}}}));
-    EXPECT_EQ(position(7)->getBquant(), 10.0);
-    EXPECT_TRUE(host.errors.isEmpty());
-}
-
-TEST_F(ModifierApply, ShrunkGoodsInTaraWithRoom_KeepTheirShare)
-{
-    standsTara(2, "A", 5.0, 2.0);
-    standsGoods(7, 3.0, {{"A", 3.0}});
-
-    host.changeQuantity(7, 1);
-
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 2.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
-    EXPECT_EQ(host.journal, save());
-}
-
-TEST_F(ModifierApply, GoodsWithoutRecord_TakeCapacityButGetNoRecord)
-{
-    plugin.putTara(2, "A", 5.0, 5.0);
-
-    publishChanged(host.putPosition(7, Tmc::PackagingGoods, QVariant(), 2, 2));
-
-    EXPECT_THAT(plugin.packagingList, IsEmpty());
-    EXPECT_EQ(plugin.taraList[0]->freeCapacity, 3.0);
-    EXPECT_EQ(host.journal, save());
-}
-
-// Others, and the ways out.
-
-TEST_F(ModifierApply, OtherMode_OnlySaves)
-{
-    plugin.putTara(4, "A", 5.0, 5.0);
-    plugin.putGoods(4);
-
-    publishChanged(host.putPosition(4, Tmc::NoTara, 1.5, 2, 2));
-
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{4, "A", 5.0, 5.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{4, {}}));
-    EXPECT_EQ(log.lines(), QStringList());
-    EXPECT_EQ(host.journal, save());
-}
-
-TEST_F(ModifierApply, HostException_PassesAfterTheSave)
+TEST_F(TaraChange, HostException_PassesAfterTheSave)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
@@ -312,7 +234,7 @@ TEST_F(ModifierApply, HostException_PassesAfterTheSave)
     EXPECT_EQ(plugin.taraList[0]->capacity, 3.0);
 }
 
-TEST_F(ModifierApply, WithoutDocument_ResizesTaraAndAsksTheHostForNothing)
+TEST_F(TaraChange, WithoutDocument_ResizesTaraAndAsksTheHostForNothing)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
@@ -326,7 +248,7 @@ TEST_F(ModifierApply, WithoutDocument_ResizesTaraAndAsksTheHostForNothing)
     EXPECT_EQ(host.journal, QStringList());
 }
 
-TEST_F(ModifierApply, SuspendedWhileItsGoodsChange_SavesNothingMore)
+TEST_F(TaraChange, SuspendedWhileItsGoodsChange_SavesNothingMore)
 {
     standsTara(2, "A", 1.5, 0.0);
     standsGoods(7, 1.5, {{"A", 1.5}});
