@@ -23,8 +23,8 @@ void PackagingControl::onPositionStornoEvent(const Event &event)
 
 void PackagingControl::dropTara(const QSharedPointer<TaraInfo> &tara)
 {
-    const auto receipt =
-        document;             // switched on again whatever the host does to the plugin meanwhile
+    // Held, to be switched on again whatever the host does to the plugin meanwhile.
+    const auto receipt = document;
     taraList.removeAll(tara); // from here on nothing is poured into it
     if (receipt)
         receipt->setDocumentSwitch(false);
@@ -32,6 +32,9 @@ void PackagingControl::dropTara(const QSharedPointer<TaraInfo> &tara)
     // The host answers each reduction with events of the goods, which remove records from the list.
     const auto infos = packagingList;
     for (const auto &info : infos) {
+        // Meanwhile the host may have turned to another receipt, whose positions are not these.
+        if (document != receipt)
+            break;
         const auto used = info->usedTara.constFind(tara->id);
         if (used == info->usedTara.cend())
             continue;

@@ -1,0 +1,126 @@
+#ifndef TESTS_EVENTS_RECEIPTEVENTS_H
+#define TESTS_EVENTS_RECEIPTEVENTS_H
+
+#include "host/ActionArguments.h"
+#include "host/ActionQueueController.h"
+#include "host/LoyaltySystemLayer.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/Printers.h"
+#include "tests/support/TestPlugin.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+using TaraInfo = PackagingControl::TaraInfo;
+using PackagingInfo = PackagingControl::PackagingInfo;
+
+//! The records themselves, to be compared by value.
+template <typename Record>
+std::vector<Record> values(const QList<QSharedPointer<Record>> &records)
+{
+    std::vector<Record> result;
+    for (const auto &record : records)
+        result.push_back(*record);
+    return result;
+}
+
+//! What one save asks of the host.
+inline QStringList save()
+{
+    return {"save taraInfo", "save packagingInfo"};
+}
+
+//! Stands before the host's action queue while it lives: it sees each action first.
+class ActionInterceptor : public ActionQueueController
+{
+public:
+    //! Answers for the queue; may hand the action on to \a host, and may do anything else besides.
+    using Answer = std::function<int(const control::Action &action, ActionQueueController &host)>;
+
+    explicit ActionInterceptor(Answer answer)
+        : m_answer(std::move(answer))
+        , m_host(Singleton<ActionQueueController>::instance())
+    {
+        Singleton<ActionQueueController>::instance = this;
+    }
+
+    ~ActionInterceptor() override { Singleton<ActionQueueController>::instance = m_host; }
+
+    int runAction(const control::Action &action) override { return m_answer(action, *m_host); }
+
+private:
+    Answer m_answer;
+    ActionQueueController *m_host;
+};
+
+inline int positionNumber(const control::Action &action)
+{
+    return control::args::Core(action).positionNumber();
+}
+
+//! The loyalty layer in the host's place; it notes which receipts it is told of.
+class LoyaltyOfReceipts : public LoyaltySystemLayer
+{
+public:
+    LoyaltyOfReceipts() { Singleton<LoyaltySystemLayer>::instance = this; }
+
+    void updateDocument(const QSharedPointer<AbstractDocument> &document) override
+    {
+        told << document;
+    }
+
+    QList<QSharedPointer<AbstractDocument>> told;
+};
+
+//! A plugin at work on an empty sale receipt.
+class ReceiptEvents : public testing::Test
+{
+protected:
+    ReceiptEvents()
+    {
+        plugin.init();
+        plugin.setDocument(host.receipt());
+        host.journal.clear();
+    }
+
+    // A receipt as it stands after some events, without those: positions with their records.
+
+    //! \a count pieces that have \a capacity together.
+    void standsTara(int posnum, const QString &id, double capacity, double freeCapacity,
+                    int count = 1)
+    {
+        host.putPosition(posnum, Tmc::Tara, capacity / count, count, count);
+        plugin.putTara(posnum, id, capacity, freeCapacity);
+    }
+
+    void standsGoods(int posnum, double quantity, const QMap<QString, double> &usedTara)
+    {
+        host.putPosition(posnum, Tmc::PackagingGoods, QVariant(), quantity, quantity);
+        plugin.putGoods(posnum, usedTara);
+    }
+
+    QSharedPointer<GoodsItem> position(int posnum) const
+    {
+        return host.receipt()->getPositionByPosnum(posnum);
+    }
+
+    //! The records that the receipt in hand keeps, as a plugin that opens it would read them.
+    void expectSavedRecordsAreThoseOf(const TestPlugin &expected) const
+    {
+        TestPlugin reader;
+        reader.setDocument(host.receipt());
+        EXPECT_EQ(values(reader.taraList), values(expected.taraList));
+        EXPECT_EQ(values(reader.packagingList), values(expected.packagingList));
+    }
+
+    FakeHost host;
+    LogCapture log;
+    TestPlugin plugin;
+};
+
+#endif // TESTS_EVENTS_RECEIPTEVENTS_H
