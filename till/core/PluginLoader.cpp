@@ -40,43 +40,9 @@ std::optional<ElfHeader> readElfHeader(QFile &file)
 }
 
 //! Length that a library needs to be whole: linkers write the section table at the end.
-qint64 lengthOf(const ElfHeader &header)
+qint64 wholeLength(const ElfHeader &header)
 {
     return qint64(header.e_shoff) + qint64(header.e_shnum) * header.e_shentsize;
-}
-
-//! Why Qt found no metadata in the file; \a reason is Qt's own word on it.
-PluginError diagnose(const QString &path, const QString &reason)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {PluginError::NoSuchFile, path, QStringLiteral("a readable file"),
-                file.errorString()};
-    const auto header = readElfHeader(file);
-    if (!header)
-        return {PluginError::NotALibrary, path, QStringLiteral("a shared library"),
-                QStringLiteral("a file of another kind, %1 bytes long").arg(file.size())};
-    if (file.size() < lengthOf(*header))
-        return {PluginError::Truncated, path,
-                QStringLiteral("a shared library of %1 bytes").arg(lengthOf(*header)),
-                QStringLiteral("only its first %1 bytes").arg(file.size())};
-    return {PluginError::NoMetadata, path, QStringLiteral("the metadata of a Qt plugin"),
-            QStringLiteral("none (%1)").arg(reason)};
-}
-
-PluginLoader::MetadataResult check(const QPluginLoader &library)
-{
-    const QString path = library.fileName();
-    const QJsonObject record = library.metaData();
-    if (record.isEmpty())
-        return diagnose(path, library.errorString());
-    const PluginMetadata metadata{record.value(QLatin1String("IID")).toString(),
-                                  record.value(QLatin1String("className")).toString(), record};
-    if (metadata.interfaceId != interfaceId())
-        return PluginError{PluginError::WrongInterface, path,
-                           QStringLiteral("interface ") + quoted(interfaceId()),
-                           QStringLiteral("interface ") + quoted(metadata.interfaceId)};
-    return metadata;
 }
 
 std::optional<PluginError> missingFile(const QFileInfo &file)
@@ -86,6 +52,40 @@ std::optional<PluginError> missingFile(const QFileInfo &file)
     return PluginError{
         PluginError::NoSuchFile, file.absoluteFilePath(), QStringLiteral("a plugin file"),
         file.exists() ? QStringLiteral("a directory or a device") : QStringLiteral("no such file")};
+}
+
+std::optional<PluginError> damage(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return PluginError{PluginError::NoSuchFile, path, QStringLiteral("a readable file"),
+                           file.errorString()};
+    const auto header = readElfHeader(file);
+    if (!header)
+        return PluginError{
+            PluginError::NotALibrary, path, QStringLiteral("a shared library"),
+            QStringLiteral("a file of another kind, %1 bytes long").arg(file.size())};
+    if (file.size() >= wholeLength(*header))
+        return std::nullopt;
+    return PluginError{PluginError::Truncated, path,
+                       QStringLiteral("a shared library of %1 bytes").arg(wholeLength(*header)),
+                       QStringLiteral("only its first %1 bytes").arg(file.size())};
+}
+
+PluginLoader::MetadataResult readRecord(const QPluginLoader &library, const QString &path)
+{
+    const QJsonObject record = library.metaData();
+    if (record.isEmpty())
+        return PluginError{PluginError::NoMetadata, path,
+                           QStringLiteral("the metadata of a Qt plugin"),
+                           QStringLiteral("none (%1)").arg(library.errorString())};
+    const PluginMetadata metadata{record.value(QLatin1String("IID")).toString(),
+                                  record.value(QLatin1String("className")).toString(), record};
+    if (metadata.interfaceId == interfaceId())
+        return metadata;
+    return PluginError{PluginError::WrongInterface, path,
+                       QStringLiteral("interface ") + quoted(interfaceId()),
+                       QStringLiteral("interface ") + quoted(metadata.interfaceId)};
 }
 
 //! The missing part, or null when \a loaded has them all.
@@ -119,24 +119,24 @@ PluginError wrongObject(const QString &path, const LoadedPlugin &loaded)
             found};
 }
 
-PluginLoader::Result instantiate(QPluginLoader &library, const PluginMetadata &metadata)
+PluginLoader::Result instantiate(QPluginLoader &library, const QString &path,
+                                 const PluginMetadata &metadata)
 {
     if (!library.load())
-        return PluginError{PluginError::NotLoadable, library.fileName(),
+        return PluginError{PluginError::NotLoadable, path,
                            QStringLiteral("a library that this system can load"),
                            library.errorString()};
     const LoadedPlugin loaded = parts(library.instance(), metadata);
     if (!missingPart(loaded))
         return loaded;
-    const PluginError error = wrongObject(library.fileName(), loaded);
+    const PluginError error = wrongObject(path, loaded);
     library.unload();
     return error;
 }
 
-std::unique_ptr<QPluginLoader> open(const QFileInfo &file)
+std::unique_ptr<QPluginLoader> open(const QString &path)
 {
-    // An absolute path, or Qt looks for the file in its own folders.
-    auto library = std::make_unique<QPluginLoader>(file.absoluteFilePath());
+    auto library = std::make_unique<QPluginLoader>(path);
     // Symbols are resolved at once, so that a missing one shows here and not at its first use. Qt
     // would keep the code in the process for ever were it not told otherwise.
     library->setLoadHints(QLibrary::ResolveAllSymbolsHint);
@@ -159,17 +159,21 @@ PluginLoader::MetadataResult PluginLoader::readMetadata(const QString &path)
     const QFileInfo file(path);
     if (auto error = missingFile(file))
         return *std::move(error);
-    return check(*open(file));
+    if (auto error = damage(file.absoluteFilePath()))
+        return *std::move(error);
+    return readRecord(*open(file.absoluteFilePath()), file.absoluteFilePath());
 }
 
 PluginLoader::Result PluginLoader::load(const QString &path)
 {
     m_library.reset();
-    MetadataResult checked = readMetadata(path);
+    const MetadataResult checked = readMetadata(path);
     if (const auto *error = std::get_if<PluginError>(&checked))
         return *error;
-    auto library = open(QFileInfo(path));
-    Result result = instantiate(*library, std::get<PluginMetadata>(checked));
+    // An absolute path, or Qt looks for the file in its own folders.
+    const QString file = QFileInfo(path).absoluteFilePath();
+    auto library = open(file);
+    Result result = instantiate(*library, file, std::get<PluginMetadata>(checked));
     if (std::holds_alternative<LoadedPlugin>(result))
         m_library = std::move(library);
     return result;
