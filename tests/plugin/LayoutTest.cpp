@@ -33,6 +33,7 @@ protected:
         return offsetIn(plugin, &part);
     }
 
+    FakeHost host;
     TestPlugin plugin;
 };
 
@@ -65,14 +66,13 @@ TEST_F(Layout, Logger_IsTheLastMember)
 
 TEST_F(Layout, HeldDocument_FollowsTheWatchersTable)
 {
-    const auto document = QSharedPointer<Document>::create();
-    plugin.setDocument(document);
+    plugin.setDocument(host.receipt());
 
     const auto *part = static_cast<const char *>(plugin.qt_metacast("DocumentWatcher"));
     const auto *held =
         reinterpret_cast<const QSharedPointer<AbstractDocument> *>(part + sizeof(void *));
 
-    EXPECT_EQ(held->get(), document.get());
+    EXPECT_EQ(held->get(), host.receipt().get());
     EXPECT_EQ(sizeof(DocumentWatcher), sizeof(void *) + sizeof *held);
 }
 

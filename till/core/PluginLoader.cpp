@@ -31,7 +31,7 @@ QString quoted(const QString &text)
 
 std::optional<ElfHeader> readElfHeader(QFile &file)
 {
-    ElfHeader header;
+    ElfHeader header{};
     const bool complete =
         file.read(reinterpret_cast<char *>(&header), sizeof header) == qint64(sizeof header);
     if (!complete || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
