@@ -37,7 +37,8 @@ PackagingControl::PackagingControl()
     , logger(Log4Qt::LogManager::logger(QStringLiteral("packaging")))
 {
     registerMetaTypes();
-    setObjectName(QStringLiteral("PackagingControl"));
+    // On the heap, not in the plugin's image: the document keeps it as a key.
+    setObjectName(QString::fromLatin1("PackagingControl"));
 }
 
 PackagingControl::~PackagingControl() = default;

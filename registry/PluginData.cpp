@@ -13,40 +13,23 @@ namespace {
 using TaraInfo = PackagingControl::TaraInfo;
 using PackagingInfo = PackagingControl::PackagingInfo;
 
-// The keys are literals without an allocation: every event saves every record.
-QString taraInfoKey()
+// The document keeps these texts longer than the plugin may stay loaded, so that they live on the
+// heap and not in the plugin's image. They are made once: every event saves every record.
+struct Keys
 {
-    return QStringLiteral("taraInfo");
-}
+    QString taraInfo = QString::fromLatin1("taraInfo");
+    QString packagingInfo = QString::fromLatin1("packagingInfo");
+    QString capacity = QString::fromLatin1("capacity");
+    QString freeCapacity = QString::fromLatin1("freeCapacity");
+    QString id = QString::fromLatin1("id");
+    QString posnum = QString::fromLatin1("posnum");
+    QString usedTara = QString::fromLatin1("usedTara");
+};
 
-QString packagingInfoKey()
+const Keys &keys()
 {
-    return QStringLiteral("packagingInfo");
-}
-
-QString capacityKey()
-{
-    return QStringLiteral("capacity");
-}
-
-QString freeCapacityKey()
-{
-    return QStringLiteral("freeCapacity");
-}
-
-QString idKey()
-{
-    return QStringLiteral("id");
-}
-
-QString posnumKey()
-{
-    return QStringLiteral("posnum");
-}
-
-QString usedTaraKey()
-{
-    return QStringLiteral("usedTara");
+    static const Keys texts;
+    return texts;
 }
 
 // Maps are filled in the order of their keys, each entry at the end, which spares the search.
@@ -54,10 +37,10 @@ QString usedTaraKey()
 QVariantMap toVariantMap(const TaraInfo &tara)
 {
     QVariantMap map;
-    map.insert(map.cend(), capacityKey(), tara.capacity);
-    map.insert(map.cend(), freeCapacityKey(), tara.freeCapacity);
-    map.insert(map.cend(), idKey(), tara.id);
-    map.insert(map.cend(), posnumKey(), tara.posnum);
+    map.insert(map.cend(), keys().capacity, tara.capacity);
+    map.insert(map.cend(), keys().freeCapacity, tara.freeCapacity);
+    map.insert(map.cend(), keys().id, tara.id);
+    map.insert(map.cend(), keys().posnum, tara.posnum);
     return map;
 }
 
@@ -72,8 +55,8 @@ QVariantMap toVariantMap(const QMap<QString, double> &quantities)
 QVariantMap toVariantMap(const PackagingInfo &info)
 {
     QVariantMap map;
-    map.insert(map.cend(), posnumKey(), info.posnum);
-    map.insert(map.cend(), usedTaraKey(), toVariantMap(info.usedTara));
+    map.insert(map.cend(), keys().posnum, info.posnum);
+    map.insert(map.cend(), keys().usedTara, toVariantMap(info.usedTara));
     return map;
 }
 
@@ -91,10 +74,10 @@ QSharedPointer<TaraInfo> toTaraInfo(const QVariant &stored)
 {
     const QVariantMap map = stored.toMap();
     const auto tara = QSharedPointer<TaraInfo>::create();
-    tara->posnum = map.value(posnumKey()).toInt();
-    tara->id = map.value(idKey()).toString();
-    tara->capacity = map.value(capacityKey()).toDouble();
-    tara->freeCapacity = map.value(freeCapacityKey()).toDouble();
+    tara->posnum = map.value(keys().posnum).toInt();
+    tara->id = map.value(keys().id).toString();
+    tara->capacity = map.value(keys().capacity).toDouble();
+    tara->freeCapacity = map.value(keys().freeCapacity).toDouble();
     return tara;
 }
 
@@ -102,8 +85,8 @@ QSharedPointer<PackagingInfo> toPackagingInfo(const QVariant &stored)
 {
     const QVariantMap map = stored.toMap();
     const auto info = QSharedPointer<PackagingInfo>::create();
-    info->posnum = map.value(posnumKey()).toInt();
-    const QVariantMap usedTara = map.value(usedTaraKey()).toMap();
+    info->posnum = map.value(keys().posnum).toInt();
+    const QVariantMap usedTara = map.value(keys().usedTara).toMap();
     for (auto entry = usedTara.cbegin(); entry != usedTara.cend(); ++entry)
         info->usedTara.insert(info->usedTara.cend(), entry.key(), entry.value().toDouble());
     return info;
@@ -118,8 +101,8 @@ void PackagingControl::savePluginData() const
         return;
     QVariantList taras = toVariantList(taraList);
     QVariantList packaging = toVariantList(packagingList);
-    receipt->setPluginData(objectName(), taraInfoKey(), std::move(taras));
-    receipt->setPluginData(objectName(), packagingInfoKey(), std::move(packaging));
+    receipt->setPluginData(objectName(), keys().taraInfo, std::move(taras));
+    receipt->setPluginData(objectName(), keys().packagingInfo, std::move(packaging));
 }
 
 void PackagingControl::restorePluginData()
@@ -129,11 +112,11 @@ void PackagingControl::restorePluginData()
     const auto receipt = document;
     if (!receipt)
         return;
-    const QVariantList taras = receipt->getPluginData(objectName(), taraInfoKey(), {}).toList();
+    const QVariantList taras = receipt->getPluginData(objectName(), keys().taraInfo, {}).toList();
     for (const QVariant &stored : taras)
         taraList.append(toTaraInfo(stored));
     const QVariantList packaging =
-        receipt->getPluginData(objectName(), packagingInfoKey(), {}).toList();
+        receipt->getPluginData(objectName(), keys().packagingInfo, {}).toList();
     for (const QVariant &stored : packaging)
         packagingList.append(toPackagingInfo(stored));
 }

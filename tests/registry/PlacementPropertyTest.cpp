@@ -128,9 +128,6 @@ TEST(PlacementProperty, AnyRegistry_IsPlacedAsTheModelSays)
         both.plugin.modifyPackagingUsedCapacity(info, toAmount(wanted));
         const auto moves = both.store.place(shares, wanted);
 
-        RC_CLASSIFY(moves.empty(), "nothing moves");
-        RC_CLASSIFY(!moves.empty() && moves.front().amount > 0, "fills");
-        RC_CLASSIFY(!moves.empty() && moves.front().amount < 0, "releases");
         RC_ASSERT(both.agreeOnTara());
         RC_ASSERT(*info == (PackagingControl::PackagingInfo{9, toUsedTara(shares)}));
         RC_ASSERT(isLogOf(log.lines(), 9, moves));

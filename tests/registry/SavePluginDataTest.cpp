@@ -1,6 +1,6 @@
 #include "tests/registry/RegistryFixture.h"
 
-#include <limits>
+#include <functional>
 
 namespace {
 
@@ -131,6 +131,26 @@ TEST_F(Save, UsesTwoKeysOfItsOwnAndNoOther)
     EXPECT_EQ(QStringList(data.value("PackagingControl").keys()),
               (QStringList{"other", "packagingInfo", "taraInfo"}));
     EXPECT_EQ(data.value("PackagingControl").value("other"), QVariant(2));
+}
+
+//! Whether the text owns its characters; those of a literal are gone when the plugin is unloaded.
+bool ownsItsText(const QString &text)
+{
+    return text.capacity() > 0;
+}
+
+TEST_F(Save, Keys_MayOutliveThePlugin)
+{
+    plugin.putTara(2, "{a}", 1.0, 1.0);
+    plugin.putGoods(3);
+
+    plugin.savePluginData();
+
+    const auto data = host.receipt()->pluginData();
+    EXPECT_THAT(data.keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
+    EXPECT_THAT(data.first().keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
+    EXPECT_THAT(storedTara(0).keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
+    EXPECT_THAT(storedGoods(0).keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
 }
 
 TEST_F(Save, WritesTheTaraFirstAndReadsNothing)
