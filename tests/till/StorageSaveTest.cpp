@@ -17,6 +17,11 @@ struct Case
     ReceiptRecord record;
 };
 
+void PrintTo(const Case &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
 class StoredReceipts : public StorageTest, public testing::WithParamInterface<Case>
 {
 };
@@ -198,10 +203,11 @@ TEST_F(StorageSave, AfterARefusedSave_TheNextStoresWhatDiffersFromTheStored)
     EXPECT_EQ(unfinished(*opened()), record);
 }
 
-TEST_F(StorageSave, TwoReceiptsInTurn_BothAreKept)
+// They have most in common, which must not be taken for stored in both.
+TEST_F(StorageSave, TwoAlikeReceiptsInTurn_BothAreKept)
 {
-    ReceiptRecord first = receiptOf(3);
-    ReceiptRecord second = withEverything();
+    ReceiptRecord first = withEverything();
+    ReceiptRecord second = first;
     {
         const auto storage = opened();
         save(*storage, first);

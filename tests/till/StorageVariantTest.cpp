@@ -109,6 +109,11 @@ struct Value
     QVariant value;
 };
 
+void PrintTo(const Value &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
 class StoredValues : public StorageTest, public testing::WithParamInterface<Value>
 {
 protected:

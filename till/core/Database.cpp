@@ -100,12 +100,12 @@ QString reasonOf(const QSqlError &error)
 {
     // The low byte is the primary code; the rest tells details.
     const int code = error.nativeErrorCode().toInt() & 0xff;
-    const QString meaning = meaningOf(code);
+    QString meaning = meaningOf(code);
     if (meaning.isEmpty())
         return error.databaseText();
-    if (code == Busy || code == Locked)
-        return meaning;
-    return QStringLiteral("%1 (%2)").arg(meaning, error.databaseText());
+    if (code != Busy && code != Locked)
+        meaning += QStringLiteral(" (%1)").arg(error.databaseText());
+    return meaning;
 }
 
 } // namespace
