@@ -19,5 +19,9 @@ bool PackagingControl::isTaraSplitted(const QSharedPointer<GoodsItem> &goods) co
 bool PackagingControl::isTaraPartialFilled(const QSharedPointer<GoodsItem> &goods) const
 {
     const auto tara = getTaraByPosnum(goods->getPosnum());
-    return tara && !tara->isEmpty() && !tara->isFull();
+    if (!tara)
+        return false;
+    const bool isEmpty = tara->isEmpty();
+    const bool isFull = tara->isFull();
+    return !isEmpty && !isFull;
 }
