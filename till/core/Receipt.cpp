@@ -1,6 +1,7 @@
 #include "till/core/Receipt.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace till {
 
@@ -60,7 +61,7 @@ Receipt::Receipt(const ReceiptRecord &record)
     }
     for (auto plugin = record.pluginData.cbegin(); plugin != record.pluginData.cend(); ++plugin) {
         for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
-            setPluginData(plugin.key(), entry.key(), entry.value());
+            Document::setPluginData(plugin.key(), entry.key(), entry.value());
     }
     touch();
 }
@@ -120,6 +121,15 @@ void Receipt::setDocumentSwitch(bool on)
     Document::setDocumentSwitch(on);
     if (on && m_stale)
         touch();
+    if (m_watcher.switched)
+        m_watcher.switched(on);
+}
+
+void Receipt::setPluginData(const QString &pluginId, const QString &key, const QVariant &value)
+{
+    Document::setPluginData(pluginId, key, value);
+    if (m_watcher.pluginDataSet)
+        m_watcher.pluginDataSet(pluginId, key, value);
 }
 
 } // namespace till

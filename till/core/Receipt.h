@@ -8,6 +8,8 @@
 #include <QtCore/QSharedPointer>
 #include <QtCore/QStringList>
 
+#include <functional>
+
 namespace till {
 
 //! How far a receipt has come.
@@ -111,6 +113,16 @@ public:
 
     //! While off nothing is recomputed; on again, once if anything changed meanwhile.
     void setDocumentSwitch(bool on) override;
+    void setPluginData(const QString &pluginId, const QString &key, const QVariant &value) override;
+
+    //! Is told what plugins do to the receipt, after the fact. None of it may call back in.
+    struct Watcher
+    {
+        std::function<void(bool on)> switched;
+        std::function<void(const QString &pluginId, const QString &key, const QVariant &value)>
+            pluginDataSet;
+    };
+    void setWatcher(const Watcher &watcher) { m_watcher = watcher; }
 
 private:
     qint64 m_id = 0;
@@ -121,6 +133,7 @@ private:
     Kopecks m_total = 0;
     int m_recomputations = 0;
     bool m_stale = false;
+    Watcher m_watcher;
 };
 
 } // namespace till

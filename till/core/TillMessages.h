@@ -14,6 +14,9 @@
     MESSAGE(tillCancelReceipt, "Отменить чек?")                                                    \
     MESSAGE(tillNotEnoughMoney, "Недостаточно денег для оплаты")                                   \
     MESSAGE(tillReceiptEmpty, "В чеке нет позиций")                                                \
+    MESSAGE(tillYes, "Да")                                                                         \
+    MESSAGE(tillNo, "Нет")                                                                         \
+    MESSAGE(tillChange, "Сдача %1")                                                                \
     /* Above the table */                                                                          \
     MESSAGE(tillSale, "Чек")                                                                       \
     MESSAGE(tillReturn, "Возврат")                                                                 \

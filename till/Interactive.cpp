@@ -1,0 +1,119 @@
+#include "till/Interactive.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTextStream>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <unistd.h>
+
+#include <readline/history.h>
+#include <readline/readline.h>
+
+namespace till {
+
+namespace {
+
+CommandLine *completed = nullptr; // readline's completion takes no argument of ours
+
+std::optional<QString> readTyped(const char *prompt)
+{
+    const std::unique_ptr<char, void (*)(void *)> typed(readline(prompt), std::free);
+    return typed ? std::optional(QString::fromUtf8(typed.get())) : std::nullopt;
+}
+
+std::optional<QString> readPiped()
+{
+    static QTextStream input(stdin);
+    const QString line = input.readLine();
+    return line.isNull() ? std::nullopt : std::optional(line);
+}
+
+char *nextCompletion(const char *text, int state)
+{
+    static QStringList left;
+    if (state == 0) {
+        const QString line = QString::fromUtf8(rl_line_buffer).left(rl_point);
+        QStringList words = line.split(' ', Qt::SkipEmptyParts);
+        if (words.isEmpty() || line.endsWith(' '))
+            words.append(QString::fromUtf8(text));
+        left = completed->completions(words);
+    }
+    return left.isEmpty() ? nullptr : strdup(left.takeFirst().toUtf8().constData());
+}
+
+char **complete(const char *text, int start, int end)
+{
+    Q_UNUSED(start)
+    Q_UNUSED(end)
+    rl_attempted_completion_over = 1; // file names are never wanted
+    return rl_completion_matches(text, nextCompletion);
+}
+
+void printOutcome(const Outcome &outcome)
+{
+    if (!outcome.text.isEmpty())
+        std::printf("%s\n", outcome.text.toUtf8().constData());
+    else if (outcome.kind == Outcome::Refused)
+        std::puts("refused");
+    std::fflush(stdout);
+}
+
+} // namespace
+
+bool isTerminal()
+{
+    return isatty(STDIN_FILENO) != 0;
+}
+
+bool askOnTerminal(const QString &question)
+{
+    std::fputs(question.toUtf8().constData(), stdout);
+    for (;;) {
+        const std::optional<QString> typed = readTyped("yes/no> ");
+        if (!typed)
+            return false;
+        const QString answer = typed->trimmed().toLower();
+        if (QStringList{"yes", "y", "да", "д"}.contains(answer))
+            return true;
+        if (QStringList{"no", "n", "нет", "н"}.contains(answer))
+            return false;
+    }
+}
+
+bool runInteractive(CommandLine &commands, const QString &historyFile)
+{
+    const bool terminal = isTerminal();
+    const QByteArray history = historyFile.toLocal8Bit();
+    if (terminal) {
+        completed = &commands;
+        rl_attempted_completion_function = complete;
+        read_history(history.constData());
+        std::puts("The till. 'help' lists the commands, 'quit' leaves.");
+    }
+    bool allDone = true;
+    QString shown = commands.renderReceipt();
+    while (!commands.hasQuit()) {
+        const std::optional<QString> line = terminal ? readTyped("till> ") : readPiped();
+        if (!line)
+            break;
+        if (terminal && !line->trimmed().isEmpty())
+            add_history(line->toUtf8().constData());
+        const Outcome outcome = commands.run(*line);
+        printOutcome(outcome);
+        allDone = allDone && (terminal || outcome);
+        const QString receipt = commands.renderReceipt();
+        if (terminal && receipt != shown)
+            std::fputs(receipt.toUtf8().constData(), stdout);
+        shown = receipt;
+    }
+    if (terminal) {
+        QDir().mkpath(QFileInfo(historyFile).path());
+        write_history(history.constData());
+    }
+    return allDone;
+}
+
+} // namespace till

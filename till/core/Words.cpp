@@ -1,0 +1,45 @@
+#include "till/core/Words.h"
+
+#include <QtCore/QProcess>
+
+namespace till {
+
+std::optional<QStringList> splitWords(const QString &line)
+{
+    const QString trimmed = line.trimmed();
+    if (trimmed.startsWith(QLatin1Char('#')))
+        return QStringList();
+    if (trimmed.count(QLatin1Char('"')) % 2 != 0)
+        return std::nullopt;
+    return QProcess::splitCommand(trimmed);
+}
+
+std::optional<int> parsePosnum(const QString &word)
+{
+    bool isNumber = false;
+    const int posnum = word.toInt(&isNumber);
+    return isNumber && posnum > 0 ? std::optional(posnum) : std::nullopt;
+}
+
+Outcome notAPosition(const QString &word)
+{
+    return Outcome::mistake("\"" + word + "\" is not a position number");
+}
+
+Outcome notANumber(const QString &word)
+{
+    return Outcome::mistake("\"" + word
+                            + "\" is not a number with at most three decimals (1.5 or 1,5)");
+}
+
+Outcome notMoney(const QString &word)
+{
+    return Outcome::mistake("\"" + word + "\" is not an amount of money (12.50 or 12,50)");
+}
+
+Outcome notOneOf(const QString &word, const QStringList &allowed)
+{
+    return Outcome::mistake("\"" + word + "\" is none of: " + allowed.join(", "));
+}
+
+} // namespace till
