@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Builds what is needed and plays the sample shop's receipts through the plugin in the till.
+# Arguments go to the till: ./run.sh till opens the register, ./run.sh play FILE plays a script,
+# ./run.sh --help lists everything.
+set -euo pipefail
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=scripts/dependencies.sh
+. "$top/scripts/dependencies.sh"
+
+need_packages "${build_packages[@]}"
+
+# Quiet when all is well; the whole log when the build fails.
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+[ -d "$top/build/release" ] || echo "Building (about a minute the first time) ..." >&2
+if ! (cd "$top" && cmake --preset release && cmake --build --preset release) >"$log" 2>&1; then
+    cat "$log" >&2
+    exit 1
+fi
+
+case "${1-}" in
+    "") set -- demo ;;
+    till) shift ;;
+esac
+rm -f "$log"
+exec "$top/build/release/bin/till" "$@"

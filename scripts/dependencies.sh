@@ -1,0 +1,45 @@
+# Installs what the project's commands need. Sourced, not run.
+# shellcheck shell=bash disable=SC2034
+
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libreadline-dev libcsv-dev)
+test_packages=(libgtest-dev libgmock-dev librapidcheck-dev binutils)
+check_packages=(clang clang-format clang-tidy clazy libclang-rt-dev shellcheck git)
+
+is_installed() {
+    dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
+}
+
+# Runs a command as root, directly or through sudo.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "This needs root or sudo: $*" >&2
+        return 1
+    fi
+}
+
+# need_packages NAME...: installs those Debian packages that are missing. On a system without apt-get
+# it says what has to be there and goes on, so that the build can say what it does not find.
+need_packages() {
+    if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+        echo "This system has no apt-get. Please see to it yourself that there are, under your system's" >&2
+        echo "names, what Debian calls: $*" >&2
+        local tool
+        for tool in cmake ninja pkg-config; do
+            command -v "$tool" >/dev/null || { echo "Missing: $tool" >&2; return 1; }
+        done
+        return 0
+    fi
+    local missing=() package
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    echo "Installing: ${missing[*]}" >&2
+    as_root apt-get update -qq >&2 \
+        && as_root env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+}
