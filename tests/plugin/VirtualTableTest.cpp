@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstring>
 #include <new>
+#include <ostream>
 #include <string>
 
 // Slots as callers that were built earlier use them, read from the compiled code: a pointer to a
@@ -75,6 +76,11 @@ struct Row
     int slot;
     int read;
 };
+
+void PrintTo(const Row &row, std::ostream *out)
+{
+    *out << row.operation << " in slot " << row.slot;
+}
 
 class Slot : public testing::TestWithParam<Row>
 {

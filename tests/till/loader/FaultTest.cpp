@@ -8,6 +8,7 @@
 #include <QtCore/QTemporaryDir>
 
 #include <optional>
+#include <ostream>
 #include <string>
 
 using till::PluginError;
@@ -180,6 +181,11 @@ struct WrongObject
     const char *expected;
     const char *found;
 };
+
+void PrintTo(const WrongObject &row, std::ostream *out)
+{
+    *out << row.file;
+}
 
 class LoaderFaultObject : public testing::TestWithParam<WrongObject>
 {
