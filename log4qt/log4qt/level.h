@@ -13,7 +13,7 @@ class LOG4QT_EXPORT Level
 public:
     enum Value {
         INFO_INT = 128,
-        ERROR_INT = 150,
+        ERROR_INT = 192,
     };
 
     Level(Value value);
