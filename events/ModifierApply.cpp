@@ -35,6 +35,7 @@ void PackagingControl::resizeTara(const QSharedPointer<GoodsItem> &position)
                      [&tara](const auto &info) { return info->usedTara.contains(tara->id); });
     if (user == packagingList.cend())
         return;
-    const auto info = *user; // held: the host's events may take it out of the list
+    // Held: the host's events may take it out of the list.
+    const auto info = *user; // NOLINT(performance-unnecessary-copy-initialization)
     modifyPackagingPositionQuantity(info, newCapacity - oldCapacity);
 }

@@ -2,8 +2,6 @@
 
 #include <QtCore/QVariant>
 
-#include <utility>
-
 // The registry is kept in the document as a tree of variants, under the plugin's object name:
 //   taraInfo:      [{capacity, freeCapacity, id, posnum}, ...]
 //   packagingInfo: [{posnum, usedTara: {id: quantity, ...}}, ...]
@@ -99,10 +97,10 @@ void PackagingControl::savePluginData() const
     const auto receipt = document; // the host may take the document away between the two writes
     if (!receipt)
         return;
-    QVariantList taras = toVariantList(taraList);
-    QVariantList packaging = toVariantList(packagingList);
-    receipt->setPluginData(objectName(), keys().taraInfo, std::move(taras));
-    receipt->setPluginData(objectName(), keys().packagingInfo, std::move(packaging));
+    const QVariantList taras = toVariantList(taraList);
+    const QVariantList packaging = toVariantList(packagingList);
+    receipt->setPluginData(objectName(), keys().taraInfo, taras);
+    receipt->setPluginData(objectName(), keys().packagingInfo, packaging);
 }
 
 void PackagingControl::restorePluginData()
