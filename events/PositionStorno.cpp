@@ -1,10 +1,12 @@
 #include "events/EventPosition.h"
+#include "host/Finally.h"
 #include "host/LoyaltySystemLayer.h"
 #include "plugin/PackagingControl.h"
 
 #include <log4qt/logger.h>
 
 #include <utility>
+#include <vector>
 
 void PackagingControl::onPositionStornoEvent(const Event &event)
 {
@@ -26,11 +28,27 @@ void PackagingControl::dropTara(const QSharedPointer<TaraInfo> &tara)
     // Held, to be switched on again whatever the host does to the plugin meanwhile.
     const auto receipt = document;
     taraList.removeAll(tara); // from here on nothing is poured into it
+    {
+        const Finally switchOn([held = receipt.get()] {
+            if (held)
+                held->setDocumentSwitch(true);
+        });
+        if (receipt)
+            receipt->setDocumentSwitch(false);
+        takeGoodsOut(tara, receipt);
+    }
     if (receipt)
-        receipt->setDocumentSwitch(false);
+        Singleton<LoyaltySystemLayer>::instance()->updateDocument(receipt);
+}
 
+void PackagingControl::takeGoodsOut(const QSharedPointer<TaraInfo> &tara,
+                                    const QSharedPointer<AbstractDocument> &receipt)
+{
     // The host answers each reduction with events of the goods, which remove records from the list.
-    const auto infos = packagingList;
+    // Handles of its own: in Qt 6.4 a list that shares its elements crashes when there is no memory
+    // to detach.
+    const std::vector<QSharedPointer<PackagingInfo>> infos(packagingList.cbegin(),
+                                                           packagingList.cend());
     for (const auto &info : infos) {
         // Meanwhile the host may have turned to another receipt, whose positions are not these.
         if (document != receipt)
@@ -40,11 +58,6 @@ void PackagingControl::dropTara(const QSharedPointer<TaraInfo> &tara)
             continue;
         if (modifyPackagingPositionQuantity(info, -*used))
             info->usedTara.remove(tara->id);
-    }
-
-    if (receipt) {
-        receipt->setDocumentSwitch(true);
-        Singleton<LoyaltySystemLayer>::instance()->updateDocument(receipt);
     }
 }
 

@@ -79,13 +79,15 @@ QString Logger::name() const
 void Logger::info(const QString &message)
 {
     append(Level::INFO_INT, message);
-    qCInfo(m_category).noquote() << message;
+    if (m_category.isInfoEnabled())
+        print(QtInfoMsg, message);
 }
 
 void Logger::error(const QString &message)
 {
     append(Level::ERROR_INT, message);
-    qCCritical(m_category).noquote() << message;
+    if (m_category.isCriticalEnabled())
+        print(QtCriticalMsg, message);
 }
 
 void Logger::addAppender(const AppenderSharedPtr &appender)
@@ -107,6 +109,13 @@ void Logger::append(Level level, const QString &message) const
     const auto appenders = m_appenders; // an appender may add or remove appenders
     for (const auto &appender : appenders)
         appender->doAppend(event);
+}
+
+// Not through QDebug, which prints in its destructor: out of memory there, the process would end.
+void Logger::print(QtMsgType type, const QString &message) const
+{
+    qt_message_output(type, QMessageLogContext(nullptr, 0, nullptr, m_category.categoryName()),
+                      message);
 }
 
 Logger *LogManager::logger(const QString &name)

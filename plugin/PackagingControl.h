@@ -206,6 +206,9 @@ protected:
 private:
     //! Forgets \a tara and takes what was poured into it back out of the receipt.
     void dropTara(const QSharedPointer<TaraInfo> &tara);
+    //! Takes what was poured into \a tara out of \a receipt, as long as that is the one in hand.
+    void takeGoodsOut(const QSharedPointer<TaraInfo> &tara,
+                      const QSharedPointer<AbstractDocument> &receipt);
     //! Resizes the record of the changed tara \a position; its first goods change by as much.
     void resizeTara(const QSharedPointer<GoodsItem> &position);
     //! The position \a posnum of the document, or null; null too when no document is held.

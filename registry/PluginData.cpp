@@ -1,4 +1,5 @@
 #include "plugin/PackagingControl.h"
+#include "registry/NewRecord.h"
 
 #include <QtCore/QVariant>
 
@@ -71,7 +72,7 @@ QVariantList toVariantList(const QList<QSharedPointer<Record>> &records)
 QSharedPointer<TaraInfo> toTaraInfo(const QVariant &stored)
 {
     const QVariantMap map = stored.toMap();
-    const auto tara = QSharedPointer<TaraInfo>::create();
+    const auto tara = packaging::newRecord<TaraInfo>();
     tara->posnum = map.value(keys().posnum).toInt();
     tara->id = map.value(keys().id).toString();
     tara->capacity = map.value(keys().capacity).toDouble();
@@ -82,7 +83,7 @@ QSharedPointer<TaraInfo> toTaraInfo(const QVariant &stored)
 QSharedPointer<PackagingInfo> toPackagingInfo(const QVariant &stored)
 {
     const QVariantMap map = stored.toMap();
-    const auto info = QSharedPointer<PackagingInfo>::create();
+    const auto info = packaging::newRecord<PackagingInfo>();
     info->posnum = map.value(keys().posnum).toInt();
     const QVariantMap usedTara = map.value(keys().usedTara).toMap();
     for (auto entry = usedTara.cbegin(); entry != usedTara.cend(); ++entry)

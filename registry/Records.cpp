@@ -1,5 +1,6 @@
 #include "host/GoodsItem.h"
 #include "plugin/PackagingControl.h"
+#include "registry/NewRecord.h"
 #include "registry/Tolerance.h"
 
 #include <algorithm>
@@ -38,7 +39,7 @@ PackagingControl::createTara(const QSharedPointer<GoodsItem> &goods)
         modifyTaraCapacity(known, capacity);
         return known;
     }
-    const auto tara = QSharedPointer<TaraInfo>::create();
+    const auto tara = packaging::newRecord<TaraInfo>();
     tara->posnum = goods->getPosnum();
     tara->id = getId();
     tara->capacity = capacity;
@@ -70,7 +71,7 @@ PackagingControl::getPackagingInfoByPosnum(int posnum) const
 {
     const auto found = std::find_if(packagingList.cbegin(), packagingList.cend(),
                                     [posnum](const auto &info) { return info->posnum == posnum; });
-    return found == packagingList.cend() ? QSharedPointer<PackagingInfo>::create() : *found;
+    return found == packagingList.cend() ? packaging::newRecord<PackagingInfo>() : *found;
 }
 
 bool PackagingControl::isExistsEmptyTara() const

@@ -5,6 +5,8 @@
 
 #include <log4qt/logger.h>
 
+#include <vector>
+
 namespace {
 
 bool confirmsStorno()
@@ -39,7 +41,9 @@ bool PackagingControl::stornoAllEmptyTara(const control::Action &action)
     control::args::Storno arguments(storno);
     arguments.setWithoutDialog(true);
 
-    const auto taras = taraList; // each storno comes back as an event, which shortens the live list
+    // Each storno comes back as an event, which shortens the live list. Handles of its own: in
+    // Qt 6.4 a list that shares its elements crashes when there is no memory to detach.
+    const std::vector<QSharedPointer<TaraInfo>> taras(taraList.cbegin(), taraList.cend());
     for (const auto &tara : taras) {
         if (!tara->isEmpty())
             continue;

@@ -58,6 +58,7 @@ private:
         return format;
     }
     void append(Level level, const QString &message) const;
+    void print(QtMsgType type, const QString &message) const;
 
     QByteArray m_name;
     QLoggingCategory m_category;

@@ -21,8 +21,8 @@ public:
 
     void setDocumentSwitch(bool on) override
     {
-        m_host.journal << (on ? "switch on" : "switch off");
         Document::setDocumentSwitch(on);
+        m_host.journal << (on ? "switch on" : "switch off");
     }
 
     QVariant getPluginData(const QString &pluginId, const QString &key,
