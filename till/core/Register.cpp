@@ -179,14 +179,17 @@ Outcome Register::pay(std::optional<Kopecks> tendered)
         return Outcome::mistake("no receipt is open");
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
-    if (m_receipt->state() != ReceiptState::Subtotal) {
-        if (const Outcome gate = perform(control::Action(control::Payment, {})); !gate)
-            return gate;
-    }
+    EContext::Result result = EContext::Continue;
+    if (m_receipt->state() != ReceiptState::Subtotal)
+        result = run(control::Action(control::Payment, {}));
     const Kopecks due = m_receipt->total();
-    if (tendered && *tendered < due)
-        return refuse(messages::tillNotEnoughMoney());
-    return perform(control::Action(control::CloseReceipt, {{"tendered", tendered.value_or(due)}}));
+    const bool isEnough = !tendered || *tendered >= due;
+    if (result == EContext::Continue && isEnough)
+        result =
+            run(control::Action(control::CloseReceipt, {{"tendered", tendered.value_or(due)}}));
+    // Both actions are one command: they are stored together, so that no end comes between them.
+    const Outcome outcome = keep(result);
+    return outcome && !isEnough ? refuse(messages::tillNotEnoughMoney()) : outcome;
 }
 
 Outcome Register::cancel()
@@ -257,10 +260,19 @@ Outcome Register::refuse(const tr::Tr &message)
     return Outcome::refused(message.key());
 }
 
+EContext::Result Register::run(const control::Action &action)
+{
+    return m_runner.run(action, ActionRunner::Origin::Cashier);
+}
+
 Outcome Register::perform(const control::Action &action)
 {
+    return keep(run(action));
+}
+
+Outcome Register::keep(EContext::Result result)
+{
     const qint64 storedId = m_receipt->id();
-    const EContext::Result result = m_runner.run(action, ActionRunner::Origin::Cashier);
     if (const QString error = store(); !error.isEmpty()) {
         const QString reloadError = reload(storedId);
         return Outcome::failed(reloadError.isEmpty() ? error : error + "; " + reloadError);
