@@ -66,7 +66,7 @@ QString Register::resume()
     const std::optional<ReceiptRecord> record = m_storage.unfinishedReceipt(&error);
     if (error.isEmpty() && record) {
         takeUp(QSharedPointer<Receipt>::create(*record));
-        noteReceipt();
+        noteWhole();
     }
     return error;
 }
@@ -299,6 +299,8 @@ QString Register::reload(qint64 id)
     QString error;
     const std::optional<ReceiptRecord> record = m_storage.receipt(id, &error);
     takeUp(record ? QSharedPointer<Receipt>::create(*record) : nullptr);
+    if (m_receipt)
+        noteWhole();
     return error;
 }
 
@@ -323,11 +325,27 @@ void Register::watch(Receipt &receipt)
                             m_notes.add("switch", {{"on", on}});
                         },
                         [this](const QString &plugin, const QString &key, const QVariant &value) {
-                            if (m_notes.wantsStates())
-                                m_notes.add("data", {{"plugin", plugin},
-                                                     {"key", key},
-                                                     {"value", QJsonValue::fromVariant(value)}});
+                            noteData(plugin, key, value);
                         }});
+}
+
+void Register::noteData(const QString &plugin, const QString &key, const QVariant &value)
+{
+    if (m_notes.wantsStates())
+        m_notes.add("data",
+                    {{"plugin", plugin}, {"key", key}, {"value", QJsonValue::fromVariant(value)}});
+}
+
+//! Tells a reader who has not seen how the receipt came to be, or has seen too much.
+void Register::noteWhole()
+{
+    m_runner.noteLines();
+    const Document::PluginData data = m_receipt->pluginData();
+    for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
+        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
+            noteData(plugin.key(), entry.key(), entry.value());
+    }
+    noteReceipt();
 }
 
 void Register::collectJournal(const QJsonObject &note)

@@ -92,6 +92,8 @@ private:
     void watch(Receipt &receipt);
     void collectJournal(const QJsonObject &note);
     void noteReceipt();
+    void noteData(const QString &plugin, const QString &key, const QVariant &value);
+    void noteWhole();
 
     const Catalogue &m_catalogue;
     Storage &m_storage;
