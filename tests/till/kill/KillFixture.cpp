@@ -2,6 +2,7 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
 
 #include <algorithm>
 #include <utility>
@@ -39,6 +40,12 @@ QJsonObject recordsOf(const TestPlugin &plugin)
         goods.append(QJsonObject{{"posnum", info->posnum}, {"usedTara", used}});
     }
     return {{"taraInfo", taras}, {"packagingInfo", goods}};
+}
+
+//! As a failed comparison can show it.
+std::string textOf(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
 }
 
 } // namespace
@@ -167,7 +174,7 @@ void KilledTill::read(const QJsonObject &note)
     EXPECT_TRUE(expected.contains(note["outcome"].toString()))
         << m_sent.constLast().toStdString() << ": " << note["text"].toString().toStdString();
     if (std::exchange(m_savesAgain, false)) {
-        EXPECT_EQ(m_trace.acknowledged().data.value(pluginId), m_saved);
+        EXPECT_EQ(textOf(m_trace.acknowledged().data.value(pluginId)), textOf(m_saved));
         ++m_tally.restored;
     }
 }
@@ -229,7 +236,7 @@ void KilledTill::checkRegistry(const Storage &storage) const
     TestPlugin plugin;
     const auto receipt = QSharedPointer<Receipt>::create(*record);
     plugin.setDocument(receipt);
-    EXPECT_EQ(recordsOf(plugin), saved);
+    EXPECT_EQ(textOf(recordsOf(plugin)), textOf(saved));
     plugin.savePluginData();
     EXPECT_EQ(bytesOf(receipt->pluginData().value(pluginId)),
               bytesOf(record->pluginData.value(pluginId)));
