@@ -118,9 +118,8 @@ TEST_P(TwoProcesses, WithOtherHashesPlaceAndLanguage_GiveTheSameTrace)
 
 TEST_P(TwoProcesses, WithOtherHashesPlaceAndLanguage_PrintTheSame)
 {
-    const auto plain = play(GetParam(), plainMachine, {});
-    EXPECT_EQ(plain.toStdString(), play(GetParam(), germanMachine, {}).toStdString());
-    EXPECT_EQ(plain.toStdString(), play(GetParam(), russianMachine, {}).toStdString());
+    EXPECT_EQ(play(GetParam(), plainMachine, {}).toStdString(),
+              play(GetParam(), germanMachine, {}).toStdString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, TwoProcesses, testing::ValuesIn(scriptPaths()),

@@ -78,9 +78,9 @@ int KilledTill::setting(const char *variable, int preset)
     return isSet ? value : preset;
 }
 
-QStringList KilledTill::arguments() const
+QStringList KilledTill::arguments(const QString &database)
 {
-    return {"--db", path(), "--set", "PackagingControl:allowSaleEmptyTara=false"};
+    return {"--db", database, "--set", "PackagingControl:allowSaleEmptyTara=false"};
 }
 
 void KilledTill::start()
@@ -97,7 +97,7 @@ void KilledTill::measure()
 {
     start();
     const auto started = Clock::now();
-    TillProcess till(arguments());
+    TillProcess till(arguments(path()));
     for (int command = 0; command < 12; ++command) {
         const auto sent = Clock::now();
         send(till);
@@ -115,7 +115,7 @@ void KilledTill::playAndKill()
     start();
     const int commands = m_cashier.number(-1, 8); // below 0: not even the first is awaited
     auto end = Clock::now() + partOf(m_startTime);
-    TillProcess till(arguments());
+    TillProcess till(arguments(path()));
     for (int command = 0; command < commands; ++command) {
         const auto sent = Clock::now();
         send(till);
@@ -132,6 +132,32 @@ void KilledTill::playAndKill()
     while (follow(till, Clock::now() + patience)) {
     }
     EXPECT_EQ(till.strayOutput(), QByteArray());
+}
+
+void KilledTill::killWhileItMakes(const QString &name)
+{
+    const auto end = Clock::now() + partOf(m_startTime);
+    TillProcess till(arguments(path(name)));
+    while (till.nextNote(end)) {
+    }
+    till.kill();
+    while (till.nextNote(Clock::now() + patience)) {
+    }
+    EXPECT_EQ(till.strayOutput(), QByteArray());
+}
+
+void KilledTill::checkUsable(const QString &name)
+{
+    TraceReader trace;
+    TillProcess till(arguments(path(name)));
+    till.send("open");
+    while (const auto note = till.nextNote(Clock::now() + patience)) {
+        trace.read(*note);
+        if ((*note)["kind"] == "outcome")
+            break;
+    }
+    EXPECT_EQ(trace.acknowledged().record.id, 1);
+    EXPECT_EQ(till.finish(), 0);
 }
 
 void KilledTill::send(TillProcess &till)

@@ -36,6 +36,10 @@ protected:
     void measure();
     //! Starts the till, lets it carry out some commands and kills it in the middle of one.
     void playAndKill();
+    //! Kills the till while it makes the database \a name, or soon after.
+    void killWhileItMakes(const QString &name);
+    //! A till that is started on the database \a name opens its first receipt.
+    void checkUsable(const QString &name);
     //! Compares what is stored with what the trace told before the kill.
     void checkStored();
     //! Every receipt of the database is as the traces told it.
@@ -52,7 +56,7 @@ private:
     using Clock = TillProcess::Clock;
     using Stage = TraceReader::Stage;
 
-    QStringList arguments() const;
+    static QStringList arguments(const QString &database);
     void start();
     void send(TillProcess &till);
     QByteArray thinkOfCommand();

@@ -27,6 +27,17 @@ TEST_F(KilledTill, WhilePlayingRandomReceipts_KeepsEveryAcknowledgedCommandWhole
     EXPECT_GT(tally().restored, kills / 10);
 }
 
+TEST_F(KilledTill, WhileItMakesItsDatabase_CanBeStartedAgain)
+{
+    measure();
+    for (int round = 0; round < 40 && !HasFailure(); ++round) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed() << " round " << round);
+        const QString name = QStringLiteral("%1.db").arg(round);
+        killWhileItMakes(name);
+        checkUsable(name);
+    }
+}
+
 } // namespace
 
 } // namespace till

@@ -52,7 +52,16 @@ TillProcess::TillProcess(const QStringList &arguments)
     for (QByteArray &word : words)
         argv.push_back(word.data());
     argv.push_back(nullptr);
-    const int error = posix_spawn(&m_process, argv[0], &actions, nullptr, argv.data(), environ);
+    // What is ignored here is not ignored there.
+    sigset_t preset;
+    sigemptyset(&preset);
+    sigaddset(&preset, SIGPIPE);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setsigdefault(&attributes, &preset);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+    const int error = posix_spawn(&m_process, argv[0], &actions, &attributes, argv.data(), environ);
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     close(input[0]);
     close(output[1]);
