@@ -52,13 +52,10 @@ char **complete(const char *text, int start, int end)
     return rl_completion_matches(text, nextCompletion);
 }
 
-void printOutcome(const Outcome &outcome)
+QString describe(const Outcome &outcome)
 {
-    if (!outcome.text.isEmpty())
-        std::printf("%s\n", outcome.text.toUtf8().constData());
-    else if (outcome.kind == Outcome::Refused)
-        std::puts("refused");
-    std::fflush(stdout);
+    return outcome.text.isEmpty() && outcome.kind == Outcome::Refused ? QStringLiteral("refused")
+                                                                      : outcome.text;
 }
 
 } // namespace
@@ -83,7 +80,8 @@ bool askOnTerminal(const QString &question)
     }
 }
 
-bool runInteractive(CommandLine &commands, const QString &historyFile)
+bool runInteractive(CommandLine &commands, const QString &historyFile,
+                    const std::function<void(const QString &text)> &show)
 {
     const bool terminal = isTerminal();
     const QByteArray history = historyFile.toLocal8Bit();
@@ -102,7 +100,8 @@ bool runInteractive(CommandLine &commands, const QString &historyFile)
         if (terminal && !line->trimmed().isEmpty())
             add_history(line->toUtf8().constData());
         const Outcome outcome = commands.run(*line);
-        printOutcome(outcome);
+        if (const QString text = describe(outcome); !text.isEmpty())
+            show(text);
         allDone = allDone && (terminal || outcome);
         const QString receipt = commands.renderReceipt();
         if (terminal && receipt != shown)

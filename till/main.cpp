@@ -215,14 +215,20 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
     Till till(options.setup, notes);
     if (const QString error = till.start(); !error.isEmpty())
         return fail(StartFailed, error);
+    // A person is always talked to; a reader of the trace finds nothing else beside it.
+    const bool quiet = options.quiet && !isTerminal();
+    const auto show = [quiet](const QString &text) {
+        if (!quiet)
+            print(text);
+    };
     CommandLine commands(
         till, notes, translator, options.style,
-        {print, isTerminal() ? askOnTerminal : std::function<bool(const QString &)>()});
+        {show, isTerminal() ? askOnTerminal : std::function<bool(const QString &)>()});
     const QString receipt = commands.renderReceipt();
     if (!receipt.isEmpty())
-        print(receipt);
+        show(receipt);
     const QString history = QFileInfo(defaultDatabase()).path() + "/history";
-    return runInteractive(commands, history) ? AllWell : CommandFailed;
+    return runInteractive(commands, history, show) ? AllWell : CommandFailed;
 }
 
 } // namespace

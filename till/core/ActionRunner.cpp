@@ -50,6 +50,12 @@ ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &
 {
 }
 
+void ActionRunner::setReceipt(const QSharedPointer<Receipt> &receipt)
+{
+    m_receipt = receipt;
+    m_notedGroups.clear();
+}
+
 EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
 {
     QJsonObject description = describe(action);
@@ -64,6 +70,7 @@ EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
             result = carryOut(action, origin);
         if (result == EContext::Continue)
             runTriggers(action, ActionTrigger::After);
+        noteRegrouped();
     }
     m_services.modifiers().clearAll();
     m_notes.add("result", {{"type", action.getType()}, {"result", result}});
@@ -254,10 +261,30 @@ void ActionRunner::publish(EActivityListener::Event code, const QSharedPointer<P
         Event(code).addArgument("position", QVariant::fromValue(GoodsItemPtr(position))));
 }
 
+void ActionRunner::noteLines()
+{
+    const auto lines = m_receipt->lines();
+    for (const auto &line : lines)
+        notePosition(*line);
+}
+
+//! Plugins tie positions together without an event: what they did is told after the fact.
+void ActionRunner::noteRegrouped()
+{
+    if (!m_notes.wantsStates())
+        return;
+    const auto lines = m_receipt->lines();
+    for (const auto &line : lines) {
+        if (line->getGroupId() != m_notedGroups.value(line->getPosnum()))
+            notePosition(*line);
+    }
+}
+
 void ActionRunner::notePosition(const Position &position)
 {
     if (!m_notes.wantsStates())
         return;
+    m_notedGroups.insert(position.getPosnum(), position.getGroupId());
     const ArticleData &article = position.article();
     m_notes.add("position", {{"position", position.getPosnum()},
                              {"article", article.code},
@@ -270,6 +297,7 @@ void ActionRunner::notePosition(const Position &position)
                              {"count", position.getCquant()},
                              {"base", position.getBquant()},
                              {"sum", position.sum()},
+                             {"group", position.getGroupId()},
                              {"stornoed", position.isStornoed()}});
 }
 

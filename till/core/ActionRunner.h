@@ -8,6 +8,8 @@
 #include "till/core/HostServices.h"
 #include "till/core/Receipt.h"
 
+#include <QtCore/QMap>
+
 class BasicPlugin;
 
 namespace till {
@@ -39,13 +41,16 @@ public:
     ActionRunner(HostProgram &program, HostServices &services, Notes &notes, BasicPlugin *plugin);
 
     //! The receipt that actions are carried out on; null when there is none.
-    void setReceipt(const QSharedPointer<Receipt> &receipt) { m_receipt = receipt; }
+    void setReceipt(const QSharedPointer<Receipt> &receipt);
 
     //! Articles of actions that add a position are taken from here.
     using FindArticle = std::function<QSharedPointer<Article>(const QString &code)>;
     void setArticles(FindArticle find) { m_findArticle = std::move(find); }
 
     EContext::Result run(const control::Action &action, Origin origin);
+
+    //! Notes every line of the receipt, for a reader who has not seen how it came to be.
+    void noteLines();
 
     //! Runs the triggers after \a action alone, for an action that was carried out in an earlier
     //! life.
@@ -66,6 +71,7 @@ private:
 
     void publish(EActivityListener::Event code, const QSharedPointer<Position> &position);
     void notePosition(const Position &position);
+    void noteRegrouped();
 
     HostProgram &m_program;
     HostServices &m_services;
@@ -73,6 +79,7 @@ private:
     BasicPlugin *m_plugin;
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;
+    QMap<int, QString> m_notedGroups; //!< by position number
 };
 
 } // namespace till

@@ -66,7 +66,7 @@ QString Register::resume()
     const std::optional<ReceiptRecord> record = m_storage.unfinishedReceipt(&error);
     if (error.isEmpty() && record) {
         takeUp(QSharedPointer<Receipt>::create(*record));
-        noteReceipt();
+        noteWhole();
     }
     return error;
 }
@@ -179,14 +179,17 @@ Outcome Register::pay(std::optional<Kopecks> tendered)
         return Outcome::mistake("no receipt is open");
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
-    if (m_receipt->state() != ReceiptState::Subtotal) {
-        if (const Outcome gate = perform(control::Action(control::Payment, {})); !gate)
-            return gate;
-    }
+    EContext::Result result = EContext::Continue;
+    if (m_receipt->state() != ReceiptState::Subtotal)
+        result = run(control::Action(control::Payment, {}));
     const Kopecks due = m_receipt->total();
-    if (tendered && *tendered < due)
-        return refuse(messages::tillNotEnoughMoney());
-    return perform(control::Action(control::CloseReceipt, {{"tendered", tendered.value_or(due)}}));
+    const bool isEnough = !tendered || *tendered >= due;
+    if (result == EContext::Continue && isEnough)
+        result =
+            run(control::Action(control::CloseReceipt, {{"tendered", tendered.value_or(due)}}));
+    // Both actions are one command: they are stored together, so that no end comes between them.
+    const Outcome outcome = keep(result);
+    return outcome && !isEnough ? refuse(messages::tillNotEnoughMoney()) : outcome;
 }
 
 Outcome Register::cancel()
@@ -257,10 +260,19 @@ Outcome Register::refuse(const tr::Tr &message)
     return Outcome::refused(message.key());
 }
 
+EContext::Result Register::run(const control::Action &action)
+{
+    return m_runner.run(action, ActionRunner::Origin::Cashier);
+}
+
 Outcome Register::perform(const control::Action &action)
 {
+    return keep(run(action));
+}
+
+Outcome Register::keep(EContext::Result result)
+{
     const qint64 storedId = m_receipt->id();
-    const EContext::Result result = m_runner.run(action, ActionRunner::Origin::Cashier);
     if (const QString error = store(); !error.isEmpty()) {
         const QString reloadError = reload(storedId);
         return Outcome::failed(reloadError.isEmpty() ? error : error + "; " + reloadError);
@@ -287,6 +299,8 @@ QString Register::reload(qint64 id)
     QString error;
     const std::optional<ReceiptRecord> record = m_storage.receipt(id, &error);
     takeUp(record ? QSharedPointer<Receipt>::create(*record) : nullptr);
+    if (m_receipt)
+        noteWhole();
     return error;
 }
 
@@ -311,11 +325,27 @@ void Register::watch(Receipt &receipt)
                             m_notes.add("switch", {{"on", on}});
                         },
                         [this](const QString &plugin, const QString &key, const QVariant &value) {
-                            if (m_notes.wantsStates())
-                                m_notes.add("data", {{"plugin", plugin},
-                                                     {"key", key},
-                                                     {"value", QJsonValue::fromVariant(value)}});
+                            noteData(plugin, key, value);
                         }});
+}
+
+void Register::noteData(const QString &plugin, const QString &key, const QVariant &value)
+{
+    if (m_notes.wantsStates())
+        m_notes.add("data",
+                    {{"plugin", plugin}, {"key", key}, {"value", QJsonValue::fromVariant(value)}});
+}
+
+//! Tells a reader who has not seen how the receipt came to be, or has seen too much.
+void Register::noteWhole()
+{
+    m_runner.noteLines();
+    const Document::PluginData data = m_receipt->pluginData();
+    for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
+        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
+            noteData(plugin.key(), entry.key(), entry.value());
+    }
+    noteReceipt();
 }
 
 void Register::collectJournal(const QJsonObject &note)

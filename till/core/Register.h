@@ -79,7 +79,11 @@ private:
     void show(const tr::Tr &message) override;
 
     bool isInHand() const;
+    EContext::Result run(const control::Action &action);
+    //! Runs an action that is a whole command, and keeps it.
     Outcome perform(const control::Action &action);
+    //! Stores what a command did to the receipt; \a result is how its last action ended.
+    Outcome keep(EContext::Result result);
     Outcome checkPosition(int posnum) const;
     Outcome refuse(const tr::Tr &message);
     QString store();
@@ -88,6 +92,8 @@ private:
     void watch(Receipt &receipt);
     void collectJournal(const QJsonObject &note);
     void noteReceipt();
+    void noteData(const QString &plugin, const QString &key, const QVariant &value);
+    void noteWhole();
 
     const Catalogue &m_catalogue;
     Storage &m_storage;

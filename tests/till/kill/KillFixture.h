@@ -1,0 +1,85 @@
+#ifndef TESTS_TILL_KILL_KILLFIXTURE_H
+#define TESTS_TILL_KILL_KILLFIXTURE_H
+
+#include "tests/till/StorageFixture.h"
+#include "tests/till/kill/Cashier.h"
+#include "tests/till/kill/TillProcess.h"
+
+#include <array>
+#include <vector>
+
+namespace till {
+
+//! What the kills met.
+struct Tally
+{
+    int starting = 0;           //!< the till had told nothing of a command yet, and was sent none
+    int between = 0;            //!< everything was acknowledged
+    std::array<int, 4> stage{}; //!< a command was under way, by `TraceReader::Stage`
+    int stored = 0;             //!< that command was found stored, whole
+    int notStored = 0;          //!< nothing of it was found
+    int restored = 0;           //!< restarted tills that saved again what they had restored
+
+    int during() const { return stored + notStored; }
+    int all() const { return starting + between + during(); }
+};
+
+std::ostream &operator<<(std::ostream &out, const Tally &tally);
+
+//! A cashier who plays random receipts on one database, and loses the till again and again.
+class KilledTill : public StorageTest
+{
+protected:
+    KilledTill();
+
+    //! Learns how long things take on this machine.
+    void measure();
+    //! Starts the till, lets it carry out some commands and kills it in the middle of one.
+    void playAndKill();
+    //! Kills the till while it makes the database \a name, or soon after.
+    void killWhileItMakes(const QString &name);
+    //! A till that is started on the database \a name opens its first receipt.
+    void checkUsable(const QString &name);
+    //! Compares what is stored with what the trace told before the kill.
+    void checkStored();
+    //! Every receipt of the database is as the traces told it.
+    void checkEveryReceipt() const;
+
+    int seed() const { return m_seed; }
+    const Tally &tally() const { return m_tally; }
+    qsizetype receipts() const { return m_trace.finished().size() + 1; }
+
+    //! A whole number that can be set from outside.
+    static int setting(const char *variable, int preset);
+
+private:
+    using Clock = TillProcess::Clock;
+    using Stage = TraceReader::Stage;
+
+    static QStringList arguments(const QString &database);
+    void start();
+    void send(TillProcess &till);
+    QByteArray thinkOfCommand();
+    bool follow(TillProcess &till, Clock::time_point end);
+    void read(const QJsonObject &note);
+    void checkTakenUp() const;
+    void checkRegistry(const Storage &storage) const;
+    void count(bool isStored);
+    Clock::duration usualTime() const;
+    Clock::duration partOf(Clock::duration usual);
+
+    const int m_seed;
+    Cashier m_cashier;
+    TraceReader m_trace;
+    QByteArrayList m_sent;     //!< commands that this till was sent
+    bool m_isUnderWay = false; //!< the last of them is not acknowledged
+    QJsonObject m_saved;       //!< what the plugin had saved when the till was started
+    bool m_savesAgain = false; //!< the command under way makes it save this again
+    Clock::duration m_startTime{};
+    std::vector<Clock::duration> m_times; //!< of commands
+    Tally m_tally;
+};
+
+} // namespace till
+
+#endif // TESTS_TILL_KILL_KILLFIXTURE_H

@@ -1,0 +1,226 @@
+#include "tests/till/kill/ToldReceipt.h"
+
+#include "tests/till/StorageFixture.h"
+#include "till/core/ActionRunner.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace till {
+
+namespace {
+
+//! Sets the line that a position note tells.
+void tellLine(ReceiptRecord &record, const QJsonObject &note)
+{
+    const LineRecord line{note["position"].toInt(),
+                          {note["article"].toString(), note["name"].toString(),
+                           note["price"].toInteger(), note["taraMode"].toInt(),
+                           note["taraCapacity"].toDouble(), note["pack"].toDouble(),
+                           note["unit"].toString()},
+                          note["count"].toDouble(),
+                          note["base"].toDouble(),
+                          note["group"].toString(),
+                          note["stornoed"].toBool()};
+    const auto known =
+        std::find_if(record.lines.begin(), record.lines.end(),
+                     [&line](const LineRecord &other) { return other.posnum == line.posnum; });
+    if (known == record.lines.end())
+        record.lines.append(line);
+    else
+        *known = line;
+    record.nextPosnum = std::max(record.nextPosnum, line.posnum + 1);
+}
+
+void tellData(ToldReceipt &receipt, const QJsonObject &note)
+{
+    receipt.data[note["plugin"].toString()].insert(note["key"].toString(), note["value"]);
+}
+
+QStringList toTexts(const QJsonArray &array)
+{
+    QStringList texts;
+    for (const QJsonValue &value : array)
+        texts.append(value.toString());
+    return texts;
+}
+
+} // namespace
+
+ToldReceipt ToldReceipt::stored(const Storage &storage, qint64 id)
+{
+    QString error;
+    const auto record = storage.receipt(id, &error);
+    EXPECT_EQ(error, QString());
+    if (!record)
+        return {};
+    ToldReceipt receipt{*record, {}, {}};
+    const auto pluginData = std::exchange(receipt.record.pluginData, {});
+    for (auto plugin = pluginData.cbegin(); plugin != pluginData.cend(); ++plugin)
+        receipt.data.insert(plugin.key(), QJsonObject::fromVariantMap(plugin.value()));
+    const auto journal = storage.journal(id);
+    for (const JournalEntry &entry : journal)
+        receipt.journal.append(entry.json);
+    return receipt;
+}
+
+void PrintTo(const ToldReceipt &receipt, std::ostream *out)
+{
+    PrintTo(receipt.record, out);
+    for (auto plugin = receipt.data.cbegin(); plugin != receipt.data.cend(); ++plugin)
+        *out << "\n  " << plugin.key().toStdString() << ": "
+             << QJsonDocument(plugin.value()).toJson(QJsonDocument::Compact).toStdString();
+    *out << "\n  " << receipt.journal.size() << " notes in the journal, the last ones:";
+    for (const QByteArray &note :
+         receipt.journal.mid(std::max<qsizetype>(receipt.journal.size() - 6, 0)))
+        *out << "\n    " << note.toStdString();
+}
+
+void TraceReader::restart()
+{
+    m_underWay = m_acknowledged;
+    m_takenUp = {};
+    m_unstored.clear(); // what was only in the killed till's memory went with it
+    m_actions.clear();
+    m_command.clear();
+    m_stage = Stage::Idle;
+    m_opens = false;
+}
+
+void TraceReader::read(const QJsonObject &note)
+{
+    static const QStringList kept{"action", "trigger", "result", "question", "answer", "message"};
+    const QString kind = note["kind"].toString();
+    if (kept.contains(kind)) {
+        QJsonObject entry = note;
+        entry.remove("line");
+        m_unstored.append(QJsonDocument(entry).toJson(QJsonDocument::Compact));
+    }
+    if (note["depth"].toInt() == 0 && kind != "command" && kind != "outcome")
+        return readTakenUp(note, kind);
+    if (kind == "command") {
+        m_command = note["text"].toString();
+        m_stage = Stage::Acting;
+    } else if (kind == "outcome") {
+        acceptUnderWay();
+    } else if (kind == "action") {
+        readAction(note);
+    } else if (kind == "result") {
+        readResult(note);
+    } else if (kind == "position") {
+        tellLine(m_underWay.record, note);
+        m_underWay.record.state = ReceiptState::Open;
+    } else if (kind == "data") {
+        tellData(m_underWay, note);
+    } else if (kind == "receipt") {
+        readReceipt(note);
+    }
+}
+
+void TraceReader::readTakenUp(const QJsonObject &note, const QString &kind)
+{
+    ReceiptRecord &record = m_takenUp.record;
+    if (kind == "position") {
+        tellLine(record, note);
+    } else if (kind == "data") {
+        tellData(m_takenUp, note);
+    } else if (kind == "receipt") {
+        record.id = note["id"].toInteger();
+        record.type = note["type"].toInt();
+        record.state = static_cast<ReceiptState>(note["state"].toInt());
+        record.order = note["order"].toString();
+        record.softChecks = toTexts(note["softChecks"].toArray());
+    }
+}
+
+void TraceReader::readAction(const QJsonObject &note)
+{
+    if (note["type"].toInt() == control::OpenReceipt) {
+        const qint64 id = m_underWay.record.id + 1;
+        m_opens = true;
+        m_underWay = {};
+        m_underWay.record.id = id;
+        m_underWay.record.type = note["receiptType"].toInt();
+    }
+    m_stage = Stage::Acting;
+    m_actions.append(note);
+}
+
+void TraceReader::readResult(const QJsonObject &note)
+{
+    const QJsonObject action = m_actions.takeLast();
+    ReceiptRecord &record = m_underWay.record;
+    if (note["result"].toInt() == EContext::Continue) {
+        switch (note["type"].toInt()) {
+        case control::Subtotal:
+        case control::Payment:
+            record.state = ReceiptState::Subtotal;
+            break;
+        case control::CloseReceipt:
+            record.state = ReceiptState::Closed;
+            break;
+        case control::CancelReceipt:
+            record.state = ReceiptState::Cancelled;
+            break;
+        case control::AddSoftCheck:
+            record.order = action["order"].toString(record.order);
+            if (action.contains("softCheck"))
+                record.softChecks.append(action["softCheck"].toString());
+            break;
+        default:
+            break;
+        }
+    }
+    if (m_actions.isEmpty() && isEndOfCommand(note))
+        m_stage = Stage::Storing;
+}
+
+//! Payment in full is followed by closing the receipt, which belongs to the same command.
+bool TraceReader::isEndOfCommand(const QJsonObject &result) const
+{
+    return m_command != "pay" || result["type"].toInt() == control::CloseReceipt
+           || result["result"].toInt() != EContext::Continue;
+}
+
+void TraceReader::readReceipt(const QJsonObject &note)
+{
+    const ReceiptRecord &record = m_underWay.record;
+    EXPECT_EQ(note["id"].toInteger(), record.id);
+    EXPECT_EQ(note["type"].toInt(), record.type);
+    EXPECT_EQ(note["state"].toInt(), static_cast<int>(record.state));
+    EXPECT_EQ(note["order"].toString(), record.order);
+    EXPECT_EQ(toTexts(note["softChecks"].toArray()), record.softChecks);
+    keepJournal();
+    m_stage = Stage::Stored;
+}
+
+ToldReceipt TraceReader::underWay() const
+{
+    ToldReceipt receipt = m_underWay;
+    if (m_stage == Stage::Storing)
+        receipt.journal += m_unstored;
+    return receipt;
+}
+
+void TraceReader::keepJournal()
+{
+    m_underWay.journal += std::exchange(m_unstored, {});
+}
+
+void TraceReader::acceptUnderWay()
+{
+    if (m_stage == Stage::Storing)
+        keepJournal();
+    if (m_opens && m_acknowledged.record.id != 0)
+        m_finished.append(m_acknowledged);
+    m_opens = false;
+    m_acknowledged = m_underWay;
+    m_stage = Stage::Idle;
+}
+
+} // namespace till
