@@ -54,10 +54,10 @@ char **complete(const char *text, int start, int end)
 
 void printOutcome(const Outcome &outcome)
 {
-    if (!outcome.text.isEmpty())
+    if (outcome.kind == Outcome::Refused)
+        std::puts("refused"); // the reason was shown as a message
+    else if (!outcome.text.isEmpty())
         std::printf("%s\n", outcome.text.toUtf8().constData());
-    else if (outcome.kind == Outcome::Refused)
-        std::puts("refused");
     std::fflush(stdout);
 }
 
