@@ -46,8 +46,15 @@ ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &
     : m_program(program)
     , m_services(services)
     , m_notes(notes)
+    , m_positionNotes(notes)
     , m_plugin(plugin)
 {
+}
+
+void ActionRunner::setReceipt(const QSharedPointer<Receipt> &receipt)
+{
+    m_receipt = receipt;
+    m_positionNotes.forget();
 }
 
 EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
@@ -137,7 +144,7 @@ EContext::Result ActionRunner::add(const control::Action &action)
     const auto position = m_receipt->add(article, arguments.value(argument::count).toDouble());
     control::args::Core(action).setPositionNumber(position->getPosnum());
     m_receipt->setState(ReceiptState::Open);
-    notePosition(*position);
+    m_positionNotes.tell(*position);
     publish(EActivityListener::eventPositionAdded, position);
     return EContext::Continue;
 }
@@ -149,10 +156,14 @@ EContext::Result ActionRunner::applyModifiers(const control::Action &action, Ori
     if (!m_receipt->getPositionByPosnum(posnum) || !quantity.isValid())
         return EContext::Error;
     const auto position = m_receipt->line(posnum);
-    position->setBase(quantity.value<Quantity>().amount());
+    const double base = quantity.value<Quantity>().amount();
+    const ArticleData &article = position->article();
+    if (!m_receipt->limitFault(article, base / article.pack, position.get()).isEmpty())
+        return EContext::Error;
+    position->setBase(base);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    notePosition(*position);
+    m_positionNotes.tell(*position);
     publish(origin == Origin::Cashier ? EActivityListener::eventModifierApplied
                                       : EActivityListener::eventModifierApplied2,
             position);
@@ -176,7 +187,7 @@ EContext::Result ActionRunner::remove(int posnum)
         return EContext::Error;
     m_receipt->setState(ReceiptState::Open);
     const auto position = m_receipt->line(posnum);
-    notePosition(*position);
+    m_positionNotes.tell(*position);
     publish(EActivityListener::eventPositionStorno, position);
     return EContext::Continue;
 }
@@ -194,7 +205,7 @@ EContext::Result ActionRunner::split(const control::Action &action)
     for (const QVariant &part : parts) {
         const auto piece = m_receipt->add(article, part.toDouble());
         left -= part.toDouble();
-        notePosition(*piece);
+        m_positionNotes.tell(*piece);
         pieces.append(piece);
     }
     const bool removed = left < nothing;
@@ -204,7 +215,7 @@ EContext::Result ActionRunner::split(const control::Action &action)
         source->setCount(left);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    notePosition(*source);
+    m_positionNotes.tell(*source);
     action.setArgument("splitPositionsData", QVariantList{describeSplit(source, pieces, removed)});
     return EContext::Continue;
 }
@@ -219,13 +230,13 @@ EContext::Result ActionRunner::unite(const control::Action &action)
         const auto position = m_receipt->line(number.toInt());
         count += position->getCquant();
         m_receipt->storno(position->getPosnum());
-        notePosition(*position);
+        m_positionNotes.tell(*position);
         deleted.append(position);
     }
     survivor->setCount(count);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    notePosition(*survivor);
+    m_positionNotes.tell(*survivor);
     action.setArgument("deletedPositions", QVariant::fromValue(deleted));
     action.setArgument("changedPositions", QVariant::fromValue(GoodsItemPtrList{survivor}));
     return EContext::Continue;
@@ -252,25 +263,6 @@ void ActionRunner::publish(EActivityListener::Event code, const QSharedPointer<P
 {
     m_services.notifier().notify(
         Event(code).addArgument("position", QVariant::fromValue(GoodsItemPtr(position))));
-}
-
-void ActionRunner::notePosition(const Position &position)
-{
-    if (!m_notes.wantsStates())
-        return;
-    const ArticleData &article = position.article();
-    m_notes.add("position", {{"position", position.getPosnum()},
-                             {"article", article.code},
-                             {"name", article.name},
-                             {"price", article.price},
-                             {"taraMode", article.taraMode},
-                             {"taraCapacity", article.taraCapacity},
-                             {"pack", article.pack},
-                             {"unit", article.unit},
-                             {"count", position.getCquant()},
-                             {"base", position.getBquant()},
-                             {"sum", position.sum()},
-                             {"stornoed", position.isStornoed()}});
 }
 
 } // namespace till

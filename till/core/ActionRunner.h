@@ -6,6 +6,7 @@
 #include "host/EActivityListener.h"
 #include "host/EContext.h"
 #include "till/core/HostServices.h"
+#include "till/core/PositionNotes.h"
 #include "till/core/Receipt.h"
 
 class BasicPlugin;
@@ -39,13 +40,16 @@ public:
     ActionRunner(HostProgram &program, HostServices &services, Notes &notes, BasicPlugin *plugin);
 
     //! The receipt that actions are carried out on; null when there is none.
-    void setReceipt(const QSharedPointer<Receipt> &receipt) { m_receipt = receipt; }
+    void setReceipt(const QSharedPointer<Receipt> &receipt);
 
     //! Articles of actions that add a position are taken from here.
     using FindArticle = std::function<QSharedPointer<Article>(const QString &code)>;
     void setArticles(FindArticle find) { m_findArticle = std::move(find); }
 
     EContext::Result run(const control::Action &action, Origin origin);
+
+    //! Notes the positions that changed since they were noted last, such as by a plugin's hand.
+    void noteChangedPositions() { m_positionNotes.tellChanged(*m_receipt); }
 
     //! Runs the triggers after \a action alone, for an action that was carried out in an earlier
     //! life.
@@ -65,11 +69,11 @@ private:
     EContext::Result enter(ReceiptState state);
 
     void publish(EActivityListener::Event code, const QSharedPointer<Position> &position);
-    void notePosition(const Position &position);
 
     HostProgram &m_program;
     HostServices &m_services;
     Notes &m_notes;
+    PositionNotes m_positionNotes;
     BasicPlugin *m_plugin;
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;

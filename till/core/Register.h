@@ -87,6 +87,8 @@ private:
     void takeUp(const QSharedPointer<Receipt> &receipt);
     void watch(Receipt &receipt);
     void collectJournal(const QJsonObject &note);
+    void noteTakenUp();
+    void noteData(const QString &plugin, const QString &key, const QVariant &value);
     void noteReceipt();
 
     const Catalogue &m_catalogue;
