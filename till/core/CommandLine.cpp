@@ -11,6 +11,16 @@
 
 namespace till {
 
+namespace {
+
+//! A copy that shares nothing: a plugin's text may lie in its image, which a restart takes away.
+QString copied(const QString &text)
+{
+    return QString(text.constData(), text.size());
+}
+
+} // namespace
+
 //! A row of the table of commands.
 struct CommandLine::Command
 {
@@ -150,7 +160,7 @@ bool CommandLine::answer(const tr::Tr &question, const tr::Tr &confirm, const tr
     const bool isAnswered = !m_answers.isEmpty();
     const bool answer = isAnswered && m_answers.takeFirst();
     if (!isAnswered)
-        m_unanswered.append(question.key());
+        m_unanswered.append(copied(question.key()));
     print(text + "  → " + m_translator.text(answer ? confirm : cancel));
     return answer;
 }
