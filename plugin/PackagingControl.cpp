@@ -34,7 +34,8 @@ QString allowSaleEmptyTaraKey()
 
 PackagingControl::PackagingControl()
     : BaseActivityListener(nullptr)
-    , logger(Log4Qt::LogManager::logger(QStringLiteral("packaging")))
+    // On the heap, not in the plugin's image: the loggers keep it as a key.
+    , logger(Log4Qt::LogManager::logger(QString::fromLatin1("packaging")))
 {
     registerMetaTypes();
     // On the heap, not in the plugin's image: the document keeps it as a key.

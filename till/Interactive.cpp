@@ -54,8 +54,8 @@ char **complete(const char *text, int start, int end)
 
 QString describe(const Outcome &outcome)
 {
-    return outcome.text.isEmpty() && outcome.kind == Outcome::Refused ? QStringLiteral("refused")
-                                                                      : outcome.text;
+    // The reason of a refusal was shown as a message.
+    return outcome.kind == Outcome::Refused ? QStringLiteral("refused") : outcome.text;
 }
 
 } // namespace

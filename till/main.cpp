@@ -198,9 +198,14 @@ int info(const Options &options)
     return AllWell;
 }
 
+QString scriptFolder()
+{
+    return delivered("share/packagingcontrol/scripts");
+}
+
 QStringList demoScripts()
 {
-    const QDir folder(delivered("share/packagingcontrol/scripts"));
+    const QDir folder(scriptFolder());
     QStringList files;
     const QStringList names = folder.entryList({"*.till"}, QDir::Files, QDir::Name);
     for (const QString &name : names)
@@ -231,6 +236,16 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
     return runInteractive(commands, history, show) ? AllWell : CommandFailed;
 }
 
+int run(const Options &options, Notes &notes)
+{
+    const Translator translator(options.language);
+    if (options.mode == "info")
+        return info(options);
+    if (options.mode == "play" || options.mode == "demo")
+        return play(options, notes, translator);
+    return openRegister(options, notes, translator);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -254,6 +269,11 @@ int main(int argc, char *argv[])
     if (const QString error = readOptions(parser, options); !error.isEmpty())
         return fail(UsageError, error);
 
+    if (options.mode == "demo") {
+        options.files = demoScripts();
+        if (options.files.isEmpty())
+            return fail(StartFailed, scriptFolder() + ": no scripts there");
+    }
     Notes notes;
     std::unique_ptr<Trace> trace;
     if (!options.trace.isEmpty()) {
@@ -263,12 +283,8 @@ int main(int argc, char *argv[])
             return fail(StartFailed, error);
         options.quiet = options.quiet || options.trace == "-";
     }
-    const Translator translator(options.language);
-    if (options.mode == "info")
-        return info(options);
-    if (options.mode == "demo")
-        options.files = demoScripts();
-    if (options.mode == "play" || options.mode == "demo")
-        return play(options, notes, translator);
-    return openRegister(options, notes, translator);
+    const int status = run(options, notes);
+    if (status == AllWell && trace && !trace->error().isEmpty())
+        return fail(StartFailed, trace->error());
+    return status;
 }

@@ -46,6 +46,7 @@ ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &
     : m_program(program)
     , m_services(services)
     , m_notes(notes)
+    , m_positionNotes(notes)
     , m_plugin(plugin)
 {
 }
@@ -53,7 +54,7 @@ ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &
 void ActionRunner::setReceipt(const QSharedPointer<Receipt> &receipt)
 {
     m_receipt = receipt;
-    m_notedGroups.clear();
+    m_positionNotes.forget();
 }
 
 EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
@@ -70,7 +71,6 @@ EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
             result = carryOut(action, origin);
         if (result == EContext::Continue)
             runTriggers(action, ActionTrigger::After);
-        noteRegrouped();
     }
     m_services.modifiers().clearAll();
     m_notes.add("result", {{"type", action.getType()}, {"result", result}});
@@ -144,7 +144,7 @@ EContext::Result ActionRunner::add(const control::Action &action)
     const auto position = m_receipt->add(article, arguments.value(argument::count).toDouble());
     control::args::Core(action).setPositionNumber(position->getPosnum());
     m_receipt->setState(ReceiptState::Open);
-    notePosition(*position);
+    m_positionNotes.tell(*position);
     publish(EActivityListener::eventPositionAdded, position);
     return EContext::Continue;
 }
@@ -156,10 +156,14 @@ EContext::Result ActionRunner::applyModifiers(const control::Action &action, Ori
     if (!m_receipt->getPositionByPosnum(posnum) || !quantity.isValid())
         return EContext::Error;
     const auto position = m_receipt->line(posnum);
-    position->setBase(quantity.value<Quantity>().amount());
+    const double base = quantity.value<Quantity>().amount();
+    const ArticleData &article = position->article();
+    if (!m_receipt->limitFault(article, base / article.pack, position.get()).isEmpty())
+        return EContext::Error;
+    position->setBase(base);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    notePosition(*position);
+    m_positionNotes.tell(*position);
     publish(origin == Origin::Cashier ? EActivityListener::eventModifierApplied
                                       : EActivityListener::eventModifierApplied2,
             position);
@@ -183,7 +187,7 @@ EContext::Result ActionRunner::remove(int posnum)
         return EContext::Error;
     m_receipt->setState(ReceiptState::Open);
     const auto position = m_receipt->line(posnum);
-    notePosition(*position);
+    m_positionNotes.tell(*position);
     publish(EActivityListener::eventPositionStorno, position);
     return EContext::Continue;
 }
@@ -201,7 +205,7 @@ EContext::Result ActionRunner::split(const control::Action &action)
     for (const QVariant &part : parts) {
         const auto piece = m_receipt->add(article, part.toDouble());
         left -= part.toDouble();
-        notePosition(*piece);
+        m_positionNotes.tell(*piece);
         pieces.append(piece);
     }
     const bool removed = left < nothing;
@@ -211,7 +215,7 @@ EContext::Result ActionRunner::split(const control::Action &action)
         source->setCount(left);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    notePosition(*source);
+    m_positionNotes.tell(*source);
     action.setArgument("splitPositionsData", QVariantList{describeSplit(source, pieces, removed)});
     return EContext::Continue;
 }
@@ -226,13 +230,13 @@ EContext::Result ActionRunner::unite(const control::Action &action)
         const auto position = m_receipt->line(number.toInt());
         count += position->getCquant();
         m_receipt->storno(position->getPosnum());
-        notePosition(*position);
+        m_positionNotes.tell(*position);
         deleted.append(position);
     }
     survivor->setCount(count);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    notePosition(*survivor);
+    m_positionNotes.tell(*survivor);
     action.setArgument("deletedPositions", QVariant::fromValue(deleted));
     action.setArgument("changedPositions", QVariant::fromValue(GoodsItemPtrList{survivor}));
     return EContext::Continue;
@@ -259,46 +263,6 @@ void ActionRunner::publish(EActivityListener::Event code, const QSharedPointer<P
 {
     m_services.notifier().notify(
         Event(code).addArgument("position", QVariant::fromValue(GoodsItemPtr(position))));
-}
-
-void ActionRunner::noteLines()
-{
-    const auto lines = m_receipt->lines();
-    for (const auto &line : lines)
-        notePosition(*line);
-}
-
-//! Plugins tie positions together without an event: what they did is told after the fact.
-void ActionRunner::noteRegrouped()
-{
-    if (!m_notes.wantsStates())
-        return;
-    const auto lines = m_receipt->lines();
-    for (const auto &line : lines) {
-        if (line->getGroupId() != m_notedGroups.value(line->getPosnum()))
-            notePosition(*line);
-    }
-}
-
-void ActionRunner::notePosition(const Position &position)
-{
-    if (!m_notes.wantsStates())
-        return;
-    m_notedGroups.insert(position.getPosnum(), position.getGroupId());
-    const ArticleData &article = position.article();
-    m_notes.add("position", {{"position", position.getPosnum()},
-                             {"article", article.code},
-                             {"name", article.name},
-                             {"price", article.price},
-                             {"taraMode", article.taraMode},
-                             {"taraCapacity", article.taraCapacity},
-                             {"pack", article.pack},
-                             {"unit", article.unit},
-                             {"count", position.getCquant()},
-                             {"base", position.getBquant()},
-                             {"sum", position.sum()},
-                             {"group", position.getGroupId()},
-                             {"stornoed", position.isStornoed()}});
 }
 
 } // namespace till

@@ -6,9 +6,8 @@
 #include "host/EActivityListener.h"
 #include "host/EContext.h"
 #include "till/core/HostServices.h"
+#include "till/core/PositionNotes.h"
 #include "till/core/Receipt.h"
-
-#include <QtCore/QMap>
 
 class BasicPlugin;
 
@@ -49,8 +48,8 @@ public:
 
     EContext::Result run(const control::Action &action, Origin origin);
 
-    //! Notes every line of the receipt, for a reader who has not seen how it came to be.
-    void noteLines();
+    //! Notes the positions that changed since they were noted last, such as by a plugin's hand.
+    void noteChangedPositions() { m_positionNotes.tellChanged(*m_receipt); }
 
     //! Runs the triggers after \a action alone, for an action that was carried out in an earlier
     //! life.
@@ -70,16 +69,14 @@ private:
     EContext::Result enter(ReceiptState state);
 
     void publish(EActivityListener::Event code, const QSharedPointer<Position> &position);
-    void notePosition(const Position &position);
-    void noteRegrouped();
 
     HostProgram &m_program;
     HostServices &m_services;
     Notes &m_notes;
+    PositionNotes m_positionNotes;
     BasicPlugin *m_plugin;
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;
-    QMap<int, QString> m_notedGroups; //!< by position number
 };
 
 } // namespace till

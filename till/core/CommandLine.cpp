@@ -11,6 +11,16 @@
 
 namespace till {
 
+namespace {
+
+//! A copy that shares nothing: a plugin's text may lie in its image, which a restart takes away.
+QString copied(const QString &text)
+{
+    return QString(text.constData(), text.size());
+}
+
+} // namespace
+
 //! A row of the table of commands.
 struct CommandLine::Command
 {
@@ -21,6 +31,7 @@ struct CommandLine::Command
     int atMost;
     Outcome (CommandLine::*run)(const QStringList &words); //!< given the words behind the name
     bool isWatching = false; //!< looks at what the command before it did
+    bool worksOff = false;   //!< needs no till that is switched on
 };
 
 const QList<CommandLine::Command> &CommandLine::commands()
@@ -44,21 +55,22 @@ const QList<CommandLine::Command> &CommandLine::commands()
          0, 1, &CommandLine::pay},
         {"cancel", "", "cancel the receipt, after a question", 0, 0, &CommandLine::cancel},
         {"answer", "yes|no...", "answer the next questions in advance", 1, any,
-         &CommandLine::queueAnswer, true},
+         &CommandLine::queueAnswer, true, true},
         {"show", "", "show the receipt", 0, 0, &CommandLine::show, true},
         {"articles", "[TEXT]", "list the catalogue, or the articles that contain a text", 0, 1,
          &CommandLine::articles, true},
         {"log", "", "show what the plugin logged for the last command", 0, 0, &CommandLine::log,
-         true},
-        {"say", "TEXT...", "print a text", 0, any, &CommandLine::say, true},
+         true, true},
+        {"say", "TEXT...", "print a text", 0, any, &CommandLine::say, true, true},
         {"set", "KEY VALUE", "change a setting; the till is switched off and on for it", 2, 2,
-         &CommandLine::set},
+         &CommandLine::set, false, true},
         {"restart", "", "switch the till off and on; the receipt in hand is taken up again", 0, 0,
-         &CommandLine::restart},
+         &CommandLine::restart, false, true},
         {"expect", "WHAT...", "check what happened or what is; see 'help expect'", 1, any,
          &CommandLine::expect, true},
-        {"help", "[COMMAND]", "list the commands, or explain one", 0, 1, &CommandLine::help, true},
-        {"quit", "", "leave; the receipt in hand is kept", 0, 0, &CommandLine::quit, true},
+        {"help", "[COMMAND]", "list the commands, or explain one", 0, 1, &CommandLine::help, true,
+         true},
+        {"quit", "", "leave; the receipt in hand is kept", 0, 0, &CommandLine::quit, true, true},
     };
     return table;
 }
@@ -120,6 +132,8 @@ Outcome CommandLine::runWords(const QStringList &words)
     const qsizetype given = words.size() - 1;
     if (given < command->atLeast || given > command->atMost)
         return Outcome::mistake("usage: " + (command->name + ' ' + command->usage).trimmed());
+    if (!m_till.isOn() && !command->worksOff)
+        return Outcome::failed("the till is off; 'restart' switches it on");
     if (command->isWatching)
         return (this->*command->run)(words.mid(1));
     m_heard = {};
@@ -146,7 +160,7 @@ bool CommandLine::answer(const tr::Tr &question, const tr::Tr &confirm, const tr
     const bool isAnswered = !m_answers.isEmpty();
     const bool answer = isAnswered && m_answers.takeFirst();
     if (!isAnswered)
-        m_unanswered.append(question.key());
+        m_unanswered.append(copied(question.key()));
     print(text + "  → " + m_translator.text(answer ? confirm : cancel));
     return answer;
 }
@@ -264,9 +278,9 @@ Outcome CommandLine::queueAnswer(const QStringList &words)
 
 QString CommandLine::renderReceipt() const
 {
-    const Register &cashRegister = m_till.cashRegister();
-    if (!cashRegister.receipt())
+    if (!m_till.isOn() || !m_till.cashRegister().receipt())
         return {};
+    const Register &cashRegister = m_till.cashRegister();
     return m_view.render(*cashRegister.receipt(), cashRegister.taraState(),
                          cashRegister.taraControl());
 }
@@ -368,7 +382,7 @@ QStringList CommandLine::completions(const QStringList &words) const
         candidates = {"sale", "return"};
     } else if (words[0] == "answer") {
         candidates = {"yes", "no"};
-    } else if (const auto receipt = m_till.cashRegister().receipt()) {
+    } else if (const auto receipt = m_till.isOn() ? m_till.cashRegister().receipt() : nullptr) {
         const auto positions = receipt->getPositionList();
         for (const auto &position : positions)
             candidates.append(QString::number(position->getPosnum()));

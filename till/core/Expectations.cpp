@@ -13,6 +13,7 @@ struct Expectations::Row
     QString usage;
     QString help;
     int atLeast; //!< number of words behind the name
+    int atMost;
     Checker check;
 };
 
@@ -107,26 +108,28 @@ double unplaced(const GoodsUse &goods, const Position *position)
 
 const QList<Expectations::Row> &Expectations::rows()
 {
+    constexpr int any = 1000;
     static const QList<Row> table{
         {"position", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...",
-         "a position, and what is in it", 2, &Expectations::position},
-        {"positions", "COUNT", "how many positions are not stornoed", 1, &Expectations::positions},
-        {"tara", "N none|capacity C|free F...", "what is noted of a tara position", 2,
+         "a position, and what is in it", 2, any, &Expectations::position},
+        {"positions", "COUNT", "how many positions are not stornoed", 1, 1,
+         &Expectations::positions},
+        {"tara", "N none|capacity C|free F...", "what is noted of a tara position", 2, any,
          &Expectations::tara},
         {"goods", "N none|in TARA AMOUNT...|unplaced AMOUNT...",
-         "where the goods of a position are", 2, &Expectations::goods},
-        {"records", "TARAS GOODS", "how many records there are of each kind", 2,
+         "where the goods of a position are", 2, any, &Expectations::goods},
+        {"records", "TARAS GOODS", "how many records there are of each kind", 2, 2,
          &Expectations::records},
-        {"total", "MONEY", "the sum of the receipt", 1, &Expectations::total},
-        {"message", "none|KEY|TEXT", "a message that the last command showed", 1,
+        {"total", "MONEY", "the sum of the receipt", 1, 1, &Expectations::total},
+        {"message", "none|KEY|TEXT", "a message that the last command showed", 1, any,
          &Expectations::message},
-        {"question", "none|KEY|TEXT", "a question that the last command asked", 1,
+        {"question", "none|KEY|TEXT", "a question that the last command asked", 1, any,
          &Expectations::question},
-        {"log", "none|TEXT", "a line that the plugin logged for the last command", 1,
+        {"log", "none|TEXT", "a line that the plugin logged for the last command", 1, any,
          &Expectations::log},
-        {"state", "none|open|subtotal|closed|cancelled", "how far the receipt is", 1,
+        {"state", "none|open|subtotal|closed|cancelled", "how far the receipt is", 1, 1,
          &Expectations::state},
-        {"control", "active|suspended|none", "whether the plugin watches the receipt", 1,
+        {"control", "active|suspended|none", "whether the plugin watches the receipt", 1, 1,
          &Expectations::control},
     };
     return table;
@@ -154,7 +157,7 @@ Outcome Expectations::check(const QStringList &words)
                                   [&](const Row &r) { return r.name == words[0]; });
     if (row == table.cend())
         return Outcome::mistake("\"" + words[0] + "\" cannot be expected; try 'help expect'");
-    if (words.size() - 1 < row->atLeast)
+    if (words.size() - 1 < row->atLeast || words.size() - 1 > row->atMost)
         return Outcome::mistake("usage: expect " + row->name + ' ' + row->usage);
     return (this->*row->check)(words.mid(1));
 }
@@ -246,6 +249,8 @@ Outcome Expectations::goods(const QStringList &words) const
     for (qsizetype i = 1; i < words.size();) {
         Outcome checked;
         if (words[i] == "in") {
+            if (!parsePosnum(words.value(i + 1)))
+                return notAPosition(words.value(i + 1));
             checked = compareQuantity(what + " in " + words.value(i + 1), words.value(i + 2),
                                       amountIn(state, *goods, words.value(i + 1).toInt()));
             i += 3;

@@ -5,6 +5,14 @@
 
 namespace till {
 
+QString countFault(double count)
+{
+    constexpr double halfAThousandth = 0.0005; // counts are kept to three decimals
+    if (count < greatestCount + halfAThousandth)
+        return {};
+    return "the quantity must not be above " + toText(greatestCount);
+}
+
 Position::Position(int posnum, const QSharedPointer<Article> &article)
     : GoodsItem(posnum, article)
     , m_article(article)
@@ -109,11 +117,29 @@ void Receipt::touch()
         return;
     m_stale = false;
     ++m_recomputations;
-    m_total = 0;
-    for (const auto &position : std::as_const(m_lines)) {
-        if (!position->isStornoed())
-            m_total += position->sum();
+    m_total = sumWithout(nullptr);
+}
+
+Kopecks Receipt::sumWithout(const Position *omitted) const
+{
+    Kopecks sum = 0;
+    for (const auto &position : m_lines) {
+        if (!position->isStornoed() && position.get() != omitted)
+            sum += position->sum();
     }
+    return sum;
+}
+
+QString Receipt::limitFault(const ArticleData &article, double count,
+                            const Position *replaced) const
+{
+    if (const QString fault = countFault(count); !fault.isEmpty())
+        return fault;
+    const double sum =
+        static_cast<double>(article.price) * count + static_cast<double>(sumWithout(replaced));
+    if (sum > static_cast<double>(greatestSum))
+        return "the sum of the receipt must not be above " + toText(greatestSum);
+    return {};
 }
 
 void Receipt::setDocumentSwitch(bool on)

@@ -12,6 +12,14 @@
 
 namespace till {
 
+//! The greatest count of pieces in a position. What is above is a slip of the finger.
+constexpr double greatestCount = 999'999.999;
+//! The greatest sum of a receipt: far from where kopecks would be lost or sums overflow.
+constexpr Kopecks greatestSum = 1'000'000'000'000'000;
+
+//! Why \a count pieces cannot stand in one position; empty when they can.
+QString countFault(double count);
+
 //! How far a receipt has come.
 enum class ReceiptState : int {
     Open = 0,
@@ -98,6 +106,13 @@ public:
     //! The line with that number, stornoed or not; null when there never was one.
     QSharedPointer<Position> line(int posnum) const;
 
+    /*!
+     * Why \a count pieces of \a article cannot stand in the receipt, in place of \a replaced when
+     * it is not null; empty when they can.
+     */
+    QString limitFault(const ArticleData &article, double count,
+                       const Position *replaced = nullptr) const;
+
     //! Appends \a count pieces of \a article under the next free number.
     QSharedPointer<Position> add(const QSharedPointer<Article> &article, double count);
     //! Strikes the line; from now on the document does not hold the position. False when unknown.
@@ -125,6 +140,9 @@ public:
     void setWatcher(const Watcher &watcher) { m_watcher = watcher; }
 
 private:
+    //! Sum of the lines that are not stornoed, as of now, but for \a omitted.
+    Kopecks sumWithout(const Position *omitted) const;
+
     qint64 m_id = 0;
     ReceiptState m_state = ReceiptState::Open;
     QStringList m_softChecks;

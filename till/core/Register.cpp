@@ -64,10 +64,8 @@ QString Register::resume()
 {
     QString error;
     const std::optional<ReceiptRecord> record = m_storage.unfinishedReceipt(&error);
-    if (error.isEmpty() && record) {
+    if (error.isEmpty() && record)
         takeUp(QSharedPointer<Receipt>::create(*record));
-        noteWhole();
-    }
     return error;
 }
 
@@ -83,10 +81,13 @@ Outcome Register::add(const QString &code, double count)
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
-    if (!m_catalogue.find(code))
+    const auto article = m_catalogue.find(code);
+    if (!article)
         return Outcome::mistake("no article \"" + code + "\" in the catalogue");
     if (count <= 0)
         return Outcome::mistake("the quantity must be above 0");
+    if (const QString fault = m_receipt->limitFault(article->data, count); !fault.isEmpty())
+        return Outcome::mistake(fault);
     return perform(control::Action(control::AddPosition,
                                    {{argument::article, code}, {argument::count, count}}));
 }
@@ -97,7 +98,11 @@ Outcome Register::changeCount(int posnum, double count)
         return check;
     if (count < 0)
         return Outcome::mistake("the quantity must not be below 0");
-    const double base = count * m_receipt->line(posnum)->article().pack;
+    const auto line = m_receipt->line(posnum);
+    const QString fault = m_receipt->limitFault(line->article(), count, line.get());
+    if (!fault.isEmpty())
+        return Outcome::mistake(fault);
+    const double base = count * line->article().pack;
     m_services.modifiers().set(modifiers::Quantity,
                                QVariant::fromValue(Quantity(base, quantModeNone)));
     return perform(onPosition(control::ApplyModifiers, posnum));
@@ -130,6 +135,7 @@ Outcome Register::split(int posnum, const QList<double> &parts)
 Outcome Register::unite(const QList<int> &posnums)
 {
     QSet<int> seen;
+    double count = 0.0;
     for (const int posnum : posnums) {
         if (const Outcome check = checkPosition(posnum); !check)
             return check;
@@ -139,7 +145,10 @@ Outcome Register::unite(const QList<int> &posnums)
         if (!(m_receipt->line(posnum)->article() == m_receipt->line(posnums[0])->article()))
             return Outcome::mistake("positions " + number(posnums[0]) + " and " + number(posnum)
                                     + " are of different articles");
+        count += m_receipt->line(posnum)->getCquant();
     }
+    if (const QString fault = countFault(count); !fault.isEmpty())
+        return Outcome::mistake(fault);
     return perform(
         control::Action(control::UnitePositions, {{argument::positions, toVariants(posnums)}}));
 }
@@ -299,8 +308,6 @@ QString Register::reload(qint64 id)
     QString error;
     const std::optional<ReceiptRecord> record = m_storage.receipt(id, &error);
     takeUp(record ? QSharedPointer<Receipt>::create(*record) : nullptr);
-    if (m_receipt)
-        noteWhole();
     return error;
 }
 
@@ -308,6 +315,7 @@ void Register::takeUp(const QSharedPointer<Receipt> &receipt)
 {
     m_receipt = receipt;
     m_runner.setReceipt(receipt);
+    noteTakenUp();
     if (receipt)
         watch(*receipt);
     if (!m_plugin)
@@ -329,25 +337,6 @@ void Register::watch(Receipt &receipt)
                         }});
 }
 
-void Register::noteData(const QString &plugin, const QString &key, const QVariant &value)
-{
-    if (m_notes.wantsStates())
-        m_notes.add("data",
-                    {{"plugin", plugin}, {"key", key}, {"value", QJsonValue::fromVariant(value)}});
-}
-
-//! Tells a reader who has not seen how the receipt came to be, or has seen too much.
-void Register::noteWhole()
-{
-    m_runner.noteLines();
-    const Document::PluginData data = m_receipt->pluginData();
-    for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
-        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
-            noteData(plugin.key(), entry.key(), entry.value());
-    }
-    noteReceipt();
-}
-
 void Register::collectJournal(const QJsonObject &note)
 {
     static const QStringList kept{"action", "trigger", "result", "question", "answer", "message"};
@@ -357,10 +346,33 @@ void Register::collectJournal(const QJsonObject &note)
             {m_notes.depth(), kind, QJsonDocument(note).toJson(QJsonDocument::Compact)});
 }
 
+//! Whoever follows the notes forgets the receipt before and begins with what stands here.
+void Register::noteTakenUp()
+{
+    m_notes.add("takeup", {{"id", m_receipt ? m_receipt->id() : 0}});
+    if (!m_receipt)
+        return;
+    const auto data = m_receipt->pluginData();
+    for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
+        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
+            noteData(plugin.key(), entry.key(), entry.value());
+    }
+    noteReceipt();
+}
+
+void Register::noteData(const QString &plugin, const QString &key, const QVariant &value)
+{
+    if (m_notes.wantsStates())
+        m_notes.add("data",
+                    {{"plugin", plugin}, {"key", key}, {"value", QJsonValue::fromVariant(value)}});
+}
+
+//! The positions that changed unnoted, then the receipt as a whole.
 void Register::noteReceipt()
 {
     if (!m_notes.wantsStates())
         return;
+    m_runner.noteChangedPositions();
     const QSharedPointer<Order> order = m_receipt->getOrder();
     m_notes.add("receipt", {{"id", m_receipt->id()},
                             {"type", m_receipt->getType()},

@@ -91,9 +91,9 @@ private:
     void takeUp(const QSharedPointer<Receipt> &receipt);
     void watch(Receipt &receipt);
     void collectJournal(const QJsonObject &note);
+    void noteTakenUp();
     void noteReceipt();
     void noteData(const QString &plugin, const QString &key, const QVariant &value);
-    void noteWhole();
 
     const Catalogue &m_catalogue;
     Storage &m_storage;

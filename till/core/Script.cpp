@@ -22,7 +22,9 @@ QString shownCommand(const QString &line)
 
 QString reason(const Outcome &outcome)
 {
-    return outcome.text.isEmpty() ? QStringLiteral("refused") : outcome.text;
+    if (outcome.kind != Outcome::Refused)
+        return outcome.text;
+    return outcome.text.isEmpty() ? QStringLiteral("refused") : "refused: " + outcome.text;
 }
 
 } // namespace

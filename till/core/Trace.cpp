@@ -36,8 +36,12 @@ Trace::~Trace()
 void Trace::write(QJsonObject note)
 {
     note.insert("line", ++m_lines);
-    m_file.write(QJsonDocument(note).toJson(QJsonDocument::Compact).append('\n'));
-    m_file.flush();
+    const QByteArray line = QJsonDocument(note).toJson(QJsonDocument::Compact).append('\n');
+    const bool isWritten = m_file.write(line) == line.size() && m_file.flush();
+    if (!isWritten && m_error.isEmpty())
+        m_error =
+            (m_file.fileName().isEmpty() ? QStringLiteral("standard output") : m_file.fileName())
+            + ": " + m_file.errorString();
 }
 
 } // namespace till

@@ -15,11 +15,15 @@ class Trace
 public:
     /*!
      * Starts tracing \a notes to the file \a path, which is emptied first, or to standard output
-     * for
-     * "-". Null and \a error set when the file cannot be written. \a notes must outlive the trace.
+     * for "-". Null and \a error set when the file cannot be written. \a notes must outlive the
+     * trace.
      */
     static std::unique_ptr<Trace> start(Notes &notes, const QString &path, QString *error);
     ~Trace();
+
+    //! Why a line could not be written, with the path; empty as long as all were.
+    QString error() const { return m_error; }
+
     Q_DISABLE_COPY_MOVE(Trace)
 
 private:
@@ -28,6 +32,7 @@ private:
 
     Notes &m_notes;
     QFile m_file;
+    QString m_error;
     qint64 m_lines = 0;
 };
 
