@@ -27,8 +27,3 @@ add_link_options(-Wl,--as-needed)
 if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     add_link_options(-Wl,--no-undefined)
 endif()
-
-if(PACKAGINGCONTROL_LINT)
-    find_program(CLANG_TIDY NAMES clang-tidy REQUIRED)
-    set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet --warnings-as-errors=*)
-endif()

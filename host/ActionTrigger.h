@@ -7,7 +7,10 @@
 
 #include <functional>
 
-//! A callback that the host runs before or after it performs an action. A value type.
+/*!
+ * A callback that the host runs before or after it performs an action. A value type; a copy holds
+ * the plugin's code, so that none may be left when the plugin is unloaded.
+ */
 class HOST_EXPORT ActionTrigger
 {
 public:

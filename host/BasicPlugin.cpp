@@ -1,6 +1,7 @@
 #include "host/BasicPlugin.h"
 
 #include <algorithm>
+#include <iterator>
 
 BasicPlugin::BasicPlugin() = default;
 BasicPlugin::~BasicPlugin() = default;

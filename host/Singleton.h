@@ -12,6 +12,10 @@ template <class T>
 class SingletonSlot
 {
 public:
+    constexpr SingletonSlot() = default;
+    SingletonSlot(const SingletonSlot &) = delete;
+    SingletonSlot &operator=(const SingletonSlot &) = delete;
+
     //! The object, made with its default constructor when there is none yet. Never null.
     T *operator()()
     {

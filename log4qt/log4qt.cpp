@@ -120,7 +120,8 @@ void Logger::print(QtMsgType type, const QString &message) const
 
 Logger *LogManager::logger(const QString &name)
 {
-    static QMap<QString, std::shared_ptr<Logger>> loggers;
+    // Never destroyed: what is destroyed at the process's end may still log.
+    static auto &loggers = *new QMap<QString, std::shared_ptr<Logger>>;
     std::shared_ptr<Logger> &logger = loggers[name];
     if (!logger)
         logger = std::make_shared<Logger>(name);

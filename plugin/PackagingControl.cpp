@@ -77,17 +77,18 @@ bool PackagingControl::init()
 void PackagingControl::setDocument(const QSharedPointer<AbstractDocument> &newDocument)
 {
     constexpr int saleReceipt = 1;
-    if (!newDocument || newDocument->getType() != saleReceipt) {
+    const auto receipt = newDocument; // held: the host may change its own handle while it answers
+    if (!receipt || receipt->getType() != saleReceipt) {
         disablePlugin();
         return;
     }
-    if (newDocument->getOrder()) {
+    if (receipt->getOrder()) {
         logger->info(QStringLiteral(
             "Обрабатываемый документ содержит заказ, работа плагина приостановлена"));
         return;
     }
     Singleton<ActivityNotifier>::instance()->enableListener(this);
-    DocumentWatcher::setDocument(newDocument);
+    DocumentWatcher::setDocument(receipt);
     restorePluginData();
 }
 
@@ -130,5 +131,6 @@ QString PackagingControl::getId() const
 
 QSharedPointer<GoodsItem> PackagingControl::findPosition(int posnum) const
 {
-    return document ? document->getPositionByPosnum(posnum) : nullptr;
+    const auto receipt = document; // held: the host may take it away while it answers
+    return receipt ? receipt->getPositionByPosnum(posnum) : nullptr;
 }

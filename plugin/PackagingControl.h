@@ -119,8 +119,8 @@ protected:
      */
     virtual QSharedPointer<TaraInfo> createTara(const QSharedPointer<GoodsItem> &goods);
     /*!
-     * Records the goods position \a goods, unless it has a record, and pours its base quantity into
-     * tara. Returns the record, which is in `packagingList`. Does not save.
+     * Records the goods position \a goods, unless it has a record, and brings what it uses of tara
+     * to its base quantity. Returns the record, which is in `packagingList`. Does not save.
      */
     virtual QSharedPointer<PackagingInfo>
     createPackagingInfo(const QSharedPointer<GoodsItem> &goods);

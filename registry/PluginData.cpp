@@ -91,6 +91,18 @@ QSharedPointer<PackagingInfo> toPackagingInfo(const QVariant &stored)
     return info;
 }
 
+template <typename Record>
+QList<QSharedPointer<Record>> toRecords(const QVariant &stored,
+                                        QSharedPointer<Record> (*toRecord)(const QVariant &))
+{
+    const QVariantList elements = stored.toList();
+    QList<QSharedPointer<Record>> records;
+    records.reserve(elements.size());
+    for (const QVariant &element : elements)
+        records.append(toRecord(element));
+    return records;
+}
+
 } // namespace
 
 void PackagingControl::savePluginData() const
@@ -111,11 +123,13 @@ void PackagingControl::restorePluginData()
     const auto receipt = document;
     if (!receipt)
         return;
-    const QVariantList taras = receipt->getPluginData(objectName(), keys().taraInfo, {}).toList();
-    for (const QVariant &stored : taras)
-        taraList.append(toTaraInfo(stored));
-    const QVariantList packaging =
-        receipt->getPluginData(objectName(), keys().packagingInfo, {}).toList();
-    for (const QVariant &stored : packaging)
-        packagingList.append(toPackagingInfo(stored));
+    const auto taras =
+        toRecords(receipt->getPluginData(objectName(), keys().taraInfo, {}), toTaraInfo);
+    const auto packaging =
+        toRecords(receipt->getPluginData(objectName(), keys().packagingInfo, {}), toPackagingInfo);
+    if (document != receipt)
+        return; // while it answered, the host turned to another receipt, whose records these are
+                // not
+    taraList = taras;
+    packagingList = packaging;
 }

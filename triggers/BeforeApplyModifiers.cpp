@@ -26,13 +26,13 @@ EContext::Result PackagingControl::beforeApplyModifiers(const control::Action &a
     const auto position = findPosition(control::args::Core(action).positionNumber());
     if (!position || !isTara(position))
         return EContext::Continue;
-    ModifiersContainer *const modifiers = Singleton<Session>::instance()->getModifiers();
-    if (!modifiers->isSet(modifiers::Quantity))
+    ModifiersContainer *const pending = Singleton<Session>::instance()->getModifiers();
+    if (!pending->isSet(modifiers::Quantity))
         return EContext::Continue;
     if (!isTaraSplitted(position) && !isTaraPartialFilled(position))
         return EContext::Continue;
 
-    modifiers->clearAll();
+    pending->clearAll();
     ActivityNotifier *const notifier = Singleton<ActivityNotifier>::instance();
     // Asked anew on purpose: the answer at this moment chooses the text.
     const tr::Tr message = isTaraSplitted(position) ? usedByDifferentGoods() : partlyFilled();

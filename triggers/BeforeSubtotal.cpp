@@ -25,9 +25,12 @@ bool confirmsStorno()
 EContext::Result PackagingControl::beforeSubtotal(const control::Action &action)
 {
     // While suspended the records are those of an earlier receipt, about which nobody may be asked.
-    if (!document || !isExistsEmptyTara())
+    const auto receipt = document;
+    if (!receipt || !isExistsEmptyTara())
         return EContext::Continue;
-    return confirmsStorno() && stornoAllEmptyTara(action) ? EContext::Continue : EContext::Cancel;
+    // An answer about this receipt is none about another that the host turned to meanwhile.
+    const bool isSettled = confirmsStorno() && document == receipt && stornoAllEmptyTara(action);
+    return isSettled ? EContext::Continue : EContext::Cancel;
 }
 
 bool PackagingControl::stornoAllEmptyTara(const control::Action &action)
@@ -47,12 +50,12 @@ bool PackagingControl::stornoAllEmptyTara(const control::Action &action)
     for (const auto &tara : taras) {
         if (!tara->isEmpty())
             continue;
+        if (document != receipt)
+            return false; // the host turned to another receipt, whose positions are not these
         arguments.setPositionNumber(tara->posnum);
         MockFactory<DocumentLogic>::create()->stornoPosition(storno);
         if (receipt->getPositionByPosnum(tara->posnum) || receipt->getPositionList().isEmpty())
             return false;
-        if (document != receipt)
-            break; // the host turned to another receipt, whose positions are not these
     }
     return true;
 }

@@ -1,4 +1,4 @@
-# The plugin's rooms alone, without host/ and log4qt/, build against an installed host, and a host
+# The plugin builds against an installed host, reading nothing of the tree's own host/, and a host
 # program loads the result.
 
 cmake_minimum_required(VERSION 3.25)
@@ -9,6 +9,12 @@ set(binary ${WORK_DIR}/alone/build)
 file(REMOVE_RECURSE ${WORK_DIR}/alone)
 foreach(part CMakeLists.txt cmake plugin registry events triggers)
     file(COPY ${SOURCE_DIR}/${part} DESTINATION ${source})
+endforeach()
+
+# Headers of the tree's own host that would end the build if one of them were read.
+file(GLOB own_headers RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/host/*.h)
+foreach(header ${own_headers})
+    file(WRITE ${source}/${header} "#error The tree's own host header was read\n")
 endforeach()
 
 build(${source} ${binary} -DPACKAGINGCONTROL_HOST_PACKAGE=PackagingHost)

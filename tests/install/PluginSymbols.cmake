@@ -20,7 +20,7 @@ if(NOT symbols MATCHES "qt_plugin_query_metadata")
     message(SEND_ERROR "the plugin has no metadata query")
 endif()
 
-set(required "libQt6Core\\.so\\.6" "liblog4qt\\.so\\.[0-9.]+" "libPackagingHost\\.so\\.[0-9.]+")
+set(required "libQt6Core\\.so\\.6" "lib(packaging)?log4qt\\.so\\.[0-9.]+" "libPackagingHost\\.so\\.[0-9.]+")
 set(runtime "libstdc\\+\\+\\.so\\.6|libgcc_s\\.so\\.1|libm\\.so\\.6|libc\\.so\\.6|ld-linux.*")
 dynamic_entries(${plugin} NEEDED needed)
 foreach(pattern ${required})
