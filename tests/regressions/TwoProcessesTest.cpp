@@ -2,11 +2,14 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QHash>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
 #include <QtCore/QRegularExpression>
+
+#include <cmath>
 
 namespace {
 
@@ -98,16 +101,41 @@ QByteArrayList traceOf(const std::string &script, const Variables &variables)
     return notes;
 }
 
-class TwoProcesses : public testing::TestWithParam<std::string>
+QJsonValue rounded(const QJsonValue &value)
 {
-protected:
-    static void compare(const QByteArrayList &one, const QByteArrayList &other)
-    {
-        ASSERT_EQ(one.size(), other.size());
-        for (qsizetype line = 0; line < one.size(); ++line)
-            ASSERT_EQ(one[line].toStdString(), other[line].toStdString()) << "line " << line + 1;
+    if (value.isDouble())
+        return std::round(value.toDouble() * 1e9) / 1e9 + 0.0; // no negative zero
+    if (value.isArray()) {
+        QJsonArray array;
+        for (const QJsonValue &element : value.toArray())
+            array.append(rounded(element));
+        return array;
     }
-};
+    QJsonObject object = value.toObject();
+    for (auto entry = object.begin(); entry != object.end(); ++entry)
+        entry.value() = rounded(entry.value());
+    return value.isObject() ? object : value;
+}
+
+//! The same notes with nine decimals at most.
+QByteArrayList rounded(const QByteArrayList &notes)
+{
+    QByteArrayList result;
+    for (const QByteArray &note : notes) {
+        const QJsonValue value = rounded(QJsonDocument::fromJson(note).object());
+        result.append(QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+    }
+    return result;
+}
+
+void compare(const QByteArrayList &one, const QByteArrayList &other)
+{
+    ASSERT_EQ(one.size(), other.size());
+    for (qsizetype line = 0; line < one.size(); ++line)
+        ASSERT_EQ(one[line].toStdString(), other[line].toStdString()) << "line " << line + 1;
+}
+
+using TwoProcesses = testing::TestWithParam<std::string>;
 
 TEST_P(TwoProcesses, WithOtherHashesPlaceAndLanguage_GiveTheSameTrace)
 {
@@ -120,6 +148,14 @@ TEST_P(TwoProcesses, WithOtherHashesPlaceAndLanguage_PrintTheSame)
 {
     EXPECT_EQ(play(GetParam(), plainMachine, {}).toStdString(),
               play(GetParam(), germanMachine, {}).toStdString());
+}
+
+// What goods use is summed in the order of the taras' identifiers, which are random: the last
+// digits of a sum may differ between two processes, and nothing else may.
+TEST(TwoProcessesWithTenths, SumsThatAreNotExact_DifferInTheLastDigitsAtMost)
+{
+    compare(rounded(traceOf(DECIMALS_SCRIPT, plainMachine)),
+            rounded(traceOf(DECIMALS_SCRIPT, germanMachine)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, TwoProcesses, testing::ValuesIn(scriptPaths()),
