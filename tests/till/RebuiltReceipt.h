@@ -46,9 +46,10 @@ private:
     {
         const auto number = [&](const char *field) { return position.value(QLatin1String(field)); };
         const till::ArticleData article{
-            number("article").toString(), number("name").toString(), number("price").toInteger(),
-            number("taraMode").toInt(),   number("taraCapacity").toDouble(),
-            number("pack").toDouble(),    number("unit").toString()};
+            number("article").toString(),      number("name").toString(),
+            number("price").toInteger(),       number("taraMode").toInt(),
+            number("taraCapacity").toDouble(), number("pack").toDouble(),
+            number("unit").toString()};
         return {number("position").toInt(), article,
                 number("count").toDouble(), number("base").toDouble(),
                 number("group").toString(), number("stornoed").toBool()};
