@@ -127,7 +127,7 @@ void PackagingControl::restorePluginData()
         toRecords(receipt->getPluginData(objectName(), keys().taraInfo, {}), toTaraInfo);
     const auto packaging =
         toRecords(receipt->getPluginData(objectName(), keys().packagingInfo, {}), toPackagingInfo);
-    if (document != receipt)
+    if (document && document != receipt)
         return; // while it answered, the host turned to another receipt, whose records these are
                 // not
     taraList = taras;

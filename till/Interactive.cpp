@@ -52,6 +52,14 @@ char **complete(const char *text, int start, int end)
     return rl_completion_matches(text, nextCompletion);
 }
 
+//! Adds the line to the history, and to its file at once: a till may end at any moment.
+void remember(const QString &line, const QByteArray &historyFile)
+{
+    add_history(line.toUtf8().constData());
+    if (append_history(1, historyFile.constData()) != 0) // there is no file yet
+        write_history(historyFile.constData());
+}
+
 QString describe(const Outcome &outcome)
 {
     // The reason of a refusal was shown as a message.
@@ -88,6 +96,7 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
     if (terminal) {
         completed = &commands;
         rl_attempted_completion_function = complete;
+        QDir().mkpath(QFileInfo(historyFile).path());
         read_history(history.constData());
         std::puts("The till. 'help' lists the commands, 'quit' leaves.");
     }
@@ -98,7 +107,7 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         if (!line)
             break;
         if (terminal && !line->trimmed().isEmpty())
-            add_history(line->toUtf8().constData());
+            remember(*line, history);
         const Outcome outcome = commands.run(*line);
         if (const QString text = describe(outcome); !text.isEmpty())
             show(text);
@@ -107,10 +116,6 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         if (terminal && receipt != shown)
             std::fputs(receipt.toUtf8().constData(), stdout);
         shown = receipt;
-    }
-    if (terminal) {
-        QDir().mkpath(QFileInfo(historyFile).path());
-        write_history(history.constData());
     }
     return allDone;
 }

@@ -52,6 +52,11 @@ int fail(ExitStatus status, const QString &text)
     return status;
 }
 
+QString withoutPeriod(const QString &text)
+{
+    return text.endsWith('.') ? text.chopped(1) : text;
+}
+
 //! Where files of the delivery are, beside the folder of the program.
 QString delivered(const QString &relative)
 {
@@ -90,7 +95,7 @@ void describe(QCommandLineParser &parser)
         {"colour", "Colours: auto, always or never.", "WHEN", "auto"},
         {"quiet", "Print progress only, not the receipts' course."},
     });
-    parser.addHelpOption();
+    parser.addOption({{"h", "help"}, "Show this help."});
     parser.addVersionOption();
 }
 
@@ -260,7 +265,7 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     describe(parser);
     if (!parser.parse(QCoreApplication::arguments()))
-        return fail(UsageError, parser.errorText() + "; try --help");
+        return fail(UsageError, withoutPeriod(parser.errorText()) + "; try --help");
     if (parser.isSet("version"))
         parser.showVersion();
     if (parser.isSet("help"))

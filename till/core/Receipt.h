@@ -14,8 +14,8 @@ namespace till {
 
 //! The greatest count of pieces in a position. What is above is a slip of the finger.
 constexpr double greatestCount = 999'999.999;
-//! The greatest sum of a receipt: far from where kopecks would be lost or sums overflow.
-constexpr Kopecks greatestSum = 1'000'000'000'000'000;
+//! The greatest sum of a receipt: what a cashier can type, far from where sums would overflow.
+constexpr Kopecks greatestSum = 99'999'999'999'999;
 
 //! Why \a count pieces cannot stand in one position; empty when they can.
 QString countFault(double count);
