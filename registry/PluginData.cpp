@@ -127,9 +127,9 @@ void PackagingControl::restorePluginData()
         toRecords(receipt->getPluginData(objectName(), keys().taraInfo, {}), toTaraInfo);
     const auto packaging =
         toRecords(receipt->getPluginData(objectName(), keys().packagingInfo, {}), toPackagingInfo);
+    // While it answered, the host may have turned to another receipt, whose records these are not.
     if (document && document != receipt)
-        return; // while it answered, the host turned to another receipt, whose records these are
-                // not
+        return;
     taraList = taras;
     packagingList = packaging;
 }

@@ -1,0 +1,196 @@
+#include "tests/model/ModelHost.h"
+
+// What the cashier does, command by command.
+
+namespace model {
+
+void ModelHost::carryOut(const Command &command)
+{
+    const PositionPtr position = live(command.which);
+    switch (command.verb) {
+    case Verb::Open:
+        m_receipts[m_inHand] = newReceipt(command.shape == 0);
+        m_rules->setDocument(inHand());
+        break;
+    case Verb::Add:
+        add(command);
+        break;
+    case Verb::Quantity:
+    case Verb::Modify:
+        if (position)
+            changeCount(position, command.quantity, command.verb == Verb::Quantity);
+        break;
+    case Verb::Storno:
+        if (position)
+            perform(132, position->posnum, 21, false);
+        break;
+    case Verb::Split:
+        split(command);
+        break;
+    case Verb::Unite:
+        unite(command);
+        break;
+    case Verb::Subtotal:
+        pay(133);
+        break;
+    case Verb::Pay:
+        pay(144);
+        break;
+    case Verb::SoftCheck:
+    case Verb::Order:
+        attach(command);
+        break;
+    case Verb::Setting:
+        m_allowSaleEmptyTara = command.yes;
+        restart();
+        break;
+    case Verb::Restart:
+        restart();
+        break;
+    case Verb::Reopen:
+        m_rules->setDocument(inHand());
+        break;
+    case Verb::Switch:
+        turnToOther();
+        break;
+    case Verb::Forget:
+        m_rules->setDocument(nullptr);
+        break;
+    case Verb::Publish:
+        publish(command);
+        break;
+    }
+}
+
+void ModelHost::add(const Command &command)
+{
+    const auto &article = articles.at(static_cast<std::size_t>(command.which) % articles.size());
+    deliver({19, newPosition(article, command.quantity)});
+}
+
+void ModelHost::changeCount(const PositionPtr &position, double count, bool withQuantity)
+{
+    modifiers.hasOthers = true;
+    if (withQuantity) {
+        modifiers.hasQuantity = true;
+        modifiers.quantity = count * position->article->pack;
+        modifiers.mode = 0;
+    }
+    perform(5, position->posnum, 26, false);
+}
+
+void ModelHost::split(const Command &command)
+{
+    std::vector<SplitPosition> splits;
+    for (const PositionPtr &source : picked(command)) {
+        SplitPosition split{source, {}, false};
+        double left = source->count;
+        for (const double part : command.parts) {
+            split.pieces.push_back(newPosition(*source->article, part));
+            left = left - part;
+        }
+        split.isSourceGone = left < 0.0005;
+        if (split.isSourceGone)
+            source->isStornoed = true;
+        else
+            source->setCount(left);
+        splits.push_back(split);
+    }
+    if (splits.empty())
+        return;
+    if (command.shape == 4) // the plugin is told of nothing
+        splits.clear();
+    if (command.shape == 5) // the first element has no source
+        splits.front().source = nullptr;
+    m_rules->afterSplit(splits);
+    say("after 233 says 2");
+}
+
+void ModelHost::unite(const Command &command)
+{
+    std::vector<PositionPtr> changed = picked(command);
+    if (changed.empty())
+        return;
+    std::vector<PositionPtr> deleted(changed.begin() + 1, changed.end());
+    changed.resize(1);
+    double count = changed.front()->count;
+    for (const PositionPtr &position : deleted) {
+        count = count + position->count;
+        position->isStornoed = true;
+    }
+    changed.front()->setCount(count);
+    if (command.shape == 4) {
+        deleted.clear();
+        changed.clear();
+    }
+    m_rules->afterUnion(deleted, changed);
+    say("after 234 says 2");
+}
+
+void ModelHost::pay(int actionType)
+{
+    if (!m_allowSaleEmptyTara) {
+        const Answer answer = m_rules->beforeSubtotal();
+        say("before " + std::to_string(actionType) + " says " + std::to_string(answer));
+        if (answer != Continue)
+            return;
+    }
+    if (actionType != 144)
+        return;
+    m_wasClosed = true;
+    m_receipts[m_inHand] = newReceipt(true);
+    m_rules->setDocument(inHand());
+}
+
+void ModelHost::attach(const Command &command)
+{
+    if (command.verb == Verb::Order)
+        inHand()->hasOrder = true;
+    else
+        inHand()->hasSoftCheck = true;
+    m_rules->afterSoftCheck();
+    say("after 129 says 2");
+}
+
+void ModelHost::publish(const Command &command)
+{
+    constexpr std::array codes{26, 252, 19, 21, 20, 27};
+    const int code = codes.at(static_cast<std::size_t>(command.shape) % codes.size());
+    const auto &lines = inHand()->lines;
+    const auto which = static_cast<std::size_t>(command.which) % (lines.size() + 1);
+    deliver({code, which < lines.size() ? lines[which] : nullptr});
+}
+
+void ModelHost::turnToOther()
+{
+    m_inHand = 1 - m_inHand;
+    if (!m_receipts[m_inHand])
+        m_receipts[m_inHand] = newReceipt(true);
+    m_rules->setDocument(inHand());
+}
+
+void ModelHost::restart()
+{
+    m_late.clear();
+    modifiers = {};
+    World &world = *this;
+    m_rules = std::make_unique<Rules>(world);
+    m_isListening = true;
+    say("register 6 5 1 0 3");
+    say("register 6 233 0 0 5");
+    say("register 6 234 0 0 5");
+    say("setting PackagingControl:allowSaleEmptyTara true");
+    if (!m_allowSaleEmptyTara) {
+        say("register 6 133 1 0 1");
+        say("register 6 144 1 0 1");
+    }
+    say("register 6 129 0 0 3");
+    say("subscribe 19 21 26 252");
+    m_rules->setDocument(inHand());
+    if (inHand()->hasSoftCheck) {
+        m_rules->afterSoftCheck();
+        say("after 129 says 2");
+    }
+}
+
+} // namespace model
