@@ -28,6 +28,11 @@ if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     add_link_options(-Wl,--no-undefined)
 endif()
 
+if(PACKAGINGCONTROL_COVERAGE)
+    add_compile_options(--coverage -O0)
+    add_link_options(--coverage)
+endif()
+
 if(PACKAGINGCONTROL_LINT)
     find_program(CLANG_TIDY NAMES clang-tidy REQUIRED)
     set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet --warnings-as-errors=*)
