@@ -27,3 +27,8 @@ add_link_options(-Wl,--as-needed)
 if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     add_link_options(-Wl,--no-undefined)
 endif()
+
+if(PACKAGINGCONTROL_COVERAGE)
+    add_compile_options(--coverage -O0)
+    add_link_options(--coverage)
+endif()

@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# Runs the tests on a build that counts lines and branches, and fails where too few of them ran:
+# all of the plugin's rooms, and 95 % of the lines of the host library and of the till.
+# scripts/coverage.sh --html also writes the pages build/coverage-html/index.html.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+# shellcheck source=scripts/dependencies.sh
+. scripts/dependencies.sh
+# shellcheck source=scripts/figures.sh
+. scripts/figures.sh
+
+need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}"
+build=build/coverage
+cmake --preset coverage >/dev/null
+cmake --build --preset coverage >"$build/build.log" 2>&1 || { cat "$build/build.log" >&2; exit 1; }
+
+# The installed tree is built anew by its own tests, which tells nothing more about these lines.
+find "$build" -name '*.gcda' -delete
+ctest --preset coverage -j "$(nproc)" -E '^Install\.' --quiet --output-log "$build/tests.log" \
+    || { tail -n 100 "$build/tests.log" >&2; exit 1; }
+
+# The plugin's rooms are read from the plugin's own objects: a header that a test includes is
+# compiled with exceptions there.
+plugin=$(find "$build" -type d -name PackagingControlObjects.dir)
+gcovr --root . --json "$build/plugin.json" --gcov-ignore-parse-errors \
+    --filter 'plugin/' --filter 'registry/' --filter 'events/' --filter 'triggers/' "$plugin"
+gcovr --root . --json "$build/all.json" --gcov-ignore-parse-errors \
+    --filter 'host/' --filter 'till/' "$build"
+
+failed=0
+# measure NAME FILE FILTER GCOVR-OPTIONS...: one row of the table; fails below the limits given.
+measure() {
+    local name=$1 file=$2 filter=$3 summary
+    shift 3
+    if ! summary=$(gcovr --root . --add-tracefile "$file" --filter "$filter" --print-summary "$@" \
+        2>"$build/gcovr.log"); then
+        failed=1
+        printf '%s\n' "$summary" >&2
+        cat "$build/gcovr.log" >&2
+    fi
+    summary=$(sed -n 's/^\(lines\|branches\): \([0-9.]*%\) (\([0-9]*\) out of \([0-9]*\))/\1 \2 (\3 of \4)/p' \
+        <<<"$summary" | paste -sd ',' | sed 's/,/, /')
+    figure "Coverage of $name" "$summary"
+}
+
+for room in plugin registry events triggers; do
+    measure "$room/" "$build/plugin.json" "$room/" --fail-under-line 100 --fail-under-branch 100
+done
+measure host/ "$build/all.json" host/ --fail-under-line 95
+measure till/ "$build/all.json" till/ --fail-under-line 95
+
+if [ "${1-}" = --html ]; then
+    mkdir -p build/coverage-html
+    gcovr --root . --add-tracefile "$build/plugin.json" --add-tracefile "$build/all.json" \
+        --html-details build/coverage-html/index.html
+fi
+exit "$failed"
