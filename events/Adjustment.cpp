@@ -80,15 +80,15 @@ void PackagingControl::modifyPackagingUsedCapacity(const QSharedPointer<Packagin
 
     const auto taras = taraList;
     for (const auto &tara : taras) {
-        if (isZero(delta))
+        const bool pouring = isPositive(delta);
+        if (!pouring && !isNegative(delta))
             break;
         const double free = tara->freeCapacity;
-        const bool filling = isPositive(free) && isPositive(delta);
         // Only over-full tara gives goods back: one with room keeps its share when the goods
         // shrink.
-        const bool releasing =
-            isNegative(free) && isNegative(delta) && info->usedTara.contains(tara->id);
-        if (!filling && !releasing)
+        const bool concerned =
+            pouring ? isPositive(free) : isNegative(free) && info->usedTara.contains(tara->id);
+        if (!concerned)
             continue;
 
         const double amount = std::abs(free) < std::abs(delta) ? free : delta;

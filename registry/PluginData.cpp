@@ -3,6 +3,9 @@
 
 #include <QtCore/QVariant>
 
+#include <map>
+#include <utility>
+
 // The registry is kept in the document as a tree of variants, under the plugin's object name:
 //   taraInfo:      [{capacity, freeCapacity, id, posnum}, ...]
 //   packagingInfo: [{posnum, usedTara: {id: quantity, ...}}, ...]
@@ -31,32 +34,40 @@ const Keys &keys()
     return texts;
 }
 
-// Maps are filled in the order of their keys, each entry at the end, which spares the search.
+// Entries are put down in the order of their keys, each at the end, which spares the search; in the
+// standard map, which `QVariantMap` takes over as it is, because that one takes a value by moving.
+using Entries = std::map<QString, QVariant>;
+
+template <typename Value>
+void append(Entries &entries, const QString &key, const Value &value)
+{
+    entries.emplace_hint(entries.cend(), key, value);
+}
 
 QVariantMap toVariantMap(const TaraInfo &tara)
 {
-    QVariantMap map;
-    map.insert(map.cend(), keys().capacity, tara.capacity);
-    map.insert(map.cend(), keys().freeCapacity, tara.freeCapacity);
-    map.insert(map.cend(), keys().id, tara.id);
-    map.insert(map.cend(), keys().posnum, tara.posnum);
-    return map;
+    Entries entries;
+    append(entries, keys().capacity, tara.capacity);
+    append(entries, keys().freeCapacity, tara.freeCapacity);
+    append(entries, keys().id, tara.id);
+    append(entries, keys().posnum, tara.posnum);
+    return QVariantMap(std::move(entries));
 }
 
 QVariantMap toVariantMap(const QMap<QString, double> &quantities)
 {
-    QVariantMap map;
+    Entries entries;
     for (auto entry = quantities.cbegin(); entry != quantities.cend(); ++entry)
-        map.insert(map.cend(), entry.key(), entry.value());
-    return map;
+        append(entries, entry.key(), entry.value());
+    return QVariantMap(std::move(entries));
 }
 
 QVariantMap toVariantMap(const PackagingInfo &info)
 {
-    QVariantMap map;
-    map.insert(map.cend(), keys().posnum, info.posnum);
-    map.insert(map.cend(), keys().usedTara, toVariantMap(info.usedTara));
-    return map;
+    Entries entries;
+    append(entries, keys().posnum, info.posnum);
+    append(entries, keys().usedTara, toVariantMap(info.usedTara));
+    return QVariantMap(std::move(entries));
 }
 
 template <typename Record>
@@ -69,25 +80,47 @@ QVariantList toVariantList(const QList<QSharedPointer<Record>> &records)
     return list;
 }
 
+// Maps are read in one walk: keys of different lengths differ at once, which is cheaper than a
+// search for each of them.
+
 QSharedPointer<TaraInfo> toTaraInfo(const QVariant &stored)
 {
-    const QVariantMap map = stored.toMap();
     const auto tara = packaging::newRecord<TaraInfo>();
-    tara->posnum = map.value(keys().posnum).toInt();
-    tara->id = map.value(keys().id).toString();
-    tara->capacity = map.value(keys().capacity).toDouble();
-    tara->freeCapacity = map.value(keys().freeCapacity).toDouble();
+    const Keys &key = keys();
+    const QVariantMap map = stored.toMap();
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+        if (entry.key() == key.capacity)
+            tara->capacity = entry->toDouble();
+        else if (entry.key() == key.freeCapacity)
+            tara->freeCapacity = entry->toDouble();
+        else if (entry.key() == key.id)
+            tara->id = entry->toString();
+        else if (entry.key() == key.posnum)
+            tara->posnum = entry->toInt();
+    }
     return tara;
+}
+
+QMap<QString, double> toQuantities(const QVariant &stored)
+{
+    std::map<QString, double> quantities;
+    const QVariantMap map = stored.toMap();
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
+        quantities.emplace_hint(quantities.cend(), entry.key(), entry->toDouble());
+    return QMap<QString, double>(std::move(quantities));
 }
 
 QSharedPointer<PackagingInfo> toPackagingInfo(const QVariant &stored)
 {
-    const QVariantMap map = stored.toMap();
     const auto info = packaging::newRecord<PackagingInfo>();
-    info->posnum = map.value(keys().posnum).toInt();
-    const QVariantMap usedTara = map.value(keys().usedTara).toMap();
-    for (auto entry = usedTara.cbegin(); entry != usedTara.cend(); ++entry)
-        info->usedTara.insert(info->usedTara.cend(), entry.key(), entry.value().toDouble());
+    const Keys &key = keys();
+    const QVariantMap map = stored.toMap();
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+        if (entry.key() == key.posnum)
+            info->posnum = entry->toInt();
+        else if (entry.key() == key.usedTara)
+            info->usedTara = toQuantities(*entry);
+    }
     return info;
 }
 

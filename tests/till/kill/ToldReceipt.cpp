@@ -117,7 +117,7 @@ void TraceReader::read(const QJsonObject &note)
         m_underWay.record.state = ReceiptState::Open;
     } else if (kind == "data") {
         tellData(m_underWay, note);
-    } else if (kind == "receipt") {
+    } else if (kind == "receipt" && note["id"].toInteger() != 0) { // 0: not stored yet
         readReceipt(note);
     }
 }

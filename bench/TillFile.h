@@ -1,0 +1,62 @@
+#ifndef BENCH_TILLFILE_H
+#define BENCH_TILLFILE_H
+
+#include "till/core/Storage.h"
+#include "till/core/VariantBytes.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace bench {
+
+//! The rows that one command of the till writes.
+struct CommandRows
+{
+    qint64 receipt = 0;
+    qsizetype place = 0; //!< of the one line that the command changes
+    till::LineRecord line;
+    QString plugin;
+    QString key; //!< of the plugin data that the command changes
+    till::VariantBytes data;
+    QList<till::JournalEntry> journal;
+};
+
+/*!
+ * A database of the till's, written with SQLite alone: opened, locked and committed as durably as
+ * the till does. Ends the process when SQLite reports an error.
+ */
+class TillFile
+{
+public:
+    explicit TillFile(const QString &path);
+    ~TillFile();
+    Q_DISABLE_COPY_MOVE(TillFile)
+
+    //! Writes \a rows in one transaction; when it returns, they are on the disk.
+    void commit(const CommandRows &rows);
+
+    //! Every row of every table, as text.
+    QStringList contents();
+
+private:
+    enum Statement { Begin, Line, Data, Journal, Commit };
+
+    sqlite3_stmt *prepare(const char *sql);
+    void bind(sqlite3_stmt *statement, int parameter, const QString &text);
+    void bind(sqlite3_stmt *statement, int parameter, const QByteArray &bytes);
+    void run(sqlite3_stmt *statement);
+    void check(int code);
+
+    sqlite3 *m_database = nullptr;
+    std::vector<sqlite3_stmt *> m_statements;
+};
+
+} // namespace bench
+
+#endif // BENCH_TILLFILE_H

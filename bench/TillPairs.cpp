@@ -1,0 +1,197 @@
+#include "bench/Pairs.h"
+#include "bench/Records.h"
+#include "bench/TillFile.h"
+#include "till/core/Catalogue.h"
+#include "till/core/PluginLoader.h"
+#include "till/core/Register.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include <cstdlib>
+#include <memory>
+#include <optional>
+
+namespace bench {
+
+namespace {
+
+[[noreturn]] void giveUp(const QString &reason)
+{
+    std::fprintf(stderr, "%s\n", reason.toUtf8().constData());
+    std::exit(1);
+}
+
+const till::Catalogue &catalogue()
+{
+    static const auto loaded = till::Catalogue::load(QStringLiteral(BENCH_CATALOGUE));
+    if (const QString *error = std::get_if<QString>(&loaded))
+        giveUp(*error);
+    return std::get<till::Catalogue>(loaded);
+}
+
+//! A receipt in hand of \a n positions, one half tara and one half goods, as `Records` says.
+till::ReceiptRecord makeReceipt(int n)
+{
+    const auto tara = catalogue().find(QStringLiteral("PET05"));
+    const auto all = catalogue().articles();
+    const auto goods = std::find_if(all.cbegin(), all.cend(), [](const auto &article) {
+        return article->data.taraMode == Tmc::PackagingGoods;
+    });
+    till::ReceiptRecord receipt;
+    for (int posnum = 1; posnum <= n; posnum += 2) {
+        const double pieces = posnum == 1 ? 2 : 1;
+        receipt.lines.append({posnum, tara->data, pieces, pieces, {}, false});
+        receipt.lines.append({posnum + 1, (*goods)->data, 0.5, 0.5, {}, false});
+    }
+    receipt.nextPosnum = n + 1;
+    Document document;
+    store(Records(n), document);
+    receipt.pluginData = document.pluginData();
+    return receipt;
+}
+
+//! A register with the plugin on a database file, with the receipt in hand. One at a time.
+class RunningTill
+{
+public:
+    explicit RunningTill(const QString &path)
+    {
+        QString error;
+        m_storage = till::Storage::open(path, &error);
+        if (!m_storage)
+            giveUp(error);
+        const auto loaded = m_loader.load(QStringLiteral(BENCH_PLUGIN));
+        if (const auto *fault = std::get_if<till::PluginError>(&loaded))
+            giveUp(fault->text());
+        m_plugin = std::get<till::LoadedPlugin>(loaded);
+        m_register.emplace(
+            till::Register::Parts{catalogue(), *m_storage, &*m_plugin, m_settings, m_notes});
+        error = m_register->resume();
+        if (!error.isEmpty())
+            giveUp(error);
+    }
+
+    ~RunningTill()
+    {
+        m_register.reset();
+        m_loader.unload();
+    }
+    Q_DISABLE_COPY_MOVE(RunningTill)
+
+    //! The cashier changes the count of pieces of a position.
+    void changeCount(int posnum, double count)
+    {
+        if (!m_register->changeCount(posnum, count))
+            giveUp(QStringLiteral("the till refuses to change position %1").arg(posnum));
+    }
+
+    qint64 receipt() const { return m_register->receipt()->id(); }
+    till::Storage &storage() { return *m_storage; }
+
+private:
+    Config m_settings;
+    till::Notes m_notes;
+    std::unique_ptr<till::Storage> m_storage;
+    till::PluginLoader m_loader;
+    std::optional<till::LoadedPlugin> m_plugin;
+    std::optional<till::Register> m_register;
+};
+
+//! What the last command of \a till wrote; it had \a earlier entries in its journal before.
+CommandRows lastRows(RunningTill &till, qsizetype place, qsizetype earlier)
+{
+    QString error;
+    const auto record = till.storage().receipt(till.receipt(), &error);
+    if (!record)
+        giveUp(error);
+    CommandRows rows{record->id,
+                     place,
+                     record->lines[place],
+                     QStringLiteral("PackagingControl"),
+                     QStringLiteral("taraInfo"),
+                     {},
+                     till.storage().journal(record->id)};
+    rows.journal.remove(0, earlier);
+    rows.data = *till::VariantBytes::of(record->pluginData[rows.plugin][rows.key], &error);
+    return rows;
+}
+
+/*!
+ * The cashier sets the count of the last tara, which is empty, to 2 and to 1 in turn, and waits for
+ * the acknowledgement; over a commit of the same rows.
+ */
+class TillCommand
+{
+public:
+    explicit TillCommand(int n)
+        : m_posnum(n - 1)
+    {
+        const QString origin = m_directory.filePath(QStringLiteral("origin"));
+        QString error;
+        till::ReceiptRecord receipt = makeReceipt(n);
+        error = till::Storage::open(origin, &error)->save(receipt, {});
+        for (const QString &copy : {recordedPath(), tillPath(), byHandPath()})
+            QFile::copy(origin, copy);
+        recordRows();
+        m_till.emplace(tillPath());
+        m_file.emplace(byHandPath());
+    }
+
+    void measured()
+    {
+        m_count = 3 - m_count;
+        m_till->changeCount(m_posnum, m_count);
+    }
+
+    void byHand()
+    {
+        m_isSecond = !m_isSecond;
+        m_file->commit(m_isSecond ? m_second : m_first);
+    }
+
+    //! After three commands both files hold the same.
+    bool same()
+    {
+        for (int call = 0; call < 3; ++call) {
+            measured();
+            byHand();
+        }
+        m_till.reset();
+        const QStringList expected = TillFile(tillPath()).contents();
+        return expected.size() > 3 && m_file->contents() == expected;
+    }
+
+private:
+    QString recordedPath() const { return m_directory.filePath(QStringLiteral("recorded")); }
+    QString tillPath() const { return m_directory.filePath(QStringLiteral("till")); }
+    QString byHandPath() const { return m_directory.filePath(QStringLiteral("byhand")); }
+
+    void recordRows()
+    {
+        RunningTill till(recordedPath());
+        till.changeCount(m_posnum, 2);
+        m_first = lastRows(till, m_posnum - 1, 0);
+        till.changeCount(m_posnum, 1);
+        m_second = lastRows(till, m_posnum - 1, m_first.journal.size());
+    }
+
+    QTemporaryDir m_directory{QStringLiteral("bench-XXXXXX")};
+    int m_posnum;
+    double m_count = 1;
+    CommandRows m_first;
+    CommandRows m_second;
+    bool m_isSecond = true;
+    std::optional<RunningTill> m_till;
+    std::optional<TillFile> m_file;
+};
+
+} // namespace
+
+void addTillCommands(Pairs &pairs)
+{
+    for (const int n : {10, 100, 1000})
+        addPair<TillCommand>(pairs, "till", n, 10);
+}
+
+} // namespace bench
