@@ -28,9 +28,11 @@ EContext::Result PackagingControl::beforeSubtotal(const control::Action &action)
     const auto receipt = document;
     if (!receipt || !isExistsEmptyTara())
         return EContext::Continue;
+    if (!confirmsStorno())
+        return EContext::Cancel;
     // An answer about this receipt is none about another that the host turned to meanwhile.
-    const bool isSettled = confirmsStorno() && document == receipt && stornoAllEmptyTara(action);
-    return isSettled ? EContext::Continue : EContext::Cancel;
+    const bool isStillAbout = !document || document == receipt;
+    return isStillAbout && stornoAllEmptyTara(action) ? EContext::Continue : EContext::Cancel;
 }
 
 bool PackagingControl::stornoAllEmptyTara(const control::Action &action)

@@ -211,7 +211,12 @@ Answer Rules::beforeSubtotal()
     const auto isEmptyTara = [](const auto &tara) { return tara->isEmpty(); };
     if (!m_receipt || std::none_of(taras.begin(), taras.end(), isEmptyTara))
         return Continue;
-    return m_world.askAboutEmptyTara() && stornoEmptyTara() ? Continue : Cancel;
+    const ReceiptPtr receipt = m_receipt;
+    if (!m_world.askAboutEmptyTara())
+        return Cancel;
+    if (m_receipt && m_receipt != receipt)
+        return Cancel; // the answer was about another receipt
+    return stornoEmptyTara() ? Continue : Cancel;
 }
 
 bool Rules::stornoEmptyTara()
@@ -224,11 +229,11 @@ bool Rules::stornoEmptyTara()
     for (const auto &tara : snapshot) {
         if (!tara->isEmpty())
             continue;
+        if (m_receipt != receipt)
+            return false; // empty tara is left in a receipt that is no longer in hand
         m_world.storno(tara->posnum);
         if (receipt->find(tara->posnum) || receipt->isEmpty())
             return false;
-        if (m_receipt != receipt)
-            return true; // the rest of the walk was about a receipt that is no longer in hand
     }
     return true;
 }

@@ -71,6 +71,7 @@ EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
             result = carryOut(action, origin);
         if (result == EContext::Continue)
             runTriggers(action, ActionTrigger::After);
+        noteChangedPositions(); // plugins tie positions together without an event
     }
     m_services.modifiers().clearAll();
     m_notes.add("result", {{"type", action.getType()}, {"result", result}});
