@@ -10,14 +10,27 @@ namespace {
 
 using testing::HasSubstr;
 
-QStringList sampleScripts()
+//! A script, by its name in the names of tests.
+struct Sample
 {
-    QStringList paths;
+    QString path;
+
+    QString name() const { return path.section('/', -1).section('.', 0, 0); }
+};
+
+void PrintTo(const Sample &sample, std::ostream *out)
+{
+    *out << sample.name().toStdString();
+}
+
+QList<Sample> sampleScripts()
+{
+    QList<Sample> samples;
     const QDir folder(QStringLiteral(TILL_SHARE_DIR "/scripts"));
     const QStringList names = folder.entryList({"*.till"}, QDir::Files, QDir::Name);
     for (const QString &name : names)
-        paths.append(folder.filePath(name));
-    return paths;
+        samples.append({folder.filePath(name)});
+    return samples;
 }
 
 //! Every receipt of a trace as it was last, by its number.
@@ -58,18 +71,18 @@ protected:
     }
 };
 
-class SampleTrace : public Trace, public testing::WithParamInterface<QString>
+class SampleTrace : public Trace, public testing::WithParamInterface<Sample>
 {
 };
 
 TEST_P(SampleTrace, Receipts_AreRebuiltFromItAlone)
 {
-    expectRebuilt(traced(GetParam()));
+    expectRebuilt(traced(GetParam().path));
 }
 
 TEST_P(SampleTrace, Lines_AreNumberedAndNested)
 {
-    const QList<QJsonObject> notes = traced(GetParam());
+    const QList<QJsonObject> notes = traced(GetParam().path);
     int depth = 0;
     for (qsizetype i = 0; i < notes.size(); ++i) {
         EXPECT_EQ(notes[i].value("line").toInteger(), i + 1);
@@ -86,7 +99,7 @@ TEST_P(SampleTrace, Lines_AreNumberedAndNested)
 TEST_P(SampleTrace, Actions_EndInTheirResultAtTheirDepth)
 {
     QList<QJsonObject> open;
-    const QList<QJsonObject> notes = traced(GetParam());
+    const QList<QJsonObject> notes = traced(GetParam().path);
     for (const QJsonObject &note : notes) {
         if (note.value("kind") == "action") {
             open.append(note);
@@ -102,8 +115,7 @@ TEST_P(SampleTrace, Actions_EndInTheirResultAtTheirDepth)
 
 INSTANTIATE_TEST_SUITE_P(Scripts, SampleTrace, testing::ValuesIn(sampleScripts()),
                          [](const auto &script) {
-                             const QString name = script.param.section('/', -1).section('.', 0, 0);
-                             return QString(name).replace('-', '_').toStdString();
+                             return script.param.name().replace('-', '_').toStdString();
                          });
 
 TEST_F(Trace, OfAnInterruptedReceipt_BeginsWithAllOfIt)
@@ -156,10 +168,10 @@ TEST_F(Trace, EachKindAndField_IsInTheDocument)
 {
     const QString page = QString::fromUtf8(contents(QStringLiteral(DOCS_DIR "/trace.md")));
     const auto kinds = documentedKinds(page);
-    const QStringList scripts = sampleScripts();
-    for (const QString &script : scripts) {
+    const QList<Sample> scripts = sampleScripts();
+    for (const Sample &script : scripts) {
         const auto notes =
-            trace(QByteArray::fromStdString(run({"--trace", "-", "play", script}).out));
+            trace(QByteArray::fromStdString(run({"--trace", "-", "play", script.path}).out));
         for (const QJsonObject &note : notes) {
             const QString kind = note.value("kind").toString();
             ASSERT_TRUE(kinds.contains(kind)) << kind.toStdString();
