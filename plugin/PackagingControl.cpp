@@ -77,7 +77,8 @@ bool PackagingControl::init()
 void PackagingControl::setDocument(const QSharedPointer<AbstractDocument> &newDocument)
 {
     constexpr int saleReceipt = 1;
-    const auto receipt = newDocument; // held: the host may change its own handle while it answers
+    // Held: the host may change its own handle while it answers.
+    const auto receipt = newDocument; // NOLINT(performance-unnecessary-copy-initialization)
     if (!receipt || receipt->getType() != saleReceipt) {
         disablePlugin();
         return;

@@ -87,7 +87,7 @@ TEST_F(FullDisk, Trace_GoesBackToTheStoredReceipt)
 {
     heard.clear();
     failsOnAFullDisk("add DARK 1");
-    EXPECT_EQ(noted("takeup", "id"), QVariantList({receipt()->id()}));
+    EXPECT_EQ(noted("takeup", "id"), QVariantList() << receipt()->id());
     EXPECT_EQ(notesOf("receipt").last().value("positions").toInt(), 2);
     EXPECT_EQ(notesOf("outcome").last().value("outcome").toString(), QString("failed"));
 }

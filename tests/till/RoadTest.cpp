@@ -19,7 +19,7 @@ TEST_F(Road, CashiersChange_IsReportedAs26)
     done({"open", "add BEER"});
     heard.clear();
     done({"qty 1 2"});
-    EXPECT_EQ(events(), QVariantList({26}));
+    EXPECT_EQ(events(), QVariantList() << 26);
     EXPECT_EQ(noted("action", "origin"), QVariantList({"cashier"}));
 }
 
@@ -57,8 +57,8 @@ TEST_F(Road, Refusal_PublishesTheErrorAndNothingElse)
     done({"open", "add PET15", "add BEER 1"});
     heard.clear();
     refused("qty 1 2");
-    EXPECT_EQ(events(), QVariantList({29}));
-    EXPECT_EQ(noted("result", "result"), QVariantList({1}));
+    EXPECT_EQ(events(), QVariantList() << 29);
+    EXPECT_EQ(noted("result", "result"), QVariantList() << 1);
     expect({"position 1 quantity 1"});
 }
 
@@ -77,7 +77,7 @@ TEST_F(Road, PluginsNo_CancelsTheSubtotal)
         heard.clear();
         done({"answer no"});
         refused(line);
-        EXPECT_EQ(noted("result", "result"), QVariantList({0}));
+        EXPECT_EQ(noted("result", "result"), QVariantList() << 0);
         expect({"state open", "position 1 live"});
     }
 }

@@ -19,7 +19,7 @@ namespace till {
  * A command is done when it is durable. One that cannot be stored leaves the receipt as the last
  * stored command left it.
  */
-class Register : private HostProgram
+class Register final : private HostProgram
 {
 public:
     //! What a register is made of. All must outlive it; `plugin` may be null.
