@@ -56,7 +56,9 @@ bool PackagingControl::stornoAllEmptyTara(const control::Action &action)
             return false; // the host turned to another receipt, whose positions are not these
         arguments.setPositionNumber(tara->posnum);
         MockFactory<DocumentLogic>::create()->stornoPosition(storno);
-        if (receipt->getPositionByPosnum(tara->posnum) || receipt->getPositionList().isEmpty())
+        if (receipt->getPositionByPosnum(tara->posnum))
+            return false;
+        if (receipt->getPositionList().isEmpty())
             return false;
     }
     return true;

@@ -193,6 +193,14 @@ TEST_F(RestlessPayment, TurnsToAnotherReceiptDuringTheQuestion_CancelsAndStornoe
     EXPECT_FALSE(host.journal.contains("storno 2"));
 }
 
+TEST_F(RestlessPayment, SuspendsDuringTheQuestion_GoesOnWithoutAStorno)
+{
+    MockFactory<Dialog>::mocked.reset(new RestlessDialog([this] { plugin.disablePlugin(); }));
+
+    EXPECT_EQ(subtotal(), EContext::Continue);
+    EXPECT_FALSE(host.journal.contains("storno 1"));
+}
+
 TEST_F(RestlessPayment, TurnsToAnotherReceiptDuringTheFirstStorno_CancelsAndAsksForNoOther)
 {
     const auto logic =
