@@ -23,7 +23,7 @@ struct Tally
 std::string compareAtRandom(const RealHost::MakePlugin &makePlugin, std::uint64_t seed, long wanted,
                             Tally &tally);
 
-//! The seed of this run: that of RC_PARAMS, or another one every time.
+//! What chance starts from in this run: what RC_PARAMS says, or another number every time.
 std::uint64_t configuredSeed();
 
 } // namespace model

@@ -12,7 +12,8 @@
 
 /*!
  * Checks \a property, which takes generated arguments or uses `RC_ASSERT`, on at least 2000 cases.
- * A failure shows the smallest case found and the seed; RC_PARAMS="seed=..." runs the same again.
+ * A failure shows the smallest case found and a number; RC_PARAMS="seed=..." with it runs the same
+ * again.
  */
 template <typename Testable>
 void checkProperty(Testable &&property)
