@@ -20,6 +20,7 @@ targets=("receipt 100000 256" "catalogue 95000 256" "till 8000 160")
 
 mkdir -p "$log" "$findings"
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPACKAGINGCONTROL_FUZZ=ON \
+    -DCMAKE_UNITY_BUILD=ON \
     -DCMAKE_CXX_FLAGS="-fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer -O1" \
     >"$log/build.log"
 cmake --build "$build" --target fuzz_receipt fuzz_catalogue fuzz_till >>"$log/build.log" \

@@ -1,5 +1,6 @@
 #include "tests/support/FakeHost.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/Numbers.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TestPlugin.h"
 
@@ -12,11 +13,6 @@
 #include <limits>
 
 namespace {
-
-constexpr double tolerance = 0.0005;
-const double justBelow = std::nextafter(tolerance, 0.0);
-const double justAbove = std::nextafter(tolerance, 1.0);
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 class AdjustTara : public testing::Test
 {
@@ -170,7 +166,7 @@ TEST_F(AdjustTara, CapacityThatIsNotANumber_IsTakenAsItIs)
 {
     const auto tara = plugin.putTara(2, "{a}", 3.0, 1.0);
 
-    plugin.modifyTaraCapacity(tara, nan);
+    plugin.modifyTaraCapacity(tara, notANumber);
 
     EXPECT_TRUE(std::isnan(tara->capacity));
     EXPECT_TRUE(std::isnan(tara->freeCapacity));

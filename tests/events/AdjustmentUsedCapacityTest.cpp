@@ -1,5 +1,6 @@
 #include "tests/support/FakeHost.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/Numbers.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TestPlugin.h"
 
@@ -8,18 +9,9 @@
 
 #include <QtCore/QLocale>
 
-#include <cmath>
-#include <limits>
-
 namespace {
 
 using Used = QMap<QString, double>;
-
-constexpr double tolerance = 0.0005;
-const double justBelow = std::nextafter(tolerance, 0.0);
-const double justAbove = std::nextafter(tolerance, 1.0);
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 //! Tara are numbered from 2 and named {a}, {b} …; the goods are position 9.
 class Placement : public testing::Test
@@ -396,14 +388,14 @@ TEST_F(Placement, NeedThatIsNotANumber_MovesNothing)
 {
     taraWithFree({5, -5});
 
-    EXPECT_EQ(place({{"{b}", 1}}, nan), (Used{{"{b}", 1}}));
+    EXPECT_EQ(place({{"{b}", 1}}, notANumber), (Used{{"{b}", 1}}));
     EXPECT_EQ(freeCapacities(), (QList<double>{5, -5}));
     EXPECT_EQ(log.lines(), QStringList());
 }
 
 TEST_F(Placement, TaraWithFreeThatIsNotANumber_IsPassed)
 {
-    taraWithFree({nan, 5});
+    taraWithFree({notANumber, 5});
 
     EXPECT_EQ(place({}, 2), (Used{{"{b}", 2}}));
 }

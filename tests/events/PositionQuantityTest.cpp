@@ -1,5 +1,6 @@
 #include "tests/support/FakeHost.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/Numbers.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TestPlugin.h"
 
@@ -12,9 +13,6 @@
 #include <limits>
 
 namespace {
-
-constexpr double tolerance = 0.0005;
-const double justBelow = std::nextafter(tolerance, 0.0);
 
 //! Goods of position 3 in a receipt, known to the plugin.
 class PositionQuantity : public testing::Test
@@ -168,7 +166,7 @@ TEST_F(PositionQuantity, JustAboveTheToleranceLeft_IsAChange)
 
 TEST_F(PositionQuantity, QuantityThatIsNotANumber_IsNotAboveTheTolerance)
 {
-    putGoods(3, std::numeric_limits<double>::quiet_NaN());
+    putGoods(3, notANumber);
 
     EXPECT_TRUE(changeBy(1));
     EXPECT_EQ(host.journal.first(), "remove 3");

@@ -1,3 +1,4 @@
+#include "tests/host/Position.h"
 #include "tests/support/Printers.h"
 
 #include "host/Document.h"
@@ -6,12 +7,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-GoodsItemPtr position(int posnum, Tmc::TaraMode mode = Tmc::NoTara,
-                      const QVariant &taraCapacity = QVariant())
-{
-    return GoodsItemPtr::create(posnum, QSharedPointer<Tmc>::create(mode, taraCapacity));
-}
 
 TEST(Position, NewPosition_HasItsNumberAndNothingElse)
 {

@@ -1,7 +1,7 @@
+#include "tests/host/Position.h"
 #include "tests/support/Printers.h"
 
 #include "host/Event.h"
-#include "host/GoodsItem.h"
 #include "host/Tr.h"
 
 #include <gtest/gtest.h>
@@ -11,11 +11,6 @@ namespace {
 using EActivityListener::eventError;
 using EActivityListener::eventPositionAdded;
 using EActivityListener::eventPositionStorno;
-
-GoodsItemPtr position(int posnum)
-{
-    return GoodsItemPtr::create(posnum, QSharedPointer<Tmc>::create());
-}
 
 TEST(EventValue, NewEvent_HasItsCodeAndNoArguments)
 {

@@ -1,7 +1,7 @@
+#include "tests/host/Position.h"
 #include "tests/support/Printers.h"
 
 #include "host/Event.h"
-#include "host/GoodsItem.h"
 #include "host/Quantity.h"
 #include "host/Tr.h"
 
@@ -15,11 +15,6 @@
 #include <functional>
 
 namespace {
-
-GoodsItemPtr position(int posnum)
-{
-    return GoodsItemPtr::create(posnum, QSharedPointer<Tmc>::create());
-}
 
 struct Name
 {

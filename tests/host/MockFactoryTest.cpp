@@ -6,9 +6,9 @@
 namespace {
 
 //! A type of which the host library knows nothing.
-struct UserDefined
+struct Maker
 {
-    virtual ~UserDefined() = default;
+    virtual ~Maker() = default;
     virtual bool isSubstitute() const { return false; }
 };
 
@@ -20,8 +20,8 @@ protected:
     ~Factory() override { MockFactory<T>::mocked.reset(); }
 };
 
-using Types = testing::Types<Dialog, DocumentLogic, UserDefined>;
-TYPED_TEST_SUITE(Factory, Types);
+using FactoryTypes = testing::Types<Dialog, DocumentLogic, Maker>;
+TYPED_TEST_SUITE(Factory, FactoryTypes);
 
 TYPED_TEST(Factory, NoSubstitute_MakesANewObjectEachTime)
 {
@@ -68,19 +68,19 @@ TYPED_TEST(Factory, SubstituteTakenAway_NewObjectsAgain)
     EXPECT_NE(MockFactory<TypeParam>::create(), substitute);
 }
 
-using UserDefinedFactory = Factory<UserDefined>;
+using MakerFactory = Factory<Maker>;
 
-TEST_F(UserDefinedFactory, SubstituteOfASubclass_IsCalled)
+TEST_F(MakerFactory, SubstituteOfASubclass_IsCalled)
 {
-    struct Substitute : UserDefined
+    struct Substitute : Maker
     {
         bool isSubstitute() const override { return true; }
     };
-    EXPECT_FALSE(MockFactory<UserDefined>::create()->isSubstitute());
+    EXPECT_FALSE(MockFactory<Maker>::create()->isSubstitute());
 
-    MockFactory<UserDefined>::mocked.reset(new Substitute);
+    MockFactory<Maker>::mocked.reset(new Substitute);
 
-    EXPECT_TRUE(MockFactory<UserDefined>::create()->isSubstitute());
+    EXPECT_TRUE(MockFactory<Maker>::create()->isSubstitute());
 }
 
 } // namespace

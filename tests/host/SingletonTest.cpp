@@ -30,9 +30,9 @@ protected:
     std::unique_ptr<T> mine = std::make_unique<T>();
 };
 
-using Types = testing::Types<Config, Session, ActivityNotifier, ActionQueueController,
-                             LoyaltySystemLayer, UserDefined>;
-TYPED_TEST_SUITE(Slot, Types);
+using SlotTypes = testing::Types<Config, Session, ActivityNotifier, ActionQueueController,
+                                 LoyaltySystemLayer, UserDefined>;
+TYPED_TEST_SUITE(Slot, SlotTypes);
 
 TYPED_TEST(Slot, Empty_TestsFalse)
 {

@@ -4,7 +4,7 @@
 
 namespace {
 
-const Scene scenes[] = {
+const Scene dataScenes[] = {
     {"RecordsAreSaved",
      [](Shop &shop) -> std::function<void()> {
          shop.fill();
@@ -35,6 +35,6 @@ const Scene scenes[] = {
      }},
 };
 
-INSTANTIATE_SCENES(Data, scenes);
+INSTANTIATE_SCENES(Data, dataScenes);
 
 } // namespace

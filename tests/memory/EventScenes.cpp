@@ -33,7 +33,7 @@ Call changed(Shop &shop, EActivityListener::Event code, int posnum, double quant
     return told(shop, code, posnum);
 }
 
-const Scene scenes[] = {
+const Scene eventScenes[] = {
     {"TaraIsAdded",
      [](Shop &shop) {
          shop.fill();
@@ -116,6 +116,6 @@ const Scene scenes[] = {
      }},
 };
 
-INSTANTIATE_SCENES(Event, scenes);
+INSTANTIATE_SCENES(Event, eventScenes);
 
 } // namespace

@@ -47,7 +47,7 @@ Call subtotal(Shop &shop, control::EActionType type, bool answer)
     return called(shop, ActionTrigger::Before, control::Action(type, {}));
 }
 
-const Scene scenes[] = {
+const Scene triggerScenes[] = {
     {"SharedTaraIsRefused_5",
      [](Shop &shop) {
          shop.fill();
@@ -91,7 +91,7 @@ const Scene scenes[] = {
     {"EmptyTaraIsKept_144", [](Shop &shop) { return subtotal(shop, control::Payment, false); }},
 };
 
-INSTANTIATE_SCENES(Trigger, scenes);
+INSTANTIATE_SCENES(Trigger, triggerScenes);
 
 TEST(SoftCheck, WithoutMemory_SuspendsUnlessItThrows)
 {

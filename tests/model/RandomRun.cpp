@@ -9,7 +9,7 @@ namespace model {
 
 namespace {
 
-std::string toText(const rc::detail::TestResult &result, std::uint64_t seed)
+std::string reportOf(const rc::detail::TestResult &result, std::uint64_t seed)
 {
     std::ostringstream out;
     rc::detail::printResultMessage(result, out);
@@ -33,7 +33,7 @@ std::string compareAtRandom(const RealHost::MakePlugin &makePlugin, std::uint64_
     for (params.seed = seed; tally.commands < wanted; ++params.seed) {
         const auto result = rc::detail::checkTestable(property, rc::detail::TestMetadata(), params);
         if (!result.is<rc::detail::SuccessResult>())
-            return toText(result, params.seed);
+            return reportOf(result, params.seed);
     }
     return {};
 }

@@ -10,10 +10,10 @@ namespace {
 
 const QString allowSaleEmptyTara = QStringLiteral("PackagingControl:allowSaleEmptyTara");
 
-class WatchedPlugin : public TestPlugin
+class PreparedPlugin : public TestPlugin
 {
 public:
-    explicit WatchedPlugin(QStringList &journal)
+    explicit PreparedPlugin(QStringList &journal)
         : m_journal(journal)
     {
     }
@@ -49,7 +49,7 @@ protected:
     RecordingConfig config{journal};
     Installed<ActivityNotifier> installedNotifier{&notifier};
     Installed<Config> installedConfig{&config};
-    WatchedPlugin plugin{journal};
+    PreparedPlugin plugin{journal};
 };
 
 TEST_F(Init, EmptyTaraForbidden_AsksTheHostInOrder)

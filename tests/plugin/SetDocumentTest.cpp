@@ -71,10 +71,10 @@ private:
 };
 
 //! Notes what the plugin holds at the moment in which delivery is enabled.
-class WatchingNotifier : public RecordingNotifier
+class EnableWatcher : public RecordingNotifier
 {
 public:
-    WatchingNotifier(QStringList &journal, const TestPlugin &plugin)
+    EnableWatcher(QStringList &journal, const TestPlugin &plugin)
         : RecordingNotifier(journal)
         , m_plugin(plugin)
     {
@@ -121,7 +121,7 @@ protected:
     FakeHost host;
     LogCapture log;
     WatchedPlugin plugin{journal};
-    WatchingNotifier notifier{journal, plugin};
+    EnableWatcher notifier{journal, plugin};
     Installed<ActivityNotifier> installed{&notifier};
 };
 

@@ -11,10 +11,10 @@ namespace {
 const QString softcheckText =
     QStringLiteral("INFO Добавлен софт-чек или заказ, работа плагина приостановлена");
 
-class WatchedPlugin : public TestPlugin
+class SuspendedPlugin : public TestPlugin
 {
 public:
-    explicit WatchedPlugin(QStringList &journal)
+    explicit SuspendedPlugin(QStringList &journal)
         : m_journal(journal)
     {
     }
@@ -36,10 +36,10 @@ private:
 };
 
 //! Notes whether the plugin has let go of its document when delivery stops.
-class WatchingNotifier : public RecordingNotifier
+class DisableWatcher : public RecordingNotifier
 {
 public:
-    WatchingNotifier(QStringList &journal, const TestPlugin &plugin)
+    DisableWatcher(QStringList &journal, const TestPlugin &plugin)
         : RecordingNotifier(journal)
         , m_plugin(plugin)
     {
@@ -73,8 +73,8 @@ protected:
     QStringList journal;
     FakeHost host;
     LogCapture log;
-    WatchedPlugin plugin{journal};
-    WatchingNotifier notifier{journal, plugin};
+    SuspendedPlugin plugin{journal};
+    DisableWatcher notifier{journal, plugin};
     Installed<ActivityNotifier> installed{&notifier};
 };
 

@@ -1,6 +1,5 @@
 #include "tests/registry/RegistryFixture.h"
-
-#include <limits>
+#include "tests/support/Numbers.h"
 
 namespace {
 
@@ -141,8 +140,7 @@ TEST_F(EmptyTara, TaraWithoutCapacity_IsEmpty)
 
 TEST_F(EmptyTara, CapacityThatIsNotANumber_IsNotEmpty)
 {
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    plugin.putTara(2, "{a}", nan, nan);
+    plugin.putTara(2, "{a}", notANumber, notANumber);
 
     EXPECT_FALSE(plugin.isExistsEmptyTara());
 }

@@ -1,18 +1,12 @@
 #include "tests/registry/RegistryFixture.h"
+#include "tests/support/Numbers.h"
 
-#include <cmath>
 #include <limits>
 
 namespace {
 
 using TaraInfo = PackagingControl::TaraInfo;
 using PackagingInfo = PackagingControl::PackagingInfo;
-
-constexpr double tolerance = 0.0005;
-const double justBelow = std::nextafter(tolerance, 0.0);
-const double justAbove = std::nextafter(tolerance, 1.0);
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TaraInfo record(double capacity, double freeCapacity)
 {
@@ -108,9 +102,9 @@ INSTANTIATE_TEST_SUITE_P(
                     FillRow{0.0, std::numeric_limits<double>::denorm_min(), true, true}));
 
 INSTANTIATE_TEST_SUITE_P(NotNumbers, FillOfTara,
-                         testing::Values(FillRow{nan, nan, false, false},
-                                         FillRow{2.0, nan, false, false},
-                                         FillRow{nan, 0.0, false, true},
+                         testing::Values(FillRow{notANumber, notANumber, false, false},
+                                         FillRow{2.0, notANumber, false, false},
+                                         FillRow{notANumber, 0.0, false, true},
                                          FillRow{infinity, infinity, false, false},
                                          FillRow{infinity, 0.0, false, true}));
 

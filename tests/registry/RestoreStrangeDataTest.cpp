@@ -1,9 +1,9 @@
 #include "tests/registry/RegistryFixture.h"
+#include "tests/support/Numbers.h"
 
 #include <QtCore/QDateTime>
 
 #include <cmath>
-#include <limits>
 
 // The document's data may have been written by anybody. Whatever they are, they become records.
 
@@ -11,9 +11,6 @@ namespace {
 
 using TaraInfo = PackagingControl::TaraInfo;
 using PackagingInfo = PackagingControl::PackagingInfo;
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 //! A list in a list, \a depth times.
 QVariant nestedLists(int depth)
@@ -82,8 +79,8 @@ TEST_P(WhereAListBelongs, AnythingElseForTara_DoesNotTouchTheGoods)
 
 INSTANTIATE_TEST_SUITE_P(Values, WhereAListBelongs,
                          testing::Values(Strange{"invalid", QVariant()}, Strange{"int", 5},
-                                         Strange{"double", 1.5}, Strange{"not a number", nan},
-                                         Strange{"bool", true},
+                                         Strange{"double", 1.5},
+                                         Strange{"not a number", notANumber}, Strange{"bool", true},
                                          Strange{"map", QVariantMap{{"posnum", 5}}},
                                          Strange{"time", QDateTime()},
                                          Strange{"object", QVariant::fromValue<QObject *>(nullptr)},
@@ -236,9 +233,10 @@ class RestoreStrangeData : public Registry
 
 TEST_F(RestoreStrangeData, NotANumber_StaysNotANumber)
 {
-    restoreFrom("taraInfo", QVariantList{QVariantMap{{"capacity", nan}, {"freeCapacity", nan}}});
+    restoreFrom("taraInfo",
+                QVariantList{QVariantMap{{"capacity", notANumber}, {"freeCapacity", notANumber}}});
     restoreFrom("packagingInfo",
-                QVariantList{QVariantMap{{"usedTara", QVariantMap{{"{a}", nan}}}}});
+                QVariantList{QVariantMap{{"usedTara", QVariantMap{{"{a}", notANumber}}}}});
 
     EXPECT_TRUE(std::isnan(plugin.taraList.at(0)->capacity));
     EXPECT_TRUE(std::isnan(plugin.taraList.at(0)->freeCapacity));
@@ -329,7 +327,7 @@ TEST_F(RestoreStrangeData, HugeUsedTara_ComesBackWhole)
 TEST_F(RestoreStrangeData, NumbersBeyondAnInt_DoNotStopTheRest)
 {
     for (const QVariant &number :
-         {QVariant(nan), QVariant(infinity), QVariant(1e300), QVariant(qlonglong(1) << 40)})
+         {QVariant(notANumber), QVariant(infinity), QVariant(1e300), QVariant(qlonglong(1) << 40)})
         restoreFrom("taraInfo",
                     QVariantList{QVariantMap{{"posnum", number}, {"id", "{a}"}, {"capacity", 1}}});
 
@@ -340,8 +338,9 @@ TEST_F(RestoreStrangeData, NumbersBeyondAnInt_DoNotStopTheRest)
 
 TEST_F(RestoreStrangeData, StrangeRecords_CanBeWorkedWith)
 {
-    restoreFrom("taraInfo", QVariantList{QVariantMap{{"capacity", nan}, {"freeCapacity", nan}}, 7,
-                                         QVariantMap{{"posnum", 2}, {"freeCapacity", infinity}}});
+    restoreFrom("taraInfo",
+                QVariantList{QVariantMap{{"capacity", notANumber}, {"freeCapacity", notANumber}}, 7,
+                             QVariantMap{{"posnum", 2}, {"freeCapacity", infinity}}});
     restoreFrom("packagingInfo", QVariantList{QVariantMap{{"posnum", 3}}, QVariant()});
 
     plugin.modifyPackagingUsedCapacity(plugin.packagingList[0], 5.0);

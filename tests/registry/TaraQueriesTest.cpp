@@ -1,7 +1,5 @@
 #include "tests/registry/RegistryFixture.h"
-
-#include <cmath>
-#include <limits>
+#include "tests/support/Numbers.h"
 
 namespace {
 
@@ -63,7 +61,7 @@ TEST_F(TaraShared, EntryOfValueZero_Counts)
 TEST_F(TaraShared, EntriesBelowZeroAndNotANumber_Count)
 {
     plugin.putGoods(3, {{"{a}", -1.0}});
-    plugin.putGoods(4, {{"{a}", std::numeric_limits<double>::quiet_NaN()}});
+    plugin.putGoods(4, {{"{a}", notANumber}});
 
     EXPECT_TRUE(isShared());
 }
@@ -161,8 +159,6 @@ TEST_P(TaraPartlyFilled, IsNeitherEmptyNorFull)
     EXPECT_EQ(plugin.isTaraPartialFilled(tara(2, 1.0)), GetParam().partly);
 }
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-
 INSTANTIATE_TEST_SUITE_P(Rows, TaraPartlyFilled,
                          testing::Values(PartRow{1.0, 1.0, false}, PartRow{1.0, 0.0, false},
                                          PartRow{1.0, 0.5, true}, PartRow{1.0, 0.9996, false},
@@ -170,10 +166,10 @@ INSTANTIATE_TEST_SUITE_P(Rows, TaraPartlyFilled,
                                          PartRow{1.0, 0.001, true}, PartRow{1.0, -0.0004, false},
                                          PartRow{1.0, -0.001, true}, PartRow{1.0, -5.0, true},
                                          PartRow{1.0, 1.5, true}, PartRow{0.0, 0.0, false},
-                                         PartRow{1.0, 0.0005, true},
-                                         PartRow{1.0, std::nextafter(0.0005, 0.0), false},
-                                         PartRow{0.001, 0.0005, true}, PartRow{1.0, nan, true},
-                                         PartRow{nan, 0.0, false}));
+                                         PartRow{1.0, 0.0005, true}, PartRow{1.0, justBelow, false},
+                                         PartRow{0.001, 0.0005, true},
+                                         PartRow{1.0, notANumber, true},
+                                         PartRow{notANumber, 0.0, false}));
 
 class TaraPartlyFilledQuery : public Registry
 {

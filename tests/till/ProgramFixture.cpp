@@ -4,12 +4,6 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QProcessEnvironment>
 
-namespace {
-
-constexpr int patience = 60'000; // milliseconds, for a program that hangs
-
-} // namespace
-
 QString ProgramTest::write(const QString &name, const QByteArray &contents) const
 {
     QFile file(path(name));

@@ -12,6 +12,8 @@
 
 #include <string>
 
+constexpr int patience = 60'000; //!< milliseconds, for a program that hangs
+
 //! What a run of the program left.
 struct RunResult
 {

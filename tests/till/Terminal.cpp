@@ -1,5 +1,7 @@
 #include "tests/till/Terminal.h"
 
+#include "tests/till/ProgramFixture.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -10,8 +12,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr int patience = 60'000; // milliseconds, for a program that hangs
 
 [[noreturn]] void become(const std::string &program, const std::vector<std::string> &arguments,
                          const std::string &home)

@@ -36,7 +36,7 @@ MATCHER_P(IsOnPosition, posnum, "")
     return control::args::Core(arg).positionNumber() == posnum;
 }
 
-class MockDocumentLogic : public DocumentLogic
+class CountedDocumentLogic : public DocumentLogic
 {
 public:
     MOCK_METHOD(bool, stornoPosition, (const control::Action &), (override));
@@ -68,8 +68,8 @@ protected:
 
     const QSharedPointer<testing::StrictMock<MockDocument>> receipt{
         new testing::StrictMock<MockDocument>};
-    const QSharedPointer<testing::StrictMock<MockDocumentLogic>> logic{
-        new testing::StrictMock<MockDocumentLogic>};
+    const QSharedPointer<testing::StrictMock<CountedDocumentLogic>> logic{
+        new testing::StrictMock<CountedDocumentLogic>};
     const GoodsItemPtr someone = GoodsItemPtr::create(90, QSharedPointer<Tmc>::create());
 };
 
