@@ -1,6 +1,8 @@
 #include "bench/Pairs.h"
 #include "bench/Records.h"
 
+#include <log4qt/logger.h>
+
 #include <cmath>
 #include <utility>
 
@@ -10,7 +12,8 @@ namespace {
 
 using Taras = QList<QSharedPointer<TaraInfo>>;
 
-//! First fit, and nothing else.
+//! First fit.
+template <Floor Kind>
 void fill(const Taras &taras, PackagingInfo &info, double quantity)
 {
     constexpr double tolerance = 0.0005;
@@ -23,6 +26,10 @@ void fill(const Taras &taras, PackagingInfo &info, double quantity)
         if (!(tara->freeCapacity > tolerance && delta > tolerance))
             continue;
         const double amount = tara->freeCapacity < delta ? tara->freeCapacity : delta;
+        if constexpr (Kind == Floor::WithLogLines)
+            logger().info(
+                QStringLiteral("Изменение использованной позицией %1 ёмкости тары %2 на %3"),
+                info.posnum, tara->posnum, toLogText(amount));
         tara->freeCapacity -= amount;
         info.usedTara[tara->id] += amount;
         delta -= amount;
@@ -49,6 +56,7 @@ bool equal(const Taras &left, const Taras &right)
 }
 
 //! Goods that find room in the last tara only; each call pours in one unit more.
+template <Floor Kind>
 class FillLast
 {
 public:
@@ -61,7 +69,7 @@ public:
     }
 
     void measured() { m_plugin.modifyPackagingUsedCapacity(m_info, ++m_poured); }
-    void byHand() { fill(m_byHand, m_infoByHand, ++m_pouredByHand); }
+    void byHand() { fill<Kind>(m_byHand, m_infoByHand, ++m_pouredByHand); }
 
     bool same()
     {
@@ -82,6 +90,7 @@ private:
 };
 
 //! Goods that fill all n taras.
+template <Floor Kind>
 class FillAll
 {
 public:
@@ -92,7 +101,7 @@ public:
     }
 
     void measured() { m_plugin.modifyPackagingUsedCapacity(m_info, ocean); }
-    void byHand() { fill(m_byHand, m_infoByHand, ocean); }
+    void byHand() { fill<Kind>(m_byHand, m_infoByHand, ocean); }
 
     void rearm()
     {
@@ -127,10 +136,14 @@ private:
 
 void addFills(Pairs &pairs)
 {
-    for (const int n : {10, 100, 1000})
-        addPair<FillLast>(pairs, "fillLast", n, 100);
-    for (const int n : {10, 100})
-        addPair<FillAll>(pairs, "fillAll", n, 10);
+    for (const int n : {10, 100, 1000}) {
+        addPair<FillLast<Floor::Bare>>(pairs, "fillLast", n, 100);
+        addPair<FillLast<Floor::WithLogLines>>(pairs, "fillLastLogged", n, 100);
+    }
+    for (const int n : {10, 100}) {
+        addPair<FillAll<Floor::Bare>>(pairs, "fillAll", n, 10);
+        addPair<FillAll<Floor::WithLogLines>>(pairs, "fillAllLogged", n, 10);
+    }
 }
 
 } // namespace bench

@@ -1,5 +1,8 @@
 #include "bench/Records.h"
 
+#include <log4qt/logger.h>
+#include <log4qt/logmanager.h>
+
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
 #include <QtCore/QUuid>
@@ -51,6 +54,18 @@ Records::Records(int n)
         taras.push_back({posnum, id, isFirst ? 2 * half : half, isLast ? half : 0.0});
         goods.push_back({posnum + 1, {{isLast ? taras.front().id : id, half}}});
     }
+}
+
+Log4Qt::Logger &logger()
+{
+    static Log4Qt::Logger &packaging =
+        *Log4Qt::LogManager::logger(QString::fromLatin1("packaging"));
+    return packaging;
+}
+
+QString toLogText(double value)
+{
+    return QString::number(value, 'f', 3);
 }
 
 QByteArray toBytes(const Document &document)

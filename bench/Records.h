@@ -8,6 +8,10 @@
 
 #include <vector>
 
+namespace Log4Qt {
+class Logger;
+}
+
 namespace bench {
 
 using TaraInfo = PackagingControl::TaraInfo;
@@ -36,6 +40,15 @@ struct Records
     std::vector<TaraInfo> taras;
     std::vector<PackagingInfo> goods;
 };
+
+//! Whether the work by hand writes the plugin's log lines too.
+enum class Floor { Bare, WithLogLines };
+
+//! The logger that the plugin writes to.
+Log4Qt::Logger &logger();
+
+//! \a value as the plugin's log lines show it.
+QString toLogText(double value);
 
 //! A tree of variants as bytes, in which differences of types show too.
 QByteArray toBytes(const Document &document);

@@ -2,6 +2,8 @@
 #include "bench/Records.h"
 #include "host/Event.h"
 
+#include <log4qt/logger.h>
+
 namespace bench {
 
 namespace {
@@ -55,6 +57,7 @@ private:
 };
 
 //! The last tara, which is empty, becomes one piece more and one less in turn. This is logged.
+template <Floor Kind>
 class TaraResize
 {
 public:
@@ -76,7 +79,11 @@ public:
     void byHand()
     {
         TaraInfo &tara = m_records.taras.back();
-        tara.capacity = 1.5 - tara.capacity;
+        const double capacity = 1.5 - tara.capacity;
+        if constexpr (Kind == Floor::WithLogLines)
+            logger().info(QStringLiteral("Изменение ёмкости тары %1 -> %2"),
+                          toLogText(tara.capacity), toLogText(capacity));
+        tara.capacity = capacity;
         tara.freeCapacity = tara.capacity;
         store(m_records, *m_byHand);
     }
@@ -104,7 +111,9 @@ void addSaves(Pairs &pairs)
     for (const int n : {10, 100, 1000})
         addPair<GoodsShrink>(pairs, "save", n, 20);
     for (const int n : {10, 100, 1000})
-        addPair<TaraResize>(pairs, "resize", n, 20);
+        addPair<TaraResize<Floor::Bare>>(pairs, "resize", n, 20);
+    for (const int n : {10, 100, 1000})
+        addPair<TaraResize<Floor::WithLogLines>>(pairs, "resizeLogged", n, 20);
 }
 
 } // namespace bench

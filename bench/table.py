@@ -144,6 +144,9 @@ def make_table(sides):
     for n in (10, 100, 1000):
         table.add(f"the same for an event that also writes a log line, {n:,} records",
                   f"resize/{n}", 1.15, spare_allocations=2)
+    for n in (10, 100, 1000):
+        table.add(f"the same, where the floor writes the log line too, {n:,} records",
+                  f"resizeLogged/{n}", 1.15, spare_allocations=2)
     table.add_growth("growth of the first from 10 to 1,000 records, over the floor's growth",
                      "save", 10, 1000, 1.05)
     for title, name in (("event of another code", "otherEvent"),
@@ -158,6 +161,12 @@ def make_table(sides):
                   f"fillLast/{n}", 1.3)
     for n in (10, 100):
         table.add(f"fill of all {n:,} taras, over a bare loop", f"fillAll/{n}", 1.3)
+    for n in (10, 100, 1000):
+        table.add(f"fill past full taras into the last of {n:,}, over a loop that writes the log "
+                  "line too", f"fillLastLogged/{n}", 1.3)
+    for n in (10, 100):
+        table.add(f"fill of all {n:,} taras, over a loop that writes the log lines too",
+                  f"fillAllLogged/{n}", 1.3)
     table.add("load and instance, over an empty plugin", "load/1", 1.1)
     table.add_size("stripped plugin file", "PackagingControl.stripped", 96)
     for n in (10, 100, 1000):

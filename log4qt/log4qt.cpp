@@ -76,17 +76,22 @@ QString Logger::name() const
     return QString::fromUtf8(m_name);
 }
 
+bool Logger::isEnabledFor(Level level) const
+{
+    return !m_appenders.isEmpty() || isPrinted(level);
+}
+
 void Logger::info(const QString &message)
 {
     append(Level::INFO_INT, message);
-    if (m_category.isInfoEnabled())
+    if (isPrinted(Level::INFO_INT))
         print(QtInfoMsg, message);
 }
 
 void Logger::error(const QString &message)
 {
     append(Level::ERROR_INT, message);
-    if (m_category.isCriticalEnabled())
+    if (isPrinted(Level::ERROR_INT))
         print(QtCriticalMsg, message);
 }
 
@@ -109,6 +114,11 @@ void Logger::append(Level level, const QString &message) const
     const auto appenders = m_appenders; // an appender may add or remove appenders
     for (const auto &appender : appenders)
         appender->doAppend(event);
+}
+
+bool Logger::isPrinted(Level level) const
+{
+    return level == Level::ERROR_INT ? m_category.isCriticalEnabled() : m_category.isInfoEnabled();
 }
 
 // Not through QDebug, which prints in its destructor: out of memory there, the process would end.

@@ -26,22 +26,29 @@ public:
 
     QString name() const;
 
+    //! Whether anybody receives what is logged at \a level: an appender, or the category's output.
+    bool isEnabledFor(Level level) const;
+
     //! Logs \a message at info level.
     void info(const QString &message);
-    //! Logs \a format at info level, %1 to %9 replaced by \a arguments, one after the other.
+    //! Logs \a format at info level, %1 to %9 replaced by the arguments, one after the other;
+    //! not put together when nobody receives it.
     template <typename First, typename... More>
     void info(const QString &format, const First &first, const More &...more)
     {
-        info(filled(format, first, more...));
+        if (isEnabledFor(Level::INFO_INT))
+            info(filled(format, first, more...));
     }
 
     //! Logs \a message at error level.
     void error(const QString &message);
-    //! Logs \a format at error level, %1 to %9 replaced by \a arguments, one after the other.
+    //! Logs \a format at error level, %1 to %9 replaced by the arguments, one after the other;
+    //! not put together when nobody receives it.
     template <typename First, typename... More>
     void error(const QString &format, const First &first, const More &...more)
     {
-        error(filled(format, first, more...));
+        if (isEnabledFor(Level::ERROR_INT))
+            error(filled(format, first, more...));
     }
 
     //! Adds \a appender behind those added before; the logger shares it. Adding it twice has no
@@ -57,6 +64,7 @@ private:
         ((format = format.arg(arguments)), ...);
         return format;
     }
+    bool isPrinted(Level level) const;
     void append(Level level, const QString &message) const;
     void print(QtMsgType type, const QString &message) const;
 

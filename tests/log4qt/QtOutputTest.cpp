@@ -44,6 +44,23 @@ TEST_F(QtOutput, WithoutAnAppender_IsPrintedToo)
     EXPECT_EQ(printed(), QStringList{"log4qt_test.loud|info|line"});
 }
 
+TEST_F(QtOutput, Level_IsEnabledForWhoeverReceivesIt)
+{
+    auto *logger = Log4Qt::LogManager::logger("log4qt_test.loud");
+    EXPECT_TRUE(logger->isEnabledFor(Log4Qt::Level::INFO_INT));
+    EXPECT_TRUE(logger->isEnabledFor(Log4Qt::Level::ERROR_INT));
+
+    QLoggingCategory::setFilterRules("log4qt_test.loud.info=false");
+    EXPECT_FALSE(logger->isEnabledFor(Log4Qt::Level::INFO_INT));
+    EXPECT_TRUE(logger->isEnabledFor(Log4Qt::Level::ERROR_INT));
+
+    const Log4Qt::AppenderSharedPtr appender(new JournalAppender("-", journal));
+    logger->addAppender(appender);
+    EXPECT_TRUE(logger->isEnabledFor(Log4Qt::Level::INFO_INT));
+    logger->removeAppender(appender);
+    EXPECT_FALSE(logger->isEnabledFor(Log4Qt::Level::INFO_INT));
+}
+
 TEST_F(QtOutput, Text_IsNeitherQuotedNorEscaped)
 {
     Log4Qt::LogManager::logger("log4qt_test.loud")->info("\"тара\"\t%1 ", QString("\\"));
