@@ -72,7 +72,8 @@ public:
 
     //! Logger "packaging", object name "PackagingControl", no records. Asks nothing of the host.
     PackagingControl();
-    //! Releases the records. Does not save, unsubscribe or unregister anything.
+    //! Releases the records. Does not save, unsubscribe or unregister anything. Not while one of
+    //! the plugin's operations runs: it still needs the object when the host returns.
     ~PackagingControl() override;
 
 public Q_SLOTS:

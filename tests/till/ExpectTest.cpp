@@ -152,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
         Expectation{"TooManyStates", "", "state open closed",
                     "usage: expect state none|open|subtotal|closed|cancelled"},
         Expectation{"NoNumber", "", "tara 1 free",
-                    "\"\" is not a number with at most three decimals (1.5 or 1,5)"}),
+                    "a number with at most three decimals (1.5 or 1,5) is missing"}),
     nameOf);
 
 class ExpectHeard : public TillTest

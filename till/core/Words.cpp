@@ -4,6 +4,18 @@
 
 namespace till {
 
+namespace {
+
+//! The mistake of a \a word that is not \a what, or that is missing.
+Outcome notA(const char *what, const QString &word)
+{
+    if (word.isEmpty())
+        return Outcome::mistake(QString("%1 is missing").arg(what));
+    return Outcome::mistake(QString("\"%1\" is not %2").arg(word, what));
+}
+
+} // namespace
+
 std::optional<QStringList> splitWords(const QString &line)
 {
     const QString trimmed = line.trimmed();
@@ -23,18 +35,17 @@ std::optional<int> parsePosnum(const QString &word)
 
 Outcome notAPosition(const QString &word)
 {
-    return Outcome::mistake("\"" + word + "\" is not a position number");
+    return notA("a position number", word);
 }
 
 Outcome notANumber(const QString &word)
 {
-    return Outcome::mistake("\"" + word
-                            + "\" is not a number with at most three decimals (1.5 or 1,5)");
+    return notA("a number with at most three decimals (1.5 or 1,5)", word);
 }
 
 Outcome notMoney(const QString &word)
 {
-    return Outcome::mistake("\"" + word + "\" is not an amount of money (12.50 or 12,50)");
+    return notA("an amount of money (12.50 or 12,50)", word);
 }
 
 Outcome notOneOf(const QString &word, const QStringList &allowed)
