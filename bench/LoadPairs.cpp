@@ -30,8 +30,9 @@ public:
 private:
     void load(const char *path)
     {
-        m_loader.emplace(QString::fromUtf8(path));
-        m_loader->setLoadHints({}); // or Qt would keep the library for ever
+        m_loader.emplace();
+        m_loader->setLoadHints({}); // first, or Qt would keep the library for ever
+        m_loader->setFileName(QString::fromUtf8(path));
         m_object = m_loader->instance();
     }
 
