@@ -25,9 +25,9 @@ bool confirmsStorno()
 EContext::Result PackagingControl::beforeSubtotal(const control::Action &action)
 {
     // While suspended the records are those of an earlier receipt, about which nobody may be asked.
-    const auto receipt = document;
-    if (!receipt || !isExistsEmptyTara())
+    if (!document || !isExistsEmptyTara())
         return EContext::Continue;
+    const auto receipt = document; // the host may turn to another one during the question
     if (!confirmsStorno())
         return EContext::Cancel;
     // An answer about this receipt is none about another that the host turned to meanwhile.

@@ -33,17 +33,6 @@ bool isStorable(const LineRecord &line)
            && !std::isnan(line.article.taraCapacity) && !std::isnan(line.article.pack);
 }
 
-//! True when both surely are the same list, which tells without a look at the elements.
-bool isSameList(const QVariant &left, const QVariant &right)
-{
-    if (left.typeId() != QMetaType::QVariantList || right.typeId() != QMetaType::QVariantList)
-        return false;
-    const QVariantList leftList = left.toList();
-    const QVariantList rightList = right.toList();
-    return leftList.size() == rightList.size() && leftList.constData() == rightList.constData()
-           && !leftList.isEmpty();
-}
-
 QString nameOf(qint64 receiptId)
 {
     return receiptId == 0 ? QStringLiteral("the new receipt")
@@ -130,7 +119,6 @@ bool writeValue(Database &database, const QVariantList &receiptPluginKey, const 
             QStringLiteral("the data of plugin \"%1\" under \"%2\" hold a value "
                            "of type \"%3\", which cannot be stored")
                 .arg(receiptPluginKey[1].toString(), receiptPluginKey[2].toString(), culprit));
-    // Not the variants are compared, for those that differ in type or sign may count as equal.
     if (bytes->digest == digest)
         return true;
     digest = bytes->digest;
@@ -150,7 +138,7 @@ bool writePluginData(Database &database, StoredReceipt &next, const StoredReceip
         for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry) {
             QByteArray &digest = digests[entry.key()];
             digest = lastDigests.value(entry.key());
-            if (!isSameList(entry.value(), lastData.value(entry.key()))
+            if (!VariantBytes::areSurelySame(entry.value(), lastData.value(entry.key()))
                 && !writeValue(database,
                                {next.record.id, stored(plugin.key()), stored(entry.key())},
                                entry.value(), digest))

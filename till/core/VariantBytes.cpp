@@ -8,6 +8,8 @@
 #include <QtCore/QSequentialIterable>
 #include <QtCore/QStringList>
 
+#include <algorithm>
+#include <bit>
 #include <utility>
 
 namespace till {
@@ -15,6 +17,13 @@ namespace till {
 namespace {
 
 constexpr auto StreamVersion = QDataStream::Qt_6_4;
+
+//! What \a value holds, which must be of that type.
+template <typename Type>
+const Type &held(const QVariant &value)
+{
+    return *static_cast<const Type *>(value.constData());
+}
 
 //! Looks at every value of a tree: which types it needs, and which one cannot be written.
 class Survey
@@ -49,17 +58,17 @@ private:
     {
         switch (type) {
         case QMetaType::QVariant:
-            return visit(*static_cast<const QVariant *>(value.constData()));
+            return visit(held<QVariant>(value));
         case QMetaType::QVariantPair:
             visit(static_cast<const std::pair<QVariant, QVariant> *>(value.constData())->first);
             return visit(
                 static_cast<const std::pair<QVariant, QVariant> *>(value.constData())->second);
         case QMetaType::QVariantList:
-            return visitAll(*static_cast<const QVariantList *>(value.constData()));
+            return visitAll(held<QVariantList>(value));
         case QMetaType::QVariantMap:
-            return visitAll(*static_cast<const QVariantMap *>(value.constData()));
+            return visitAll(held<QVariantMap>(value));
         case QMetaType::QVariantHash:
-            return visitAll(*static_cast<const QVariantHash *>(value.constData()));
+            return visitAll(held<QVariantHash>(value));
         default:
             if (type > QMetaType::LastCoreType)
                 visitContainer(value);
@@ -89,6 +98,30 @@ private:
     }
 };
 
+bool areSame(const QString &left, const QString &right)
+{
+    return left == right && left.isNull() == right.isNull();
+}
+
+bool areSame(const QVariantList &left, const QVariantList &right)
+{
+    return left.size() == right.size()
+           && (left.constData() == right.constData()
+               || std::equal(left.cbegin(), left.cend(), right.cbegin(),
+                             VariantBytes::areSurelySame));
+}
+
+bool areSame(const QVariantMap &left, const QVariantMap &right)
+{
+    const auto isSameEntry = [](const auto &one, const auto &other) {
+        return areSame(one.first, other.first)
+               && VariantBytes::areSurelySame(one.second, other.second);
+    };
+    return left.size() == right.size()
+           && std::equal(left.constKeyValueBegin(), left.constKeyValueEnd(),
+                         right.constKeyValueBegin(), isSameEntry);
+}
+
 bool isKnown(const QString &typeName)
 {
     const QMetaType type = QMetaType::fromName(typeName.toLatin1());
@@ -114,6 +147,29 @@ std::optional<VariantBytes> VariantBytes::of(const QVariant &value, QString *cul
         return std::nullopt;
     }
     return stored;
+}
+
+bool VariantBytes::areSurelySame(const QVariant &left, const QVariant &right)
+{
+    if (left.metaType() != right.metaType() || left.isNull() != right.isNull())
+        return false;
+    switch (left.typeId()) {
+    case QMetaType::Bool:
+        return held<bool>(left) == held<bool>(right);
+    case QMetaType::Int:
+        return held<int>(left) == held<int>(right);
+    case QMetaType::Double: // by its bits: a zero has a sign, and what is no number equals itself
+        return std::bit_cast<quint64>(held<double>(left))
+               == std::bit_cast<quint64>(held<double>(right));
+    case QMetaType::QString:
+        return areSame(held<QString>(left), held<QString>(right));
+    case QMetaType::QVariantList:
+        return areSame(held<QVariantList>(left), held<QVariantList>(right));
+    case QMetaType::QVariantMap:
+        return areSame(held<QVariantMap>(left), held<QVariantMap>(right));
+    default:
+        return false;
+    }
 }
 
 std::optional<QVariant> VariantBytes::value(QString *reason) const
