@@ -28,6 +28,12 @@ gcovr --root . --json "$build/plugin.json" --gcov-ignore-parse-errors \
 gcovr --root . --json "$build/all.json" --gcov-ignore-parse-errors \
     --filter 'host/' --filter 'till/' "$build"
 
+# What is left out of the count would not be covered.
+if git grep -nE '(GCOV|GCOVR|LCOV)_(EXCL|UNCOVERED)' -- '*.cpp' '*.h'; then
+    echo "Lines are left out of the coverage." >&2
+    exit 1
+fi
+
 failed=0
 # measure NAME FILE FILTER GCOVR-OPTIONS...: one row of the table; fails below the limits given.
 measure() {

@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets with sanitizers and runs them from the corpus in the tree. Any finding
-# fails, and its input stays in build/fuzz/findings. The number of runs goes to build/figures.txt.
+# fails, and its input stays in build/fuzz/findings.
 #
-#   scripts/fuzz.sh             about 200,000 runs, as CI does
+#   scripts/fuzz.sh             as CI does: 200,000 runs of the plugin, fewer of the till's readers
 #   scripts/fuzz.sh FACTOR      FACTOR times as many
 #   scripts/fuzz.sh --renew     keeps what the runs in build/fuzz/new found, minimised, as the corpus
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/dependencies.sh
 . scripts/dependencies.sh
+# shellcheck source=scripts/figures.sh
+. scripts/figures.sh
 
 need_packages "${build_packages[@]}" "${check_packages[@]}"
 build=build/fuzz
@@ -16,7 +18,7 @@ log=$build/logs
 findings=$build/findings
 
 # Name, runs and longest input of each target.
-targets=("receipt 100000 256" "catalogue 95000 256" "till 8000 160")
+targets=("receipt 200000 256" "catalogue 50000 256" "till 8000 160")
 
 mkdir -p "$log" "$findings"
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPACKAGINGCONTROL_FUZZ=ON \
@@ -60,20 +62,17 @@ for target in "${targets[@]}"; do
 done
 
 failed=0
-total=0
 for index in "${!targets[@]}"; do
-    read -r name _ <<<"${targets[$index]}"
+    read -r name wanted _ <<<"${targets[$index]}"
     if wait "${pids[$index]}"; then
         runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log/$name.log")
-        echo "fuzz_$name: $runs runs, no finding"
-        total=$((total + runs))
+        figure "Fuzzing, $name" "$runs runs, no finding"
+        # A target that ended by itself, before its time, found nothing because it did not look.
+        [ "$runs" -ge "$((wanted * factor))" ] || failed=1
     else
         failed=1
         tail -n 60 "$log/$name.log" >&2
         echo "fuzz_$name: a finding; its input is in $findings, the report in $log/$name.log" >&2
     fi
 done
-[ "$failed" -eq 0 ] || exit 1
-echo "fuzz: $total runs"
-mkdir -p build
-printf 'fuzz\t%s\n' "$total" >>build/figures.txt
+exit "$failed"

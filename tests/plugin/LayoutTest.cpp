@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 #include <log4qt/logger.h>
 
+#include <cstddef>
 #include <type_traits>
 
-// Where the parts of an object lie, as callers that were built earlier know it.
+// Where the parts of an object lie, as callers that were built earlier know it; on machines of
+// 64 bits.
 
 namespace {
 
@@ -42,6 +44,38 @@ TEST_F(Layout, Bases_FollowEachOtherInOrder)
     EXPECT_EQ(listener(), 0);
     EXPECT_EQ(basicPlugin(), std::ptrdiff_t(sizeof(BaseActivityListener)));
     EXPECT_EQ(watcher(), basicPlugin() + std::ptrdiff_t(sizeof(BasicPlugin)));
+}
+
+// In numbers too, as a base that grows would take the rest along.
+TEST_F(Layout, Sizes_AreTheContracts)
+{
+    EXPECT_EQ(sizeof(BaseActivityListener), 16U);
+    EXPECT_EQ(sizeof(BasicPlugin), 48U);
+    EXPECT_EQ(sizeof(DocumentWatcher), 24U);
+    EXPECT_EQ(offset(plugin.taraList), 88);
+    EXPECT_EQ(offset(plugin.packagingList), 112);
+    EXPECT_EQ(offset(plugin.logger), 136);
+    EXPECT_EQ(sizeof(PackagingControl), 144U);
+}
+
+TEST_F(Layout, TaraRecord_HasItsMembersInOrder)
+{
+    using TaraInfo = PackagingControl::TaraInfo;
+
+    EXPECT_EQ(offsetof(TaraInfo, posnum), 0U);
+    EXPECT_EQ(offsetof(TaraInfo, id), 8U);
+    EXPECT_EQ(offsetof(TaraInfo, capacity), 32U);
+    EXPECT_EQ(offsetof(TaraInfo, freeCapacity), 40U);
+    EXPECT_EQ(sizeof(TaraInfo), 48U);
+}
+
+TEST_F(Layout, GoodsRecord_HasItsMembersInOrder)
+{
+    using PackagingInfo = PackagingControl::PackagingInfo;
+
+    EXPECT_EQ(offsetof(PackagingInfo, posnum), 0U);
+    EXPECT_EQ(offsetof(PackagingInfo, usedTara), 8U);
+    EXPECT_EQ(sizeof(PackagingInfo), 16U);
 }
 
 TEST_F(Layout, ListenerBase_AddsNothingToAnObject)

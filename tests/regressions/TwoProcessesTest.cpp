@@ -37,9 +37,16 @@ using Variables = QMap<QString, QString>;
 
 //! Hashes in the same order every time, and nothing of a place or a language.
 const Variables plainMachine{{"QT_HASH_SEED", "0"}, {"TZ", "UTC"}, {"LC_ALL", "C.UTF-8"}};
-//! Hashes in an order of their own; numbers are written with a comma here, and it is another day.
-const Variables germanMachine{{"TZ", "Pacific/Kiritimati"}, {"LANG", "de_DE.UTF-8"}};
-const Variables russianMachine{{"TZ", "America/Los_Angeles"}, {"LANG", "ru_RU.UTF-8"}};
+//! Hashes in an order of their own, memory elsewhere; numbers are written with a comma here, by the
+//! C library too, and it is another day.
+const Variables germanMachine{{"TZ", "Pacific/Kiritimati"},
+                              {"LANG", "de_DE.UTF-8"},
+                              {"LOCPATH", LOCALES},
+                              {"GLIBC_TUNABLES", "glibc.malloc.mmap_threshold=64"}};
+const Variables russianMachine{{"TZ", "America/Los_Angeles"},
+                               {"LANG", "ru_RU.UTF-8"},
+                               {"LOCPATH", LOCALES},
+                               {"GLIBC_TUNABLES", "glibc.malloc.tcache_count=0"}};
 
 //! What the till prints when it plays \a script in a process with these variables.
 QByteArray play(const std::string &script, const Variables &variables, const QStringList &options)
@@ -93,7 +100,12 @@ QByteArrayList traceOf(const std::string &script, const Variables &variables)
     const auto lines = play(script, variables, {"--trace", "-"}).split('\n');
     for (const QByteArray &line : lines) {
         // Read again after the renaming, as keys are sorted.
-        auto note = QJsonDocument::fromJson(rename(QString::fromUtf8(line)).toUtf8()).object();
+        if (line.isEmpty())
+            continue;
+        QJsonParseError error;
+        auto note =
+            QJsonDocument::fromJson(rename(QString::fromUtf8(line)).toUtf8(), &error).object();
+        EXPECT_EQ(error.error, QJsonParseError::NoError) << line.toStdString();
         note.remove("database");
         notes.append(QJsonDocument(note).toJson(QJsonDocument::Compact));
     }
@@ -133,6 +145,27 @@ void compare(const QByteArrayList &one, const QByteArrayList &other)
     ASSERT_EQ(one.size(), other.size());
     for (qsizetype line = 0; line < one.size(); ++line)
         ASSERT_EQ(one[line].toStdString(), other[line].toStdString()) << "line " << line + 1;
+}
+
+//! The decimal separator of the C library in a process with these variables.
+std::string decimalPoint(const Variables &variables)
+{
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (auto variable = variables.cbegin(); variable != variables.cend(); ++variable)
+        environment.insert(variable.key(), variable.value());
+    environment.remove("LC_ALL");
+    environment.remove("LC_NUMERIC");
+    QProcess locale;
+    locale.setProcessEnvironment(environment);
+    locale.start("locale", {"decimal_point"});
+    EXPECT_TRUE(locale.waitForFinished());
+    return locale.readAllStandardOutput().trimmed().toStdString();
+}
+
+TEST(TwoProcessesMachines, NumbersInOtherLanguages_HaveAComma)
+{
+    EXPECT_EQ(decimalPoint(germanMachine), ",");
+    EXPECT_EQ(decimalPoint(russianMachine), ",");
 }
 
 using TwoProcesses = testing::TestWithParam<std::string>;
