@@ -13,7 +13,8 @@ std::string difference(RealHost &real, ModelHost &expected);
 
 /*!
  * Runs \a script on both. Empty when both did the same after every command, or else what was
- * different first. \a commands counts up.
+ * different first. \a commands counts those up that led to anything: to an action, a message or a
+ * log line.
  */
 std::string firstDifference(const Script &script, const RealHost::MakePlugin &makePlugin,
                             long &commands);

@@ -11,7 +11,7 @@ namespace model {
 //! How much was tried.
 struct Tally
 {
-    long commands = 0;
+    long commands = 0; //!< that led to anything
     long receipts = 0;
 };
 
