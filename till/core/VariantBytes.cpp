@@ -49,8 +49,10 @@ private:
 
     void note(QMetaType type)
     {
+        if (type.id() <= QMetaType::LastCoreType)
+            return;
         const QString name = QString::fromLatin1(type.name());
-        if (type.id() > QMetaType::LastCoreType && !foreign.contains(name))
+        if (!foreign.contains(name))
             foreign.append(name);
     }
 
