@@ -105,6 +105,14 @@ const Scene eventScenes[] = {
          shop.fill();
          return changed(shop, EActivityListener::eventModifierApplied, 3, 6.0);
      }},
+    {"GoodsGrowIntoTwoTaras_252",
+     [](Shop &shop) {
+         shop.host.addTara(1, 5.0);
+         shop.host.addTara(2, 5.0);
+         shop.host.addGoods(3, 4.0);
+         return changed(shop, EActivityListener::eventModifierApplied2, 3, 7.0);
+     },
+     nullptr, savesOnEveryExit},
     {"GoodsShrink_252",
      [](Shop &shop) {
          shop.host.addTara(1, 5.0, 2.0);
