@@ -2,10 +2,10 @@
 #include "host/Finally.h"
 #include "host/LoyaltySystemLayer.h"
 #include "plugin/PackagingControl.h"
+#include "registry/GiveBack.h"
 
 #include <log4qt/logger.h>
 
-#include <utility>
 #include <vector>
 
 void PackagingControl::onPositionStornoEvent(const Event &event)
@@ -64,10 +64,6 @@ void PackagingControl::takeGoodsOut(const QSharedPointer<TaraInfo> &tara,
 void PackagingControl::removePackagingInfo(const QSharedPointer<GoodsItem> &position)
 {
     const auto info = getPackagingInfoByPosnum(position->getPosnum());
-    for (const auto &tara : std::as_const(taraList)) {
-        const auto used = info->usedTara.constFind(tara->id);
-        if (used != info->usedTara.cend())
-            tara->freeCapacity += *used;
-    }
+    packaging::giveBack(*info, taraList);
     packagingList.removeAll(info);
 }

@@ -143,6 +143,8 @@ void PackagingControl::savePluginData() const
     const auto receipt = document; // the host may take the document away between the two writes
     if (!receipt)
         return;
+    // Both are made before either is written: when memory runs out here, the document keeps two
+    // lists that belong together.
     const QVariantList taras = toVariantList(taraList);
     const QVariantList packaging = toVariantList(packagingList);
     receipt->setPluginData(objectName(), keys().taraInfo, taras);

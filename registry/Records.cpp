@@ -1,5 +1,7 @@
+#include "host/Finally.h"
 #include "host/GoodsItem.h"
 #include "plugin/PackagingControl.h"
+#include "registry/GiveBack.h"
 #include "registry/NewRecord.h"
 #include "registry/Tolerance.h"
 
@@ -53,6 +55,12 @@ PackagingControl::createPackagingInfo(const QSharedPointer<GoodsItem> &goods)
 {
     const auto info = getPackagingInfoByPosnum(goods->getPosnum());
     info->posnum = goods->getPosnum();
+    // When an exception passes, such as for want of memory, a new record is let go of: what it took
+    // would be nobody's.
+    const Finally keepOrGiveBack([this, &info] {
+        if (!packagingList.contains(info))
+            packaging::giveBack(*info, taraList);
+    });
     modifyPackagingUsedCapacity(info, goods->getBquant());
     if (!packagingList.contains(info))
         packagingList.append(info);

@@ -33,6 +33,8 @@ Call changed(Shop &shop, EActivityListener::Event code, int posnum, double quant
     return told(shop, code, posnum);
 }
 
+constexpr bool savesOnEveryExit = true;
+
 const Scene eventScenes[] = {
     {"TaraIsAdded",
      [](Shop &shop) {
@@ -83,23 +85,34 @@ const Scene eventScenes[] = {
      [](Shop &shop) {
          shop.fill();
          return changed(shop, EActivityListener::eventModifierApplied, 1, 2.0);
-     }},
+     },
+     nullptr, savesOnEveryExit},
     {"TaraShrinks_252",
      [](Shop &shop) {
          shop.host.addTara(1, 5.0, 2.0);
          shop.host.addGoods(3, 10.0);
          return changed(shop, EActivityListener::eventModifierApplied2, 1, 1.0);
-     }},
+     },
+     nullptr, savesOnEveryExit},
     {"TaraGoesToNothing_252",
      [](Shop &shop) {
          shop.fill();
          return changed(shop, EActivityListener::eventModifierApplied2, 1, 0.0);
-     }},
+     },
+     nullptr, savesOnEveryExit},
     {"GoodsGrow_26",
      [](Shop &shop) {
          shop.fill();
          return changed(shop, EActivityListener::eventModifierApplied, 3, 6.0);
      }},
+    {"GoodsGrowIntoTwoTaras_252",
+     [](Shop &shop) {
+         shop.host.addTara(1, 5.0);
+         shop.host.addTara(2, 5.0);
+         shop.host.addGoods(3, 4.0);
+         return changed(shop, EActivityListener::eventModifierApplied2, 3, 7.0);
+     },
+     nullptr, savesOnEveryExit},
     {"GoodsShrink_252",
      [](Shop &shop) {
          shop.host.addTara(1, 5.0, 2.0);

@@ -13,8 +13,16 @@
 class MemoryRunsOut : public testing::TestWithParam<std::tuple<Scene, shortage::Duration>>
 {
 protected:
+    //! What the scene does with memory enough.
+    struct Undisturbed
+    {
+        QList<Records> saves;    //!< what the receipt kept after each save, in order
+        bool isBalanced = false; //!< each tara lacked what the goods use of it, before and after
+    };
+    static Undisturbed undisturbed();
+
     //! Tries the scene with its \a k-th allocation failing. False when it makes fewer than that.
-    static bool isReached(int k);
+    static bool isReached(int k, const Undisturbed &undisturbed);
 };
 
 inline std::string sceneName(const testing::TestParamInfo<MemoryRunsOut::ParamType> &info)

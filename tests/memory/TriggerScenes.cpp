@@ -47,6 +47,18 @@ Call subtotal(Shop &shop, control::EActionType type, bool answer)
     return called(shop, ActionTrigger::Before, control::Action(type, {}));
 }
 
+Call softCheckWasAdded(Shop &shop)
+{
+    shop.fill();
+    return called(shop, ActionTrigger::After, control::Action(control::AddSoftCheck, {}));
+}
+
+//! Suspended, unless the host was told by an exception that the plugin is not.
+void expectSuspended(const Shop &shop, const shortage::Result &result)
+{
+    EXPECT_EQ(result.isThrown, shop.plugin.heldDocument() != nullptr);
+}
+
 const Scene triggerScenes[] = {
     {"SharedTaraIsRefused_5",
      [](Shop &shop) {
@@ -89,19 +101,9 @@ const Scene triggerScenes[] = {
      }},
     {"EmptyTaraIsStornoed_133", [](Shop &shop) { return subtotal(shop, control::Subtotal, true); }},
     {"EmptyTaraIsKept_144", [](Shop &shop) { return subtotal(shop, control::Payment, false); }},
+    {"SoftCheckWasAdded_129", softCheckWasAdded, expectSuspended},
 };
 
 INSTANTIATE_SCENES(Trigger, triggerScenes);
-
-TEST(SoftCheck, WithoutMemory_SuspendsUnlessItThrows)
-{
-    Shop shop;
-    shop.fill();
-    const control::Action action(control::AddSoftCheck, {});
-    const auto result =
-        shortage::run(1, shortage::Lasting, called(shop, ActionTrigger::After, action));
-
-    EXPECT_EQ(result.isThrown, shop.plugin.heldDocument() != nullptr);
-}
 
 } // namespace
