@@ -211,7 +211,7 @@ TEST_F(ScriptPlay, PrintedScripts_PlayToTheEndAndLeaveTheModelsRecords)
               << refusals << " refusals, " << mistakes << " mistakes" << std::endl;
     // There was something to stop at.
     EXPECT_GT(refusals, 100);
-    EXPECT_GT(mistakes, 0);
+    EXPECT_GT(mistakes, 5);
 }
 
 TEST_F(ScriptPlay, ScriptThatStops_IsNoticed)

@@ -161,11 +161,14 @@ void Writer::say(const std::string &line, End end)
     say(beginnings[static_cast<int>(end)] + line);
 }
 
-//! What the model did and the till cannot is only noted.
+//! What the model did and the till cannot is only noted; what neither does, the till calls a
+//! mistake.
 void Writer::sayOrNote(const std::string &line, End end)
 {
     if (m_isTaken)
         say(line, end);
+    else if (end == End::Refused)
+        say(line, End::Mistake);
     else
         note("the till takes no such command: " + line);
 }

@@ -82,6 +82,13 @@ TEST(ScriptText, RefusalOfTheRules_IsExpected)
               "add PET1 1\nadd BEER 0.5\nexpect refused qty 1 2\nqty 2 0.25\n");
 }
 
+TEST(ScriptText, QuantityThatNeitherTheRulesNorTheTillTake_IsAMistake)
+{
+    EXPECT_EQ(written({command(Verb::Add, Pet1), command(Verb::Add, Beer, 0.5),
+                       command(Verb::Quantity, 0, -1)}),
+              "add PET1 1\nadd BEER 0.5\nexpect mistake qty 1 -1\n");
+}
+
 TEST(ScriptText, EmptyReceipt_CannotBePaid)
 {
     EXPECT_EQ(written({command(Verb::Subtotal), command(Verb::Pay), command(Verb::Add, Beer)}),
