@@ -24,12 +24,12 @@ using namespace model;
 
 constexpr std::size_t wantedScripts = 200;
 constexpr std::size_t shortest = 5; //!< commands
-constexpr std::uint64_t seed = 20;
+constexpr std::uint64_t firstSeed = 20;
 constexpr int patience = 120'000; //!< milliseconds, for a till that hangs
 
 const std::string rowMark = "# catalogue: ";
 
-std::string written(const Script &script)
+std::string printed(const Script &script)
 {
     std::ostringstream out;
     out << script;
@@ -67,7 +67,7 @@ Script playable(const Script &drawn)
     Script kept{drawn.salt, drawn.allowSaleEmptyTara, {}};
     for (const Command &command : drawn.commands) {
         kept.commands.push_back(command);
-        if (isMarked(written(kept)))
+        if (isMarked(printed(kept)))
             kept.commands.pop_back();
     }
     return kept;
@@ -200,11 +200,11 @@ private:
 TEST_F(ScriptPlay, PrintedScripts_PlayToTheEndAndLeaveTheModelsRecords)
 {
     const auto generator = scripts();
-    rc::Random random(seed);
+    rc::Random random(firstSeed);
     while (static_cast<std::size_t>(files.size()) < wantedScripts) {
         const Script script = playable(generator(random.split(), 0).value());
         if (script.commands.size() >= shortest)
-            add(written(script) + expectedRecords(script));
+            add(printed(script) + expectedRecords(script));
     }
     EXPECT_EQ(play(), "");
     std::cout << "model: " << files.size() << " scripts played, " << commands << " lines, "
