@@ -80,7 +80,10 @@ struct Script
 //! \a quantity in the fewest digits that name it exactly.
 std::string toText(double quantity);
 
-//! The script as the till reads it. What a till cannot be told is said in a comment.
+/*!
+ * The script as the till reads it. A command that the till or the plugin refuses is expected to be
+ * refused, so that the script goes on. What a till cannot be told is said in a comment.
+ */
 std::ostream &operator<<(std::ostream &out, const Script &script);
 
 } // namespace model

@@ -18,7 +18,8 @@ void ModelHost::carryOut(const Command &command)
     case Verb::Quantity:
     case Verb::Modify:
         if (position)
-            changeCount(position, command.quantity, command.verb == Verb::Quantity);
+            m_wasRefused =
+                changeCount(position, command.quantity, command.verb == Verb::Quantity) != Continue;
         break;
     case Verb::Storno:
         if (position)
@@ -68,7 +69,7 @@ void ModelHost::add(const Command &command)
     deliver({19, newPosition(article, command.quantity)});
 }
 
-void ModelHost::changeCount(const PositionPtr &position, double count, bool withQuantity)
+Answer ModelHost::changeCount(const PositionPtr &position, double count, bool withQuantity)
 {
     modifiers.hasOthers = true;
     if (withQuantity) {
@@ -76,7 +77,7 @@ void ModelHost::changeCount(const PositionPtr &position, double count, bool with
         modifiers.quantity = count * position->article->pack;
         modifiers.mode = 0;
     }
-    perform(5, position->posnum, 26, false);
+    return perform(5, position->posnum, 26, false);
 }
 
 void ModelHost::split(const Command &command)
@@ -132,7 +133,8 @@ void ModelHost::pay(int actionType)
     if (!m_allowSaleEmptyTara) {
         const Answer answer = m_rules->beforeSubtotal();
         say("before " + std::to_string(actionType) + " says " + std::to_string(answer));
-        if (answer != Continue)
+        m_wasRefused = answer != Continue;
+        if (m_wasRefused)
             return;
     }
     if (actionType != 144)

@@ -26,6 +26,7 @@ void ModelHost::run(const Command &command)
     m_requests = 0;
     m_isMeanwhileDone = false;
     m_wasAsked = false;
+    m_wasRefused = false;
     m_wasClosed = false;
     carryOut(command);
     if (command.lateness < 2)

@@ -32,6 +32,8 @@ public:
     //! The lines that \a command picks in the receipt in hand, in the command's order.
     std::vector<PositionPtr> picked(const Command &command) const;
     bool wasAsked() const { return m_wasAsked; }
+    //! The rules, or the cashier's answer, kept the command from being carried out.
+    bool wasRefused() const { return m_wasRefused; }
     bool wasClosed() const { return m_wasClosed; }
     int requests() const { return m_requests; }
 
@@ -62,7 +64,7 @@ private:
     void meanwhile();
     Answer perform(int actionType, int posnum, int eventCode, bool isRequest);
     bool change(int actionType, int posnum, int eventCode, bool isRequest);
-    void changeCount(const PositionPtr &position, double count, bool withQuantity);
+    Answer changeCount(const PositionPtr &position, double count, bool withQuantity);
     void report(Event event, bool isRequest);
     void deliver(const Event &event);
     void deliverLate();
@@ -91,6 +93,7 @@ private:
     int m_depth = 0;
     bool m_isMeanwhileDone = false;
     bool m_wasAsked = false;
+    bool m_wasRefused = false;
     bool m_wasClosed = false;
 };
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <numeric>
 
 namespace model {
 
@@ -13,10 +12,12 @@ namespace model {
 
 namespace {
 
+constexpr double greatestQuantity = 999999.999; // of a position of the till
+
 //! Whether the till takes such a quantity.
 bool isTyped(double quantity)
 {
-    return quantity >= 0 && quantity <= 1e6
+    return quantity >= 0 && quantity <= greatestQuantity
            && static_cast<double>(static_cast<long long>(quantity * 1000 + 0.5)) / 1000 == quantity;
 }
 
@@ -43,24 +44,56 @@ std::string typed(double quantity)
     return {text, end};
 }
 
-//! Whether the till carries out \a command on \a lines.
+const Article &articleOf(const Command &command)
+{
+    return articles.at(static_cast<std::size_t>(command.which) % articles.size());
+}
+
+//! Whether a catalogue of the till can have \a article.
+bool isCatalogued(const Article &article)
+{
+    constexpr int tara = 1;
+    constexpr int lastMode = 2;
+    return article.taraMode <= lastMode && isTyped(article.capacity) && isTyped(article.pack)
+           && (article.taraMode != tara || article.capacity > 0);
+}
+
+//! Whether the position has as much as the parts: the till looks at thousandths.
+bool hasParts(const Position &position, const std::vector<double> &parts)
+{
+    double left = position.count;
+    for (const double part : parts)
+        left -= part;
+    return left * 1000 > -0.5;
+}
+
+bool canUnite(const std::vector<PositionPtr> &lines)
+{
+    double count = 0;
+    for (const PositionPtr &line : lines)
+        count += line->count;
+    const auto isAlike = [&](const PositionPtr &line) {
+        return line->article == lines.front()->article;
+    };
+    return lines.size() > 1 && count <= greatestQuantity
+           && std::all_of(lines.begin(), lines.end(), isAlike);
+}
+
+//! Whether the till can do with \a lines what the model does.
 bool takes(const Command &command, const std::vector<PositionPtr> &lines)
 {
+    if (command.verb == Verb::Add)
+        return isCatalogued(articleOf(command));
     if (lines.empty())
         return true;
-    const Position &first = *lines.front();
-    if (command.verb == Verb::Split) {
-        const double taken = std::accumulate(command.parts.begin(), command.parts.end(), 0.0);
-        return lines.size() == 1 && !command.parts.empty() && taken <= first.count;
-    }
-    if (command.verb == Verb::Unite) {
-        const auto isAlike = [&](const PositionPtr &line) {
-            return line->article == first.article;
-        };
-        return lines.size() > 1 && std::all_of(lines.begin(), lines.end(), isAlike);
-    }
-    return true;
+    if (command.verb == Verb::Split)
+        return lines.size() == 1 && !command.parts.empty()
+               && hasParts(*lines.front(), command.parts);
+    return command.verb != Verb::Unite || canUnite(lines);
 }
+
+//! How a command ends at the till.
+enum class End { Done, Refused, Mistake };
 
 class Writer
 {
@@ -74,7 +107,9 @@ public:
     void write(const Command &command)
     {
         const auto lines = m_host.picked(command);
-        const bool isTaken = isTyped(command) && takes(command, lines);
+        m_isTaken = isTyped(command) && takes(command, lines);
+        m_wasEmpty = m_host.receipt().isEmpty();
+        m_hadOrder = m_host.receipt().hasOrder;
         m_host.run(command);
         m_positions.clear();
         for (const PositionPtr &line : lines)
@@ -82,9 +117,8 @@ public:
         if (lines.empty() && needsPosition(command))
             return;
         writeNotes(command);
-        if (!isTaken)
-            note("the till takes no such command:");
         writeCommand(command);
+        followState(command);
     }
 
 private:
@@ -97,6 +131,8 @@ private:
 
     void note(const std::string &text) { m_out << "# " << text << '\n'; }
     void say(const std::string &line) { m_out << line << '\n'; }
+    void say(const std::string &line, End end);
+    void sayOrNote(const std::string &line, End end);
 
     void writeNotes(const Command &command);
     void writeReplies(const Command &command);
@@ -105,12 +141,37 @@ private:
     void writeArticle(const Command &command);
     void writeEvent(const Command &command);
     void writeGate(const Command &command, const std::string &verb);
+    void writePay(const Command &command);
+    void followState(const Command &command);
 
     std::ostream &m_out;
     ModelHost m_host;
     std::string m_positions;
+    bool m_isTaken = true; //!< the till can do what the model did
+    bool m_wasEmpty = true;
+    bool m_hadOrder = false;
+    bool m_isAtSubtotal = false; //!< the till, where it pays without asking the plugin again
     int m_numbers = 0;
 };
+
+//! Says a command and how it ends: a script stops at what does not end well, unless it is expected.
+void Writer::say(const std::string &line, End end)
+{
+    static const std::string beginnings[]{"", "expect refused ", "expect mistake "};
+    say(beginnings[static_cast<int>(end)] + line);
+}
+
+//! What the model did and the till cannot is only noted; what neither does, the till calls a
+//! mistake.
+void Writer::sayOrNote(const std::string &line, End end)
+{
+    if (m_isTaken)
+        say(line, end);
+    else if (end == End::Refused)
+        say(line, End::Mistake);
+    else
+        note("the till takes no such command: " + line);
+}
 
 void Writer::writeNotes(const Command &command)
 {
@@ -172,6 +233,7 @@ void Writer::writeCommand(const Command &command)
         parts += ' ' + typed(part);
     if (command.shape != 0 && (command.verb == Verb::Split || command.verb == Verb::Unite))
         note("the plugin is told of it in form " + std::to_string(command.shape));
+    const End end = m_host.wasRefused() ? End::Refused : End::Done;
     switch (command.verb) {
     case Verb::Open:
         say("answer yes\ncancel");
@@ -181,7 +243,7 @@ void Writer::writeCommand(const Command &command)
         writeArticle(command);
         break;
     case Verb::Quantity:
-        say("qty" + m_positions + ' ' + typed(command.quantity));
+        sayOrNote("qty" + m_positions + ' ' + typed(command.quantity), end);
         break;
     case Verb::Modify:
         note("modifiers other than the quantity are applied to position" + m_positions);
@@ -190,24 +252,22 @@ void Writer::writeCommand(const Command &command)
         say("answer yes\nstorno" + m_positions);
         break;
     case Verb::Split:
-        say("split" + m_positions + parts);
+        sayOrNote("split" + m_positions + parts, end);
         break;
     case Verb::Unite:
-        say("unite" + m_positions);
+        sayOrNote("unite" + m_positions, end);
         break;
     case Verb::Subtotal:
         writeGate(command, "subtotal");
         break;
     case Verb::Pay:
-        writeGate(command, "pay");
-        if (m_host.wasClosed())
-            say("open");
+        writePay(command);
         break;
     case Verb::SoftCheck:
         say("softcheck " + std::to_string(++m_numbers));
         break;
     case Verb::Order:
-        say("order " + std::to_string(++m_numbers));
+        say("order " + std::to_string(++m_numbers), m_hadOrder ? End::Mistake : End::Done);
         break;
     case Verb::Setting:
         say(std::string("set PackagingControl:allowSaleEmptyTara ")
@@ -233,15 +293,16 @@ void Writer::writeCommand(const Command &command)
 
 void Writer::writeArticle(const Command &command)
 {
-    const auto &article = articles.at(static_cast<std::size_t>(command.which) % articles.size());
+    const Article &article = articleOf(command);
+    const std::string code = article.code;
     if (!article.isInCatalogue) {
         const std::string capacity =
             article.capacityText ? article.capacityText : toText(article.capacity);
-        note("catalogue: " + std::string(article.code) + ";;1,00;"
-             + std::to_string(article.taraMode) + ';' + capacity + ';' + toText(article.pack)
-             + ";");
+        note((isCatalogued(article) ? "catalogue: " : "what no catalogue of the till has: ") + code
+             + ';' + code + ";1,00;" + std::to_string(article.taraMode) + ';' + capacity + ';'
+             + toText(article.pack) + ";");
     }
-    say("add " + std::string(article.code) + ' ' + typed(command.quantity));
+    sayOrNote("add " + code + ' ' + typed(command.quantity), End::Done);
 }
 
 void Writer::writeEvent(const Command &command)
@@ -255,9 +316,50 @@ void Writer::writeEvent(const Command &command)
 
 void Writer::writeGate(const Command &command, const std::string &verb)
 {
-    if (m_host.wasAsked())
+    // Of an empty receipt, and of one that it pays from subtotal, the till does not ask the plugin.
+    const bool asksPlugin = !m_wasEmpty && !(command.verb == Verb::Pay && m_isAtSubtotal);
+    if (m_host.wasAsked() && asksPlugin)
         say(command.yes ? "answer yes" : "answer no");
-    say(verb);
+    else if (m_host.wasAsked())
+        note(std::string("the plugin is asked all the same; the cashier says ")
+             + (command.yes ? "yes" : "no"));
+    const bool isRefused = m_wasEmpty || (m_host.wasRefused() && asksPlugin);
+    say(verb, isRefused ? End::Refused : End::Done);
+}
+
+void Writer::writePay(const Command &command)
+{
+    writeGate(command, "pay");
+    if (!m_host.wasClosed())
+        return;
+    if (m_wasEmpty) // and is in hand still
+        say("answer yes\ncancel");
+    say("open");
+}
+
+//! Keeps up with whether the till is at subtotal, which any change of the receipt ends.
+void Writer::followState(const Command &command)
+{
+    switch (command.verb) {
+    case Verb::Subtotal:
+        m_isAtSubtotal = m_isAtSubtotal || !(m_wasEmpty || m_host.wasRefused());
+        break;
+    case Verb::Quantity:
+        m_isAtSubtotal = m_isAtSubtotal && m_host.wasRefused();
+        break;
+    case Verb::Pay:
+        m_isAtSubtotal = m_isAtSubtotal && !m_host.wasClosed();
+        break;
+    case Verb::Open:
+    case Verb::Add:
+    case Verb::Storno:
+    case Verb::Split:
+    case Verb::Unite:
+        m_isAtSubtotal = false;
+        break;
+    default:
+        break;
+    }
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace {
 
 using namespace model;
 
-enum ArticleIndex { Beer = 0, Pet1 = 1, Sixpack = 10 };
+enum ArticleIndex { Beer = 0, Pet1 = 1, Sixpack = 10, Riddle = 12 };
 
 std::string written(const std::vector<Command> &commands)
 {
@@ -71,8 +71,54 @@ TEST(ScriptText, Union_NamesEachPositionOnce)
 
 TEST(ScriptText, Question_IsAnsweredWhenItIsAsked)
 {
-    EXPECT_EQ(written({command(Verb::Subtotal), command(Verb::Add, Pet1), command(Verb::Subtotal)}),
-              "subtotal\nadd PET1 1\nanswer no\nsubtotal\n");
+    EXPECT_EQ(written({command(Verb::Add, Pet1), command(Verb::Subtotal)}),
+              "add PET1 1\nanswer no\nexpect refused subtotal\n");
+}
+
+TEST(ScriptText, RefusalOfTheRules_IsExpected)
+{
+    EXPECT_EQ(written({command(Verb::Add, Pet1), command(Verb::Add, Beer, 0.5),
+                       command(Verb::Quantity, 0, 2), command(Verb::Quantity, 1, 0.25)}),
+              "add PET1 1\nadd BEER 0.5\nexpect refused qty 1 2\nqty 2 0.25\n");
+}
+
+TEST(ScriptText, QuantityThatNeitherTheRulesNorTheTillTake_IsAMistake)
+{
+    EXPECT_EQ(written({command(Verb::Add, Pet1), command(Verb::Add, Beer, 0.5),
+                       command(Verb::Quantity, 0, -1)}),
+              "add PET1 1\nadd BEER 0.5\nexpect mistake qty 1 -1\n");
+}
+
+TEST(ScriptText, EmptyReceipt_CannotBePaid)
+{
+    EXPECT_EQ(written({command(Verb::Subtotal), command(Verb::Pay), command(Verb::Add, Beer)}),
+              "expect refused subtotal\nexpect refused pay\nanswer yes\ncancel\nopen\n"
+              "add BEER 1\n");
+}
+
+TEST(ScriptText, SecondOrder_IsAMistake)
+{
+    EXPECT_EQ(written({command(Verb::Order), command(Verb::Order), command(Verb::SoftCheck)}),
+              "order 1\nexpect mistake order 2\nsoftcheck 3\n");
+}
+
+TEST(ScriptText, PaymentFromSubtotal_IsMarkedWhenTheTillWouldNotAsk)
+{
+    Command forbidden = command(Verb::Setting);
+    Command allowed = forbidden;
+    allowed.yes = true;
+    const std::string setting = "set PackagingControl:allowSaleEmptyTara ";
+    EXPECT_EQ(written({command(Verb::Add, Pet1), allowed, command(Verb::Subtotal), forbidden,
+                       command(Verb::Pay)}),
+              "add PET1 1\n" + setting + "true\nsubtotal\n" + setting
+                  + "false\n"
+                    "# the plugin is asked all the same; the cashier says no\npay\n");
+    EXPECT_EQ(
+        written({command(Verb::Add, Pet1), allowed, command(Verb::Subtotal), forbidden,
+                 command(Verb::Add, Beer, 0.5), command(Verb::Add, Pet1), command(Verb::Pay)}),
+        "add PET1 1\n" + setting + "true\nsubtotal\n" + setting
+            + "false\n"
+              "add BEER 0.5\nadd PET1 1\nanswer no\nexpect refused pay\n");
 }
 
 TEST(ScriptText, AcceptedPayment_OpensTheNextReceipt)
@@ -84,11 +130,17 @@ TEST(ScriptText, AcceptedPayment_OpensTheNextReceipt)
 TEST(ScriptText, QuantityThatTheTillDoesNotTake_IsMarked)
 {
     EXPECT_EQ(written({command(Verb::Add, Beer, -1)}),
-              "# the till takes no such command:\nadd BEER -1\n");
+              "# the till takes no such command: add BEER -1\n");
     EXPECT_EQ(written({command(Verb::Add, Beer, 0)}),
-              "# the till takes no such command:\nadd BEER 0\n");
+              "# the till takes no such command: add BEER 0\n");
     EXPECT_EQ(written({command(Verb::Add, Beer, 0.0625)}),
-              "# the till takes no such command:\nadd BEER 0.0625\n");
+              "# the till takes no such command: add BEER 0.0625\n");
+}
+
+TEST(ScriptText, GreatestQuantityOfTheTill_IsNotMarked)
+{
+    EXPECT_EQ(written({command(Verb::Add, Beer, 999999.999), command(Verb::Quantity, 0, 1e6)}),
+              "add BEER 999999.999\n# the till takes no such command: qty 1 1000000\n");
 }
 
 TEST(ScriptText, CommandThatTheTillRefuses_IsMarked)
@@ -96,15 +148,22 @@ TEST(ScriptText, CommandThatTheTillRefuses_IsMarked)
     Command tooMuch = command(Verb::Split);
     tooMuch.parts = {2};
     EXPECT_EQ(written({command(Verb::Add, Beer), tooMuch}),
-              "add BEER 1\n# the till takes no such command:\nsplit 1 2\n");
+              "add BEER 1\n# the till takes no such command: split 1 2\n");
     EXPECT_EQ(written({command(Verb::Add, Beer), command(Verb::Unite)}),
-              "add BEER 1\n# the till takes no such command:\nunite 1\n");
+              "add BEER 1\n# the till takes no such command: unite 1\n");
 }
 
 TEST(ScriptText, ArticleThatTheTillLacks_ComesWithItsRow)
 {
     EXPECT_EQ(written({command(Verb::Add, Sixpack)}),
-              "# catalogue: SIXPACK;;1,00;1;0.5;6;\nadd SIXPACK 1\n");
+              "# catalogue: SIXPACK;SIXPACK;1,00;1;0.5;6;\nadd SIXPACK 1\n");
+}
+
+TEST(ScriptText, ArticleThatNoCatalogueOfTheTillHas_IsMarked)
+{
+    EXPECT_EQ(written({command(Verb::Add, Riddle)}),
+              "# what no catalogue of the till has: RIDDLE;RIDDLE;1,00;1;no number;1;\n"
+              "# the till takes no such command: add RIDDLE 1\n");
 }
 
 TEST(ScriptText, RefusalOfTheHost_IsCommentedOn)
