@@ -7,15 +7,8 @@ namespace packaging {
 
 //! Gives what the goods of \a info use back to the tara that is in \a taras. Changes no list and
 //! takes no memory; \a info is to be let go of afterwards.
-inline void giveBack(const PackagingControl::PackagingInfo &info,
-                     const QList<QSharedPointer<PackagingControl::TaraInfo>> &taras)
-{
-    for (const auto &tara : taras) {
-        const auto used = info.usedTara.constFind(tara->id);
-        if (used != info.usedTara.cend())
-            tara->freeCapacity += *used;
-    }
-}
+void giveBack(const PackagingControl::PackagingInfo &info,
+              const QList<QSharedPointer<PackagingControl::TaraInfo>> &taras);
 
 } // namespace packaging
 

@@ -22,6 +22,16 @@ bool PackagingControl::TaraInfo::isFull() const
     return packaging::isZero(freeCapacity);
 }
 
+void packaging::giveBack(const PackagingControl::PackagingInfo &info,
+                         const QList<QSharedPointer<PackagingControl::TaraInfo>> &taras)
+{
+    for (const auto &tara : taras) {
+        const auto used = info.usedTara.constFind(tara->id);
+        if (used != info.usedTara.cend())
+            tara->freeCapacity += *used;
+    }
+}
+
 bool PackagingControl::isTara(const QSharedPointer<GoodsItem> &goods)
 {
     return goods->getTmc()->getTaraMode() == Tmc::Tara;
