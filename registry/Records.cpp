@@ -67,13 +67,13 @@ PackagingControl::createPackagingInfo(const QSharedPointer<GoodsItem> &goods)
     info->posnum = goods->getPosnum();
     // When an exception passes, such as for want of memory, a new record is let go of: what it took
     // would be nobody's.
-    const Finally keepOrGiveBack([this, &info] {
-        if (!packagingList.contains(info))
-            packaging::giveBack(*info, taraList);
-    });
+    const PackagingInfo nothing;
+    const PackagingInfo *unlisted = packagingList.contains(info) ? &nothing : info.get();
+    const Finally giveBackUnlisted([this, &unlisted] { packaging::giveBack(*unlisted, taraList); });
     modifyPackagingUsedCapacity(info, goods->getBquant());
     if (!packagingList.contains(info))
         packagingList.append(info);
+    unlisted = &nothing;
     return info;
 }
 
