@@ -25,10 +25,15 @@ QString Level::toString() const
 }
 
 LoggingEvent::LoggingEvent(const Logger *logger, Level level, const QString &message)
-    : m_loggerName(logger->name())
+    : m_logger(logger)
     , m_level(level)
     , m_message(message)
 {
+}
+
+const Logger *LoggingEvent::logger() const
+{
+    return m_logger;
 }
 
 Level LoggingEvent::level() const
@@ -39,11 +44,6 @@ Level LoggingEvent::level() const
 QString LoggingEvent::message() const
 {
     return m_message;
-}
-
-QString LoggingEvent::loggerName() const
-{
-    return m_loggerName;
 }
 
 Appender::Appender(QObject *parent)

@@ -16,12 +16,13 @@ class LOG4QT_EXPORT LoggingEvent
 public:
     LoggingEvent(const Logger *logger, Level level, const QString &message);
 
+    //! The logger that it was logged through; never null.
+    const Logger *logger() const;
     Level level() const;
     QString message() const;
-    QString loggerName() const;
 
 private:
-    QString m_loggerName;
+    const Logger *m_logger;
     Level m_level;
     QString m_message;
 };

@@ -41,7 +41,7 @@ TEST_F(Appender, Event_HasLevelMessageAndLoggerName)
     ASSERT_EQ(keeper->events.size(), 2);
     EXPECT_EQ(keeper->events[0].level(), Log4Qt::Level(Log4Qt::Level::INFO_INT));
     EXPECT_EQ(keeper->events[0].message(), "позиция 7");
-    EXPECT_EQ(keeper->events[0].loggerName(), "log4qt_test");
+    EXPECT_EQ(keeper->events[0].logger()->name(), "log4qt_test");
     EXPECT_EQ(keeper->events[1].level(), Log4Qt::Level(Log4Qt::Level::ERROR_INT));
     EXPECT_EQ(keeper->events[1].message(), "Ошибка");
 }

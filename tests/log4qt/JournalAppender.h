@@ -29,7 +29,7 @@ public:
 protected:
     void append(const Log4Qt::LoggingEvent &event) override
     {
-        m_journal << QStringList{m_label, event.loggerName(), event.level().toString(),
+        m_journal << QStringList{m_label, event.logger()->name(), event.level().toString(),
                                  event.message()}
                          .join(QLatin1Char(' '));
         if (const auto reaction = std::exchange(m_reaction, nullptr))

@@ -101,7 +101,7 @@ public:
 protected:
     void append(const Log4Qt::LoggingEvent &event) override
     {
-        m_notes.add("log", {{"logger", event.loggerName()},
+        m_notes.add("log", {{"logger", event.logger()->name()},
                             {"level", event.level().toString()},
                             {"text", event.message()}});
     }
