@@ -28,18 +28,8 @@ public:
     // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~Config();
 
-    //! Sets \a key in memory. Nothing is written to a file.
+    //! Sets \a key to \a value, replacing an earlier one.
     void set(const QString &key, const QVariant &value);
-
-    /*!
-     * Adds the settings of the INI file \a path: section "PackagingControl" and key
-     * "allowSaleEmptyTara" become "PackagingControl:allowSaleEmptyTara". Settings read before stay
-     * unless the file sets them anew.
-     *
-     * Returns an empty text, or what is wrong, with the path in it; then nothing of the file is
-     * taken.
-     */
-    QString readFile(const QString &path);
 
 private:
     QMap<QString, QVariant> m_values;

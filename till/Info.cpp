@@ -2,6 +2,7 @@
 
 #include "host/ActivityNotifier.h"
 #include "host/BasicPlugin.h"
+#include "till/core/SettingsFile.h"
 
 #include <QtCore/QJsonDocument>
 
@@ -62,7 +63,7 @@ QString describePlugin(const Setup &setup, QString &text)
 {
     Config settings;
     if (!setup.settingsFile.isEmpty()) {
-        if (const QString error = settings.readFile(setup.settingsFile); !error.isEmpty())
+        if (const QString error = readSettingsFile(setup.settingsFile, settings); !error.isEmpty())
             return error;
     }
     for (auto entry = setup.settings.cbegin(); entry != setup.settings.cend(); ++entry)

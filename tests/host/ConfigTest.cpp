@@ -1,5 +1,5 @@
-#include "tests/host/WarningCapture.h"
 #include "tests/support/Printers.h"
+#include "tests/support/WarningCapture.h"
 
 #include "host/Config.h"
 

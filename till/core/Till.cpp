@@ -1,5 +1,7 @@
 #include "till/core/Till.h"
 
+#include "till/core/SettingsFile.h"
+
 #include <utility>
 
 namespace till {
@@ -57,7 +59,8 @@ void Till::setFront(Register::Asker asker, Register::Shower shower)
 QString Till::readSettings()
 {
     if (!m_setup.settingsFile.isEmpty()) {
-        if (const QString error = m_settings.readFile(m_setup.settingsFile); !error.isEmpty())
+        if (const QString error = readSettingsFile(m_setup.settingsFile, m_settings);
+            !error.isEmpty())
             return error;
     }
     for (auto entry = m_setup.settings.cbegin(); entry != m_setup.settings.cend(); ++entry)

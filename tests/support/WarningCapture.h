@@ -1,5 +1,5 @@
-#ifndef TESTS_HOST_WARNINGCAPTURE_H
-#define TESTS_HOST_WARNINGCAPTURE_H
+#ifndef TESTS_SUPPORT_WARNINGCAPTURE_H
+#define TESTS_SUPPORT_WARNINGCAPTURE_H
 
 #include <QtCore/QStringList>
 #include <QtCore/qlogging.h>
@@ -28,4 +28,4 @@ private:
     QtMessageHandler m_previous;
 };
 
-#endif // TESTS_HOST_WARNINGCAPTURE_H
+#endif // TESTS_SUPPORT_WARNINGCAPTURE_H

@@ -1,7 +1,8 @@
-#include "tests/host/WarningCapture.h"
 #include "tests/support/Printers.h"
+#include "tests/support/WarningCapture.h"
 
 #include "host/Config.h"
+#include "till/core/SettingsFile.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,7 @@
 namespace {
 
 //! A settings file of one setting, and a configuration that reads it.
-class ConfigFile : public testing::Test
+class SettingsFile : public testing::Test
 {
 protected:
     void write(const QByteArray &text)
@@ -22,92 +23,94 @@ protected:
         ASSERT_EQ(file.write(text), text.size());
     }
 
+    QString read() { return till::readSettingsFile(path, config); }
+
     const QString key = QStringLiteral("PackagingControl:allowSaleEmptyTara");
     QTemporaryDir directory;
     QString path = directory.filePath("till.ini");
     Config config;
 };
 
-TEST_F(ConfigFile, SectionAndKey_BecomeOneKey)
+TEST_F(SettingsFile, SectionAndKey_BecomeOneKey)
 {
     write("[PackagingControl]\nallowSaleEmptyTara=false\n");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_FALSE(config.getBool(key, true));
 }
 
-TEST_F(ConfigFile, EverySection_IsRead)
+TEST_F(SettingsFile, EverySection_IsRead)
 {
     write("[One]\nfirst=true\nsecond=true\n[Two]\nfirst=true\n");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_TRUE(config.getBool("One:first", false));
     EXPECT_TRUE(config.getBool("One:second", false));
     EXPECT_TRUE(config.getBool("Two:first", false));
     EXPECT_FALSE(config.getBool("Two:second", false));
 }
 
-TEST_F(ConfigFile, EmptyFile_HoldsNothing)
+TEST_F(SettingsFile, EmptyFile_HoldsNothing)
 {
     write("");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_TRUE(config.getBool(key, true));
 }
 
-TEST_F(ConfigFile, EmptyValue_IsTheDefault)
+TEST_F(SettingsFile, EmptyValue_IsTheDefault)
 {
     const WarningCapture warnings;
     write("[PackagingControl]\nallowSaleEmptyTara=\n");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_TRUE(config.getBool(key, true));
     EXPECT_EQ(warnings.lines().size(), 1);
 }
 
-TEST_F(ConfigFile, ListOfValues_IsTheDefault)
+TEST_F(SettingsFile, ListOfValues_IsTheDefault)
 {
     const WarningCapture warnings;
     write("[PackagingControl]\nallowSaleEmptyTara=false, false\n");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_TRUE(config.getBool(key, true));
     EXPECT_EQ(warnings.lines().size(), 1);
 }
 
-TEST_F(ConfigFile, SettingOfTheFile_OverrulesTheEarlierOne)
+TEST_F(SettingsFile, SettingOfTheFile_OverrulesTheEarlierOne)
 {
     config.set(key, true);
     write("[PackagingControl]\nallowSaleEmptyTara=false\n");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_FALSE(config.getBool(key, true));
 }
 
-TEST_F(ConfigFile, SettingNotInTheFile_Stays)
+TEST_F(SettingsFile, SettingNotInTheFile_Stays)
 {
     config.set(key, false);
     write("[Other]\nsetting=true\n");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_FALSE(config.getBool(key, true));
 }
 
-TEST_F(ConfigFile, ChangedFile_IsReadAnew)
+TEST_F(SettingsFile, ChangedFile_IsReadAnew)
 {
     write("[PackagingControl]\nallowSaleEmptyTara=false\n");
-    config.readFile(path);
+    read();
     write("[PackagingControl]\nallowSaleEmptyTara=yes\n");
 
-    EXPECT_EQ(config.readFile(path), QString());
+    EXPECT_EQ(read(), QString());
     EXPECT_TRUE(config.getBool(key, false));
 }
 
-TEST_F(ConfigFile, ReadFile_LeavesTheFileAsItIs)
+TEST_F(SettingsFile, Reading_LeavesTheFileAsItIs)
 {
     const QByteArray text = "; a comment\n[PackagingControl]\nallowSaleEmptyTara = off\n";
     write(text);
-    config.readFile(path);
+    read();
     config.set(key, true);
 
     QFile file(path);
@@ -115,30 +118,30 @@ TEST_F(ConfigFile, ReadFile_LeavesTheFileAsItIs)
     EXPECT_EQ(file.readAll(), text);
 }
 
-TEST_F(ConfigFile, ReadFile_LeavesNothingBesideTheFile)
+TEST_F(SettingsFile, Reading_LeavesNothingBesideTheFile)
 {
     write("[PackagingControl]\nallowSaleEmptyTara=off\n");
-    config.readFile(path);
+    read();
 
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
               QStringList{"till.ini"});
 }
 
-class ConfigFileSpelling : public ConfigFile,
-                           public testing::WithParamInterface<std::pair<const char *, bool>>
+class SettingsFileSpelling : public SettingsFile,
+                             public testing::WithParamInterface<std::pair<const char *, bool>>
 {
 };
 
-TEST_P(ConfigFileSpelling, KnownSpelling_OverrulesTheDefault)
+TEST_P(SettingsFileSpelling, KnownSpelling_OverrulesTheDefault)
 {
     const auto [spelling, meaning] = GetParam();
     write(QByteArray("[PackagingControl]\nallowSaleEmptyTara=") + spelling + '\n');
 
-    ASSERT_EQ(config.readFile(path), QString());
+    ASSERT_EQ(read(), QString());
     EXPECT_EQ(config.getBool(key, !meaning), meaning);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, ConfigFileSpelling,
+INSTANTIATE_TEST_SUITE_P(Each, SettingsFileSpelling,
                          testing::Values(std::pair("true", true), std::pair("yes", true),
                                          std::pair("on", true), std::pair("1", true),
                                          std::pair("Yes", true), std::pair(" true ", true),
@@ -146,65 +149,65 @@ INSTANTIATE_TEST_SUITE_P(Each, ConfigFileSpelling,
                                          std::pair("no", false), std::pair("off", false),
                                          std::pair("0", false), std::pair("OFF", false)));
 
-TEST_F(ConfigFile, MissingFile_IsAnErrorThatNamesThePath)
+TEST_F(SettingsFile, MissingFile_IsAnErrorThatNamesThePath)
 {
-    EXPECT_TRUE(config.readFile(path).contains(path));
+    EXPECT_TRUE(read().contains(path));
     EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST_F(ConfigFile, Directory_IsAnErrorThatNamesThePath)
+TEST_F(SettingsFile, Directory_IsAnErrorThatNamesThePath)
 {
-    EXPECT_TRUE(config.readFile(directory.path()).contains(directory.path()));
+    EXPECT_TRUE(till::readSettingsFile(directory.path(), config).contains(directory.path()));
 }
 
-TEST_F(ConfigFile, FileThatCannotBeRead_IsAnErrorThatNamesThePath)
+TEST_F(SettingsFile, FileThatCannotBeRead_IsAnErrorThatNamesThePath)
 {
     // Opens, but nothing is mapped at its start.
     const QString unreadable = "/proc/self/mem";
 
-    EXPECT_TRUE(config.readFile(unreadable).contains(unreadable));
+    EXPECT_TRUE(till::readSettingsFile(unreadable, config).contains(unreadable));
 }
 
-class BrokenConfigFile : public ConfigFile, public testing::WithParamInterface<const char *>
+class BrokenSettingsFile : public SettingsFile, public testing::WithParamInterface<const char *>
 {
 };
 
-TEST_P(BrokenConfigFile, BrokenFile_IsAnErrorThatNamesThePath)
+TEST_P(BrokenSettingsFile, BrokenFile_IsAnErrorThatNamesThePath)
 {
     write(GetParam());
 
-    EXPECT_TRUE(config.readFile(path).contains(path)) << config.readFile(path).toStdString();
+    EXPECT_TRUE(read().contains(path)) << read().toStdString();
 }
 
-TEST_P(BrokenConfigFile, BrokenFile_GivesNoneOfItsSettings)
+TEST_P(BrokenSettingsFile, BrokenFile_GivesNoneOfItsSettings)
 {
     write(GetParam());
-    config.readFile(path);
+    read();
 
     EXPECT_TRUE(config.getBool(key, true));
     EXPECT_FALSE(config.getBool(key, false));
 }
 
-TEST_P(BrokenConfigFile, BrokenFile_LeavesEarlierSettings)
+TEST_P(BrokenSettingsFile, BrokenFile_LeavesEarlierSettings)
 {
     config.set(key, true);
     write(GetParam());
-    config.readFile(path);
+    read();
 
     EXPECT_TRUE(config.getBool(key, false));
 }
 
-TEST_P(BrokenConfigFile, BrokenFileReadTwice_IsAnErrorTwice)
+TEST_P(BrokenSettingsFile, BrokenFileReadTwice_IsAnErrorTwice)
 {
     write(GetParam());
-    config.readFile(path);
+    read();
 
-    EXPECT_TRUE(config.readFile(path).contains(path));
+    EXPECT_TRUE(read().contains(path));
     EXPECT_TRUE(config.getBool(key, true));
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Each, BrokenConfigFile,
+    Each, BrokenSettingsFile,
     testing::Values("[PackagingControl]\nallowSaleEmptyTara=false\nno equals sign\n",
                     "[PackagingControl]\nallowSaleEmptyTara=false\n[Unclosed\n"));
 
