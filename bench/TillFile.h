@@ -1,8 +1,8 @@
 #ifndef BENCH_TILLFILE_H
 #define BENCH_TILLFILE_H
 
-#include "till/core/Storage.h"
-#include "till/core/VariantBytes.h"
+#include "till/storage/Storage.h"
+#include "till/storage/VariantBytes.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>

@@ -1,9 +1,9 @@
 #include "bench/Pairs.h"
 #include "bench/Records.h"
 #include "bench/TillFile.h"
-#include "till/core/Catalogue.h"
-#include "till/core/PluginLoader.h"
-#include "till/core/Register.h"
+#include "till/goods/Catalogue.h"
+#include "till/plugins/PluginLoader.h"
+#include "till/register/Register.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "fuzz/CatalogueRun.h"
 
 #include "fuzz/MemoryFile.h"
-#include "till/core/Catalogue.h"
+#include "till/goods/Catalogue.h"
 
 #include <QtCore/QStringList>
 

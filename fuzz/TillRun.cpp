@@ -1,7 +1,7 @@
 #include "fuzz/TillRun.h"
 
 #include "fuzz/MemoryFile.h"
-#include "till/core/Script.h"
+#include "till/script/Script.h"
 
 #include <QtCore/QCoreApplication>
 

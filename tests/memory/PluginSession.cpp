@@ -2,7 +2,7 @@
 #include "host/DocumentWatcher.h"
 #include "tests/support/FakeHost.h"
 #include "tests/triggers/Actions.h"
-#include "till/core/PluginLoader.h"
+#include "till/plugins/PluginLoader.h"
 
 #include <QtCore/QFile>
 

@@ -3,7 +3,7 @@
 #include "host/ActivityNotifier.h"
 #include "host/Event.h"
 #include "host/Session.h"
-#include "tests/till/TillFixture.h"
+#include "tests/till/support/TillFixture.h"
 
 // What other registers got wrong when their host was slow or reported twice, in the till, whose own
 // host is neither: here its action queue carries actions out later, and an event comes again.

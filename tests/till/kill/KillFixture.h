@@ -1,9 +1,9 @@
 #ifndef TESTS_TILL_KILL_KILLFIXTURE_H
 #define TESTS_TILL_KILL_KILLFIXTURE_H
 
-#include "tests/till/StorageFixture.h"
 #include "tests/till/kill/Cashier.h"
 #include "tests/till/kill/TillProcess.h"
+#include "tests/till/storage/StorageFixture.h"
 
 #include <array>
 #include <vector>

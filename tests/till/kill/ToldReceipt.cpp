@@ -1,7 +1,7 @@
 #include "tests/till/kill/ToldReceipt.h"
 
-#include "tests/till/StorageFixture.h"
-#include "till/core/ActionRunner.h"
+#include "tests/till/storage/StorageFixture.h"
+#include "till/actions/ActionRunner.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

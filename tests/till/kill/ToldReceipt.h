@@ -1,8 +1,8 @@
 #ifndef TESTS_TILL_KILL_TOLDRECEIPT_H
 #define TESTS_TILL_KILL_TOLDRECEIPT_H
 
-#include "till/core/Receipt.h"
-#include "till/core/Storage.h"
+#include "till/receipt/Receipt.h"
+#include "till/storage/Storage.h"
 
 #include <QtCore/QByteArrayList>
 #include <QtCore/QJsonObject>

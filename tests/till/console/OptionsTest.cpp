@@ -1,0 +1,169 @@
+#include "tests/till/console/ProgramFixture.h"
+
+#include <QtCore/QFileInfo>
+
+// The program's own arguments and exit statuses.
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class Options : public ProgramTest
+{
+};
+
+TEST_F(Options, Help_TellsModesAndStatuses)
+{
+    const RunResult help = run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.err, "");
+    for (const char *word : {"play FILE...", "demo", "info", "--db", "--trace", "Exit status"})
+        EXPECT_THAT(help.out, HasSubstr(word));
+}
+
+TEST_F(Options, Version_IsTold)
+{
+    const RunResult version = run({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_THAT(version.out, StartsWith("till "));
+    EXPECT_EQ(version.err, "");
+}
+
+TEST_F(Options, GoodScript_EndsWith0AndNothingOnStandardError)
+{
+    EXPECT_THAT(play("open\nadd CHIPS\nshow\npay 200\n"), HasSubstr("Сдача 70.10"));
+}
+
+TEST_F(Options, FailedScript_EndsWith1FileAndLine)
+{
+    const QString script = write("s.till", "open\nadd CHOPS\n");
+    const RunResult failed = run({"play", script});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_EQ(failed.err, "till: " + script.toStdString()
+                              + ":2: add CHOPS: no article \"CHOPS\" in the catalogue\n");
+}
+
+TEST_F(Options, FirstFailedScript_EndsThePlay)
+{
+    const QString good = write("good.till", "open\n");
+    const QString bad = write("bad.till", "opn\n");
+    const RunResult failed = run({"play", good, bad, good});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_THAT(failed.out, HasSubstr("[2/3] bad.till"));
+    EXPECT_THAT(failed.out, Not(HasSubstr("[3/3]")));
+}
+
+TEST_F(Options, ManyScripts_ShowProgressAndStartAnew)
+{
+    const QString script = write("s.till", "expect state none\nopen\n");
+    const RunResult done = run({"--quiet", "play", script, script});
+    EXPECT_EQ(done.status, 0) << done.err;
+    EXPECT_EQ(done.out, "[1/2] s.till\n[2/2] s.till\n2 of 2 scripts held\n");
+}
+
+TEST_F(Options, Demo_PlaysEveryScriptOfTheShop)
+{
+    const RunResult demo = run({"demo", "--quiet"});
+    EXPECT_EQ(demo.status, 0);
+    EXPECT_EQ(demo.err, "");
+    EXPECT_THAT(demo.out, HasSubstr("[12/12] 12-packs.till\n12 of 12 scripts held\n"));
+}
+
+TEST_F(Options, Info_ShowsThePlugin)
+{
+    const RunResult info = run({"info", "--set", "PackagingControl:allowSaleEmptyTara=false"});
+    EXPECT_EQ(info.status, 0);
+    EXPECT_EQ(info.err, "");
+    EXPECT_THAT(info.out, HasSubstr("before action 144"));
+    EXPECT_THAT(info.out, HasSubstr("events:   19 21 26 252"));
+}
+
+TEST_F(Options, English_IsSpokenWithLangEn)
+{
+    const std::string out =
+        play("open\nadd PET1\nadd BEER 0.5\nexpect refused qty 1 2\nshow\n", {"--lang", "en"});
+    EXPECT_THAT(out, HasSubstr("! The tara is partly filled.\n"));
+    EXPECT_THAT(out, HasSubstr("Receipt No. 1 · open"));
+}
+
+TEST_F(Options, NoPlugin_WorksWithoutTara)
+{
+    const std::string out = play("open\nadd PET1\nadd BEER 0.5\nqty 1 2\nexpect control none\n"
+                                 "show\npay\n",
+                                 {"--no-plugin"});
+    EXPECT_THAT(out, HasSubstr("без контроля тары"));
+}
+
+TEST_F(Options, Settings_ComeFromAFileAndTheCommandLine)
+{
+    const QString ini = write("s.ini", "[PackagingControl]\nallowSaleEmptyTara=false\n");
+    play("open\nadd PET1\nanswer no\nexpect refused subtotal\n", {"--config", ini});
+    play("open\nadd PET1\nsubtotal\n",
+         {"--config", ini, "--set", "PackagingControl:allowSaleEmptyTara=true"});
+}
+
+TEST_F(Options, Colour_IsForTerminalsOrWhenAsked)
+{
+    EXPECT_THAT(play("open\nshow\n"), Not(HasSubstr("\x1b[")));
+    EXPECT_THAT(play("open\nshow\n", {"--colour", "always"}), HasSubstr("\x1b["));
+}
+
+TEST_F(Options, PipedRegister_CarriesOutItsInput)
+{
+    const RunResult good = run({"--db", database()}, "open\nadd CHIPS\nshow\n");
+    EXPECT_EQ(good.status, 0);
+    EXPECT_EQ(good.err, "");
+    EXPECT_THAT(good.out, HasSubstr("129.90"));
+    const RunResult bad = run({"--db", database()}, "add CHOPS\nadd BAG\nshow\n");
+    EXPECT_EQ(bad.status, 1);
+    EXPECT_THAT(bad.out, HasSubstr("no article \"CHOPS\" in the catalogue"));
+    EXPECT_THAT(bad.out, HasSubstr("164.90"));
+}
+
+TEST_F(Options, DefaultDatabase_IsAtHome)
+{
+    EXPECT_EQ(run({}, "open\nadd CHIPS\n").status, 0);
+    EXPECT_TRUE(QFileInfo::exists(path("data/till/till.sqlite")));
+    EXPECT_THAT(run({}, "show\n").out, HasSubstr("129.90"));
+}
+
+//! Arguments that are wrong, and what is said of them.
+struct Wrong
+{
+    const char *name;
+    QStringList arguments;
+    const char *text;
+};
+
+void PrintTo(const Wrong &wrong, std::ostream *out)
+{
+    *out << wrong.arguments.join(' ').toStdString();
+}
+
+class WrongUsage : public ProgramTest, public testing::WithParamInterface<Wrong>
+{
+};
+
+TEST_P(WrongUsage, EndsWith2AndNamesTheWord)
+{
+    const RunResult wrong = run(GetParam().arguments);
+    EXPECT_EQ(wrong.status, 2);
+    EXPECT_THAT(wrong.err, StartsWith("till: "));
+    EXPECT_THAT(wrong.err, HasSubstr(GetParam().text));
+    EXPECT_EQ(wrong.out, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Arguments, WrongUsage,
+    testing::Values(Wrong{"Command", {"sell"}, "no command \"sell\"; try --help"},
+                    Wrong{"Option", {"--plugn", "x"}, "'plugn'; try --help\n"},
+                    Wrong{"Value", {"--db"}, "db"}, Wrong{"NoFile", {"play"}, "which file?"},
+                    Wrong{"Word", {"demo", "x"}, "\"x\" is one word too many"},
+                    Wrong{"Lang", {"--lang", "de"}, "\"de\" is none of: ru, en"},
+                    Wrong{"Colour", {"--colour", "red"}, "\"red\" is none of: auto, always, never"},
+                    Wrong{"Set", {"--set", "key"}, "\"key\" is not KEY=VALUE"}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+} // namespace

@@ -1,0 +1,62 @@
+#include "tests/till/console/ProgramFixture.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QProcessEnvironment>
+
+QString ProgramTest::write(const QString &name, const QByteArray &contents) const
+{
+    QFile file(path(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(file.write(contents), contents.size());
+    return file.fileName();
+}
+
+QByteArray ProgramTest::contents(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+void ProgramTest::start(QProcess &process, const QStringList &arguments) const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", directory.path());
+    environment.insert("XDG_DATA_HOME", path("data"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(TILL_PROGRAM), arguments);
+    ASSERT_TRUE(process.waitForStarted(patience));
+}
+
+RunResult ProgramTest::run(const QStringList &arguments, const QByteArray &input) const
+{
+    QProcess process;
+    start(process, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, process.readAllStandardOutput().toStdString(), "did not end by itself"};
+    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
+}
+
+std::string ProgramTest::play(const QByteArray &script, const QStringList &options) const
+{
+    const RunResult done = run(options + QStringList{"play", write("script.till", script)});
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.err, "");
+    return done.out;
+}
+
+QList<QJsonObject> ProgramTest::trace(const QByteArray &lines)
+{
+    QList<QJsonObject> notes;
+    const auto split = lines.trimmed().split('\n');
+    for (const QByteArray &line : split) {
+        const QJsonDocument note = QJsonDocument::fromJson(line);
+        EXPECT_TRUE(note.isObject()) << line.toStdString();
+        notes.append(note.object());
+    }
+    return notes;
+}

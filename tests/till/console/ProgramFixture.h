@@ -1,0 +1,49 @@
+#ifndef TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
+#define TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+constexpr int patience = 60'000; //!< milliseconds, for a program that hangs
+
+//! What a run of the program left.
+struct RunResult
+{
+    int status = -1; //!< -1 when it did not end by itself
+    std::string out;
+    std::string err;
+};
+
+//! Runs the till's program, at home in a directory of the test's.
+class ProgramTest : public testing::Test
+{
+protected:
+    QString path(const QString &name) const { return directory.filePath(name); }
+    QString database() const { return path("till.sqlite"); }
+
+    //! Writes a file into the directory; its path.
+    QString write(const QString &name, const QByteArray &contents) const;
+    static QByteArray contents(const QString &path);
+
+    //! Starts the program; its standard input stays open.
+    void start(QProcess &process, const QStringList &arguments) const;
+    //! Runs the program on \a input to its end.
+    RunResult run(const QStringList &arguments, const QByteArray &input = {}) const;
+    //! Plays \a script, which must be done with nothing on standard error; what it prints.
+    std::string play(const QByteArray &script, const QStringList &options = {}) const;
+
+    //! The objects of a trace.
+    static QList<QJsonObject> trace(const QByteArray &lines);
+
+    QTemporaryDir directory;
+};
+
+#endif // TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H

@@ -1,0 +1,41 @@
+#ifndef TESTS_TILL_CONSOLE_TERMINAL_H
+#define TESTS_TILL_CONSOLE_TERMINAL_H
+
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+//! A program on a terminal of its own, and a person before it.
+class Terminal
+{
+public:
+    //! Starts \a program with \a arguments; its files are at home in \a home.
+    Terminal(const std::string &program, const std::vector<std::string> &arguments,
+             const std::string &home);
+    //! Kills the program if it still runs.
+    ~Terminal();
+    Terminal(const Terminal &) = delete;
+    Terminal &operator=(const Terminal &) = delete;
+
+    //! Types \a keys, as they are.
+    void type(const std::string &keys) const;
+    //! Reads until \a text has come; what came up to its end. Fails the test when it does not come.
+    std::string readTo(const std::string &text);
+    //! Types a line at the prompt; what the program says up to the next prompt.
+    std::string enter(const std::string &line);
+    //! Waits for the program's end; its exit status, or -1 for another end.
+    int end();
+
+    static constexpr const char *prompt = "till> ";
+
+private:
+    //! Reads what comes next; false when nothing comes any more.
+    bool readMore();
+
+    pid_t m_process = -1;
+    int m_screen = -1;
+    std::string m_unread;
+};
+
+#endif // TESTS_TILL_CONSOLE_TERMINAL_H

@@ -1,0 +1,191 @@
+#include "tests/till/console/ProgramFixture.h"
+#include "tests/till/console/RebuiltReceipt.h"
+#include "tests/till/console/StoredReceipts.h"
+
+#include <QtCore/QDir>
+
+// The trace of the sample scripts, and receipts rebuilt from it alone.
+
+namespace {
+
+using testing::HasSubstr;
+
+//! A script, by its name in the names of tests.
+struct Sample
+{
+    QString path;
+
+    QString name() const { return path.section('/', -1).section('.', 0, 0); }
+};
+
+void PrintTo(const Sample &sample, std::ostream *out)
+{
+    *out << sample.name().toStdString();
+}
+
+QList<Sample> sampleScripts()
+{
+    QList<Sample> samples;
+    const QDir folder(QStringLiteral(TILL_SHARE_DIR "/scripts"));
+    const QStringList names = folder.entryList({"*.till"}, QDir::Files, QDir::Name);
+    for (const QString &name : names)
+        samples.append({folder.filePath(name)});
+    return samples;
+}
+
+//! Every receipt of a trace as it was last, by its number.
+QMap<qint64, RebuiltReceipt> rebuilt(const QList<QJsonObject> &notes)
+{
+    QMap<qint64, RebuiltReceipt> receipts;
+    RebuiltReceipt inHand;
+    for (const QJsonObject &note : notes) {
+        inHand.read(note);
+        if (note.value("kind") == "receipt" && note.value("id").toInteger() != 0)
+            receipts.insert(note.value("id").toInteger(), inHand);
+    }
+    return receipts;
+}
+
+class Trace : public ProgramTest
+{
+protected:
+    //! Plays the script into a trace; its notes.
+    QList<QJsonObject> traced(const QString &script)
+    {
+        const RunResult done =
+            run({"--db", database(), "--trace", path("trace"), "--quiet", "play", script});
+        EXPECT_EQ(done.status, 0) << done.err;
+        return trace(contents(path("trace")));
+    }
+
+    void expectRebuilt(const QList<QJsonObject> &notes) const
+    {
+        const auto receipts = rebuilt(notes);
+        EXPECT_FALSE(receipts.isEmpty());
+        for (auto receipt = receipts.cbegin(); receipt != receipts.cend(); ++receipt) {
+            const auto stored = storedReceipt(database(), receipt.key());
+            ASSERT_TRUE(stored.has_value());
+            EXPECT_TRUE(receipt->record() == *stored) << "receipt " << receipt.key();
+            EXPECT_EQ(receipt->total(), till::Receipt(*stored).total());
+        }
+    }
+};
+
+class SampleTrace : public Trace, public testing::WithParamInterface<Sample>
+{
+};
+
+TEST_P(SampleTrace, Receipts_AreRebuiltFromItAlone)
+{
+    expectRebuilt(traced(GetParam().path));
+}
+
+TEST_P(SampleTrace, Lines_AreNumberedAndNested)
+{
+    const QList<QJsonObject> notes = traced(GetParam().path);
+    int depth = 0;
+    for (qsizetype i = 0; i < notes.size(); ++i) {
+        EXPECT_EQ(notes[i].value("line").toInteger(), i + 1);
+        const QString kind = notes[i].value("kind").toString();
+        const int noted = notes[i].value("depth").toInt();
+        EXPECT_LE(noted, depth + 2) << i + 1; // into a trigger or an action within an event
+        if (kind == "command" || kind == "outcome") {
+            EXPECT_EQ(noted, 0) << i + 1;
+        }
+        depth = noted;
+    }
+}
+
+TEST_P(SampleTrace, Actions_EndInTheirResultAtTheirDepth)
+{
+    QList<QJsonObject> open;
+    const QList<QJsonObject> notes = traced(GetParam().path);
+    for (const QJsonObject &note : notes) {
+        if (note.value("kind") == "action") {
+            open.append(note);
+        } else if (note.value("kind") == "result") {
+            ASSERT_FALSE(open.isEmpty());
+            const QJsonObject action = open.takeLast();
+            EXPECT_EQ(action.value("type"), note.value("type"));
+            EXPECT_EQ(action.value("depth"), note.value("depth"));
+        }
+    }
+    EXPECT_TRUE(open.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, SampleTrace, testing::ValuesIn(sampleScripts()),
+                         [](const auto &script) {
+                             return script.param.name().replace('-', '_').toStdString();
+                         });
+
+TEST_F(Trace, OfAnInterruptedReceipt_BeginsWithAllOfIt)
+{
+    ASSERT_EQ(run({"--db", database()}, "open\nadd CAN3\nadd BEER 3\nsplit 2 1\nadd PET1\n"
+                                        "answer yes\nstorno 4\nsoftcheck 9\n")
+                  .status,
+              0);
+    expectRebuilt(traced(write("s.till", "qty 2 1\n")));
+}
+
+TEST_F(Trace, Order_IsThatOfWhatHappened)
+{
+    const auto notes = traced(write("s.till", "open\nadd PET15\nadd BEER 1.5\nqty 1 2\n"));
+    QStringList kinds;
+    bool inChange = false;
+    for (const QJsonObject &note : notes) {
+        inChange = inChange || note.value("text") == "qty 1 2";
+        const QString kind = note.value("kind").toString();
+        if (inChange && kind != "log" && kind != "data")
+            kinds.append(QString("%1 %2").arg(note.value("depth").toInt()).arg(kind));
+    }
+    EXPECT_EQ(kinds.join(", "),
+              QString("0 command, 1 action, 2 trigger, 2 position, 2 event, 3 action, 4 trigger, "
+                      "4 position, 4 event, 3 result, 1 result, 1 receipt, 0 outcome"));
+}
+
+TEST_F(Trace, ToStandardOutput_IsAllThatStandsThere)
+{
+    const RunResult done =
+        run({"--trace", "-", "play", write("s.till", "open\nadd CHIPS\nshow\n")});
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(trace(QByteArray::fromStdString(done.out)).last().value("outcome").toString(),
+              QString("done"));
+}
+
+//! The rows of the tables of docs/trace.md: kinds, then what is said of their fields.
+QMap<QString, QString> documentedKinds(const QString &page)
+{
+    QMap<QString, QString> kinds;
+    const QStringList lines = page.split('\n');
+    for (const QString &line : lines) {
+        if (line.startsWith("| `"))
+            kinds.insert(line.section('`', 1, 1), line);
+    }
+    return kinds;
+}
+
+TEST_F(Trace, EachKindAndField_IsInTheDocument)
+{
+    const QString page = QString::fromUtf8(contents(QStringLiteral(DOCS_DIR "/trace.md")));
+    const auto kinds = documentedKinds(page);
+    const QList<Sample> scripts = sampleScripts();
+    for (const Sample &script : scripts) {
+        const auto notes =
+            trace(QByteArray::fromStdString(run({"--trace", "-", "play", script.path}).out));
+        for (const QJsonObject &note : notes) {
+            const QString kind = note.value("kind").toString();
+            ASSERT_TRUE(kinds.contains(kind)) << kind.toStdString();
+            // An action has its arguments too, which have a paragraph of their own.
+            const QString text = kind == "action" ? page : kinds.value(kind);
+            const QStringList fields = note.keys();
+            for (const QString &field : fields) {
+                if (QStringList{"line", "kind", "depth"}.contains(field))
+                    continue;
+                EXPECT_TRUE(text.contains('`' + field + '`'))
+                    << kind.toStdString() << ' ' << field.toStdString();
+            }
+        }
+    }
+}
+
+} // namespace

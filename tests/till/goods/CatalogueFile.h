@@ -1,0 +1,63 @@
+#ifndef TESTS_TILL_GOODS_CATALOGUEFILE_H
+#define TESTS_TILL_GOODS_CATALOGUEFILE_H
+
+#include "till/goods/Catalogue.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include <ostream>
+
+namespace till {
+
+inline void PrintTo(const ArticleData &article, std::ostream *out)
+{
+    *out << article.code.toStdString() << " \"" << article.name.toStdString() << "\" "
+         << article.price << " kopecks, tara mode " << article.taraMode << ", capacity "
+         << article.taraCapacity << ", pack " << article.pack << " \"" << article.unit.toStdString()
+         << '"';
+}
+
+} // namespace till
+
+//! A catalogue file of its own for each test.
+class CatalogueFile
+{
+public:
+    QString path() const { return m_folder.filePath("goods.csv"); }
+
+    //! The articles of a file with that text, or the error as the only element's name.
+    QList<till::ArticleData> articles(const QByteArray &text) const
+    {
+        const auto loaded = load(text);
+        if (const auto *error = std::get_if<QString>(&loaded))
+            return {{"refused", *error, 0, 0, 0.0, 0.0, ""}};
+        QList<till::ArticleData> all;
+        const auto articles = std::get<till::Catalogue>(loaded).articles();
+        for (const auto &article : articles)
+            all.append(article->data);
+        return all;
+    }
+
+    //! What is said of a file with that text, its name shortened to FILE; empty when it is taken.
+    QString error(const QByteArray &text) const
+    {
+        const auto loaded = load(text);
+        const auto *error = std::get_if<QString>(&loaded);
+        return error ? QString(*error).replace(path(), "FILE") : QString();
+    }
+
+    std::variant<till::Catalogue, QString> load(const QByteArray &text) const
+    {
+        QFile file(path());
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+            return "the test cannot write: " + file.errorString();
+        file.close();
+        return till::Catalogue::load(path());
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+#endif // TESTS_TILL_GOODS_CATALOGUEFILE_H

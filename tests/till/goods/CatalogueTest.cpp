@@ -1,0 +1,295 @@
+#include "tests/support/Printers.h"
+#include "tests/till/goods/CatalogueFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+using till::ArticleData;
+using till::Catalogue;
+
+const QByteArray Head = "code,name,price,tara mode,tara capacity,pack,unit\n";
+
+class CatalogueContents : public testing::Test
+{
+protected:
+    ArticleData article(const QByteArray &row) { return file.articles(Head + row).first(); }
+
+    CatalogueFile file;
+};
+
+TEST_F(CatalogueContents, FindByCode_GivesThatArticle)
+{
+    const auto catalogue = std::get<Catalogue>(file.load(Head
+                                                         + "A,Chips,1,0,0,1,pc\n"
+                                                           "B,Fish,2,0,0,1,pc\n"));
+
+    ASSERT_TRUE(catalogue.find("B"));
+    EXPECT_EQ(catalogue.find("B")->data.name, "Fish");
+    EXPECT_EQ(catalogue.find("B"), catalogue.articles().at(1));
+}
+
+TEST_F(CatalogueContents, FindOfUnknownCode_GivesNull)
+{
+    const auto catalogue = std::get<Catalogue>(file.load(Head + "A,Chips,1,0,0,1,pc\n"));
+
+    EXPECT_FALSE(catalogue.find("B"));
+    EXPECT_FALSE(catalogue.find("a"));
+    EXPECT_FALSE(catalogue.find(""));
+}
+
+TEST_F(CatalogueContents, Articles_StandInTheOrderOfTheFile)
+{
+    const auto articles = file.articles(Head
+                                        + "Z,Chips,1,0,0,1,pc\n"
+                                          "A,Fish,2,0,0,1,pc\n"
+                                          "M,Bag,3,0,0,1,pc\n");
+
+    ASSERT_EQ(articles.size(), 3);
+    EXPECT_EQ(articles[0].code, "Z");
+    EXPECT_EQ(articles[1].code, "A");
+    EXPECT_EQ(articles[2].code, "M");
+}
+
+TEST_F(CatalogueContents, Article_TellsTheHostItsTaraModeAndCapacity)
+{
+    const auto catalogue = std::get<Catalogue>(file.load(Head + "A,Bottle,1,1,1.5,1,pc\n"));
+
+    EXPECT_EQ(catalogue.find("A")->getTaraMode(), Tmc::Tara);
+    EXPECT_EQ(catalogue.find("A")->getTaraCapacity(), QVariant(1.5));
+}
+
+TEST_F(CatalogueContents, EmptyTaraMode_IsOrdinaryGoods)
+{
+    EXPECT_EQ(article("A,Chips,1,,,1,pc"), (ArticleData{"A", "Chips", 100, 0, 0.0, 1.0, "pc"}));
+}
+
+TEST_F(CatalogueContents, Pack_MayBeOtherThanOne)
+{
+    EXPECT_EQ(article("A,Crate,1,0,,20,pc").pack, 20.0);
+    EXPECT_EQ(article("A,Glass,1,2,,0.25,l").pack, 0.25);
+}
+
+TEST_F(CatalogueContents, PriceOfZero_IsTaken)
+{
+    EXPECT_EQ(article("A,Gift,0,0,,1,pc"), (ArticleData{"A", "Gift", 0, 0, 0.0, 1.0, "pc"}));
+}
+
+TEST_F(CatalogueContents, EmptyUnit_IsTaken)
+{
+    EXPECT_EQ(article("A,Chips,1,0,,1,"), (ArticleData{"A", "Chips", 100, 0, 0.0, 1.0, ""}));
+}
+
+TEST_F(CatalogueContents, CodesThatDifferInLetterCase_AreTwoArticles)
+{
+    EXPECT_EQ(file.error(Head + "A,Chips,1,0,,1,pc\na,Fish,1,0,,1,pc\n"), "");
+}
+
+struct Refused
+{
+    const char *what;
+    QByteArray text;
+    QString error;
+};
+
+void PrintTo(const Refused &refused, std::ostream *out)
+{
+    *out << refused.what;
+}
+
+class CatalogueRefusal : public testing::TestWithParam<Refused>
+{
+protected:
+    CatalogueFile file;
+};
+
+TEST_P(CatalogueRefusal, SaysWhereAndWhy)
+{
+    EXPECT_EQ(file.error(GetParam().text), GetParam().error);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Fields, CatalogueRefusal,
+    testing::Values(
+        Refused{"empty code", Head + " ,Chips,1,0,0,1,pc",
+                R"(FILE:2: column 1 "code": an article needs a code)"},
+        Refused{"space in code", Head + "A B,Chips,1,0,0,1,pc",
+                R"(FILE:2: column 1 "code": "A B" has a space in it)"},
+        Refused{"unbreakable space in code", Head + "A\u00A0B,Chips,1,0,0,1,pc",
+                "FILE:2: column 1 \"code\": \"A\u00A0B\" has a space in it"},
+        Refused{"same code twice", Head + "A,Chips,1,0,0,1,pc\nB,Bag,1,0,0,1,pc\n\nA,Fish,1,0,0,1,",
+                R"(FILE:5: column 1 "code": "A" is the code of line 2 already)"},
+        Refused{"empty name", Head + "A,\" \n\",1,0,0,1,pc",
+                R"(FILE:2: column 2 "name": an article needs a name)"},
+        Refused{"empty price", Head + "A,Chips,,0,0,1,pc",
+                R"(FILE:2: column 3 "price": an article needs a price)"},
+        Refused{"price in words", Head + "A,Chips,much,0,0,1,pc",
+                R"(FILE:2: column 3 "price": "much" is not an amount of 0 or more, such as 12.50)"},
+        Refused{"negative price", Head + "A,Chips,-1,0,0,1,pc",
+                R"(FILE:2: column 3 "price": "-1" is not an amount of 0 or more, such as 12.50)"},
+        Refused{
+            "price with parts of a kopeck", Head + "A,Chips,1.005,0,0,1,pc",
+            R"(FILE:2: column 3 "price": "1.005" is not an amount of 0 or more, such as 12.50)"},
+        Refused{"unknown tara mode", Head + "A,Chips,1,3,0,1,pc",
+                "FILE:2: column 4 \"tara mode\": \"3\" is none of 0 (ordinary goods), 1 (tara) "
+                "and 2 (goods sold into tara)"},
+        Refused{"capacity in words", Head + "A,Bottle,1,1,big,1,pc",
+                "FILE:2: column 5 \"tara capacity\": \"big\" is not a number of 0 or more with at "
+                "most three decimals, such as 1.5"},
+        Refused{"negative capacity", Head + "A,Bottle,1,1,-1,1,pc",
+                "FILE:2: column 5 \"tara capacity\": \"-1\" is not a number of 0 or more with at "
+                "most three decimals, such as 1.5"},
+        Refused{"tara with capacity 0", Head + "A,Bottle,1,1,0,1,pc",
+                R"(FILE:2: column 5 "tara capacity": a tara needs a capacity above 0)"},
+        Refused{"tara without capacity", Head + "A,Bottle,1,1,,1,pc",
+                R"(FILE:2: column 5 "tara capacity": a tara needs a capacity above 0)"},
+        Refused{"ordinary goods with capacity", Head + "A,Bottle,1,,0.5,1,pc",
+                "FILE:2: column 5 \"tara capacity\": \"0.5\" is for a tara, which has the tara "
+                "mode 1"},
+        Refused{"goods sold into tara with capacity", Head + "A,Beer,1,2,0.5,1,l",
+                "FILE:2: column 5 \"tara capacity\": \"0.5\" is for a tara, which has the tara "
+                "mode 1"},
+        Refused{"pack in words", Head + "A,Chips,1,0,0,dozen,pc",
+                "FILE:2: column 6 \"pack\": \"dozen\" is not a number of 0 or more with at most "
+                "three decimals, such as 1.5"},
+        Refused{"pack of 0", Head + "A,Chips,1,0,0,0,pc",
+                R"(FILE:2: column 6 "pack": "0" is not above 0)"},
+        Refused{"negative pack", Head + "A,Chips,1,0,0,-2,pc",
+                "FILE:2: column 6 \"pack\": \"-2\" is not a number of 0 or more with at most three "
+                "decimals, such as 1.5"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, CatalogueRefusal,
+    testing::Values(
+        Refused{"too few fields", Head + "A,Chips,1,0,0",
+                R"(FILE:2: column 6 "pack": too few fields: 5 where the header has 7)"},
+        Refused{"too many fields", Head + "A,Chips,1,50,0,0,1,pc",
+                "FILE:2: column 8: too many fields: 8 where the header has 7"},
+        Refused{"bad UTF-8", Head + "A,\xD7\xE8\xEF\xF1\xFB,1,0,0,1,pc",
+                R"(FILE:2: column 2 "name": the text is not UTF-8)"},
+        Refused{"bad UTF-8 in a column that is not ours",
+                "note," + Head + "\xFF,A,Chips,1,0,0,1,pc",
+                R"(FILE:2: column 1 "note": the text is not UTF-8)"},
+        Refused{"cut UTF-8 at the end of the file", Head + "A,Chips,1,0,0,1,\xD1",
+                R"(FILE:2: column 7 "unit": the text is not UTF-8)"},
+        Refused{"quote that is not closed", Head + "A,Chips,1,0,0,1,pc\nB,\"Fish,1,0,0,1,pc\n\n",
+                R"(FILE:3: column 2 "name": the closing quote is missing)"},
+        Refused{"quote in a field without quotes", Head + "A,A 5\" brush,1,0,0,1,pc",
+                "FILE:2: column 2 \"name\": a quote stands alone: put the field in quotes and "
+                "double those within"},
+        Refused{"text behind the closing quote", Head + "A,\"Chips\" 5,1,0,0,1,pc",
+                "FILE:2: column 2 \"name\": a quote stands alone: put the field in quotes and "
+                "double those within"},
+        Refused{"row behind quoted line breaks",
+                Head + "A,\"Chips\n\nbig\",1,0,0,1,\"p\r\nc\"\r\n\r\nB,Fish,no,0,0,1,pc",
+                R"(FILE:7: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
+        Refused{"row with quoted line breaks before the bad field",
+                Head + "\n\"A\n\",\"Chips\n\nbig\",no,0,0,1,pc",
+                R"(FILE:3: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
+        Refused{"row behind line ends of CR",
+                QByteArray(Head + "\"A\",\"Chips\nbig\",1,0,0,1,pc\n\nB,Fish,no,0,0,1,pc")
+                    .replace('\n', '\r'),
+                R"(FILE:5: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
+        Refused{"two bad rows, the second with a stray quote",
+                Head + "A,Chips,no,0,0,1,pc\nB,Fi\"sh,1,0,0,1,pc",
+                R"(FILE:2: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
+        Refused{"Russian column in another place",
+                "прим.;единица;код;название;цена;режим тары;ёмкость тары;упаковка\n;;A;Ч;x;;;",
+                R"(FILE:2: column 5 "цена": "x" is not an amount of 0 or more, such as 12.50)"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Headers, CatalogueRefusal,
+    testing::Values(
+        Refused{"empty file", "", "FILE: the file is empty"},
+        Refused{"only a byte order mark", "\xEF\xBB\xBF", "FILE: the file is empty"},
+        Refused{"only blank rows", "\n \r\n,,,\n", "FILE: the file is empty"},
+        Refused{"no articles", Head, "FILE: there are no articles below the header"},
+        Refused{"missing column", "code,name,tara mode,tara capacity,pack,unit\n",
+                R"(FILE:1: missing in the header: "price")"},
+        Refused{"no header", "\nA,Chips,1,0,0,1,pc\n",
+                "FILE:2: missing in the header: \"code\", \"name\", \"price\", \"tara mode\", "
+                "\"tara capacity\", \"pack\", \"unit\""},
+        Refused{"column twice", "code,name,price,tara mode,tara capacity,pack,unit,название\n",
+                R"(FILE:1: column 8 "название": says the same as column 2 "name")"},
+        Refused{"bad UTF-8 in the header", "code;\xFF;name;price\n",
+                "FILE:1: column 2: the text is not UTF-8"},
+        Refused{"stray quote in the header", "code;na\"me;price\n",
+                "FILE:1: column 2: a quote stands alone: put the field in quotes and double those "
+                "within"},
+        Refused{"quote in the header that is not closed", "code;name;\"price\n",
+                "FILE:1: column 3: the closing quote is missing"}));
+
+TEST(CataloguePath, OfNoFile_IsAnError)
+{
+    EXPECT_EQ(std::get<QString>(Catalogue::load("/nowhere/goods.csv")),
+              "/nowhere/goods.csv: no such file");
+}
+
+TEST(CataloguePath, OfADirectory_IsAnError)
+{
+    EXPECT_EQ(std::get<QString>(Catalogue::load("/")), "/: a directory, not a file");
+}
+
+TEST(CataloguePath, OfAFileThatCannotBeRead_IsAnError)
+{
+    // The first page of a process's memory is never mapped: this file opens and fails to read.
+    const auto error = std::get<QString>(Catalogue::load("/proc/self/mem"));
+
+    EXPECT_TRUE(error.startsWith("/proc/self/mem: cannot be read: ")) << error.toStdString();
+}
+
+TEST(CataloguePath, OfAFileThatCannotBeOpened_IsAnError)
+{
+    // Writing is all that anyone may do to this one, whoever asks.
+    const auto error = std::get<QString>(Catalogue::load("/proc/self/clear_refs"));
+
+    EXPECT_TRUE(error.startsWith("/proc/self/clear_refs: cannot be ")) << error.toStdString();
+}
+
+class SampleCatalogue : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        auto loaded = Catalogue::load(TILL_SHARE_DIR "/catalogue.csv");
+        const auto *error = std::get_if<QString>(&loaded);
+        ASSERT_FALSE(error) << error->toStdString();
+        articles = std::get<Catalogue>(loaded).articles();
+    }
+
+    template <typename Predicate>
+    auto count(Predicate predicate) const
+    {
+        return std::count_if(articles.cbegin(), articles.cend(),
+                             [&](const auto &article) { return predicate(article->data); });
+    }
+
+    QList<QSharedPointer<till::Article>> articles;
+};
+
+TEST_F(SampleCatalogue, HoldsAShopOfDraughtGoods)
+{
+    EXPECT_GE(articles.size(), 18);
+    EXPECT_GE(count([](const ArticleData &a) { return a.taraMode == Tmc::Tara; }), 9);
+    EXPECT_GE(count([](const ArticleData &a) { return a.taraMode == Tmc::PackagingGoods; }), 7);
+    EXPECT_GE(count([](const ArticleData &a) { return a.taraMode == Tmc::NoTara; }), 4);
+}
+
+TEST_F(SampleCatalogue, HoldsGoodsOfEachKindInPacks)
+{
+    const auto inPacks = [](int mode) {
+        return [mode](const ArticleData &a) { return a.taraMode == mode && a.pack != 1.0; };
+    };
+
+    EXPECT_GE(count(inPacks(Tmc::PackagingGoods)), 1);
+    EXPECT_GE(count(inPacks(Tmc::NoTara)), 1);
+}
+
+TEST_F(SampleCatalogue, NamesTheUnitAndPriceOfEachArticle)
+{
+    EXPECT_EQ(count([](const ArticleData &a) { return a.unit.isEmpty() || a.price == 0; }), 0);
+}
+
+} // namespace

@@ -1,0 +1,227 @@
+#include "till/plugins/PluginLoader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryDir>
+
+#include <optional>
+#include <ostream>
+#include <string>
+
+using till::PluginError;
+using till::PluginLoader;
+
+namespace {
+
+using testing::HasSubstr;
+
+QString broken(const QString &name)
+{
+    return QStringLiteral(BROKEN_PLUGIN_DIR "/") + name + QStringLiteral(".so");
+}
+
+//! What the loader says of the file; nothing when it takes the file.
+std::optional<PluginError> errorOf(const QString &path)
+{
+    PluginLoader loader;
+    const PluginLoader::Result result = loader.load(path);
+    const auto *const error = std::get_if<PluginError>(&result);
+    return error ? std::optional(*error) : std::nullopt;
+}
+
+std::string textOf(const PluginError &error)
+{
+    return error.text().toStdString();
+}
+
+bool isMapped(const QString &path)
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    if (!maps.open(QIODevice::ReadOnly))
+        ADD_FAILURE() << "cannot see what is loaded";
+    return maps.readAll().contains(QFileInfo(path).fileName().toUtf8());
+}
+
+//! Writes the first \a length bytes of the real plugin to \a path.
+void truncate(const QString &path, qint64 length)
+{
+    QFile whole(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE));
+    QFile part(path);
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    ASSERT_TRUE(part.open(QIODevice::WriteOnly));
+    ASSERT_EQ(part.write(whole.read(length)), length);
+}
+
+TEST(LoaderFault, NoSuchFile_IsSaid)
+{
+    const auto error = errorOf("/nowhere/PackagingControl.so");
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::NoSuchFile);
+    EXPECT_EQ(textOf(*error), "Cannot load the plugin /nowhere/PackagingControl.so: expected a "
+                              "plugin file, found no such file");
+}
+
+TEST(LoaderFault, RelativePath_IsNamedInFull)
+{
+    const auto error = errorOf("nowhere.so");
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->path, QFileInfo("nowhere.so").absoluteFilePath());
+}
+
+TEST(LoaderFault, Directory_IsNoPluginFile)
+{
+    const auto error = errorOf(BROKEN_PLUGIN_DIR);
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::NoSuchFile);
+    EXPECT_THAT(textOf(*error), HasSubstr("expected a plugin file, found a directory"));
+}
+
+TEST(LoaderFault, TextFile_IsNoLibrary)
+{
+    const QTemporaryDir folder;
+    QFile text(folder.filePath("notes.so"));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write(QByteArray(1000, 'x'));
+    text.close();
+
+    const auto error = errorOf(text.fileName());
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::NotALibrary);
+    EXPECT_THAT(textOf(*error),
+                HasSubstr("expected a shared library, found a file of another kind"));
+}
+
+class CutOffAfter : public testing::TestWithParam<int>
+{
+protected:
+    QTemporaryDir folder;
+    QString path = folder.filePath("PackagingControl.so");
+};
+
+TEST_P(CutOffAfter, PerMilleOfTheFile_IsTruncated)
+{
+    const qint64 whole = QFileInfo(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE)).size();
+    const qint64 length = whole * GetParam() / 1000;
+    truncate(path, length);
+
+    const auto error = errorOf(path);
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::Truncated);
+    EXPECT_EQ(error->path, path);
+    EXPECT_EQ(error->expected, QString("a shared library of %1 bytes").arg(whole));
+    EXPECT_EQ(error->found, QString("only its first %1 bytes").arg(length));
+}
+
+INSTANTIATE_TEST_SUITE_P(LoaderFault, CutOffAfter, testing::Values(10, 500, 900, 999));
+
+class ShorterThanAHeader : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(ShorterThanAHeader, File_IsNoLibrary)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("PackagingControl.so");
+    truncate(path, GetParam());
+
+    const auto error = errorOf(path);
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::NotALibrary);
+    EXPECT_EQ(error->found, QString("a file of another kind, %1 bytes long").arg(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(LoaderFault, ShorterThanAHeader, testing::Values(0, 3, 4, 63));
+
+TEST(LoaderFault, LibraryWithoutMetadata_IsNoQtPlugin)
+{
+    const auto error = errorOf(broken("NoMetadata"));
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::NoMetadata);
+    EXPECT_EQ(error->path, broken("NoMetadata"));
+    EXPECT_THAT(textOf(*error), HasSubstr("expected the metadata of a Qt plugin, found none"));
+    EXPECT_FALSE(isMapped(broken("NoMetadata")));
+}
+
+TEST(LoaderFault, WrongInterface_NamesBothAndRunsNothing)
+{
+    const auto error = errorOf(broken("WrongInterface"));
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::WrongInterface);
+    EXPECT_EQ(textOf(*error), "Cannot load the plugin " + broken("WrongInterface").toStdString()
+                                  + ": expected interface \"PackagingControl\", found interface "
+                                    "\"AnotherControl\"");
+    EXPECT_FALSE(qEnvironmentVariableIsSet("WRONG_INTERFACE_WAS_RUN"));
+}
+
+TEST(LoaderFault, UnresolvedSymbol_IsNamed)
+{
+    const auto error = errorOf(broken("UnresolvedSymbol"));
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::NotLoadable);
+    EXPECT_EQ(error->path, broken("UnresolvedSymbol"));
+    EXPECT_THAT(textOf(*error), HasSubstr("expected a library that this system can load, found "));
+    EXPECT_THAT(textOf(*error), HasSubstr("definedNowhere"));
+}
+
+struct WrongObject
+{
+    const char *file;
+    const char *expected;
+    const char *found;
+};
+
+void PrintTo(const WrongObject &row, std::ostream *out)
+{
+    *out << row.file;
+}
+
+class LoaderFaultObject : public testing::TestWithParam<WrongObject>
+{
+};
+
+TEST_P(LoaderFaultObject, MissingPart_IsNamedAndNothingStaysLoaded)
+{
+    const auto error = errorOf(broken(GetParam().file));
+
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault, PluginError::WrongObject);
+    EXPECT_EQ(error->path, broken(GetParam().file));
+    EXPECT_EQ(error->expected,
+              QString("an object that answers to \"%1\"").arg(GetParam().expected));
+    EXPECT_EQ(error->found, QString(GetParam().found));
+    EXPECT_FALSE(isMapped(broken(GetParam().file)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, LoaderFaultObject,
+    testing::Values(
+        WrongObject{"NoPlugin", "pos.host.BasicPlugin/1.0", "an object of class \"NoPlugin\""},
+        WrongObject{"NoListener", "BaseActivityListener", "an object of class \"NoListener\""},
+        WrongObject{"NoWatcher", "DocumentWatcher", "an object of class \"NoWatcher\""},
+        WrongObject{"NoObject", "pos.host.BasicPlugin/1.0", "no object"}),
+    [](const auto &row) { return std::string(row.param.file); });
+
+TEST(LoaderFault, AfterAFault_TheSameLoaderLoadsAGoodFile)
+{
+    PluginLoader loader;
+    ASSERT_TRUE(std::holds_alternative<PluginError>(loader.load(broken("NoPlugin"))));
+
+    const PluginLoader::Result result = loader.load(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE));
+
+    EXPECT_TRUE(std::holds_alternative<till::LoadedPlugin>(result));
+    EXPECT_TRUE(loader.unload());
+}
+
+} // namespace

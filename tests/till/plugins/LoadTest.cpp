@@ -1,0 +1,171 @@
+#include "till/plugins/PluginLoader.h"
+
+#include "host/ActivityNotifier.h"
+#include "host/BaseActivityListener.h"
+#include "host/BasicPlugin.h"
+#include "host/Document.h"
+#include "host/DocumentWatcher.h"
+#include "host/Event.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
+
+using till::LoadedPlugin;
+using till::PluginError;
+using till::PluginLoader;
+using till::PluginMetadata;
+
+namespace {
+
+class Load : public testing::Test
+{
+protected:
+    LoadedPlugin loaded()
+    {
+        const PluginLoader::Result result = loader.load(path);
+        if (const auto *const error = std::get_if<PluginError>(&result)) {
+            ADD_FAILURE() << error->text().toStdString();
+            return {};
+        }
+        return std::get<LoadedPlugin>(result);
+    }
+
+    static bool isMapped()
+    {
+        QFile maps(QStringLiteral("/proc/self/maps"));
+        return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("PackagingControl.so");
+    }
+
+    const QString path = QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE);
+    PluginLoader loader;
+};
+
+TEST_F(Load, ReadMetadata_NamesInterfaceAndClassAndLoadsNothing)
+{
+    const PluginLoader::MetadataResult result = PluginLoader::readMetadata(path);
+
+    const auto *const metadata = std::get_if<PluginMetadata>(&result);
+    ASSERT_NE(metadata, nullptr);
+    EXPECT_EQ(metadata->interfaceId, QString("PackagingControl"));
+    EXPECT_EQ(metadata->className, QString("PackagingControl"));
+    EXPECT_EQ(metadata->record.value("IID").toString(), QString("PackagingControl"));
+    EXPECT_FALSE(isMapped());
+}
+
+TEST_F(Load, GoodFile_GivesEveryPartOfOneObject)
+{
+    const LoadedPlugin plugin = loaded();
+
+    EXPECT_EQ(plugin.metadata.className, QString("PackagingControl"));
+    EXPECT_EQ(plugin.object, static_cast<QObject *>(plugin.listener));
+    EXPECT_EQ(plugin.plugin, plugin.object->qt_metacast("BasicPlugin"));
+    EXPECT_EQ(plugin.watcher, plugin.object->qt_metacast("DocumentWatcher"));
+    EXPECT_TRUE(loader.unload());
+}
+
+TEST_F(Load, RelativePath_IsTakenFromTheCurrentFolder)
+{
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(QFileInfo(path).path());
+
+    const PluginLoader::Result result = loader.load("PackagingControl.so");
+
+    QDir::setCurrent(before);
+    EXPECT_TRUE(std::holds_alternative<LoadedPlugin>(result));
+    EXPECT_TRUE(loader.unload());
+}
+
+TEST_F(Load, SecondLoader_FindsTheSameObject)
+{
+    PluginLoader second;
+    const LoadedPlugin first = loaded();
+
+    const PluginLoader::Result result = second.load(path);
+
+    ASSERT_TRUE(std::holds_alternative<LoadedPlugin>(result));
+    EXPECT_EQ(std::get<LoadedPlugin>(result).object, first.object);
+    second.unload();
+    loader.unload();
+}
+
+TEST_F(Load, Unload_DeletesTheObjectAndTakesTheCodeOut)
+{
+    const QPointer<QObject> object = loaded().object;
+    ASSERT_TRUE(isMapped());
+
+    EXPECT_TRUE(loader.unload());
+
+    EXPECT_TRUE(object.isNull());
+    EXPECT_FALSE(isMapped());
+}
+
+TEST_F(Load, UnloadWhileAnotherLoaderHoldsTheFile_KeepsTheObject)
+{
+    PluginLoader second;
+    const QPointer<QObject> object = loaded().object;
+    second.load(path);
+
+    EXPECT_FALSE(loader.unload());
+
+    EXPECT_FALSE(object.isNull());
+    EXPECT_TRUE(second.unload());
+    EXPECT_TRUE(object.isNull());
+}
+
+TEST_F(Load, UnloadOfNothing_IsFalse)
+{
+    EXPECT_FALSE(loader.unload());
+
+    loaded();
+    EXPECT_TRUE(loader.unload());
+    EXPECT_FALSE(loader.unload());
+}
+
+TEST_F(Load, AfterUnload_LoadsANewObjectThatWorks)
+{
+    loaded();
+    ASSERT_TRUE(loader.unload());
+
+    const LoadedPlugin plugin = loaded();
+
+    EXPECT_TRUE(plugin.plugin->init());
+    EXPECT_EQ(plugin.plugin->triggers().size(), 4);
+    EXPECT_TRUE(loader.unload());
+}
+
+TEST_F(Load, LoadedPlugin_FollowsTheReceiptAsAHostDrivesIt)
+{
+    const LoadedPlugin plugin = loaded();
+    const auto receipt = QSharedPointer<Document>::create();
+    const auto tmc = QSharedPointer<Tmc>::create(Tmc::Tara, 0.5);
+    const auto tara = QSharedPointer<GoodsItem>::create(2, tmc);
+    tara->setCquant(3);
+    receipt->addPosition(tara);
+
+    plugin.plugin->init();
+    plugin.watcher->setDocument(receipt);
+    Singleton<ActivityNotifier>::instance()->notify(
+        Event(EActivityListener::eventPositionAdded)
+            .addArgument("position", QVariant::fromValue(tara)));
+
+    const QVariantList taras = receipt->getPluginData("PackagingControl", "taraInfo", {}).toList();
+    ASSERT_EQ(taras.size(), 1);
+    EXPECT_EQ(taras[0].toMap().value("capacity"), QVariant(1.5));
+    EXPECT_TRUE(loader.unload());
+}
+
+TEST_F(Load, UnloadedWhileSubscribed_IsForgottenByTheNotifier)
+{
+    loaded().plugin->init();
+    ASSERT_TRUE(loader.unload());
+
+    Singleton<ActivityNotifier>::instance()->notify(Event(EActivityListener::eventPositionAdded));
+
+    EXPECT_FALSE(isMapped());
+}
+
+} // namespace

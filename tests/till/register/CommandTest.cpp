@@ -1,0 +1,228 @@
+#include "tests/till/support/TillFixture.h"
+
+// Every command on its good path.
+
+namespace till {
+
+namespace {
+
+using testing::HasSubstr;
+
+class Command : public TillTest
+{
+};
+
+TEST_F(Command, Open_MakesASale)
+{
+    done({"open"});
+    EXPECT_EQ(receipt()->getType(), Document::Sale);
+    expect({"state open", "positions 0", "total 0", "control active"});
+}
+
+TEST_F(Command, OpenReturn_MakesAReturn)
+{
+    done({"open return"});
+    EXPECT_EQ(receipt()->getType(), Document::Return);
+    expect({"control suspended"});
+}
+
+TEST_F(Command, OpenAfterPayment_MakesAnotherReceipt)
+{
+    done({"open", "add CHIPS", "pay"});
+    const qint64 first = receipt()->id();
+    done({"open"});
+    EXPECT_EQ(receipt()->id(), first + 1);
+    expect({"positions 0"});
+}
+
+TEST_F(Command, AddWithoutQuantity_AddsOnePiece)
+{
+    done({"open", "add CHIPS"});
+    expect({"position 1 article CHIPS quantity 1 base 1 sum 129.90 live"});
+}
+
+TEST_F(Command, Add_TakesDecimalPointAndComma)
+{
+    done({"open", "add BEER 1.5", "add BEER 1,5"});
+    expect({"position 1 quantity 1.5 sum 210", "position 2 quantity 1,5 sum 210,00"});
+}
+
+TEST_F(Command, AddOfAPack_CountsPiecesAndBaseUnits)
+{
+    done({"open", "add CRATE20 2"});
+    expect({"position 1 quantity 2 base 40 sum 2380.00", "total 2380.00"});
+}
+
+TEST_F(Command, Qty_ChangesPiecesAndBaseUnits)
+{
+    done({"open", "add BEER3 1", "qty 1 2,5"});
+    expect({"position 1 quantity 2.5 base 7.5 sum 997.50", "total 997.50"});
+}
+
+TEST_F(Command, Storno_StrikesThePositionAfterAYes)
+{
+    done({"open", "add CHIPS", "add OPENER", "answer yes", "storno 1"});
+    expect({"question tillStornoPosition", "position 1 stornoed", "position 2 live", "total 89",
+            "positions 1"});
+}
+
+TEST_F(Command, Storno_LeavesThePositionAfterANo)
+{
+    done({"open", "add CHIPS", "answer no"});
+    refused("storno 1");
+    expect({"question \"Сторнировать позицию?\"", "position 1 live", "total 129.90"});
+}
+
+TEST_F(Command, Split_TakesPartsOff)
+{
+    done({"open", "add OIL 2", "split 1 0.5 0,25"});
+    expect({"position 1 quantity 1.25", "position 2 article OIL quantity 0.5",
+            "position 3 quantity 0.25", "total 310"});
+}
+
+TEST_F(Command, SplitOfAPack_KeepsItsBaseUnits)
+{
+    done({"open", "add BEER3 2", "split 1 0.5"});
+    expect({"position 1 quantity 1.5 base 4.5", "position 2 quantity 0.5 base 1.5"});
+}
+
+TEST_F(Command, Unite_PutsAllIntoTheFirst)
+{
+    done({"open", "add OIL 1", "add OIL 2", "add OIL 4", "unite 2 3 1"});
+    expect({"position 2 quantity 7", "position 1 stornoed", "position 3 stornoed", "total 1085"});
+}
+
+TEST_F(Command, Order_IsAttached)
+{
+    done({"open", "order A-7"});
+    EXPECT_EQ(receipt()->getOrder()->number, QString("A-7"));
+    expect({"control suspended"});
+}
+
+TEST_F(Command, Softchecks_AreAdded)
+{
+    done({"open", "softcheck 7", "softcheck \"8 b\""});
+    EXPECT_EQ(receipt()->softChecks(), QStringList({"7", "8 b"}));
+}
+
+TEST_F(Command, Subtotal_AwaitsPayment)
+{
+    done({"open", "add CHIPS", "subtotal"});
+    expect({"state subtotal"});
+}
+
+TEST_F(Command, ChangeAfterSubtotal_OpensTheReceiptAgain)
+{
+    for (const QString line : {"add CHIPS", "qty 1 3", "split 1 1", "unite 1 2"}) {
+        done({receipt() ? "subtotal" : "open", "add CHIPS", "subtotal", line});
+        expect({"state open"});
+    }
+}
+
+TEST_F(Command, PayAtOnce_ClosesTheReceipt)
+{
+    done({"open", "add CHIPS", "pay"});
+    expect({"state closed"});
+    EXPECT_EQ(noted("action", "type"), QVariantList({10000, 10001, 144, 10002}));
+}
+
+TEST_F(Command, PayFromSubtotal_PassesTheGateOnce)
+{
+    done({"open", "add CHIPS", "subtotal", "pay"});
+    EXPECT_EQ(noted("action", "type"), QVariantList({10000, 10001, 133, 10002}));
+}
+
+TEST_F(Command, PayWithMore_TellsTheChange)
+{
+    done({"open", "add CHIPS"});
+    takePrinted();
+    done({"pay 150,5"});
+    EXPECT_EQ(takePrinted(), QString("  Сдача 20.60"));
+}
+
+TEST_F(Command, PayExactly_LeavesNoChange)
+{
+    done({"open", "add CHIPS", "pay 129.90"});
+    EXPECT_EQ(takePrinted(), QString("  Сдача 0.00"));
+}
+
+TEST_F(Command, PayWithTooLittle_IsRefusedAtSubtotal)
+{
+    done({"open", "add CHIPS"});
+    EXPECT_EQ(refused("pay 129.89"), QString("tillNotEnoughMoney"));
+    expect({"message tillNotEnoughMoney", "message \"Недостаточно денег для оплаты\"",
+            "state subtotal"});
+    done({"pay 129.90"});
+}
+
+TEST_F(Command, EmptyReceipt_IsNotPaid)
+{
+    done({"open"});
+    for (const QString line : {"pay", "pay 5", "subtotal"}) {
+        refused(line);
+        expect({"message tillReceiptEmpty", "state open"});
+    }
+}
+
+TEST_F(Command, Cancel_EndsTheReceiptAfterAYes)
+{
+    done({"open", "answer no"});
+    refused("cancel");
+    expect({"question tillCancelReceipt", "state open"});
+    done({"answer yes", "cancel"});
+    expect({"state cancelled"});
+}
+
+TEST_F(Command, Show_PrintsTheReceipt)
+{
+    done({"open", "add CHIPS", "show"});
+    EXPECT_EQ(takePrinted(), commands->renderReceipt());
+    EXPECT_THAT(commands->renderReceipt().toStdString(), HasSubstr("129.90"));
+}
+
+TEST_F(Command, Articles_ListsTheCatalogueOrTheMatches)
+{
+    done({"articles"});
+    EXPECT_EQ(printed.size(), till->catalogue().articles().size());
+    takePrinted();
+    done({"articles мёд"});
+    EXPECT_EQ(takePrinted().simplified(), QString("HONEY 620.00 Мёд цветочный на развес"));
+}
+
+TEST_F(Command, Log_PrintsWhatThePluginLoggedForTheLastCommand)
+{
+    done({"open", "add CAN3", "log"});
+    EXPECT_EQ(takePrinted(), QString("  Добавлена тара"));
+}
+
+TEST_F(Command, Say_PrintsItsWords)
+{
+    done({"say two  words"});
+    EXPECT_EQ(takePrinted(), QString("\ntwo words"));
+}
+
+TEST_F(Command, Help_ListsEachCommandOrExplainsOne)
+{
+    done({"help"});
+    EXPECT_THAT(takePrinted().toStdString(), HasSubstr("softcheck NUMBER"));
+    done({"help qty"});
+    EXPECT_EQ(takePrinted(), QString("qty POSITION QUANTITY\n  change the quantity of a position"));
+}
+
+TEST_F(Command, Quit_Leaves)
+{
+    EXPECT_FALSE(commands->hasQuit());
+    done({"quit"});
+    EXPECT_TRUE(commands->hasQuit());
+}
+
+TEST_F(Command, EmptyLinesAndComments_DoNothing)
+{
+    heard.clear();
+    done({"", "   ", "# open", "  # \"open"});
+    EXPECT_TRUE(heard.isEmpty());
+}
+
+} // namespace
+
+} // namespace till

@@ -1,0 +1,182 @@
+#include "tests/till/support/TillFixture.h"
+
+// The road that actions take, with the real plugin on it.
+
+namespace till {
+
+namespace {
+
+class Road : public TillTest
+{
+protected:
+    //! The codes of the events since the notes were last forgotten.
+    QVariantList events() const { return noted("event", "code"); }
+    int recomputations() const { return receipt()->recomputations(); }
+};
+
+TEST_F(Road, CashiersChange_IsReportedAs26)
+{
+    done({"open", "add BEER"});
+    heard.clear();
+    done({"qty 1 2"});
+    EXPECT_EQ(events(), QVariantList() << 26);
+    EXPECT_EQ(noted("action", "origin"), QVariantList({"cashier"}));
+}
+
+TEST_F(Road, ChangeThroughTheQueue_IsReportedAs252)
+{
+    done({"open", "add PET15", "add BEER 1.5"});
+    heard.clear();
+    done({"qty 1 2"});
+    EXPECT_EQ(noted("event", "position"), QVariantList({1, 2}));
+    EXPECT_EQ(events(), QVariantList({26, 252}));
+    EXPECT_EQ(noted("action", "origin"), QVariantList({"cashier", "program"}));
+    EXPECT_EQ(noted("result", "result"), QVariantList({2, 2}));
+}
+
+TEST_F(Road, NestedActions_AreDeeper)
+{
+    done({"open", "add PET15", "add BEER 1.5"});
+    heard.clear();
+    done({"qty 1 2"});
+    EXPECT_EQ(noted("action", "depth"), QVariantList({1, 3}));
+    EXPECT_EQ(noted("result", "depth"), QVariantList({3, 1}));
+}
+
+TEST_F(Road, RemovalThroughTheQueue_IsReportedAs21)
+{
+    done({"open", "add PET15", "add BEER 1.5"});
+    heard.clear();
+    done({"qty 1 0"});
+    EXPECT_EQ(events(), QVariantList({26, 21}));
+    EXPECT_EQ(noted("action", "type"), QVariantList({5, 202}));
+}
+
+TEST_F(Road, Refusal_PublishesTheErrorAndNothingElse)
+{
+    done({"open", "add PET15", "add BEER 1"});
+    heard.clear();
+    refused("qty 1 2");
+    EXPECT_EQ(events(), QVariantList() << 29);
+    EXPECT_EQ(noted("result", "result"), QVariantList() << 1);
+    expect({"position 1 quantity 1"});
+}
+
+TEST_F(Road, StornoWithoutDialog_AsksOnlyThePluginsQuestion)
+{
+    done({"set PackagingControl:allowSaleEmptyTara false", "open", "add CHIPS", "add CAN3",
+          "add PET1", "answer yes", "subtotal"});
+    EXPECT_EQ(noted("question", "key"), QVariantList({"packingControlSaleEmptyTara"}));
+    expect({"position 2 stornoed", "position 3 stornoed", "state subtotal"});
+}
+
+TEST_F(Road, PluginsNo_CancelsTheSubtotal)
+{
+    done({"set PackagingControl:allowSaleEmptyTara false", "open", "add CAN3"});
+    for (const QString line : {"subtotal", "pay"}) {
+        heard.clear();
+        done({"answer no"});
+        refused(line);
+        EXPECT_EQ(noted("result", "result"), QVariantList() << 0);
+        expect({"state open", "position 1 live"});
+    }
+}
+
+TEST_F(Road, Numbers_AreNeverUsedTwice)
+{
+    done({"open", "add CHIPS", "add CHIPS", "answer yes yes", "storno 2", "storno 1", "add BAG",
+          "split 3 0.5", "restart", "add BAG"});
+    QList<int> numbers;
+    for (const auto &line : receipt()->lines())
+        numbers.append(line->getPosnum());
+    EXPECT_EQ(numbers, QList<int>({1, 2, 3, 4, 5}));
+}
+
+TEST_F(Road, Cascade_IsRecomputedOnceAfterTheSwitch)
+{
+    done({"open", "add CAN3", "add BEER 1", "add DARK 1", "add OIL 1"});
+    const int before = recomputations();
+    heard.clear();
+    done({"answer yes", "storno 1"});
+    EXPECT_EQ(noted("switch", "on"), QVariantList({false, true}));
+    EXPECT_EQ(recomputations() - before, 2); // the can's own, and one for all its goods
+    EXPECT_EQ(notesOf("loyalty").size(), 1);
+    expect({"positions 0", "total 0"});
+}
+
+TEST_F(Road, Return_IsBypassed)
+{
+    done({"open return", "add CAN3", "add BEER 1", "qty 1 2"});
+    expect({"control suspended", "records 0 0", "log none"});
+    EXPECT_TRUE(commands->renderReceipt().contains("контроль тары приостановлен"));
+}
+
+TEST_F(Road, OrderAndSoftCheck_SuspendAndAreSeen)
+{
+    for (const QString line : {"order A-1", "softcheck 1"}) {
+        done({"open", "add CAN3", "add BEER 1", line});
+        expect({"log \"Добавлен софт-чек или заказ, работа плагина приостановлена\"",
+                "control suspended"});
+        EXPECT_TRUE(commands->renderReceipt().contains("контроль тары приостановлен"));
+        done({"qty 1 2", "pay"});
+    }
+}
+
+TEST_F(Road, NextSale_IsWatchedAgain)
+{
+    done({"open", "softcheck 1", "add CHIPS", "pay", "open", "add CAN3"});
+    expect({"control active", "records 1 0"});
+}
+
+TEST_F(Road, Settings_ReachThePlugin)
+{
+    done({"open", "add CAN3", "set PackagingControl:allowSaleEmptyTara false"});
+    expect({"state open", "records 1 0"}); // taken up again
+    done({"answer no"});
+    refused("subtotal");
+    done({"set PackagingControl:allowSaleEmptyTara true", "subtotal"});
+}
+
+TEST_F(Road, Restart_TakesUpTheReceiptInHandOnly)
+{
+    done({"open", "add CAN3", "add BEER 2"});
+    const ReceiptRecord before = receipt()->record();
+    done({"restart"});
+    EXPECT_EQ(receipt()->record(), before);
+    done({"pay", "restart"});
+    expect({"state none"});
+}
+
+TEST_F(Road, RestartThatFails_LeavesTheTillOffUntilAnother)
+{
+    till::Setup lame = setup();
+    lame.catalogue = directory.filePath("c.csv");
+    ASSERT_TRUE(QFile::copy(setup().catalogue, lame.catalogue));
+    start(lame);
+    done({"open", "add CAN3"});
+    ASSERT_TRUE(QFile::rename(lame.catalogue, lame.catalogue + "x"));
+    EXPECT_TRUE(failed("restart").startsWith(lame.catalogue));
+
+    EXPECT_EQ(failed("add CAN3"), QString("the till is off; 'restart' switches it on"));
+    EXPECT_EQ(commands->renderReceipt(), QString());
+    EXPECT_TRUE(commands->completions({"qty", ""}).isEmpty());
+    ASSERT_TRUE(QFile::rename(lame.catalogue + "x", lame.catalogue));
+    done({"restart", "add BEER 2"});
+    expect({"goods 2 in 1 2"});
+}
+
+TEST_F(Road, WithoutPlugin_TheTillWorksWithoutTara)
+{
+    till::Setup bare = setup();
+    bare.plugin.clear();
+    start(bare);
+    done({"open", "add CAN3", "add BEER 2", "qty 1 2", "split 2 1", "unite 2 3", "softcheck 1",
+          "answer yes", "storno 1", "subtotal", "pay"});
+    expect({"control none", "records 0 0", "log none", "total 280"});
+    EXPECT_TRUE(commands->renderReceipt().contains("без контроля тары"));
+    EXPECT_TRUE(notesOf("trigger").isEmpty());
+}
+
+} // namespace
+
+} // namespace till

@@ -1,0 +1,214 @@
+#include "tests/support/Printers.h"
+#include "tests/support/WarningCapture.h"
+
+#include "host/Config.h"
+#include "till/register/SettingsFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+namespace {
+
+//! A settings file of one setting, and a configuration that reads it.
+class SettingsFile : public testing::Test
+{
+protected:
+    void write(const QByteArray &text)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(text), text.size());
+    }
+
+    QString read() { return till::readSettingsFile(path, config); }
+
+    const QString key = QStringLiteral("PackagingControl:allowSaleEmptyTara");
+    QTemporaryDir directory;
+    QString path = directory.filePath("till.ini");
+    Config config;
+};
+
+TEST_F(SettingsFile, SectionAndKey_BecomeOneKey)
+{
+    write("[PackagingControl]\nallowSaleEmptyTara=false\n");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_FALSE(config.getBool(key, true));
+}
+
+TEST_F(SettingsFile, EverySection_IsRead)
+{
+    write("[One]\nfirst=true\nsecond=true\n[Two]\nfirst=true\n");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_TRUE(config.getBool("One:first", false));
+    EXPECT_TRUE(config.getBool("One:second", false));
+    EXPECT_TRUE(config.getBool("Two:first", false));
+    EXPECT_FALSE(config.getBool("Two:second", false));
+}
+
+TEST_F(SettingsFile, EmptyFile_HoldsNothing)
+{
+    write("");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_TRUE(config.getBool(key, true));
+}
+
+TEST_F(SettingsFile, EmptyValue_IsTheDefault)
+{
+    const WarningCapture warnings;
+    write("[PackagingControl]\nallowSaleEmptyTara=\n");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_TRUE(config.getBool(key, true));
+    EXPECT_EQ(warnings.lines().size(), 1);
+}
+
+TEST_F(SettingsFile, ListOfValues_IsTheDefault)
+{
+    const WarningCapture warnings;
+    write("[PackagingControl]\nallowSaleEmptyTara=false, false\n");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_TRUE(config.getBool(key, true));
+    EXPECT_EQ(warnings.lines().size(), 1);
+}
+
+TEST_F(SettingsFile, SettingOfTheFile_OverrulesTheEarlierOne)
+{
+    config.set(key, true);
+    write("[PackagingControl]\nallowSaleEmptyTara=false\n");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_FALSE(config.getBool(key, true));
+}
+
+TEST_F(SettingsFile, SettingNotInTheFile_Stays)
+{
+    config.set(key, false);
+    write("[Other]\nsetting=true\n");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_FALSE(config.getBool(key, true));
+}
+
+TEST_F(SettingsFile, ChangedFile_IsReadAnew)
+{
+    write("[PackagingControl]\nallowSaleEmptyTara=false\n");
+    read();
+    write("[PackagingControl]\nallowSaleEmptyTara=yes\n");
+
+    EXPECT_EQ(read(), QString());
+    EXPECT_TRUE(config.getBool(key, false));
+}
+
+TEST_F(SettingsFile, Reading_LeavesTheFileAsItIs)
+{
+    const QByteArray text = "; a comment\n[PackagingControl]\nallowSaleEmptyTara = off\n";
+    write(text);
+    read();
+    config.set(key, true);
+
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), text);
+}
+
+TEST_F(SettingsFile, Reading_LeavesNothingBesideTheFile)
+{
+    write("[PackagingControl]\nallowSaleEmptyTara=off\n");
+    read();
+
+    EXPECT_EQ(QDir(directory.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+              QStringList{"till.ini"});
+}
+
+class SettingsFileSpelling : public SettingsFile,
+                             public testing::WithParamInterface<std::pair<const char *, bool>>
+{
+};
+
+TEST_P(SettingsFileSpelling, KnownSpelling_OverrulesTheDefault)
+{
+    const auto [spelling, meaning] = GetParam();
+    write(QByteArray("[PackagingControl]\nallowSaleEmptyTara=") + spelling + '\n');
+
+    ASSERT_EQ(read(), QString());
+    EXPECT_EQ(config.getBool(key, !meaning), meaning);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, SettingsFileSpelling,
+                         testing::Values(std::pair("true", true), std::pair("yes", true),
+                                         std::pair("on", true), std::pair("1", true),
+                                         std::pair("Yes", true), std::pair(" true ", true),
+                                         std::pair("\"true\"", true), std::pair("false", false),
+                                         std::pair("no", false), std::pair("off", false),
+                                         std::pair("0", false), std::pair("OFF", false)));
+
+TEST_F(SettingsFile, MissingFile_IsAnErrorThatNamesThePath)
+{
+    EXPECT_TRUE(read().contains(path));
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(SettingsFile, Directory_IsAnErrorThatNamesThePath)
+{
+    EXPECT_TRUE(till::readSettingsFile(directory.path(), config).contains(directory.path()));
+}
+
+TEST_F(SettingsFile, FileThatCannotBeRead_IsAnErrorThatNamesThePath)
+{
+    // Opens, but nothing is mapped at its start.
+    const QString unreadable = "/proc/self/mem";
+
+    EXPECT_TRUE(till::readSettingsFile(unreadable, config).contains(unreadable));
+}
+
+class BrokenSettingsFile : public SettingsFile, public testing::WithParamInterface<const char *>
+{
+};
+
+TEST_P(BrokenSettingsFile, BrokenFile_IsAnErrorThatNamesThePath)
+{
+    write(GetParam());
+
+    EXPECT_TRUE(read().contains(path)) << read().toStdString();
+}
+
+TEST_P(BrokenSettingsFile, BrokenFile_GivesNoneOfItsSettings)
+{
+    write(GetParam());
+    read();
+
+    EXPECT_TRUE(config.getBool(key, true));
+    EXPECT_FALSE(config.getBool(key, false));
+}
+
+TEST_P(BrokenSettingsFile, BrokenFile_LeavesEarlierSettings)
+{
+    config.set(key, true);
+    write(GetParam());
+    read();
+
+    EXPECT_TRUE(config.getBool(key, false));
+}
+
+TEST_P(BrokenSettingsFile, BrokenFileReadTwice_IsAnErrorTwice)
+{
+    write(GetParam());
+    read();
+
+    EXPECT_TRUE(read().contains(path));
+    EXPECT_TRUE(config.getBool(key, true));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, BrokenSettingsFile,
+    testing::Values("[PackagingControl]\nallowSaleEmptyTara=false\nno equals sign\n",
+                    "[PackagingControl]\nallowSaleEmptyTara=false\n[Unclosed\n"));
+
+} // namespace

@@ -1,0 +1,167 @@
+#include "host/ActionArguments.h"
+#include "host/BaseActivityListener.h"
+#include "host/BasicPlugin.h"
+#include "host/DocumentWatcher.h"
+#include "host/EContext.h"
+#include "host/Quantity.h"
+#include "host/Session.h"
+#include "host/Singleton.h"
+#include "tests/till/support/TillFixture.h"
+
+// The order of triggers and what they can do, with a plugin that only writes down.
+
+namespace till {
+
+namespace {
+
+//! Has the triggers that a test gives it, and writes down when they run.
+class ScribePlugin : public BaseActivityListener, public BasicPlugin, public DocumentWatcher
+{
+public:
+    ScribePlugin()
+        : BaseActivityListener(nullptr)
+    {
+    }
+
+    void handleEvent(const Event &) override {}
+
+    void add(const QString &name, control::EActionType type, ActionTrigger::Order order,
+             ActionTrigger::Priority priority, EContext::Result result = EContext::Continue)
+    {
+        const auto run = [this, name, result](const control::Action &) {
+            ran.append(name);
+            const bool isSet =
+                Singleton<Session>::instance->getModifiers()->isSet(modifiers::Quantity);
+            quantitySet.append(isSet);
+            return result;
+        };
+        addTrigger(ActionTrigger(EContext::Receipt, type, order, run, ActionTrigger::DefaultResult,
+                                 priority));
+    }
+
+    QStringList ran;
+    QList<bool> quantitySet;
+};
+
+//! A register of its own around the scribe.
+class Triggers : public TillTest
+{
+protected:
+    Triggers()
+    {
+        till->stop();
+        QString error;
+        storage = Storage::open(":memory:", &error);
+        m_register = std::make_unique<Register>(
+            Register::Parts{till->catalogue(), *storage, &loaded, settings, notes});
+        EXPECT_TRUE(m_register->open(Document::Sale));
+        EXPECT_TRUE(m_register->add("CHIPS", 2));
+    }
+    ~Triggers() override { m_register.reset(); }
+
+    Register &cashRegister() { return *m_register; }
+    ModifiersContainer &modifiers() { return *Singleton<Session>::instance->getModifiers(); }
+
+    ScribePlugin plugin;
+    const LoadedPlugin loaded{{}, &plugin, &plugin, &plugin, &plugin};
+    std::unique_ptr<Storage> storage;
+    Config settings;
+
+private:
+    std::unique_ptr<Register> m_register;
+};
+
+TEST_F(Triggers, Run_BeforeByPriorityThenAfterByPriority)
+{
+    using T = ActionTrigger;
+    plugin.add("after low", control::ApplyModifiers, T::After, T::Low);
+    plugin.add("before normal", control::ApplyModifiers, T::Before, T::Normal);
+    plugin.add("after high", control::ApplyModifiers, T::After, T::High);
+    plugin.add("before high", control::ApplyModifiers, T::Before, T::High);
+    plugin.add("before normal too", control::ApplyModifiers, T::Before, T::Normal);
+    plugin.add("of another", control::Subtotal, T::Before, T::High);
+    EXPECT_TRUE(cashRegister().changeCount(1, 3));
+    EXPECT_EQ(plugin.ran, QStringList({"before high", "before normal", "before normal too",
+                                       "after high", "after low"}));
+}
+
+TEST_F(Triggers, FirstThatDoesNotContinue_StopsTheAction)
+{
+    plugin.add("stops", control::Subtotal, ActionTrigger::Before, ActionTrigger::High,
+               EContext::Error);
+    plugin.add("later", control::Subtotal, ActionTrigger::Before, ActionTrigger::Low);
+    plugin.add("after", control::Subtotal, ActionTrigger::After, ActionTrigger::High);
+    EXPECT_EQ(cashRegister().subtotal().kind, Outcome::Refused);
+    EXPECT_EQ(plugin.ran, QStringList("stops"));
+    EXPECT_EQ(cashRegister().receipt()->state(), ReceiptState::Open);
+    EXPECT_EQ(notesOf("result").last().value("result").toInt(), EContext::Error);
+}
+
+TEST_F(Triggers, Cancel_StopsTheActionToo)
+{
+    plugin.add("stops", control::Payment, ActionTrigger::Before, ActionTrigger::High,
+               EContext::Cancel);
+    EXPECT_EQ(cashRegister().pay(std::nullopt).kind, Outcome::Refused);
+    EXPECT_EQ(cashRegister().receipt()->state(), ReceiptState::Open);
+    EXPECT_EQ(notesOf("result").last().value("result").toInt(), EContext::Cancel);
+}
+
+TEST_F(Triggers, AfterTheAction_NothingIsStopped)
+{
+    plugin.add("refuses", control::Subtotal, ActionTrigger::After, ActionTrigger::High,
+               EContext::Error);
+    plugin.add("runs", control::Subtotal, ActionTrigger::After, ActionTrigger::Low);
+    EXPECT_TRUE(cashRegister().subtotal());
+    EXPECT_EQ(plugin.ran, QStringList({"refuses", "runs"}));
+}
+
+TEST_F(Triggers, EachPoint_IsPassedByItsCommand)
+{
+    const QList<control::EActionType> types{control::ApplyModifiers, control::SplitPositions,
+                                            control::UnitePositions, control::Subtotal,
+                                            control::AddSoftCheck};
+    for (const auto type : types)
+        plugin.add(QString::number(type), type, ActionTrigger::Before, ActionTrigger::High);
+    EXPECT_TRUE(cashRegister().changeCount(1, 3));
+    EXPECT_TRUE(cashRegister().split(1, {1}));
+    EXPECT_TRUE(cashRegister().unite({1, 2}));
+    EXPECT_TRUE(cashRegister().addSoftCheck("1"));
+    EXPECT_TRUE(cashRegister().attachOrder("2"));
+    EXPECT_TRUE(cashRegister().subtotal());
+    EXPECT_EQ(plugin.ran, QStringList({"5", "233", "234", "129", "129", "133"}));
+}
+
+TEST_F(Triggers, Modifiers_AreSetForTheChangeAndClearedAfterIt)
+{
+    plugin.add("before", control::ApplyModifiers, ActionTrigger::Before, ActionTrigger::High);
+    EXPECT_TRUE(cashRegister().changeCount(1, 3));
+    EXPECT_EQ(plugin.quantitySet, QList<bool>({true}));
+    EXPECT_FALSE(modifiers().isSet(modifiers::Quantity));
+}
+
+TEST_F(Triggers, Modifiers_AreClearedAfterARefusalToo)
+{
+    plugin.add("no", control::ApplyModifiers, ActionTrigger::Before, ActionTrigger::High,
+               EContext::Error);
+    EXPECT_FALSE(cashRegister().changeCount(1, 3));
+    EXPECT_FALSE(modifiers().isSet(modifiers::Quantity));
+}
+
+TEST_F(Triggers, Modifiers_AreClearedAfterEachOtherAction)
+{
+    const auto clears = [this](const auto &command) {
+        modifiers().set(modifiers::Quantity, QVariant::fromValue(Quantity(1, quantModeNone)));
+        EXPECT_TRUE(command());
+        return !modifiers().isSet(modifiers::Quantity);
+    };
+    EXPECT_TRUE(clears([this] { return cashRegister().add("CHIPS", 1); }));
+    EXPECT_TRUE(clears([this] { return cashRegister().split(1, {1}); }));
+    EXPECT_TRUE(clears([this] { return cashRegister().unite({1, 3}); }));
+    EXPECT_TRUE(clears([this] { return cashRegister().addSoftCheck("1"); }));
+    EXPECT_TRUE(clears([this] { return cashRegister().subtotal(); }));
+    EXPECT_TRUE(clears([this] { return cashRegister().pay(std::nullopt); }));
+}
+
+} // namespace
+
+} // namespace till

@@ -1,0 +1,193 @@
+#include "tests/till/support/TillFixture.h"
+
+// What can be expected holds when it is so and fails when it is not, and then says both.
+
+namespace till {
+
+namespace {
+
+struct Expectation
+{
+    const char *name;
+    const char *holds; //!< empty when no such expectation can hold
+    const char *fails;
+    const char *text; //!< what is said of the failing one
+};
+
+void PrintTo(const Expectation &expectation, std::ostream *out)
+{
+    *out << '"' << expectation.fails << '"';
+}
+
+//! After a can, two litres of beer, a bottle's storno, and a refused change of the can.
+class Expect : public TillTest, public testing::WithParamInterface<Expectation>
+{
+protected:
+    Expect()
+    {
+        done({"open", "add CAN3", "add PET1", "add BEER 2", "add CHIPS 2", "answer yes",
+              "storno 2"});
+        refused("qty 1 2");
+    }
+};
+
+TEST_P(Expect, WhatIsSo_Holds)
+{
+    if (*GetParam().holds != '\0')
+        expect({GetParam().holds});
+}
+
+TEST_P(Expect, WhatIsNotSo_FailsAndSaysWhy)
+{
+    EXPECT_EQ(mistake(QString("expect ") + GetParam().fails).toStdString(), GetParam().text);
+}
+
+std::string nameOf(const testing::TestParamInfo<Expectation> &info)
+{
+    return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Positions, Expect,
+    testing::Values(
+        Expectation{"Quantity", "position 3 quantity 2", "position 3 quantity 2.001",
+                    "position 3 quantity: expected 2.001, found 2"},
+        Expectation{"Base", "position 3 base 2,0", "position 3 base 1",
+                    "position 3 base: expected 1, found 2"},
+        Expectation{"Sum", "position 3 sum 280", "position 3 sum 280.01",
+                    "position 3 sum: expected 280.01, found 280.00"},
+        Expectation{"Article", "position 3 article BEER", "position 3 article DARK",
+                    "position 3 article: expected DARK, found BEER"},
+        Expectation{"Second", "position 3 live sum 280", "position 3 sum 280 live quantity 3",
+                    "position 3 quantity: expected 3, found 2"},
+        Expectation{"Stornoed", "position 2 stornoed", "position 3 stornoed",
+                    "position 3: expected stornoed, found live"},
+        Expectation{"Live", "position 3 live", "position 2 live",
+                    "position 2: expected live, found stornoed"},
+        Expectation{"NoPosition", "position 9 none", "position 3 none",
+                    "position 3: expected none, found BEER"},
+        Expectation{"Position", "position 1 live", "position 9 live",
+                    "position 9: expected live, found none"},
+        Expectation{"Count", "positions 3", "positions 4", "positions: expected 4, found 3"},
+        Expectation{"Total", "total 599.80", "total 599.8100",
+                    "\"599.8100\" is not an amount of money (12.50 or 12,50)"},
+        Expectation{"OtherTotal", "total 599,8", "total 599.81",
+                    "total: expected 599.81, found 599.80"},
+        Expectation{"State", "state open", "state closed", "state: expected closed, found open"}),
+    nameOf);
+
+INSTANTIATE_TEST_SUITE_P(
+    Tara, Expect,
+    testing::Values(Expectation{"Capacity", "tara 1 capacity 3", "tara 1 capacity 4",
+                                "tara 1 capacity: expected 4, found 3"},
+                    Expectation{"Free", "tara 1 capacity 3 free 1", "tara 1 capacity 3 free 2",
+                                "tara 1 free: expected 2, found 1"},
+                    Expectation{"NoTara", "tara 2 none", "tara 1 none",
+                                "tara 1: expected none, found a record"},
+                    Expectation{"Record", "tara 1 free 1", "tara 2 free 1",
+                                "tara 2: expected free 1, found none"},
+                    Expectation{"In", "goods 3 in 1 2", "goods 3 in 1 1.5",
+                                "goods 3 in 1: expected 1.5, found 2"},
+                    Expectation{"InOther", "goods 3 in 4 0", "goods 3 in 4 1",
+                                "goods 3 in 4: expected 1, found 0"},
+                    Expectation{"Unplaced", "goods 3 unplaced 0", "goods 3 in 1 2 unplaced 1",
+                                "goods 3 unplaced: expected 1, found 0"},
+                    Expectation{"NoGoods", "goods 4 none", "goods 3 none",
+                                "goods 3: expected none, found a record"},
+                    Expectation{"Goods", "goods 3 unplaced 0", "goods 4 unplaced 0",
+                                "goods 4: expected unplaced 0, found none"},
+                    Expectation{"Records", "records 1 1", "records 2 1",
+                                "records: expected 2 1, found 1 1"},
+                    Expectation{"Control", "control active", "control suspended",
+                                "control: expected suspended, found active"}),
+    nameOf);
+
+INSTANTIATE_TEST_SUITE_P(
+    Said, Expect,
+    testing::Values(
+        Expectation{"Message", "message packingControlTaraAlmostFull", "message tillReceiptEmpty",
+                    "message: expected \"tillReceiptEmpty\", found packingControlTaraAlmostFull"},
+        Expectation{"MessageText",
+                    "message Тара частично заполнена. Изменение количества запрещено",
+                    "message Тара частично заполнена.",
+                    "message: expected \"Тара частично заполнена.\", found "
+                    "packingControlTaraAlmostFull"},
+        Expectation{"NoMessage", "", "message none",
+                    "message: expected none, found packingControlTaraAlmostFull"},
+        Expectation{"Question", "question none", "question tillCancelReceipt",
+                    "question: expected \"tillCancelReceipt\", found none"},
+        Expectation{"Log", "log none", "log \"Добавлена тара\"",
+                    "log: expected \"Добавлена тара\", found none"}),
+    nameOf);
+
+INSTANTIATE_TEST_SUITE_P(
+    Commands, Expect,
+    testing::Values(
+        Expectation{"Accepted", "accepted add CHIPS", "accepted qty 1 2",
+                    "qty 1 2: expected accepted, found refused"},
+        Expectation{"Refused", "refused qty 1 2", "refused add CHIPS",
+                    "add CHIPS: expected refused, found accepted"},
+        Expectation{"Mistake", "mistake add CHOPS", "mistake qty 1 2",
+                    "qty 1 2: expected a mistake, found refused"},
+        Expectation{"MistakeNotRefusal", "mistake qty 9 1", "refused qty 9 1",
+                    "qty 9 1: expected refused, found a mistake: the receipt has no position 9"}),
+    nameOf);
+
+INSTANTIATE_TEST_SUITE_P(
+    Words, Expect,
+    testing::Values(
+        Expectation{"What", "", "positon 1 live",
+                    "\"positon\" cannot be expected; try 'help expect'"},
+        Expectation{"Nested", "", "accepted expect total 1", "an expectation cannot be expected"},
+        Expectation{"WhichCommand", "", "accepted", "which command?"},
+        Expectation{"Part", "", "position 3 amount 2",
+                    "\"amount\" is none of: quantity, base, sum, article, stornoed, live"},
+        Expectation{"PositionNumber", "", "position x live", "\"x\" is not a position number"},
+        Expectation{"TaraPart", "", "tara 1 size 3", "\"size\" is none of: capacity, free, none"},
+        Expectation{"TaraNumber", "", "tara x free 1", "\"x\" is not a position number"},
+        Expectation{"GoodsPart", "", "goods 3 at 1 2", "\"at\" is none of: in, unplaced, none"},
+        Expectation{"GoodsTara", "", "goods 3 in x 0", "\"x\" is not a position number"},
+        Expectation{"Missing", "", "total", "usage: expect total MONEY"},
+        Expectation{"TooMany", "", "positions 3 4", "usage: expect positions COUNT"},
+        Expectation{"TooManyStates", "", "state open closed",
+                    "usage: expect state none|open|subtotal|closed|cancelled"},
+        Expectation{"NoNumber", "", "tara 1 free",
+                    "a number with at most three decimals (1.5 or 1,5) is missing"}),
+    nameOf);
+
+class ExpectHeard : public TillTest
+{
+};
+
+TEST_F(ExpectHeard, Question_IsFoundByKeyAndText)
+{
+    done({"open", "add CHIPS", "answer yes", "storno 1"});
+    expect({"question tillStornoPosition", "question Сторнировать позицию?"});
+    EXPECT_EQ(mistake("expect question none"),
+              QString("question: expected none, found tillStornoPosition"));
+}
+
+TEST_F(ExpectHeard, Log_FindsALineOfTheLastCommand)
+{
+    done({"open", "add CAN3", "add BEER"});
+    expect({"log Добавлен товар, отпускаемый в тару"});
+    EXPECT_THAT(mistake("expect log Добавлена тара").toStdString(),
+                testing::HasSubstr("found Добавлен товар, отпускаемый в тару | Изменение"));
+    EXPECT_THAT(mistake("expect log none").toStdString(), testing::HasSubstr("expected none"));
+}
+
+TEST_F(ExpectHeard, WatchingCommands_LeaveWhatWasSaid)
+{
+    done({"open", "add CAN3", "show", "log", "say hm", "articles", "help", "answer yes"});
+    expect({"log \"Добавлена тара\"", "log \"Добавлена тара\""});
+}
+
+TEST_F(ExpectHeard, EmptyReceipts_AreExpectedWithoutOne)
+{
+    expect({"state none", "positions 0", "records 0 0", "total 0", "position 1 none", "tara 1 none",
+            "goods 1 none", "message none", "question none", "log none"});
+}
+
+} // namespace
+
+} // namespace till

@@ -1,0 +1,138 @@
+#include "tests/till/storage/StorageFixture.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <gmock/gmock.h>
+
+namespace till {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class StorageDamage : public StorageTest
+{
+protected:
+    //! The database cannot be opened, the error names it and says \a what, and it is left as it
+    //! was.
+    void refusedAsIs(const std::string &what) const
+    {
+        const QByteArray before = contents(path());
+        const std::string error = refusal().toStdString();
+        EXPECT_THAT(error, StartsWith(path().toStdString() + ": "));
+        EXPECT_THAT(error, HasSubstr(what));
+        EXPECT_THAT(error, Not(HasSubstr("\n")));
+        EXPECT_EQ(contents(path()), before);
+    }
+
+    //! Reading the unfinished receipt fails; the error.
+    QString unreadable() const
+    {
+        QString error;
+        EXPECT_EQ(opened()->unfinishedReceipt(&error), std::nullopt);
+        return error;
+    }
+};
+
+TEST_F(StorageDamage, Garbage_IsRefused)
+{
+    overwrite(path(), QByteArray(10000, 'x'));
+    refusedAsIs("not a database of the till, or damaged");
+}
+
+TEST_F(StorageDamage, ShortText_IsRefused)
+{
+    overwrite(path(), "code;name;price\n");
+    refusedAsIs("not a database of the till, or damaged");
+}
+
+TEST_F(StorageDamage, TruncatedAnywhere_IsRefused)
+{
+    leaveUnfinished(200);
+    const QByteArray whole = contents(path());
+    for (const qsizetype length :
+         {qsizetype(2), qsizetype(99), qsizetype(4096), whole.size() / 2, whole.size() - 4096}) {
+        overwrite(path(), whole.left(length));
+        refusedAsIs("damaged");
+    }
+}
+
+TEST_F(StorageDamage, PageOverwritten_IsRefused)
+{
+    leaveUnfinished(200);
+    QByteArray damaged = contents(path());
+    damaged.replace(damaged.size() / 8192 * 4096, 4096, QByteArray(4096, '\x5a'));
+    overwrite(path(), damaged);
+    refusedAsIs("the database is damaged");
+}
+
+TEST_F(StorageDamage, EmptiedFileBesideAFullLog_IsRefusedAndTheLogStays)
+{
+    for (const QByteArray left : {"", "S"}) {
+        overwrite(path(), left);
+        overwrite(path("till.db-wal"), "receipts");
+        refusedAsIs("the database is damaged (empty, but its log "
+                    + path("till.db-wal").toStdString() + " is not)");
+        EXPECT_EQ(contents(path("till.db-wal")), "receipts");
+    }
+}
+
+TEST_F(StorageDamage, MissingFileBesideAFullLog_IsRefusedAndTheLogStays)
+{
+    overwrite(path("till.db-wal"), "receipts");
+    EXPECT_THAT(refusal().toStdString(), HasSubstr("the database is damaged"));
+    EXPECT_EQ(contents(path("till.db-wal")), "receipts");
+    EXPECT_FALSE(QFileInfo::exists(path()));
+}
+
+TEST_F(StorageDamage, MissingTable_IsAnErrorOfTheReading)
+{
+    leaveUnfinished(1);
+    query("DROP TABLE softChecks");
+    EXPECT_EQ(unreadable(), path() + ": no such table: softChecks");
+}
+
+//! What may have happened to a value of plugin data.
+class DamagedPluginData : public StorageDamage, public testing::WithParamInterface<const char *>
+{
+};
+
+TEST_P(DamagedPluginData, IsAnErrorThatNamesPluginAndKey)
+{
+    ReceiptRecord record = receiptOf(1);
+    record.pluginData["PackagingControl"]["taraInfo"] = QVariantList{QVariantMap{{"posnum", 1}}};
+    record.pluginData["PackagingControl"]["good"] = 1;
+    save(*opened(), record);
+    query(QStringLiteral("UPDATE pluginData SET %1 WHERE key = 'taraInfo'").arg(GetParam()));
+
+    EXPECT_EQ(unreadable(), path()
+                                + ": receipt 1: the data of plugin \"PackagingControl\" under "
+                                  "\"taraInfo\" are damaged");
+}
+
+INSTANTIATE_TEST_SUITE_P(Damages, DamagedPluginData,
+                         testing::Values("value = x''",
+                                         "value = substr(value, 1, length(value) - 1)",
+                                         "value = value || x'00'", "value = x'0000000900fffffffe'",
+                                         "value = 'text'", "types = 'Unknown'", "digest = x''",
+                                         "value = x'ffffffffffffffffffff'"),
+                         [](const auto &test) { return "Damage" + std::to_string(test.index); });
+
+TEST_F(StorageDamage, PluginData_DoesNotHideTheOtherReceipts)
+{
+    const ReceiptRecord good = leaveUnfinished(2);
+    ReceiptRecord bad = receiptOf(1);
+    bad.pluginData["a"]["b"] = 1;
+    save(*opened(), bad);
+    query("UPDATE pluginData SET value = x'00'");
+
+    QString error = "old";
+    EXPECT_EQ(opened()->receipt(good.id, &error), good);
+    EXPECT_EQ(error, QString());
+}
+
+} // namespace
+
+} // namespace till

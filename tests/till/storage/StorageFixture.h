@@ -1,0 +1,67 @@
+#ifndef TESTS_TILL_STORAGE_STORAGEFIXTURE_H
+#define TESTS_TILL_STORAGE_STORAGEFIXTURE_H
+
+#include "till/storage/Storage.h"
+
+#include <QtCore/QTemporaryDir>
+#include <QtCore/qlogging.h>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace till {
+
+void PrintTo(const LineRecord &line, std::ostream *out);
+void PrintTo(const ReceiptRecord &record, std::ostream *out);
+void PrintTo(const JournalEntry &entry, std::ostream *out);
+
+//! A directory for one database, and what a register does with it.
+class StorageTest : public testing::Test
+{
+protected:
+    StorageTest();
+    ~StorageTest() override;
+
+    QString path(const QString &name = QStringLiteral("till.db")) const;
+
+    //! Opens the database, which must succeed.
+    static std::unique_ptr<Storage> opened(const QString &path);
+    std::unique_ptr<Storage> opened() const { return opened(path()); }
+
+    //! Opens the database, which must fail; the error.
+    static QString refusalOf(const QString &path);
+    QString refusal() const { return refusalOf(path()); }
+
+    //! Saves, which must succeed.
+    static void save(Storage &storage, ReceiptRecord &record,
+                     const QList<JournalEntry> &journal = {});
+
+    //! The unfinished receipt, reading which must succeed.
+    static std::optional<ReceiptRecord> unfinished(const Storage &storage);
+
+    //! Runs \a sql on a database that no storage has open; the first column of the rows.
+    static QStringList query(const QString &path, const QString &sql);
+    QStringList query(const QString &sql) const { return query(path(), sql); }
+
+    static QByteArray contents(const QString &path);
+    static void overwrite(const QString &path, const QByteArray &contents);
+
+    //! A receipt with \a count positions.
+    static ReceiptRecord receiptOf(int count);
+    //! A database with one unfinished receipt of that many positions; what was saved.
+    ReceiptRecord leaveUnfinished(int count) const;
+
+    QTemporaryDir directory;
+
+private:
+    //! A test fails when Qt has something to say.
+    QtMessageHandler m_handlerBefore;
+};
+
+//! A position of a plain article.
+LineRecord lineOf(int posnum, double count = 1.0);
+
+} // namespace till
+
+#endif // TESTS_TILL_STORAGE_STORAGEFIXTURE_H

@@ -1,0 +1,95 @@
+#include "tests/till/storage/StorageWriterPlan.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDataStream>
+#include <QtCore/QStringList>
+
+#include <cstdio>
+
+// A till that does nothing but save, to be killed.
+//   storage_writer open FILE     opens the database; says "opened" or why not
+//   storage_writer foreign FILE  saves a value of a type that nobody else knows
+//   storage_writer steps FILE    takes step after step and prints the number of each saved receipt
+//                                and step, until it is killed
+
+struct KnownToTheWriter
+{
+    int number = 0;
+};
+
+inline QDataStream &operator<<(QDataStream &stream, const KnownToTheWriter &value)
+{
+    return stream << value.number;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, KnownToTheWriter &value)
+{
+    return stream >> value.number;
+}
+
+Q_DECLARE_METATYPE(KnownToTheWriter)
+
+namespace {
+
+using namespace till;
+
+void say(const QString &text)
+{
+    std::printf("%s\n", qUtf8Printable(text));
+    std::fflush(stdout);
+}
+
+int fail(const QString &error)
+{
+    say(error);
+    return 1;
+}
+
+int saveForeign(Storage &storage)
+{
+    ReceiptRecord record;
+    record.pluginData["plugin"]["key"] = QVariant::fromValue(KnownToTheWriter{7});
+    const QString error = storage.save(record, {});
+    return error.isEmpty() ? (say("saved"), 0) : fail(error);
+}
+
+//! Goes on where the last one was killed.
+int takeSteps(Storage &storage)
+{
+    QString error;
+    const auto unfinished = storage.unfinishedReceipt(&error);
+    qint64 id = unfinished ? unfinished->id : 0;
+    int step = unfinished ? unfinished->nextPosnum - 1 : 0;
+    while (error.isEmpty()) {
+        if (step == StepsOfAReceipt)
+            id = step = 0;
+        ReceiptRecord record = plannedReceipt(id, ++step);
+        error = storage.save(record, plannedJournal(step));
+        id = record.id;
+        if (error.isEmpty())
+            say(QStringLiteral("%1 %2").arg(id).arg(step));
+    }
+    return fail(error);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3)
+        return fail("usage: storage_writer open|foreign|steps FILE");
+    if (arguments[1] == "steps")
+        say("ready");
+    QString error;
+    const auto storage = Storage::open(arguments[2], &error);
+    if (!storage)
+        return fail(error);
+    if (arguments[1] == "steps")
+        return takeSteps(*storage);
+    if (arguments[1] == "foreign")
+        return saveForeign(*storage);
+    say("opened");
+    return 0;
+}

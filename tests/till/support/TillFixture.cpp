@@ -1,0 +1,120 @@
+#include "tests/till/support/TillFixture.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cstring>
+
+namespace till {
+
+namespace {
+
+//! Qt SQL loads its driver through the application object.
+class Application : public testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        static int argc = 1;
+        static char name[] = "till_command_test";
+        static char *argv[] = {name, nullptr};
+        m_application = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    void TearDown() override { m_application.reset(); }
+
+private:
+    std::unique_ptr<QCoreApplication> m_application;
+};
+
+testing::Environment *const application = testing::AddGlobalTestEnvironment(new Application);
+
+//! The plugin's own log lines go to Qt too; all else is a fault.
+void failOnMessage(QtMsgType, const QMessageLogContext &context, const QString &text)
+{
+    if (context.category == nullptr || std::strcmp(context.category, "packaging") != 0)
+        ADD_FAILURE() << "Qt says: " << text.toStdString();
+}
+
+} // namespace
+
+void PrintTo(const Outcome &outcome, std::ostream *out)
+{
+    static const char *const names[] = {"done", "refused", "mistake", "failed"};
+    *out << names[outcome.kind] << " \"" << outcome.text.toStdString() << '"';
+}
+
+TillTest::TillTest()
+    : m_handlerBefore(qInstallMessageHandler(failOnMessage))
+{
+    notes.listen(this, [this](const QJsonObject &note) { heard.append(note); });
+    notes.setWantsStates(true);
+    start();
+}
+
+TillTest::~TillTest()
+{
+    commands.reset();
+    till.reset();
+    qInstallMessageHandler(m_handlerBefore);
+}
+
+till::Setup TillTest::setup() const
+{
+    return {directory.filePath("till.sqlite"),
+            QStringLiteral(TILL_SHARE_DIR "/catalogue.csv"),
+            QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE),
+            {},
+            {}};
+}
+
+void TillTest::start(const till::Setup &setup, const QString &language)
+{
+    commands.reset();
+    till.reset();
+    translator = std::make_unique<Translator>(language);
+    till = std::make_unique<Till>(setup, notes);
+    const QString error = till->start();
+    ASSERT_EQ(error.toStdString(), "");
+    const auto print = [this](const QString &text) { printed.append(text); };
+    commands = std::make_unique<CommandLine>(*till, notes, *translator, Style(),
+                                             CommandLine::Front{print, {}});
+}
+
+void TillTest::done(const QStringList &lines)
+{
+    for (const QString &line : lines)
+        ends(Outcome::Done, line);
+}
+
+QString TillTest::ends(Outcome::Kind kind, const QString &line)
+{
+    const Outcome outcome = run(line);
+    EXPECT_EQ(outcome.kind, kind) << line.toStdString() << ": " << testing::PrintToString(outcome);
+    return outcome.text;
+}
+
+void TillTest::expect(const QStringList &expectations)
+{
+    for (const QString &expectation : expectations)
+        ends(Outcome::Done, "expect " + expectation);
+}
+
+QList<QJsonObject> TillTest::notesOf(const QString &kind) const
+{
+    QList<QJsonObject> found;
+    for (const QJsonObject &note : heard) {
+        if (note.value("kind").toString() == kind)
+            found.append(note);
+    }
+    return found;
+}
+
+QVariantList TillTest::noted(const QString &kind, const QString &field) const
+{
+    QVariantList values;
+    const QList<QJsonObject> found = notesOf(kind);
+    for (const QJsonObject &note : found)
+        values.append(note.value(field).toVariant());
+    return values;
+}
+
+} // namespace till

@@ -1,0 +1,89 @@
+#include "till/view/DisplayText.h"
+#include "tests/support/Printers.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Width
+{
+    const char *text;
+    int columns;
+};
+
+void PrintTo(const Width &width, std::ostream *out)
+{
+    *out << width.text;
+}
+
+class DisplayWidth : public testing::TestWithParam<Width>
+{
+};
+
+TEST_P(DisplayWidth, Text_TakesSoManyColumns)
+{
+    EXPECT_EQ(till::displayWidth(GetParam().text), GetParam().columns);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, DisplayWidth,
+                         testing::Values(Width{"", 0}, Width{"beer", 4}, Width{"Пиво №1", 7},
+                                         Width{"…─«»", 4}, Width{"и\u0306", 1},
+                                         Width{"\u0435\u0308\u0301", 1}, Width{"漢字", 4},
+                                         Width{"한", 2}, Width{"Ａ", 2}, Width{"🍺", 2},
+                                         Width{"𝔸", 1}, Width{"a\u200db", 2}));
+
+TEST(Elided, TextThatFits_StaysAsItIs)
+{
+    EXPECT_EQ(till::elided("Пиво", 4), "Пиво");
+}
+
+TEST(Elided, TextOneTooLong_EndsInAnEllipsis)
+{
+    EXPECT_EQ(till::elided("Пиво", 3), "Пи…");
+}
+
+TEST(Elided, CombiningMarks_StayWithTheirLetter)
+{
+    EXPECT_EQ(till::elided("И\u0306И\u0306И\u0306И\u0306", 3), "И\u0306И\u0306…");
+}
+
+TEST(Elided, WideSignThatHasNoRoom_IsLeftOut)
+{
+    EXPECT_EQ(till::elided("漢字漢字", 4), "漢…");
+}
+
+TEST(Elided, SignOutsideTheBasicPlane_IsNotCutInTwo)
+{
+    EXPECT_EQ(till::elided("🍺🍺🍺", 4), "🍺…");
+}
+
+TEST(Aligned, ShortText_GetsSpacesByItsColumns)
+{
+    EXPECT_EQ(till::leftAligned("и\u0306漢", 5), "и\u0306漢  ");
+    EXPECT_EQ(till::rightAligned("и\u0306漢", 5), "  и\u0306漢");
+}
+
+TEST(Aligned, LongText_StaysAsItIs)
+{
+    EXPECT_EQ(till::leftAligned("Пиво", 3), "Пиво");
+    EXPECT_EQ(till::rightAligned("Пиво", 3), "Пиво");
+}
+
+TEST(Printable, LetterAndMarks_StayAsTheyAre)
+{
+    EXPECT_EQ(till::printable("Пиво «И\u0306» 漢 🍺 №1"), "Пиво «И\u0306» 漢 🍺 №1");
+}
+
+TEST(Printable, ControlCharacters_BecomeSpaces)
+{
+    EXPECT_EQ(till::printable("a\x1b[1mb\tc\nd\re\x7f"
+                              "f\u009bg\u2028h"),
+              "a [1mb c d e f g h");
+}
+
+TEST(Printable, FormatCharacters_GoAway)
+{
+    EXPECT_EQ(till::printable("a\u202eb\u200bc"), "abc");
+}
+
+} // namespace

@@ -1,0 +1,269 @@
+#include "till/actions/ActionRunner.h"
+
+#include "host/ActionArguments.h"
+#include "host/ActivityNotifier.h"
+#include "host/BasicPlugin.h"
+#include "host/Event.h"
+#include "host/Quantity.h"
+#include "till/language/TillMessages.h"
+
+#include <QtCore/QJsonArray>
+
+namespace till {
+
+namespace {
+
+QString originName(ActionRunner::Origin origin)
+{
+    return origin == ActionRunner::Origin::Cashier ? QStringLiteral("cashier")
+                                                   : QStringLiteral("program");
+}
+
+QJsonObject describe(const control::Action &action)
+{
+    QJsonObject fields{{"type", action.getType()}};
+    const auto arguments = action.getArguments();
+    for (auto entry = arguments.cbegin(); entry != arguments.cend(); ++entry)
+        fields.insert(entry.key(), QJsonValue::fromVariant(entry.value()));
+    return fields;
+}
+
+QVariantMap describeSplit(const QSharedPointer<Position> &source, const GoodsItemPtrList &pieces,
+                          bool removed)
+{
+    return {{"source", QVariant::fromValue(GoodsItemPtr(source))},
+            {"result", QVariant::fromValue(pieces)},
+            {"removed", removed}};
+}
+
+//! What is left of a position below this many pieces is nothing.
+constexpr double nothing = 0.0005;
+
+} // namespace
+
+ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &notes,
+                           BasicPlugin *plugin)
+    : m_program(program)
+    , m_services(services)
+    , m_notes(notes)
+    , m_positionNotes(notes)
+    , m_plugin(plugin)
+{
+}
+
+void ActionRunner::setReceipt(const QSharedPointer<Receipt> &receipt)
+{
+    m_receipt = receipt;
+    m_positionNotes.forget();
+}
+
+EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
+{
+    QJsonObject description = describe(action);
+    description.insert("origin", originName(origin));
+    m_notes.add("action", description);
+
+    EContext::Result result = EContext::Continue;
+    {
+        const Notes::Nesting inside(m_notes);
+        result = runTriggers(action, ActionTrigger::Before);
+        if (result == EContext::Continue)
+            result = carryOut(action, origin);
+        if (result == EContext::Continue)
+            runTriggers(action, ActionTrigger::After);
+        noteChangedPositions(); // plugins tie positions together without an event
+    }
+    m_services.modifiers().clearAll();
+    m_notes.add("result", {{"type", action.getType()}, {"result", result}});
+    return result;
+}
+
+void ActionRunner::runTriggersAfter(const control::Action &action)
+{
+    runTriggers(action, ActionTrigger::After);
+}
+
+EContext::Result ActionRunner::runTriggers(const control::Action &action,
+                                           ActionTrigger::Order order)
+{
+    if (!m_plugin)
+        return EContext::Continue;
+    const auto triggers = m_plugin->activeTriggers(EContext::Receipt, action.getType(), order);
+    for (const ActionTrigger &trigger : triggers) {
+        EContext::Result result = EContext::Continue;
+        {
+            const Notes::Nesting inside(m_notes);
+            result = trigger.call(action);
+        }
+        m_notes.add("trigger", {{"type", action.getType()},
+                                {"order", order == ActionTrigger::Before ? "before" : "after"},
+                                {"priority", trigger.getPriority()},
+                                {"result", result}});
+        // After the action nothing can be stopped any more.
+        if (order == ActionTrigger::Before && result != EContext::Continue)
+            return result;
+    }
+    return EContext::Continue;
+}
+
+EContext::Result ActionRunner::carryOut(const control::Action &action, Origin origin)
+{
+    switch (action.getType()) {
+    case control::AddPosition:
+        return add(action);
+    case control::ApplyModifiers:
+        return applyModifiers(action, origin);
+    case control::StornoPosition:
+        return storno(action);
+    case control::RemovePosition:
+        return remove(control::args::Core(action).positionNumber());
+    case control::SplitPositions:
+        return split(action);
+    case control::UnitePositions:
+        return unite(action);
+    case control::AddSoftCheck:
+        return attach(action);
+    case control::OpenReceipt:
+        return EContext::Continue; // the receipt was made by the register
+    case control::Subtotal:
+    case control::Payment:
+        return enter(ReceiptState::Subtotal);
+    case control::CloseReceipt:
+        return enter(ReceiptState::Closed);
+    case control::CancelReceipt:
+        return enter(ReceiptState::Cancelled);
+    }
+    return EContext::Error;
+}
+
+EContext::Result ActionRunner::add(const control::Action &action)
+{
+    const auto arguments = action.getArguments();
+    const auto article = m_findArticle(arguments.value(argument::article).toString());
+    if (!article)
+        return EContext::Error;
+    const auto position = m_receipt->add(article, arguments.value(argument::count).toDouble());
+    control::args::Core(action).setPositionNumber(position->getPosnum());
+    m_receipt->setState(ReceiptState::Open);
+    m_positionNotes.tell(*position);
+    publish(EActivityListener::eventPositionAdded, position);
+    return EContext::Continue;
+}
+
+EContext::Result ActionRunner::applyModifiers(const control::Action &action, Origin origin)
+{
+    const int posnum = control::args::Core(action).positionNumber();
+    const QVariant quantity = m_services.modifiers().value(modifiers::Quantity);
+    if (!m_receipt->getPositionByPosnum(posnum) || !quantity.isValid())
+        return EContext::Error;
+    const auto position = m_receipt->line(posnum);
+    const double base = quantity.value<Quantity>().amount();
+    const ArticleData &article = position->article();
+    if (!m_receipt->limitFault(article, base / article.pack, position.get()).isEmpty())
+        return EContext::Error;
+    position->setBase(base);
+    m_receipt->setState(ReceiptState::Open);
+    m_receipt->touch();
+    m_positionNotes.tell(*position);
+    publish(origin == Origin::Cashier ? EActivityListener::eventModifierApplied
+                                      : EActivityListener::eventModifierApplied2,
+            position);
+    return EContext::Continue;
+}
+
+EContext::Result ActionRunner::storno(const control::Action &action)
+{
+    const control::args::Storno arguments(action);
+    if (!m_receipt->getPositionByPosnum(arguments.positionNumber()))
+        return EContext::Error;
+    if (!arguments.withoutDialog()
+        && !m_program.ask(messages::tillStornoPosition(), messages::tillYes(), messages::tillNo()))
+        return EContext::Cancel;
+    return remove(arguments.positionNumber());
+}
+
+EContext::Result ActionRunner::remove(int posnum)
+{
+    if (!m_receipt->storno(posnum))
+        return EContext::Error;
+    m_receipt->setState(ReceiptState::Open);
+    const auto position = m_receipt->line(posnum);
+    m_positionNotes.tell(*position);
+    publish(EActivityListener::eventPositionStorno, position);
+    return EContext::Continue;
+}
+
+EContext::Result ActionRunner::split(const control::Action &action)
+{
+    const int posnum = control::args::Core(action).positionNumber();
+    if (!m_receipt->getPositionByPosnum(posnum))
+        return EContext::Error;
+    const auto source = m_receipt->line(posnum);
+    const auto article = QSharedPointer<Article>::create(source->article());
+    double left = source->getCquant();
+    GoodsItemPtrList pieces;
+    const auto parts = action.getArguments().value(argument::parts).toList();
+    for (const QVariant &part : parts) {
+        const auto piece = m_receipt->add(article, part.toDouble());
+        left -= part.toDouble();
+        m_positionNotes.tell(*piece);
+        pieces.append(piece);
+    }
+    const bool removed = left < nothing;
+    if (removed)
+        m_receipt->storno(posnum);
+    else
+        source->setCount(left);
+    m_receipt->setState(ReceiptState::Open);
+    m_receipt->touch();
+    m_positionNotes.tell(*source);
+    action.setArgument("splitPositionsData", QVariantList{describeSplit(source, pieces, removed)});
+    return EContext::Continue;
+}
+
+EContext::Result ActionRunner::unite(const control::Action &action)
+{
+    const auto numbers = action.getArguments().value(argument::positions).toList();
+    const auto survivor = m_receipt->line(numbers.constFirst().toInt());
+    double count = survivor->getCquant();
+    GoodsItemPtrList deleted;
+    for (const QVariant &number : numbers.mid(1)) {
+        const auto position = m_receipt->line(number.toInt());
+        count += position->getCquant();
+        m_receipt->storno(position->getPosnum());
+        m_positionNotes.tell(*position);
+        deleted.append(position);
+    }
+    survivor->setCount(count);
+    m_receipt->setState(ReceiptState::Open);
+    m_receipt->touch();
+    m_positionNotes.tell(*survivor);
+    action.setArgument("deletedPositions", QVariant::fromValue(deleted));
+    action.setArgument("changedPositions", QVariant::fromValue(GoodsItemPtrList{survivor}));
+    return EContext::Continue;
+}
+
+EContext::Result ActionRunner::attach(const control::Action &action)
+{
+    const auto arguments = action.getArguments();
+    const QString order = arguments.value(argument::order).toString();
+    if (order.isEmpty())
+        m_receipt->addSoftCheck(arguments.value(argument::softCheck).toString());
+    else
+        m_receipt->setOrder(QSharedPointer<Order>(new Order{order}));
+    return EContext::Continue;
+}
+
+EContext::Result ActionRunner::enter(ReceiptState state)
+{
+    m_receipt->setState(state);
+    return EContext::Continue;
+}
+
+void ActionRunner::publish(EActivityListener::Event code, const QSharedPointer<Position> &position)
+{
+    m_services.notifier().notify(
+        Event(code).addArgument("position", QVariant::fromValue(GoodsItemPtr(position))));
+}
+
+} // namespace till

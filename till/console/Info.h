@@ -1,0 +1,16 @@
+#ifndef TILL_CONSOLE_INFO_H
+#define TILL_CONSOLE_INFO_H
+
+#include "till/register/Till.h"
+
+namespace till {
+
+/*!
+ * Loads the plugin of \a setup, initialises it and tells what it is: its metadata, its triggers and
+ * the events to which it subscribes. Fills \a text or returns what is wrong.
+ */
+QString describePlugin(const Setup &setup, QString &text);
+
+} // namespace till
+
+#endif // TILL_CONSOLE_INFO_H

@@ -1,0 +1,123 @@
+#include "till/console/Interactive.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTextStream>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <unistd.h>
+
+#include <readline/history.h>
+#include <readline/readline.h>
+
+namespace till {
+
+namespace {
+
+CommandLine *completed = nullptr; // readline's completion takes no argument of ours
+
+std::optional<QString> readTyped(const char *prompt)
+{
+    const std::unique_ptr<char, void (*)(void *)> typed(readline(prompt), std::free);
+    return typed ? std::optional(QString::fromUtf8(typed.get())) : std::nullopt;
+}
+
+std::optional<QString> readPiped()
+{
+    static QTextStream input(stdin);
+    const QString line = input.readLine();
+    return line.isNull() ? std::nullopt : std::optional(line);
+}
+
+char *nextCompletion(const char *text, int state)
+{
+    static QStringList left;
+    if (state == 0) {
+        const QString line = QString::fromUtf8(rl_line_buffer).left(rl_point);
+        QStringList words = line.split(' ', Qt::SkipEmptyParts);
+        if (words.isEmpty() || line.endsWith(' '))
+            words.append(QString::fromUtf8(text));
+        left = completed->completions(words);
+    }
+    return left.isEmpty() ? nullptr : strdup(left.takeFirst().toUtf8().constData());
+}
+
+char **complete(const char *text, int start, int end)
+{
+    Q_UNUSED(start)
+    Q_UNUSED(end)
+    rl_attempted_completion_over = 1; // file names are never wanted
+    return rl_completion_matches(text, nextCompletion);
+}
+
+//! Adds the line to the history, and to its file at once: a till may end at any moment.
+void remember(const QString &line, const QByteArray &historyFile)
+{
+    add_history(line.toUtf8().constData());
+    if (append_history(1, historyFile.constData()) != 0) // there is no file yet
+        write_history(historyFile.constData());
+}
+
+QString describe(const Outcome &outcome)
+{
+    // The reason of a refusal was shown as a message.
+    return outcome.kind == Outcome::Refused ? QStringLiteral("refused") : outcome.text;
+}
+
+} // namespace
+
+bool isTerminal()
+{
+    return isatty(STDIN_FILENO) != 0;
+}
+
+bool askOnTerminal(const QString &question)
+{
+    std::fputs(question.toUtf8().constData(), stdout);
+    for (;;) {
+        const std::optional<QString> typed = readTyped("yes/no> ");
+        if (!typed)
+            return false;
+        const QString answer = typed->trimmed().toLower();
+        if (QStringList{"yes", "y", "да", "д"}.contains(answer))
+            return true;
+        if (QStringList{"no", "n", "нет", "н"}.contains(answer))
+            return false;
+    }
+}
+
+bool runInteractive(CommandLine &commands, const QString &historyFile,
+                    const std::function<void(const QString &text)> &show)
+{
+    const bool terminal = isTerminal();
+    const QByteArray history = historyFile.toLocal8Bit();
+    if (terminal) {
+        completed = &commands;
+        rl_attempted_completion_function = complete;
+        QDir().mkpath(QFileInfo(historyFile).path());
+        read_history(history.constData());
+        std::puts("The till. 'help' lists the commands, 'quit' leaves.");
+    }
+    bool allDone = true;
+    QString shown = commands.renderReceipt();
+    while (!commands.hasQuit()) {
+        const std::optional<QString> line = terminal ? readTyped("till> ") : readPiped();
+        if (!line)
+            break;
+        if (terminal && !line->trimmed().isEmpty())
+            remember(*line, history);
+        const Outcome outcome = commands.run(*line);
+        if (const QString text = describe(outcome); !text.isEmpty())
+            show(text);
+        allDone = allDone && (terminal || outcome);
+        const QString receipt = commands.renderReceipt();
+        if (terminal && receipt != shown)
+            std::fputs(receipt.toUtf8().constData(), stdout);
+        shown = receipt;
+    }
+    return allDone;
+}
+
+} // namespace till

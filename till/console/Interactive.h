@@ -1,0 +1,26 @@
+#ifndef TILL_CONSOLE_INTERACTIVE_H
+#define TILL_CONSOLE_INTERACTIVE_H
+
+#include "till/script/CommandLine.h"
+
+namespace till {
+
+/*!
+ * Lets a cashier type commands, with line editing, a history that is kept from one start to the
+ * next and completion by the tabulator key. Where standard input is no terminal, commands are read
+ * from it line by line, without a prompt. How a command ended is told by \a show. Returns when the
+ * input ends or "quit" is typed: true when, without a terminal, every command ended well; always
+ * true on a terminal.
+ */
+bool runInteractive(CommandLine &commands, const QString &historyFile,
+                    const std::function<void(const QString &text)> &show);
+
+//! Asks \a question on the terminal until it is answered; no when the input ends.
+bool askOnTerminal(const QString &question);
+
+//! Whether there is a person at standard input.
+bool isTerminal();
+
+} // namespace till
+
+#endif // TILL_CONSOLE_INTERACTIVE_H

@@ -1,0 +1,357 @@
+#include "till/goods/Catalogue.h"
+
+#include "till/goods/CsvRows.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QMap>
+#include <QtCore/QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace till {
+
+namespace {
+
+constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
+constexpr std::array Separators{',', ';', '\t'};
+
+enum Column { Code, Name, Price, TaraMode, TaraCapacity, Pack, Unit };
+
+//! What a column may be called, in the form that `canonical` gives.
+struct ColumnNames
+{
+    Column column;
+    QStringList names; //!< the one for messages first
+};
+
+const QList<ColumnNames> &columns()
+{
+    static const QList<ColumnNames> all{
+        {Code, {"code", "код"}},
+        {Name, {"name", "наименование", "название"}},
+        {Price, {"price", "цена"}},
+        {TaraMode, {"tara mode", "режим тары"}},
+        {TaraCapacity, {"tara capacity", "емкость тары"}},
+        {Pack, {"pack", "упаковка"}},
+        {Unit, {"unit", "единица"}},
+    };
+    return all;
+}
+
+QString canonical(const QByteArray &header)
+{
+    return QString::fromUtf8(header)
+        .toLower()
+        .replace(QLatin1Char('_'), QLatin1Char(' '))
+        .replace(QChar(u'ё'), QChar(u'е'))
+        .simplified();
+}
+
+//! The column of that name, or nothing for one that is none of ours.
+std::optional<Column> columnCalled(const QByteArray &header)
+{
+    const QString name = canonical(header);
+    const auto found = std::find_if(columns().cbegin(), columns().cend(),
+                                    [&](const auto &c) { return c.names.contains(name); });
+    return found == columns().cend() ? std::nullopt : std::optional(found->column);
+}
+
+//! Thrown while a file is read, and turned into the text that `load` returns.
+struct Refusal
+{
+    QString text; //!< without the file's name
+};
+
+[[noreturn]] void refuse(int line, const QString &reason)
+{
+    throw Refusal{QStringLiteral(":%1: %2").arg(line).arg(reason)};
+}
+
+QString quoted(const QString &text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+//! The file's first row: which field of a row is what.
+class Header
+{
+public:
+    explicit Header(const CsvRow &row)
+        : m_names(row.fields)
+    {
+        checkUtf8(row);
+        for (qsizetype index = 0; index < m_names.size(); ++index) {
+            if (const auto column = columnCalled(m_names[index]))
+                place(*column, index, row.line);
+        }
+        checkComplete(row.line);
+    }
+
+    qsizetype size() const { return m_names.size(); }
+    qsizetype indexOf(Column column) const { return m_indexes[column]; }
+
+    //! Refuses the row at \a line for its field at \a index, which may lie behind the last column.
+    [[noreturn]] void refuseField(int line, qsizetype index, const QString &reason) const
+    {
+        refuse(line, nameOf(index) + QStringLiteral(": ") + reason);
+    }
+
+    void checkUtf8(const CsvRow &row) const
+    {
+        for (qsizetype index = 0; index < row.fields.size(); ++index) {
+            if (!row.fields[index].isValidUtf8())
+                refuseField(row.line, index, QStringLiteral("the text is not UTF-8"));
+        }
+    }
+
+private:
+    QString nameOf(qsizetype index) const
+    {
+        const QByteArray name = m_names.value(index);
+        const QString place = QStringLiteral("column %1").arg(index + 1);
+        return name.isEmpty() || !name.isValidUtf8()
+                   ? place
+                   : place + QLatin1Char(' ') + quoted(QString::fromUtf8(name).simplified());
+    }
+
+    void place(Column column, qsizetype index, int line)
+    {
+        if (m_indexes.contains(column))
+            refuseField(line, index, "says the same as " + nameOf(m_indexes[column]));
+        m_indexes[column] = index;
+    }
+
+    void checkComplete(int line) const
+    {
+        QStringList missing;
+        for (const ColumnNames &column : columns()) {
+            if (!m_indexes.contains(column.column))
+                missing.append(quoted(column.names.first()));
+        }
+        if (!missing.isEmpty())
+            refuse(line, "missing in the header: " + missing.join(QStringLiteral(", ")));
+    }
+
+    QList<QByteArray> m_names;
+    QMap<Column, qsizetype> m_indexes;
+};
+
+//! One row read as an article; refuses what is wrong with it.
+class RowReader
+{
+public:
+    RowReader(const Header &header, const CsvRow &row)
+        : m_header(header)
+        , m_row(row)
+    {
+        if (row.fields.size() != header.size())
+            refuseFieldCount();
+        header.checkUtf8(row);
+    }
+
+    ArticleData read() const
+    {
+        ArticleData article;
+        article.code = code();
+        article.name = name();
+        article.price = price();
+        article.taraMode = taraMode();
+        article.taraCapacity = taraCapacity(article.taraMode);
+        article.pack = pack();
+        article.unit = text(Unit).simplified();
+        return article;
+    }
+
+    [[noreturn]] void refuseColumn(Column column, const QString &reason) const
+    {
+        m_header.refuseField(m_row.line, m_header.indexOf(column), reason);
+    }
+
+private:
+    [[noreturn]] void refuseFieldCount() const
+    {
+        const qsizetype given = m_row.fields.size();
+        m_header.refuseField(m_row.line, std::min(given, m_header.size()),
+                             QStringLiteral("too %1 fields: %2 where the header has %3")
+                                 .arg(given < m_header.size() ? "few" : "many")
+                                 .arg(given)
+                                 .arg(m_header.size()));
+    }
+
+    //! Trimmed again, for the kinds of white space that are more than a byte.
+    QString text(Column column) const
+    {
+        return QString::fromUtf8(m_row.fields[m_header.indexOf(column)]).trimmed();
+    }
+
+    [[noreturn]] void refuseText(Column column, const QString &reason) const
+    {
+        refuseColumn(column, quoted(text(column)) + QLatin1Char(' ') + reason);
+    }
+
+    QString code() const
+    {
+        const QString code = text(Code);
+        if (code.isEmpty())
+            refuseColumn(Code, QStringLiteral("an article needs a code"));
+        if (std::any_of(code.cbegin(), code.cend(), [](QChar c) { return c.isSpace(); }))
+            refuseText(Code, QStringLiteral("has a space in it"));
+        return code;
+    }
+
+    QString name() const
+    {
+        const QString name = text(Name).simplified();
+        if (name.isEmpty())
+            refuseColumn(Name, QStringLiteral("an article needs a name"));
+        return name;
+    }
+
+    Kopecks price() const
+    {
+        if (text(Price).isEmpty())
+            refuseColumn(Price, QStringLiteral("an article needs a price"));
+        const auto price = parseMoney(text(Price));
+        if (!price)
+            refuseText(Price, QStringLiteral("is not an amount of 0 or more, such as 12.50"));
+        return *price;
+    }
+
+    int taraMode() const
+    {
+        static const QMap<QString, int> modes{
+            {"", Tmc::NoTara}, {"0", Tmc::NoTara}, {"1", Tmc::Tara}, {"2", Tmc::PackagingGoods}};
+        const auto mode = modes.constFind(text(TaraMode));
+        if (mode == modes.cend())
+            refuseText(TaraMode, QStringLiteral("is none of 0 (ordinary goods), 1 (tara) and "
+                                                "2 (goods sold into tara)"));
+        return *mode;
+    }
+
+    double taraCapacity(int mode) const
+    {
+        const double capacity = quantity(TaraCapacity, 0.0);
+        if (mode == Tmc::Tara && !(capacity > 0.0))
+            refuseColumn(TaraCapacity, QStringLiteral("a tara needs a capacity above 0"));
+        if (mode != Tmc::Tara && capacity > 0.0)
+            refuseText(TaraCapacity, QStringLiteral("is for a tara, which has the tara mode 1"));
+        return capacity;
+    }
+
+    double pack() const
+    {
+        const double pack = quantity(Pack, 1.0);
+        if (!(pack > 0.0))
+            refuseText(Pack, QStringLiteral("is not above 0"));
+        return pack;
+    }
+
+    //! A number of 0 or more.
+    double quantity(Column column, double whenEmpty) const
+    {
+        if (text(column).isEmpty())
+            return whenEmpty;
+        const auto number = parseQuantity(text(column));
+        if (!number || *number < 0.0)
+            refuseText(column, QStringLiteral("is not a number of 0 or more with at most three "
+                                              "decimals, such as 1.5"));
+        return *number;
+    }
+
+    const Header &m_header;
+    const CsvRow &m_row;
+};
+
+QByteArray contents(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        throw Refusal{QStringLiteral(": no such file")};
+    if (info.isDir())
+        throw Refusal{QStringLiteral(": a directory, not a file")};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw Refusal{": cannot be opened: " + file.errorString()};
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw Refusal{": cannot be read: " + file.errorString()};
+    return bytes.startsWith(ByteOrderMark) ? bytes.sliced(ByteOrderMark.size()) : bytes;
+}
+
+//! How many of our columns the first row names when \a separator is taken for the separator.
+qsizetype columnsFound(const QByteArray &text, char separator)
+{
+    const CsvRows head = readCsv(text, separator, 1);
+    const CsvRow row = head.fault ? head.fault->row : head.rows.value(0);
+    return std::count_if(row.fields.cbegin(), row.fields.cend(),
+                         [](const auto &field) { return columnCalled(field).has_value(); });
+}
+
+char separatorOf(const QByteArray &text)
+{
+    return *std::max_element(Separators.cbegin(), Separators.cend(), [&](char a, char b) {
+        return columnsFound(text, a) < columnsFound(text, b);
+    });
+}
+
+[[noreturn]] void refuseFault(const CsvFault &fault, const Header *header)
+{
+    const qsizetype index = fault.row.fields.size();
+    if (header)
+        header->refuseField(fault.row.line, index, fault.reason);
+    refuse(fault.row.line, QStringLiteral("column %1: %2").arg(index + 1).arg(fault.reason));
+}
+
+QList<ArticleData> readArticles(const QByteArray &text)
+{
+    const CsvRows table = readCsv(text, separatorOf(text));
+    if (table.rows.isEmpty() && table.fault)
+        refuseFault(*table.fault, nullptr);
+    if (table.rows.isEmpty())
+        throw Refusal{QStringLiteral(": the file is empty")};
+
+    const Header header(table.rows.first());
+    QList<ArticleData> articles;
+    QHash<QString, int> lines;
+    const QList<CsvRow> rows = table.rows.sliced(1);
+    for (const CsvRow &row : rows) {
+        const RowReader reader(header, row);
+        articles.append(reader.read());
+        const QString code = articles.last().code;
+        if (lines.contains(code))
+            reader.refuseColumn(Code, QStringLiteral("\"%1\" is the code of line %2 already")
+                                          .arg(code)
+                                          .arg(lines.value(code)));
+        lines.insert(code, row.line);
+    }
+    if (table.fault)
+        refuseFault(*table.fault, &header);
+    if (articles.isEmpty())
+        throw Refusal{QStringLiteral(": there are no articles below the header")};
+    return articles;
+}
+
+} // namespace
+
+std::variant<Catalogue, QString> Catalogue::load(const QString &path)
+{
+    try {
+        Catalogue catalogue;
+        const QList<ArticleData> articles = readArticles(contents(path));
+        for (const ArticleData &article : articles)
+            catalogue.add(QSharedPointer<Article>::create(article));
+        return catalogue;
+    } catch (const Refusal &refusal) {
+        return path + refusal.text;
+    }
+}
+
+void Catalogue::add(const QSharedPointer<Article> &article)
+{
+    m_articles.append(article);
+    m_byCode.insert(article->data.code, article);
+}
+
+} // namespace till

@@ -1,0 +1,40 @@
+#ifndef TILL_GOODS_MONEY_H
+#define TILL_GOODS_MONEY_H
+
+#include <QtCore/QString>
+
+#include <cmath>
+#include <optional>
+
+namespace till {
+
+//! An amount of money in whole kopecks.
+using Kopecks = qint64;
+
+//! Price of \a quantity pieces at \a price each, rounded to the nearest kopeck, halves away from 0.
+inline Kopecks sumOf(Kopecks price, double quantity)
+{
+    // Three decimals of quantity make whole thousandths of a kopeck: only these tell halves
+    // exactly.
+    const double thousandths = std::round(static_cast<double>(price) * quantity * 1000.0);
+    return std::llround(thousandths / 1000.0);
+}
+
+//! \a amount in roubles with two decimals and a point: 123450 is "1234.50".
+QString toText(Kopecks amount);
+
+//! Reads roubles, "12", "12.5", "12,50"; nothing for other texts or more than two decimals.
+std::optional<Kopecks> parseMoney(const QString &text);
+
+//! \a quantity with at most three decimals, a point and no trailing zeros: "1.5".
+QString toText(double quantity);
+
+/*!
+ * Reads a number with at most three decimals, written with a point or a comma; nothing for other
+ * texts, also not for "1e3", "inf" or " 1". The magnitude is below a thousand million.
+ */
+std::optional<double> parseQuantity(const QString &text);
+
+} // namespace till
+
+#endif // TILL_GOODS_MONEY_H

@@ -1,0 +1,57 @@
+#ifndef TILL_RECEIPT_TARASTATE_H
+#define TILL_RECEIPT_TARASTATE_H
+
+#include "host/Document.h"
+
+#include <QtCore/QList>
+#include <QtCore/QMap>
+#include <QtCore/QString>
+
+namespace till {
+
+//! Whether a plugin controls the tara of the receipt.
+enum class TaraControl {
+    Active,
+    Suspended, //!< the plugin let go of the receipt
+    Absent,    //!< there is no plugin
+};
+
+//! What the plugin noted of one tara position.
+struct TaraUse
+{
+    int posnum = 0;
+    QString id;
+    double capacity = 0.0;
+    double free = 0.0; //!< below 0 when over-full
+};
+
+//! What the plugin noted of one goods position: how much of it is in which tara, by the tara's id.
+struct GoodsUse
+{
+    int posnum = 0;
+    QMap<QString, double> used;
+};
+
+/*!
+ * The plugin's records as they stand in the receipt. The register knows the plugin only by these
+ * data; missing or malformed data read as none.
+ */
+struct TaraState
+{
+    QList<TaraUse> taras;
+    QList<GoodsUse> goods;
+
+    //! Reads what the plugin called \a pluginId stored in \a data.
+    static TaraState read(const Document::PluginData &data, const QString &pluginId);
+
+    //! The first tara record of that position, or null.
+    const TaraUse *tara(int posnum) const;
+    //! The tara record with that identifier, or null.
+    const TaraUse *taraById(const QString &id) const;
+    //! The first goods record of that position, or null.
+    const GoodsUse *goodsOf(int posnum) const;
+};
+
+} // namespace till
+
+#endif // TILL_RECEIPT_TARASTATE_H

@@ -1,0 +1,108 @@
+#include "till/register/Till.h"
+
+#include "till/register/SettingsFile.h"
+
+#include <utility>
+
+namespace till {
+
+Till::Till(Setup setup, Notes &notes)
+    : m_setup(std::move(setup))
+    , m_notes(notes)
+{
+}
+
+Till::~Till()
+{
+    stop();
+}
+
+QString Till::start()
+{
+    using Step = QString (Till::*)();
+    constexpr Step steps[] = {&Till::readSettings, &Till::readCatalogue, &Till::openDatabase,
+                              &Till::loadPlugin, &Till::startRegister};
+    for (const Step step : steps) {
+        if (const QString error = (this->*step)(); !error.isEmpty()) {
+            stop();
+            return error;
+        }
+    }
+    return {};
+}
+
+void Till::stop()
+{
+    m_register.reset();
+    if (std::exchange(m_plugin, std::nullopt))
+        m_loader.unload();
+    m_storage.reset();
+}
+
+QString Till::set(const QString &key, const QString &value)
+{
+    stop();
+    m_setup.settings.insert(key, value);
+    return start();
+}
+
+void Till::setFront(Register::Asker asker, Register::Shower shower)
+{
+    m_asker = std::move(asker);
+    m_shower = std::move(shower);
+    if (m_register) {
+        m_register->setAsker(m_asker);
+        m_register->setShower(m_shower);
+    }
+}
+
+QString Till::readSettings()
+{
+    if (!m_setup.settingsFile.isEmpty()) {
+        if (const QString error = readSettingsFile(m_setup.settingsFile, m_settings);
+            !error.isEmpty())
+            return error;
+    }
+    for (auto entry = m_setup.settings.cbegin(); entry != m_setup.settings.cend(); ++entry)
+        m_settings.set(entry.key(), entry.value());
+    return {};
+}
+
+QString Till::readCatalogue()
+{
+    auto loaded = Catalogue::load(m_setup.catalogue);
+    if (const QString *error = std::get_if<QString>(&loaded))
+        return *error;
+    m_catalogue = std::get<Catalogue>(std::move(loaded));
+    return {};
+}
+
+QString Till::openDatabase()
+{
+    QString error;
+    m_storage = Storage::open(m_setup.database, &error);
+    return error;
+}
+
+QString Till::loadPlugin()
+{
+    if (m_setup.plugin.isEmpty())
+        return {};
+    const auto loaded = m_loader.load(m_setup.plugin);
+    if (const PluginError *error = std::get_if<PluginError>(&loaded))
+        return error->text();
+    m_plugin = std::get<LoadedPlugin>(loaded);
+    return {};
+}
+
+QString Till::startRegister()
+{
+    m_notes.add("start", {{"database", m_setup.database}, {"plugin", m_setup.plugin}});
+    m_register = std::make_unique<Register>(Register::Parts{
+        *m_catalogue, *m_storage, m_plugin ? &*m_plugin : nullptr, m_settings, m_notes});
+    m_register->setAsker(m_asker);
+    m_register->setShower(m_shower);
+    return m_register->resume();
+}
+
+} // namespace till

@@ -1,0 +1,83 @@
+#ifndef TILL_REGISTER_TILL_H
+#define TILL_REGISTER_TILL_H
+
+#include "host/Config.h"
+#include "till/goods/Catalogue.h"
+#include "till/plugins/PluginLoader.h"
+#include "till/register/Register.h"
+#include "till/storage/Storage.h"
+
+#include <QtCore/QMap>
+
+#include <memory>
+#include <optional>
+
+namespace till {
+
+//! Where a register finds what it is made of.
+struct Setup
+{
+    QString database;                //!< a file, or ":memory:"
+    QString catalogue;               //!< a CSV file
+    QString plugin;                  //!< the plugin's file; empty to work without one
+    QString settingsFile;            //!< an INI file; empty for none
+    QMap<QString, QString> settings; //!< further settings, over those of the file
+};
+
+//! A register with all its parts, switched on and off as a whole.
+class Till
+{
+public:
+    //! \a notes must outlive the till.
+    Till(Setup setup, Notes &notes);
+    ~Till();
+    Q_DISABLE_COPY_MOVE(Till)
+
+    /*!
+     * Switches the till on: reads the settings and the catalogue, opens the database, loads the
+     * plugin and takes up the receipt that was in hand. Returns an empty text or what is missing,
+     * with its place; then the till stays off.
+     */
+    QString start();
+
+    //! Switches the till off. The plugin is unloaded; the receipt in hand stays in the database.
+    void stop();
+
+    /*!
+     * Changes a setting, which plugins read when they start: the till is switched off and on. Empty
+     * text or an error. An in-memory database starts anew.
+     */
+    QString set(const QString &key, const QString &value);
+
+    //! The register; only while the till is on.
+    Register &cashRegister() { return *m_register; }
+    bool isOn() const { return m_register != nullptr; }
+
+    const Catalogue &catalogue() const { return *m_catalogue; }
+    const Setup &setup() const { return m_setup; }
+
+    //! Who answers questions and shows messages; kept over restarts.
+    void setFront(Register::Asker asker, Register::Shower shower);
+
+private:
+    QString readSettings();
+    QString readCatalogue();
+    QString openDatabase();
+    QString loadPlugin();
+    QString startRegister();
+
+    Setup m_setup;
+    Notes &m_notes;
+    Register::Asker m_asker;
+    Register::Shower m_shower;
+    Config m_settings;
+    std::optional<Catalogue> m_catalogue;
+    std::unique_ptr<Storage> m_storage;
+    PluginLoader m_loader;
+    std::optional<LoadedPlugin> m_plugin;
+    std::unique_ptr<Register> m_register;
+};
+
+} // namespace till
+
+#endif // TILL_REGISTER_TILL_H

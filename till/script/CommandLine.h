@@ -1,0 +1,111 @@
+#ifndef TILL_SCRIPT_COMMANDLINE_H
+#define TILL_SCRIPT_COMMANDLINE_H
+
+#include "till/language/Translator.h"
+#include "till/register/Outcome.h"
+#include "till/register/Till.h"
+#include "till/view/ReceiptView.h"
+
+#include <QtCore/QStringList>
+
+#include <functional>
+
+namespace till {
+
+/*!
+ * The till's commands, one a line, as a cashier types them and as scripts hold them: words
+ * separated by spaces, quoted where they hold spaces. Empty lines and lines that begin with "#" do
+ * nothing.
+ */
+class CommandLine
+{
+public:
+    //! How commands reach a person.
+    struct Front
+    {
+        std::function<void(const QString &text)> print; //!< shows whole lines
+        //! Asks a person; empty where nobody can be asked. True takes the confirming choice.
+        std::function<bool(const QString &question)> ask;
+    };
+
+    //! All must outlive this object.
+    CommandLine(Till &till, Notes &notes, const Translator &translator, Style style, Front front);
+    ~CommandLine();
+    Q_DISABLE_COPY_MOVE(CommandLine)
+
+    //! Carries out one line. What there is to see is printed; the outcome is the caller's to show.
+    Outcome run(const QString &line);
+
+    /*!
+     * What is wrong at the end of a script: answers that no question took, questions that found no
+     * answer. Empty when all is well.
+     */
+    QString leftOver() const;
+
+    //! Whether the last command was "quit".
+    bool hasQuit() const { return m_hasQuit; }
+
+    //! The receipt as a person sees it; empty when none was opened.
+    QString renderReceipt() const;
+
+    //! Words that can stand where the last of \a words begins: commands, articles, positions.
+    QStringList completions(const QStringList &words) const;
+
+private:
+    friend class Expectations;
+    struct Command;
+    static const QList<Command> &commands();
+    static const Command *find(const QString &name);
+
+    //! What the last command (other than "expect", "answer" and "show") made the till say.
+    struct Heard
+    {
+        Outcome outcome;
+        QList<tr::Tr> messages;
+        QList<tr::Tr> questions;
+        QStringList log;
+    };
+
+    Outcome runWords(const QStringList &words);
+    bool answer(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel);
+    void hear(const QJsonObject &note);
+
+    Outcome open(const QStringList &words);
+    Outcome add(const QStringList &words);
+    Outcome changeCount(const QStringList &words);
+    Outcome storno(const QStringList &words);
+    Outcome split(const QStringList &words);
+    Outcome unite(const QStringList &words);
+    Outcome order(const QStringList &words);
+    Outcome softCheck(const QStringList &words);
+    Outcome subtotal(const QStringList &words);
+    Outcome pay(const QStringList &words);
+    Outcome cancel(const QStringList &words);
+    Outcome queueAnswer(const QStringList &words);
+    Outcome show(const QStringList &words);
+    Outcome articles(const QStringList &words);
+    Outcome log(const QStringList &words);
+    Outcome say(const QStringList &words);
+    Outcome set(const QStringList &words);
+    Outcome restart(const QStringList &words);
+    Outcome expect(const QStringList &words);
+    Outcome help(const QStringList &words);
+    Outcome quit(const QStringList &words);
+
+    Register &cashRegister() { return m_till.cashRegister(); }
+    void print(const QString &text) const { m_front.print(text); }
+
+    Till &m_till;
+    Notes &m_notes;
+    const Translator &m_translator;
+    ReceiptView m_view;
+    Front m_front;
+    Heard m_heard;
+    QList<bool> m_answers;
+    QStringList m_unanswered;
+    bool m_hasQuit = false;
+};
+
+} // namespace till
+
+#endif // TILL_SCRIPT_COMMANDLINE_H

@@ -1,0 +1,316 @@
+#include "till/script/Expectations.h"
+
+#include "till/script/Words.h"
+
+#include <algorithm>
+
+namespace till {
+
+//! A row of the table of what can be expected.
+struct Expectations::Row
+{
+    QString name;
+    QString usage;
+    QString help;
+    int atLeast; //!< number of words behind the name
+    int atMost;
+    Checker check;
+};
+
+namespace {
+
+Outcome differs(const QString &what, const QString &expected, const QString &found)
+{
+    return Outcome::mistake(what + ": expected " + expected + ", found " + found);
+}
+
+Outcome compare(const QString &what, const QString &expected, const QString &found)
+{
+    return expected == found ? Outcome::done() : differs(what, expected, found);
+}
+
+//! Compares a number as the cashier sees it, to three decimals.
+Outcome compareQuantity(const QString &what, const QString &expected, double found)
+{
+    const std::optional<double> number = parseQuantity(expected);
+    return number ? compare(what, toText(*number), toText(found)) : notANumber(expected);
+}
+
+Outcome compareMoney(const QString &what, const QString &expected, Kopecks found)
+{
+    const std::optional<Kopecks> money = parseMoney(expected);
+    return money ? compare(what, toText(*money), toText(found)) : notMoney(expected);
+}
+
+bool isNone(const QStringList &words)
+{
+    return words.size() == 1 && words[0] == QLatin1String("none");
+}
+
+QString keysOf(const QList<tr::Tr> &texts)
+{
+    QStringList keys;
+    for (const tr::Tr &text : texts)
+        keys.append(text.key());
+    return keys.isEmpty() ? QStringLiteral("none") : keys.join(", ");
+}
+
+//! Whether \a expected is the key or the Russian text of one of \a said; "none" means that none
+//! was.
+Outcome checkSaid(const QString &what, const QStringList &words, const QList<tr::Tr> &said)
+{
+    if (isNone(words))
+        return said.isEmpty() ? Outcome::done() : differs(what, "none", keysOf(said));
+    const QString expected = words.join(' ');
+    const bool found = std::any_of(said.cbegin(), said.cend(), [&](const tr::Tr &text) {
+        return text.key() == expected
+               || text.text().split('\n').join(' ') == expected.split('\n').join(' ');
+    });
+    return found ? Outcome::done() : differs(what, "\"" + expected + "\"", keysOf(said));
+}
+
+QString stateName(const Receipt *receipt)
+{
+    static const QStringList names{"open", "subtotal", "closed", "cancelled"};
+    return receipt ? names[static_cast<int>(receipt->state())] : QStringLiteral("none");
+}
+
+Outcome checkPart(const Position &position, const QString &part, const QString &value)
+{
+    const QString what = QString("position %1 %2").arg(position.getPosnum()).arg(part);
+    if (part == "quantity")
+        return compareQuantity(what, value, position.getCquant());
+    if (part == "base")
+        return compareQuantity(what, value, position.getBquant());
+    if (part == "sum")
+        return compareMoney(what, value, position.sum());
+    if (part == "article")
+        return compare(what, value, position.article().code);
+    return notOneOf(part, {"quantity", "base", "sum", "article", "stornoed", "live"});
+}
+
+//! What the goods hold in the tara at \a posnum.
+double amountIn(const TaraState &state, const GoodsUse &goods, int posnum)
+{
+    const TaraUse *const tara = state.tara(posnum);
+    return tara ? goods.used.value(tara->id, 0.0) : 0.0;
+}
+
+double unplaced(const GoodsUse &goods, const Position *position)
+{
+    double left = position ? position->getBquant() : 0.0;
+    for (const double used : goods.used)
+        left -= used;
+    return left;
+}
+
+} // namespace
+
+const QList<Expectations::Row> &Expectations::rows()
+{
+    constexpr int any = 1000;
+    static const QList<Row> table{
+        {"position", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...",
+         "a position, and what is in it", 2, any, &Expectations::position},
+        {"positions", "COUNT", "how many positions are not stornoed", 1, 1,
+         &Expectations::positions},
+        {"tara", "N none|capacity C|free F...", "what is noted of a tara position", 2, any,
+         &Expectations::tara},
+        {"goods", "N none|in TARA AMOUNT...|unplaced AMOUNT...",
+         "where the goods of a position are", 2, any, &Expectations::goods},
+        {"records", "TARAS GOODS", "how many records there are of each kind", 2, 2,
+         &Expectations::records},
+        {"total", "MONEY", "the sum of the receipt", 1, 1, &Expectations::total},
+        {"message", "none|KEY|TEXT", "a message that the last command showed", 1, any,
+         &Expectations::message},
+        {"question", "none|KEY|TEXT", "a question that the last command asked", 1, any,
+         &Expectations::question},
+        {"log", "none|TEXT", "a line that the plugin logged for the last command", 1, any,
+         &Expectations::log},
+        {"state", "none|open|subtotal|closed|cancelled", "how far the receipt is", 1, 1,
+         &Expectations::state},
+        {"control", "active|suspended|none", "whether the plugin watches the receipt", 1, 1,
+         &Expectations::control},
+    };
+    return table;
+}
+
+QString Expectations::help()
+{
+    QString text = QStringLiteral("  expect accepted|refused|mistake COMMAND...\n"
+                                  "      carry out a command that ends in that way");
+    for (const Row &row : rows())
+        text += "\n  expect " + row.name + ' ' + row.usage + "\n      " + row.help;
+    return text;
+}
+
+Outcome Expectations::check(const QStringList &words)
+{
+    if (words[0] == "accepted")
+        return command(Outcome::Done, words.mid(1));
+    if (words[0] == "refused")
+        return command(Outcome::Refused, words.mid(1));
+    if (words[0] == "mistake")
+        return command(Outcome::Mistake, words.mid(1));
+    const auto &table = rows();
+    const auto row = std::find_if(table.cbegin(), table.cend(),
+                                  [&](const Row &r) { return r.name == words[0]; });
+    if (row == table.cend())
+        return Outcome::mistake("\"" + words[0] + "\" cannot be expected; try 'help expect'");
+    if (words.size() - 1 < row->atLeast || words.size() - 1 > row->atMost)
+        return Outcome::mistake("usage: expect " + row->name + ' ' + row->usage);
+    return (this->*row->check)(words.mid(1));
+}
+
+Outcome Expectations::command(Outcome::Kind kind, const QStringList &words) const
+{
+    static const QStringList names{"accepted", "refused", "a mistake", "not stored"};
+    if (words.isEmpty())
+        return Outcome::mistake("which command?");
+    if (words[0] == "expect")
+        return Outcome::mistake("an expectation cannot be expected");
+    const Outcome outcome = m_line.runWords(words);
+    if (outcome.kind == kind)
+        return Outcome::done(outcome.text);
+    return differs(words.join(' '), names[kind],
+                   names[outcome.kind]
+                       + (outcome.text.isEmpty() ? QString() : ": " + outcome.text));
+}
+
+Outcome Expectations::position(const QStringList &words) const
+{
+    const std::optional<int> posnum = parsePosnum(words[0]);
+    if (!posnum)
+        return notAPosition(words[0]);
+    const auto receipt = cashRegister().receipt();
+    const auto line = receipt ? receipt->line(*posnum) : nullptr;
+    const QString what = "position " + words[0];
+    if (isNone(words.mid(1)))
+        return line ? differs(what, "none", line->article().code) : Outcome::done();
+    if (!line)
+        return differs(what, words.mid(1).join(' '), "none");
+    for (qsizetype i = 1; i < words.size(); ++i) {
+        if (words[i] == "stornoed" || words[i] == "live") {
+            const QString found = line->isStornoed() ? "stornoed" : "live";
+            if (found != words[i])
+                return differs(what, words[i], found);
+            continue;
+        }
+        const Outcome checked = checkPart(*line, words[i], words.value(i + 1));
+        if (!checked)
+            return checked;
+        ++i;
+    }
+    return Outcome::done();
+}
+
+Outcome Expectations::positions(const QStringList &words) const
+{
+    const auto receipt = cashRegister().receipt();
+    return compare("positions", words[0],
+                   QString::number(receipt ? receipt->getPositionList().size() : 0));
+}
+
+Outcome Expectations::tara(const QStringList &words) const
+{
+    const std::optional<int> posnum = parsePosnum(words[0]);
+    if (!posnum)
+        return notAPosition(words[0]);
+    const TaraState state = cashRegister().taraState();
+    const TaraUse *const tara = state.tara(*posnum);
+    const QString what = "tara " + words[0];
+    if (isNone(words.mid(1)))
+        return tara ? differs(what, "none", "a record") : Outcome::done();
+    if (!tara)
+        return differs(what, words.mid(1).join(' '), "none");
+    for (qsizetype i = 1; i < words.size(); i += 2) {
+        if (words[i] != "capacity" && words[i] != "free")
+            return notOneOf(words[i], {"capacity", "free", "none"});
+        const Outcome checked = compareQuantity(what + ' ' + words[i], words.value(i + 1),
+                                                words[i] == "free" ? tara->free : tara->capacity);
+        if (!checked)
+            return checked;
+    }
+    return Outcome::done();
+}
+
+Outcome Expectations::goods(const QStringList &words) const
+{
+    const std::optional<int> posnum = parsePosnum(words[0]);
+    if (!posnum)
+        return notAPosition(words[0]);
+    const TaraState state = cashRegister().taraState();
+    const GoodsUse *const goods = state.goodsOf(*posnum);
+    const QString what = "goods " + words[0];
+    if (isNone(words.mid(1)))
+        return goods ? differs(what, "none", "a record") : Outcome::done();
+    if (!goods)
+        return differs(what, words.mid(1).join(' '), "none");
+    for (qsizetype i = 1; i < words.size();) {
+        Outcome checked;
+        if (words[i] == "in") {
+            if (!parsePosnum(words.value(i + 1)))
+                return notAPosition(words.value(i + 1));
+            checked = compareQuantity(what + " in " + words.value(i + 1), words.value(i + 2),
+                                      amountIn(state, *goods, words.value(i + 1).toInt()));
+            i += 3;
+        } else if (words[i] == "unplaced") {
+            checked =
+                compareQuantity(what + " unplaced", words.value(i + 1),
+                                unplaced(*goods, cashRegister().receipt()->line(*posnum).get()));
+            i += 2;
+        } else {
+            return notOneOf(words[i], {"in", "unplaced", "none"});
+        }
+        if (!checked)
+            return checked;
+    }
+    return Outcome::done();
+}
+
+Outcome Expectations::records(const QStringList &words) const
+{
+    const TaraState state = cashRegister().taraState();
+    return compare("records", words.join(' '),
+                   QString("%1 %2").arg(state.taras.size()).arg(state.goods.size()));
+}
+
+Outcome Expectations::total(const QStringList &words) const
+{
+    const auto receipt = cashRegister().receipt();
+    return compareMoney("total", words[0], receipt ? receipt->total() : 0);
+}
+
+Outcome Expectations::message(const QStringList &words) const
+{
+    return checkSaid("message", words, m_line.m_heard.messages);
+}
+
+Outcome Expectations::question(const QStringList &words) const
+{
+    return checkSaid("question", words, m_line.m_heard.questions);
+}
+
+Outcome Expectations::log(const QStringList &words) const
+{
+    const QStringList &lines = m_line.m_heard.log;
+    const QString found = lines.isEmpty() ? QStringLiteral("none") : lines.join(" | ");
+    if (isNone(words))
+        return lines.isEmpty() ? Outcome::done() : differs("log", "none", found);
+    const QString expected = words.join(' ');
+    return lines.contains(expected) ? Outcome::done()
+                                    : differs("log", "\"" + expected + "\"", found);
+}
+
+Outcome Expectations::state(const QStringList &words) const
+{
+    return compare("state", words[0], stateName(cashRegister().receipt().get()));
+}
+
+Outcome Expectations::control(const QStringList &words) const
+{
+    static const QStringList names{"active", "suspended", "none"};
+    return compare("control", words[0], names[static_cast<int>(cashRegister().taraControl())]);
+}
+
+} // namespace till

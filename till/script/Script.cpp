@@ -1,0 +1,66 @@
+#include "till/script/Script.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QStringDecoder>
+
+namespace till {
+
+namespace {
+
+//! What a reader is shown of \a line before it is carried out: the command, also the expected one.
+QString shownCommand(const QString &line)
+{
+    static const QStringList silent{"expect", "answer", "say", "show"};
+    static const QStringList ends{"accepted", "refused", "mistake"};
+    const QString trimmed = line.trimmed();
+    if (trimmed.section(' ', 0, 0) == "expect" && ends.contains(trimmed.section(' ', 1, 1)))
+        return trimmed.section(' ', 2);
+    const bool isSilent =
+        trimmed.isEmpty() || trimmed.startsWith('#') || silent.contains(trimmed.section(' ', 0, 0));
+    return isSilent ? QString() : trimmed;
+}
+
+QString reason(const Outcome &outcome)
+{
+    if (outcome.kind != Outcome::Refused)
+        return outcome.text;
+    return outcome.text.isEmpty() ? QStringLiteral("refused") : "refused: " + outcome.text;
+}
+
+} // namespace
+
+QString Script::read(const QString &path)
+{
+    m_path = path;
+    m_lines.clear();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return path + ": " + file.errorString();
+    const QByteArray bytes = file.readAll();
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder.decode(bytes);
+    if (decoder.hasError())
+        return path + ": not UTF-8 text";
+    m_lines = text.split('\n');
+    return {};
+}
+
+QString Script::place(qsizetype line) const
+{
+    return QString("%1:%2: ").arg(m_path).arg(line + 1);
+}
+
+QString Script::play(CommandLine &commands,
+                     const std::function<void(const QString &line)> &echo) const
+{
+    for (qsizetype i = 0; i < m_lines.size() && !commands.hasQuit(); ++i) {
+        if (const QString shown = shownCommand(m_lines[i]); !shown.isEmpty())
+            echo(shown);
+        if (const Outcome outcome = commands.run(m_lines[i]); !outcome)
+            return place(i) + m_lines[i].trimmed() + ": " + reason(outcome);
+    }
+    const QString left = commands.leftOver();
+    return left.isEmpty() ? QString() : place(m_lines.size() - 1) + left;
+}
+
+} // namespace till

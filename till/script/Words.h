@@ -1,0 +1,32 @@
+#ifndef TILL_SCRIPT_WORDS_H
+#define TILL_SCRIPT_WORDS_H
+
+#include "till/register/Outcome.h"
+
+#include <QtCore/QStringList>
+
+#include <optional>
+
+namespace till {
+
+/*!
+ * Splits \a line at spaces; double quotes hold words with spaces together. Nothing for a line whose
+ * quotes do not match. A comment or an empty line has no words.
+ */
+std::optional<QStringList> splitWords(const QString &line);
+
+//! The position number that \a word is, or nothing.
+std::optional<int> parsePosnum(const QString &word);
+
+//! The mistake of a word that is not a position number.
+Outcome notAPosition(const QString &word);
+//! The mistake of a word that is not a number.
+Outcome notANumber(const QString &word);
+//! The mistake of a word that is not an amount of money.
+Outcome notMoney(const QString &word);
+//! The mistake of a word that is none of \a allowed.
+Outcome notOneOf(const QString &word, const QStringList &allowed);
+
+} // namespace till
+
+#endif // TILL_SCRIPT_WORDS_H

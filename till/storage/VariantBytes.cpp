@@ -1,0 +1,216 @@
+#include "till/storage/VariantBytes.h"
+
+#include <QtCore/QAssociativeIterable>
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QDataStream>
+#include <QtCore/QIODevice>
+#include <QtCore/QMetaType>
+#include <QtCore/QSequentialIterable>
+#include <QtCore/QStringList>
+
+#include <algorithm>
+#include <bit>
+#include <utility>
+
+namespace till {
+
+namespace {
+
+constexpr auto StreamVersion = QDataStream::Qt_6_4;
+
+//! What \a value holds, which must be of that type.
+template <typename Type>
+const Type &held(const QVariant &value)
+{
+    return *static_cast<const Type *>(value.constData());
+}
+
+//! Looks at every value of a tree: which types it needs, and which one cannot be written.
+class Survey
+{
+public:
+    explicit Survey(const QVariant &root) { visit(root); }
+
+    QStringList foreign; //!< types that Qt Core does not know by itself
+    QString culprit;     //!< the first type without stream operators; empty when there is none
+
+private:
+    void visit(const QVariant &value)
+    {
+        const QMetaType type = value.metaType();
+        if (!culprit.isEmpty() || !type.isValid())
+            return;
+        if (type.hasRegisteredDataStreamOperators())
+            note(type);
+        else
+            culprit = QString::fromLatin1(type.name());
+        visitElements(value, type.id());
+    }
+
+    void note(QMetaType type)
+    {
+        if (type.id() <= QMetaType::LastCoreType)
+            return;
+        const QString name = QString::fromLatin1(type.name());
+        if (!foreign.contains(name))
+            foreign.append(name);
+    }
+
+    void visitElements(const QVariant &value, int type)
+    {
+        switch (type) {
+        case QMetaType::QVariant:
+            return visit(held<QVariant>(value));
+        case QMetaType::QVariantPair:
+            visit(static_cast<const std::pair<QVariant, QVariant> *>(value.constData())->first);
+            return visit(
+                static_cast<const std::pair<QVariant, QVariant> *>(value.constData())->second);
+        case QMetaType::QVariantList:
+            return visitAll(held<QVariantList>(value));
+        case QMetaType::QVariantMap:
+            return visitAll(held<QVariantMap>(value));
+        case QMetaType::QVariantHash:
+            return visitAll(held<QVariantHash>(value));
+        default:
+            if (type > QMetaType::LastCoreType)
+                visitContainer(value);
+        }
+    }
+
+    void visitContainer(const QVariant &value)
+    {
+        if (value.canConvert<QAssociativeIterable>()) {
+            const auto map = value.value<QAssociativeIterable>();
+            for (auto entry = map.begin(); entry != map.end(); ++entry) {
+                visit(entry.key());
+                visit(entry.value());
+            }
+        } else if (value.canConvert<QSequentialIterable>()) {
+            const auto list = value.value<QSequentialIterable>();
+            for (const QVariant element : list)
+                visit(element);
+        }
+    }
+
+    template <typename Container>
+    void visitAll(const Container &values)
+    {
+        for (const QVariant &value : values)
+            visit(value);
+    }
+};
+
+bool areSame(const QString &left, const QString &right)
+{
+    return left == right && left.isNull() == right.isNull();
+}
+
+bool areSame(const QVariantList &left, const QVariantList &right)
+{
+    return left.size() == right.size()
+           && (left.constData() == right.constData()
+               || std::equal(left.cbegin(), left.cend(), right.cbegin(),
+                             VariantBytes::areSurelySame));
+}
+
+bool areSame(const QVariantMap &left, const QVariantMap &right)
+{
+    const auto isSameEntry = [](const auto &one, const auto &other) {
+        return areSame(one.first, other.first)
+               && VariantBytes::areSurelySame(one.second, other.second);
+    };
+    return left.size() == right.size()
+           && std::equal(left.constKeyValueBegin(), left.constKeyValueEnd(),
+                         right.constKeyValueBegin(), isSameEntry);
+}
+
+bool isKnown(const QString &typeName)
+{
+    const QMetaType type = QMetaType::fromName(typeName.toLatin1());
+    return type.isValid() && type.hasRegisteredDataStreamOperators();
+}
+
+} // namespace
+
+std::optional<VariantBytes> VariantBytes::of(const QVariant &value, QString *culprit)
+{
+    const Survey survey(value);
+    *culprit = survey.culprit;
+    if (!culprit->isEmpty())
+        return std::nullopt;
+    VariantBytes stored{{}, survey.foreign.join(QLatin1Char('\n')), {}};
+    QDataStream stream(&stored.bytes, QIODevice::WriteOnly);
+    stream.setVersion(StreamVersion);
+    stream << value;
+    stored.digest = stored.computeDigest();
+    // Operators of others may not fit together, or may write nothing of what they hold.
+    if (stream.status() != QDataStream::Ok || (!stored.types.isEmpty() && !stored.decode())) {
+        *culprit = QString::fromLatin1(value.metaType().name());
+        return std::nullopt;
+    }
+    return stored;
+}
+
+bool VariantBytes::areSurelySame(const QVariant &left, const QVariant &right)
+{
+    if (left.metaType() != right.metaType() || left.isNull() != right.isNull())
+        return false;
+    switch (left.typeId()) {
+    case QMetaType::Bool:
+        return held<bool>(left) == held<bool>(right);
+    case QMetaType::Int:
+        return held<int>(left) == held<int>(right);
+    case QMetaType::Double: // by its bits: a zero has a sign, and what is no number equals itself
+        return std::bit_cast<quint64>(held<double>(left))
+               == std::bit_cast<quint64>(held<double>(right));
+    case QMetaType::QString:
+        return areSame(held<QString>(left), held<QString>(right));
+    case QMetaType::QVariantList:
+        return areSame(held<QVariantList>(left), held<QVariantList>(right));
+    case QMetaType::QVariantMap:
+        return areSame(held<QVariantMap>(left), held<QVariantMap>(right));
+    default:
+        return false;
+    }
+}
+
+std::optional<QVariant> VariantBytes::value(QString *reason) const
+{
+    // Before anything is read, for to read damaged bytes may take any amount of memory.
+    if (digest != computeDigest()) {
+        *reason = QStringLiteral("are damaged");
+        return std::nullopt;
+    }
+    const QStringList names = types.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        if (!isKnown(name)) {
+            *reason = QStringLiteral("hold a value of type \"%1\", which is not known").arg(name);
+            return std::nullopt;
+        }
+    }
+    auto decoded = decode();
+    if (!decoded)
+        *reason = QStringLiteral("are damaged");
+    return decoded;
+}
+
+QByteArray VariantBytes::computeDigest() const
+{
+    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    hash.addData(bytes);
+    hash.addData(types.toUtf8());
+    return hash.result();
+}
+
+std::optional<QVariant> VariantBytes::decode() const
+{
+    QDataStream stream(bytes);
+    stream.setVersion(StreamVersion);
+    QVariant value;
+    stream >> value;
+    if (stream.status() != QDataStream::Ok || !stream.atEnd())
+        return std::nullopt;
+    return value;
+}
+
+} // namespace till

@@ -1,0 +1,42 @@
+#ifndef TILL_STORAGE_VARIANTBYTES_H
+#define TILL_STORAGE_VARIANTBYTES_H
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+#include <optional>
+
+namespace till {
+
+//! A variant as bytes that can be kept and that give the same variant back, with its types.
+struct VariantBytes
+{
+    QByteArray bytes;  //!< as QDataStream writes it
+    QString types;     //!< the types in it that are not Qt Core's own, one a line
+    QByteArray digest; //!< of both, to know damaged ones from good ones
+
+    /*!
+     * The bytes of \a value. Nothing, and the name of the type in \a culprit, when it is or holds a
+     * value that has no stream operators.
+     */
+    static std::optional<VariantBytes> of(const QVariant &value, QString *culprit);
+
+    /*!
+     * Whether both have the same bytes, as far as can be told without making them: false where a
+     * value is of another type than a plugin's data usually are. Stricter than the variants' own
+     * comparison, to which values may be equal that differ in type, sign or being null.
+     */
+    static bool areSurelySame(const QVariant &left, const QVariant &right);
+
+    //! The variant; nothing, and \a reason in words that follow "the data", when there is none.
+    std::optional<QVariant> value(QString *reason) const;
+
+private:
+    QByteArray computeDigest() const;
+    std::optional<QVariant> decode() const;
+};
+
+} // namespace till
+
+#endif // TILL_STORAGE_VARIANTBYTES_H

@@ -1,0 +1,202 @@
+#include "till/view/TaraNotes.h"
+
+#include "till/language/TillMessages.h"
+#include "till/view/DisplayText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <utility>
+
+namespace till {
+
+namespace {
+
+constexpr int barCells = 10;
+constexpr int longestUnit = 6;
+
+bool isShownAsZero(double quantity)
+{
+    return toText(quantity) == QLatin1String("0");
+}
+
+double usedOf(const TaraUse &tara)
+{
+    return tara.capacity - tara.free;
+}
+
+//! Cells of a partly filled tara: at least one and never all, as it is neither empty nor full.
+int partialCells(const TaraUse &tara)
+{
+    if (usedOf(tara) < 0)
+        return 0;
+    const auto cells = static_cast<int>(std::lround(usedOf(tara) / tara.capacity * barCells));
+    return std::clamp(cells, 1, barCells - 1);
+}
+
+QString bar(int cells, char sign)
+{
+    return QLatin1Char('[') + QString(cells, QLatin1Char(sign))
+           + QString(barCells - cells, QLatin1Char('.')) + QLatin1Char(']');
+}
+
+} // namespace
+
+enum class TaraNotes::Fill { Empty, Partial, Full, Overfull };
+
+QString amountText(double quantity, const QString &unit)
+{
+    return unit.isEmpty() ? toText(quantity) : toText(quantity) + QLatin1Char(' ') + unit;
+}
+
+QString unitOf(const ArticleData &article)
+{
+    return elided(printable(article.unit), longestUnit);
+}
+
+QList<Piece> TaraNotes::ofTara(const TaraUse &tara) const
+{
+    const Fill fill = fillOf(tara);
+    const QList<Piece> contents = contentsOf(tara);
+    QList<Piece> pieces{{barOf(tara, fill), paintOf(fill)},
+                        {toText(usedOf(tara)) + QStringLiteral(" / ")
+                         + amountText(tara.capacity, contentsUnit(tara)) + QLatin1Char(',')},
+                        {fillText(tara, fill), paintOf(fill)}};
+    if (!contents.isEmpty())
+        pieces.last().text += QLatin1Char(':');
+    return pieces + separated(contents, QStringLiteral(","));
+}
+
+QList<Piece> TaraNotes::ofGoods(const GoodsUse &goods, const Position &position) const
+{
+    const QList<Piece> rest = unplaced(goods, position);
+    QList<Piece> shares = separated(sharesOf(goods), QStringLiteral(","));
+    if (shares.isEmpty())
+        return rest;
+    shares.prepend({m_translator.text(messages::tillInTara()) + QLatin1Char(':')});
+    if (!rest.isEmpty())
+        shares.last().text += QLatin1Char(';');
+    return shares + rest;
+}
+
+TaraNotes::Fill TaraNotes::fillOf(const TaraUse &tara)
+{
+    if (isShownAsZero(usedOf(tara)))
+        return Fill::Empty;
+    if (isShownAsZero(tara.free))
+        return Fill::Full;
+    return tara.free < 0 ? Fill::Overfull : Fill::Partial;
+}
+
+Paint TaraNotes::paintOf(Fill fill)
+{
+    switch (fill) {
+    case Fill::Empty:
+        return Paint::Cyan;
+    case Fill::Partial:
+        return Paint::Green;
+    case Fill::Full:
+        return Paint::Yellow;
+    case Fill::Overfull:
+        return Paint::Red;
+    }
+    return Paint::Plain;
+}
+
+QString TaraNotes::barOf(const TaraUse &tara, Fill fill)
+{
+    switch (fill) {
+    case Fill::Empty:
+        return bar(0, '#');
+    case Fill::Partial:
+        return bar(partialCells(tara), '#');
+    case Fill::Full:
+        return bar(barCells, '#');
+    case Fill::Overfull:
+        return bar(barCells, '!');
+    }
+    return {};
+}
+
+QString TaraNotes::fillText(const TaraUse &tara, Fill fill) const
+{
+    switch (fill) {
+    case Fill::Empty:
+        return m_translator.text(messages::tillTaraEmpty());
+    case Fill::Partial:
+        return m_translator.text(messages::tillTaraFree()).arg(toText(tara.free));
+    case Fill::Full:
+        return m_translator.text(messages::tillTaraFull());
+    case Fill::Overfull:
+        return m_translator.text(messages::tillTaraOverfull()).arg(toText(-tara.free));
+    }
+    return {};
+}
+
+QList<Piece> TaraNotes::contentsOf(const TaraUse &tara) const
+{
+    QList<Piece> contents;
+    for (const GoodsUse &goods : m_state.goods) {
+        const auto used = goods.used.constFind(tara.id);
+        if (used != goods.used.cend())
+            contents.append({share(goods.posnum, *used)});
+    }
+    return contents;
+}
+
+//! The unit of the goods in the tara; none when it holds none or their units differ.
+QString TaraNotes::contentsUnit(const TaraUse &tara) const
+{
+    QStringList units;
+    for (const GoodsUse &goods : m_state.goods) {
+        if (!goods.used.contains(tara.id))
+            continue;
+        if (const auto position = m_receipt.line(goods.posnum))
+            units.append(unitOf(position->article()));
+    }
+    units.removeDuplicates();
+    return units.size() == 1 ? units.first() : QString();
+}
+
+//! The taras that the goods are in, in the order of the taras; then those that are gone.
+QList<Piece> TaraNotes::sharesOf(const GoodsUse &goods) const
+{
+    QList<Piece> shares;
+    QMap<QString, double> gone = goods.used;
+    for (const TaraUse &tara : m_state.taras) {
+        if (gone.contains(tara.id))
+            shares.append({share(tara.posnum, gone.take(tara.id))});
+    }
+    return shares + goneShares(gone.values());
+}
+
+//! A tara that is gone has nothing but a random name to go by: the greatest amount comes first.
+QList<Piece> TaraNotes::goneShares(QList<double> amounts) const
+{
+    std::sort(amounts.begin(), amounts.end(), std::greater<>());
+    const QString pattern = m_translator.text(messages::tillShareOfGone());
+    QList<Piece> shares;
+    for (const double used : std::as_const(amounts))
+        shares.append({pattern.arg(toText(used)), Paint::Red});
+    return shares;
+}
+
+//! What found no room, or is noted beyond the quantity of the position. Nothing when all is placed.
+QList<Piece> TaraNotes::unplaced(const GoodsUse &goods, const Position &position) const
+{
+    double left = position.getBquant();
+    for (const double used : goods.used)
+        left -= used;
+    if (isShownAsZero(left))
+        return {};
+    const tr::Tr pattern = left > 0 ? messages::tillUnplaced() : messages::tillOverplaced();
+    const QString amount = amountText(std::abs(left), unitOf(position.article()));
+    return {{m_translator.text(pattern).arg(amount), Paint::Red}};
+}
+
+QString TaraNotes::share(int posnum, double used) const
+{
+    return m_translator.text(messages::tillShare()).arg(QString::number(posnum), toText(used));
+}
+
+} // namespace till
