@@ -7,7 +7,7 @@ include(${CMAKE_CURRENT_LIST_DIR}/Common.cmake)
 set(source ${WORK_DIR}/alone/source)
 set(binary ${WORK_DIR}/alone/build)
 file(REMOVE_RECURSE ${WORK_DIR}/alone)
-foreach(part CMakeLists.txt cmake plugin registry events triggers)
+foreach(part CMakeLists.txt cmake contract plugin registry events triggers)
     file(COPY ${SOURCE_DIR}/${part} DESTINATION ${source})
 endforeach()
 
