@@ -22,17 +22,17 @@ void needApplication()
 QString play(const till::Script &script, const QString &path, const QString &plugin)
 {
     till::Notes notes;
-    till::Till till({":memory:", FUZZ_CATALOGUE, plugin, {}, {}}, notes);
-    if (const QString error = till.start(); !error.isEmpty())
+    till::CashDesk desk({":memory:", FUZZ_CATALOGUE, plugin, {}, {}}, notes);
+    if (const QString error = desk.start(); !error.isEmpty())
         return "the till does not start: " + error;
     const till::Translator translator;
-    till::CommandLine commands(till, notes, translator, {}, {[](const QString &) {}, {}});
+    till::CommandLine commands(desk, notes, translator, {}, {[](const QString &) {}, {}});
     const QString wrong = script.play(commands, [](const QString &) {});
     if (!wrong.isEmpty() && !wrong.startsWith(path + ':'))
         return "an error without its place: " + wrong;
-    if (!till.isOn())
+    if (!desk.isOn())
         return "the till is off: " + wrong;
-    if (till.cashRegister().receipt() && commands.renderReceipt().isEmpty())
+    if (desk.cashRegister().receipt() && commands.renderReceipt().isEmpty())
         return "a receipt that cannot be seen";
     return {};
 }

@@ -42,19 +42,13 @@ constexpr double nothing = 0.0005;
 } // namespace
 
 ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &notes,
-                           BasicPlugin *plugin)
+                           ReceiptNotes &receiptNotes, BasicPlugin *plugin)
     : m_program(program)
     , m_services(services)
     , m_notes(notes)
-    , m_positionNotes(notes)
+    , m_receiptNotes(receiptNotes)
     , m_plugin(plugin)
 {
-}
-
-void ActionRunner::setReceipt(const QSharedPointer<Receipt> &receipt)
-{
-    m_receipt = receipt;
-    m_positionNotes.forget();
 }
 
 EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
@@ -71,7 +65,8 @@ EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
             result = carryOut(action, origin);
         if (result == EContext::Continue)
             runTriggers(action, ActionTrigger::After);
-        noteChangedPositions(); // plugins tie positions together without an event
+        // Plugins tie positions together without an event.
+        m_receiptNotes.tellChanged(*m_receipt);
     }
     m_services.modifiers().clearAll();
     m_notes.add("result", {{"type", action.getType()}, {"result", result}});
@@ -145,7 +140,7 @@ EContext::Result ActionRunner::add(const control::Action &action)
     const auto position = m_receipt->add(article, arguments.value(argument::count).toDouble());
     control::args::Core(action).setPositionNumber(position->getPosnum());
     m_receipt->setState(ReceiptState::Open);
-    m_positionNotes.tell(*position);
+    m_receiptNotes.tell(*position);
     publish(EActivityListener::eventPositionAdded, position);
     return EContext::Continue;
 }
@@ -164,7 +159,7 @@ EContext::Result ActionRunner::applyModifiers(const control::Action &action, Ori
     position->setBase(base);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    m_positionNotes.tell(*position);
+    m_receiptNotes.tell(*position);
     publish(origin == Origin::Cashier ? EActivityListener::eventModifierApplied
                                       : EActivityListener::eventModifierApplied2,
             position);
@@ -188,7 +183,7 @@ EContext::Result ActionRunner::remove(int posnum)
         return EContext::Error;
     m_receipt->setState(ReceiptState::Open);
     const auto position = m_receipt->line(posnum);
-    m_positionNotes.tell(*position);
+    m_receiptNotes.tell(*position);
     publish(EActivityListener::eventPositionStorno, position);
     return EContext::Continue;
 }
@@ -206,7 +201,7 @@ EContext::Result ActionRunner::split(const control::Action &action)
     for (const QVariant &part : parts) {
         const auto piece = m_receipt->add(article, part.toDouble());
         left -= part.toDouble();
-        m_positionNotes.tell(*piece);
+        m_receiptNotes.tell(*piece);
         pieces.append(piece);
     }
     const bool removed = left < nothing;
@@ -216,7 +211,7 @@ EContext::Result ActionRunner::split(const control::Action &action)
         source->setCount(left);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    m_positionNotes.tell(*source);
+    m_receiptNotes.tell(*source);
     action.setArgument("splitPositionsData", QVariantList{describeSplit(source, pieces, removed)});
     return EContext::Continue;
 }
@@ -231,13 +226,13 @@ EContext::Result ActionRunner::unite(const control::Action &action)
         const auto position = m_receipt->line(number.toInt());
         count += position->getCquant();
         m_receipt->storno(position->getPosnum());
-        m_positionNotes.tell(*position);
+        m_receiptNotes.tell(*position);
         deleted.append(position);
     }
     survivor->setCount(count);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    m_positionNotes.tell(*survivor);
+    m_receiptNotes.tell(*survivor);
     action.setArgument("deletedPositions", QVariant::fromValue(deleted));
     action.setArgument("changedPositions", QVariant::fromValue(GoodsItemPtrList{survivor}));
     return EContext::Continue;

@@ -6,7 +6,7 @@
 #include "host/EActivityListener.h"
 #include "host/EContext.h"
 #include "till/actions/HostServices.h"
-#include "till/course/PositionNotes.h"
+#include "till/course/ReceiptNotes.h"
 #include "till/receipt/Receipt.h"
 
 class BasicPlugin;
@@ -37,19 +37,17 @@ public:
     enum class Origin { Cashier, Program };
 
     //! All must outlive this object; \a plugin may be null.
-    ActionRunner(HostProgram &program, HostServices &services, Notes &notes, BasicPlugin *plugin);
+    ActionRunner(HostProgram &program, HostServices &services, Notes &notes,
+                 ReceiptNotes &receiptNotes, BasicPlugin *plugin);
 
     //! The receipt that actions are carried out on; null when there is none.
-    void setReceipt(const QSharedPointer<Receipt> &receipt);
+    void setReceipt(const QSharedPointer<Receipt> &receipt) { m_receipt = receipt; }
 
     //! Articles of actions that add a position are taken from here.
     using FindArticle = std::function<QSharedPointer<Article>(const QString &code)>;
     void setArticles(FindArticle find) { m_findArticle = std::move(find); }
 
     EContext::Result run(const control::Action &action, Origin origin);
-
-    //! Notes the positions that changed since they were noted last, such as by a plugin's hand.
-    void noteChangedPositions() { m_positionNotes.tellChanged(*m_receipt); }
 
     //! Runs the triggers after \a action alone, for an action that was carried out in an earlier
     //! life.
@@ -73,7 +71,7 @@ private:
     HostProgram &m_program;
     HostServices &m_services;
     Notes &m_notes;
-    PositionNotes m_positionNotes;
+    ReceiptNotes &m_receiptNotes;
     BasicPlugin *m_plugin;
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;

@@ -1,7 +1,7 @@
 #ifndef TILL_CONSOLE_INFO_H
 #define TILL_CONSOLE_INFO_H
 
-#include "till/register/Till.h"
+#include "till/register/CashDesk.h"
 
 namespace till {
 

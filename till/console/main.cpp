@@ -159,8 +159,8 @@ QString playScript(const QString &path, const Options &options, Notes &notes,
     const QTemporaryDir scratch;
     if (!options.ownDatabase)
         setup.database = scratch.filePath("till.sqlite");
-    Till till(setup, notes);
-    if (const QString error = till.start(); !error.isEmpty()) {
+    CashDesk desk(setup, notes);
+    if (const QString error = desk.start(); !error.isEmpty()) {
         startFailed = true;
         return error;
     }
@@ -168,7 +168,7 @@ QString playScript(const QString &path, const Options &options, Notes &notes,
         if (!options.quiet)
             print(text);
     };
-    CommandLine commands(till, notes, translator, options.style, {show, {}});
+    CommandLine commands(desk, notes, translator, options.style, {show, {}});
     return script.play(commands, [&](const QString &line) { show("> " + line); });
 }
 
@@ -222,8 +222,8 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
 {
     if (options.setup.database != ":memory:")
         QDir().mkpath(QFileInfo(options.setup.database).absolutePath());
-    Till till(options.setup, notes);
-    if (const QString error = till.start(); !error.isEmpty())
+    CashDesk desk(options.setup, notes);
+    if (const QString error = desk.start(); !error.isEmpty())
         return fail(StartFailed, error);
     // A person is always talked to; a reader of the trace finds nothing else beside it.
     const bool quiet = options.quiet && !isTerminal();
@@ -232,7 +232,7 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
             print(text);
     };
     CommandLine commands(
-        till, notes, translator, options.style,
+        desk, notes, translator, options.style,
         {show, isTerminal() ? askOnTerminal : std::function<bool(const QString &)>()});
     const QString receipt = commands.renderReceipt();
     if (!receipt.isEmpty())

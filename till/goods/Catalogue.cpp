@@ -1,5 +1,6 @@
 #include "till/goods/Catalogue.h"
 
+#include "till/goods/CatalogueHeader.h"
 #include "till/goods/CsvRows.h"
 
 #include <QtCore/QFile>
@@ -17,132 +18,14 @@ namespace {
 constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
 constexpr std::array Separators{',', ';', '\t'};
 
-enum Column { Code, Name, Price, TaraMode, TaraCapacity, Pack, Unit };
-
-//! What a column may be called, in the form that `canonical` gives.
-struct ColumnNames
-{
-    Column column;
-    QStringList names; //!< the one for messages first
-};
-
-const QList<ColumnNames> &columns()
-{
-    static const QList<ColumnNames> all{
-        {Code, {"code", "код"}},
-        {Name, {"name", "наименование", "название"}},
-        {Price, {"price", "цена"}},
-        {TaraMode, {"tara mode", "режим тары"}},
-        {TaraCapacity, {"tara capacity", "емкость тары"}},
-        {Pack, {"pack", "упаковка"}},
-        {Unit, {"unit", "единица"}},
-    };
-    return all;
-}
-
-QString canonical(const QByteArray &header)
-{
-    return QString::fromUtf8(header)
-        .toLower()
-        .replace(QLatin1Char('_'), QLatin1Char(' '))
-        .replace(QChar(u'ё'), QChar(u'е'))
-        .simplified();
-}
-
-//! The column of that name, or nothing for one that is none of ours.
-std::optional<Column> columnCalled(const QByteArray &header)
-{
-    const QString name = canonical(header);
-    const auto found = std::find_if(columns().cbegin(), columns().cend(),
-                                    [&](const auto &c) { return c.names.contains(name); });
-    return found == columns().cend() ? std::nullopt : std::optional(found->column);
-}
-
-//! Thrown while a file is read, and turned into the text that `load` returns.
-struct Refusal
-{
-    QString text; //!< without the file's name
-};
-
-[[noreturn]] void refuse(int line, const QString &reason)
-{
-    throw Refusal{QStringLiteral(":%1: %2").arg(line).arg(reason)};
-}
-
-QString quoted(const QString &text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
-
-//! The file's first row: which field of a row is what.
-class Header
-{
-public:
-    explicit Header(const CsvRow &row)
-        : m_names(row.fields)
-    {
-        checkUtf8(row);
-        for (qsizetype index = 0; index < m_names.size(); ++index) {
-            if (const auto column = columnCalled(m_names[index]))
-                place(*column, index, row.line);
-        }
-        checkComplete(row.line);
-    }
-
-    qsizetype size() const { return m_names.size(); }
-    qsizetype indexOf(Column column) const { return m_indexes[column]; }
-
-    //! Refuses the row at \a line for its field at \a index, which may lie behind the last column.
-    [[noreturn]] void refuseField(int line, qsizetype index, const QString &reason) const
-    {
-        refuse(line, nameOf(index) + QStringLiteral(": ") + reason);
-    }
-
-    void checkUtf8(const CsvRow &row) const
-    {
-        for (qsizetype index = 0; index < row.fields.size(); ++index) {
-            if (!row.fields[index].isValidUtf8())
-                refuseField(row.line, index, QStringLiteral("the text is not UTF-8"));
-        }
-    }
-
-private:
-    QString nameOf(qsizetype index) const
-    {
-        const QByteArray name = m_names.value(index);
-        const QString place = QStringLiteral("column %1").arg(index + 1);
-        return name.isEmpty() || !name.isValidUtf8()
-                   ? place
-                   : place + QLatin1Char(' ') + quoted(QString::fromUtf8(name).simplified());
-    }
-
-    void place(Column column, qsizetype index, int line)
-    {
-        if (m_indexes.contains(column))
-            refuseField(line, index, "says the same as " + nameOf(m_indexes[column]));
-        m_indexes[column] = index;
-    }
-
-    void checkComplete(int line) const
-    {
-        QStringList missing;
-        for (const ColumnNames &column : columns()) {
-            if (!m_indexes.contains(column.column))
-                missing.append(quoted(column.names.first()));
-        }
-        if (!missing.isEmpty())
-            refuse(line, "missing in the header: " + missing.join(QStringLiteral(", ")));
-    }
-
-    QList<QByteArray> m_names;
-    QMap<Column, qsizetype> m_indexes;
-};
-
 //! One row read as an article; refuses what is wrong with it.
 class RowReader
 {
 public:
-    RowReader(const Header &header, const CsvRow &row)
+    using Column = CatalogueHeader::Column;
+    using enum CatalogueHeader::Column;
+
+    RowReader(const CatalogueHeader &header, const CsvRow &row)
         : m_header(header)
         , m_row(row)
     {
@@ -260,7 +143,7 @@ private:
         return *number;
     }
 
-    const Header &m_header;
+    const CatalogueHeader &m_header;
     const CsvRow &m_row;
 };
 
@@ -268,15 +151,15 @@ QByteArray contents(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        throw Refusal{QStringLiteral(": no such file")};
+        throw CatalogueRefusal{QStringLiteral(": no such file")};
     if (info.isDir())
-        throw Refusal{QStringLiteral(": a directory, not a file")};
+        throw CatalogueRefusal{QStringLiteral(": a directory, not a file")};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw Refusal{": cannot be opened: " + file.errorString()};
+        throw CatalogueRefusal{": cannot be opened: " + file.errorString()};
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw Refusal{": cannot be read: " + file.errorString()};
+        throw CatalogueRefusal{": cannot be read: " + file.errorString()};
     return bytes.startsWith(ByteOrderMark) ? bytes.sliced(ByteOrderMark.size()) : bytes;
 }
 
@@ -285,8 +168,9 @@ qsizetype columnsFound(const QByteArray &text, char separator)
 {
     const CsvRows head = readCsv(text, separator, 1);
     const CsvRow row = head.fault ? head.fault->row : head.rows.value(0);
-    return std::count_if(row.fields.cbegin(), row.fields.cend(),
-                         [](const auto &field) { return columnCalled(field).has_value(); });
+    return std::count_if(row.fields.cbegin(), row.fields.cend(), [](const auto &field) {
+        return CatalogueHeader::columnCalled(field).has_value();
+    });
 }
 
 char separatorOf(const QByteArray &text)
@@ -296,12 +180,12 @@ char separatorOf(const QByteArray &text)
     });
 }
 
-[[noreturn]] void refuseFault(const CsvFault &fault, const Header *header)
+[[noreturn]] void refuseFault(const CsvFault &fault, const CatalogueHeader *header)
 {
     const qsizetype index = fault.row.fields.size();
     if (header)
         header->refuseField(fault.row.line, index, fault.reason);
-    refuse(fault.row.line, QStringLiteral("column %1: %2").arg(index + 1).arg(fault.reason));
+    refuseRow(fault.row.line, QStringLiteral("column %1: %2").arg(index + 1).arg(fault.reason));
 }
 
 QList<ArticleData> readArticles(const QByteArray &text)
@@ -310,9 +194,9 @@ QList<ArticleData> readArticles(const QByteArray &text)
     if (table.rows.isEmpty() && table.fault)
         refuseFault(*table.fault, nullptr);
     if (table.rows.isEmpty())
-        throw Refusal{QStringLiteral(": the file is empty")};
+        throw CatalogueRefusal{QStringLiteral(": the file is empty")};
 
-    const Header header(table.rows.first());
+    const CatalogueHeader header(table.rows.first());
     QList<ArticleData> articles;
     QHash<QString, int> lines;
     const QList<CsvRow> rows = table.rows.sliced(1);
@@ -321,15 +205,16 @@ QList<ArticleData> readArticles(const QByteArray &text)
         articles.append(reader.read());
         const QString code = articles.last().code;
         if (lines.contains(code))
-            reader.refuseColumn(Code, QStringLiteral("\"%1\" is the code of line %2 already")
-                                          .arg(code)
-                                          .arg(lines.value(code)));
+            reader.refuseColumn(CatalogueHeader::Code,
+                                QStringLiteral("\"%1\" is the code of line %2 already")
+                                    .arg(code)
+                                    .arg(lines.value(code)));
         lines.insert(code, row.line);
     }
     if (table.fault)
         refuseFault(*table.fault, &header);
     if (articles.isEmpty())
-        throw Refusal{QStringLiteral(": there are no articles below the header")};
+        throw CatalogueRefusal{QStringLiteral(": there are no articles below the header")};
     return articles;
 }
 
@@ -343,7 +228,7 @@ std::variant<Catalogue, QString> Catalogue::load(const QString &path)
         for (const ArticleData &article : articles)
             catalogue.add(QSharedPointer<Article>::create(article));
         return catalogue;
-    } catch (const Refusal &refusal) {
+    } catch (const CatalogueRefusal &refusal) {
         return path + refusal.text;
     }
 }

@@ -1,45 +1,11 @@
 #include "till/receipt/Receipt.h"
 
+#include "till/receipt/Limits.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace till {
-
-QString countFault(double count)
-{
-    constexpr double halfAThousandth = 0.0005; // counts are kept to three decimals
-    if (count < greatestCount + halfAThousandth)
-        return {};
-    return "the quantity must not be above " + toText(greatestCount);
-}
-
-Position::Position(int posnum, const QSharedPointer<Article> &article)
-    : GoodsItem(posnum, article)
-    , m_article(article)
-{
-}
-
-void Position::setCount(double count)
-{
-    setCquant(count);
-    setBquant(count * article().pack);
-}
-
-void Position::setBase(double base)
-{
-    setCquant(base / article().pack);
-    setBquant(base);
-}
-
-Kopecks Position::sum() const
-{
-    return sumOf(article().price, getCquant());
-}
-
-LineRecord Position::record() const
-{
-    return {getPosnum(), article(), getCquant(), getBquant(), getGroupId(), m_stornoed};
-}
 
 Receipt::Receipt(int type)
     : Document(type)

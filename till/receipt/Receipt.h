@@ -2,7 +2,7 @@
 #define TILL_RECEIPT_RECEIPT_H
 
 #include "host/Document.h"
-#include "till/goods/Article.h"
+#include "till/receipt/Position.h"
 
 #include <QtCore/QList>
 #include <QtCore/QSharedPointer>
@@ -11,76 +11,6 @@
 #include <functional>
 
 namespace till {
-
-//! The greatest count of pieces in a position. What is above is a slip of the finger.
-constexpr double greatestCount = 999'999.999;
-//! The greatest sum of a receipt: what a cashier can type, far from where sums would overflow.
-constexpr Kopecks greatestSum = 99'999'999'999'999;
-
-//! Why \a count pieces cannot stand in one position; empty when they can.
-QString countFault(double count);
-
-//! How far a receipt has come.
-enum class ReceiptState : int {
-    Open = 0,
-    Subtotal = 1, //!< at subtotal: nothing is sold any more, payment is awaited
-    Closed = 2,   //!< paid
-    Cancelled = 3,
-};
-
-//! A position as it is stored. Stornoed positions stay in the receipt as struck lines.
-struct LineRecord
-{
-    int posnum = 0;
-    ArticleData article; //!< as it was when the position was added
-    double count = 0.0;  //!< pieces
-    double base = 0.0;   //!< base units
-    QString groupId;
-    bool stornoed = false;
-
-    bool operator==(const LineRecord &other) const = default;
-};
-
-//! A receipt as it is stored: everything that a register needs to go on with it.
-struct ReceiptRecord
-{
-    qint64 id = 0; //!< number of the receipt in the database; 0 until it was stored
-    int type = Document::Sale;
-    ReceiptState state = ReceiptState::Open;
-    QString order;           //!< number of the attached order, empty when there is none
-    QStringList softChecks;  //!< numbers of the added soft-checks
-    int nextPosnum = 1;      //!< numbers below are never used again in this receipt
-    QList<LineRecord> lines; //!< in the order of adding
-    Document::PluginData pluginData;
-
-    bool operator==(const ReceiptRecord &other) const = default;
-};
-
-//! A line of the receipt.
-class Position : public GoodsItem
-{
-public:
-    Position(int posnum, const QSharedPointer<Article> &article);
-
-    const ArticleData &article() const { return m_article->data; }
-
-    //! Sets the count of pieces; the base quantity follows by the article's pack.
-    void setCount(double count);
-    //! Sets the base quantity; the count of pieces follows by the article's pack.
-    void setBase(double base);
-
-    //! Price of the whole line.
-    Kopecks sum() const;
-
-    bool isStornoed() const { return m_stornoed; }
-    void setStornoed() { m_stornoed = true; }
-
-    LineRecord record() const;
-
-private:
-    QSharedPointer<Article> m_article;
-    bool m_stornoed = false;
-};
 
 //! The receipt in hand: the document that plugins see, and the lines that the cashier sees.
 class Receipt : public Document

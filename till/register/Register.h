@@ -7,6 +7,7 @@
 #include "till/plugins/PluginLoader.h"
 #include "till/receipt/Receipt.h"
 #include "till/receipt/TaraState.h"
+#include "till/register/Journal.h"
 #include "till/register/Outcome.h"
 #include "till/storage/Storage.h"
 
@@ -89,21 +90,18 @@ private:
     QString reload(qint64 id);
     void takeUp(const QSharedPointer<Receipt> &receipt);
     void watch(Receipt &receipt);
-    void collectJournal(const QJsonObject &note);
-    void noteTakenUp();
-    void noteReceipt();
-    void noteData(const QString &plugin, const QString &key, const QVariant &value);
 
     const Catalogue &m_catalogue;
     Storage &m_storage;
     const LoadedPlugin *m_plugin;
     Notes &m_notes;
+    ReceiptNotes m_receiptNotes;
     HostServices m_services;
     ActionRunner m_runner;
     Asker m_asker;
     Shower m_shower;
     QSharedPointer<Receipt> m_receipt;
-    QList<JournalEntry> m_journal; //!< what is not stored yet
+    Journal m_journal; //!< what is not stored yet
 };
 
 } // namespace till

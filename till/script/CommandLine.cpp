@@ -83,16 +83,16 @@ const CommandLine::Command *CommandLine::find(const QString &name)
     return found == table.cend() ? nullptr : &*found;
 }
 
-CommandLine::CommandLine(Till &till, Notes &notes, const Translator &translator, Style style,
+CommandLine::CommandLine(CashDesk &desk, Notes &notes, const Translator &translator, Style style,
                          Front front)
-    : m_till(till)
+    : m_desk(desk)
     , m_notes(notes)
     , m_translator(translator)
     , m_view(translator, style)
     , m_front(std::move(front))
 {
     m_notes.listen(this, [this](const QJsonObject &note) { hear(note); });
-    m_till.setFront([this](const tr::Tr &question, const tr::Tr &confirm,
+    m_desk.setFront([this](const tr::Tr &question, const tr::Tr &confirm,
                            const tr::Tr &cancel) { return answer(question, confirm, cancel); },
                     [this](const tr::Tr &message) {
                         m_heard.messages.append(message);
@@ -102,7 +102,7 @@ CommandLine::CommandLine(Till &till, Notes &notes, const Translator &translator,
 
 CommandLine::~CommandLine()
 {
-    m_till.setFront({}, {});
+    m_desk.setFront({}, {});
     m_notes.forget(this);
 }
 
@@ -132,7 +132,7 @@ Outcome CommandLine::runWords(const QStringList &words)
     const qsizetype given = words.size() - 1;
     if (given < command->atLeast || given > command->atMost)
         return Outcome::mistake("usage: " + (command->name + ' ' + command->usage).trimmed());
-    if (!m_till.isOn() && !command->worksOff)
+    if (!m_desk.isOn() && !command->worksOff)
         return Outcome::failed("the till is off; 'restart' switches it on");
     if (command->isWatching)
         return (this->*command->run)(words.mid(1));
@@ -278,9 +278,9 @@ Outcome CommandLine::queueAnswer(const QStringList &words)
 
 QString CommandLine::renderReceipt() const
 {
-    if (!m_till.isOn() || !m_till.cashRegister().receipt())
+    if (!m_desk.isOn() || !m_desk.cashRegister().receipt())
         return {};
-    const Register &cashRegister = m_till.cashRegister();
+    const Register &cashRegister = m_desk.cashRegister();
     return m_view.render(*cashRegister.receipt(), cashRegister.taraState(),
                          cashRegister.taraControl());
 }
@@ -297,7 +297,7 @@ Outcome CommandLine::show(const QStringList &words)
 Outcome CommandLine::articles(const QStringList &words)
 {
     const QString wanted = words.value(0);
-    const auto all = m_till.catalogue().articles();
+    const auto all = m_desk.catalogue().articles();
     for (const auto &article : all) {
         const ArticleData &data = article->data;
         if (data.code.contains(wanted, Qt::CaseInsensitive)
@@ -324,15 +324,15 @@ Outcome CommandLine::say(const QStringList &words)
 
 Outcome CommandLine::set(const QStringList &words)
 {
-    const QString error = m_till.set(words[0], words[1]);
+    const QString error = m_desk.set(words[0], words[1]);
     return error.isEmpty() ? Outcome::done() : Outcome::failed(error);
 }
 
 Outcome CommandLine::restart(const QStringList &words)
 {
     Q_UNUSED(words)
-    m_till.stop();
-    const QString error = m_till.start();
+    m_desk.stop();
+    const QString error = m_desk.start();
     return error.isEmpty() ? Outcome::done() : Outcome::failed(error);
 }
 
@@ -372,7 +372,7 @@ QStringList CommandLine::completions(const QStringList &words) const
         for (const Command &command : commands())
             candidates.append(command.name);
     } else if (words[0] == "add") {
-        const auto all = m_till.catalogue().articles();
+        const auto all = m_desk.catalogue().articles();
         for (const auto &article : all)
             candidates.append(article->data.code);
     } else if (words[0] == "help") {
@@ -382,7 +382,7 @@ QStringList CommandLine::completions(const QStringList &words) const
         candidates = {"sale", "return"};
     } else if (words[0] == "answer") {
         candidates = {"yes", "no"};
-    } else if (const auto receipt = m_till.isOn() ? m_till.cashRegister().receipt() : nullptr) {
+    } else if (const auto receipt = m_desk.isOn() ? m_desk.cashRegister().receipt() : nullptr) {
         const auto positions = receipt->getPositionList();
         for (const auto &position : positions)
             candidates.append(QString::number(position->getPosnum()));

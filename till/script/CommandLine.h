@@ -2,8 +2,8 @@
 #define TILL_SCRIPT_COMMANDLINE_H
 
 #include "till/language/Translator.h"
+#include "till/register/CashDesk.h"
 #include "till/register/Outcome.h"
-#include "till/register/Till.h"
 #include "till/view/ReceiptView.h"
 
 #include <QtCore/QStringList>
@@ -29,7 +29,8 @@ public:
     };
 
     //! All must outlive this object.
-    CommandLine(Till &till, Notes &notes, const Translator &translator, Style style, Front front);
+    CommandLine(CashDesk &desk, Notes &notes, const Translator &translator, Style style,
+                Front front);
     ~CommandLine();
     Q_DISABLE_COPY_MOVE(CommandLine)
 
@@ -92,10 +93,10 @@ private:
     Outcome help(const QStringList &words);
     Outcome quit(const QStringList &words);
 
-    Register &cashRegister() { return m_till.cashRegister(); }
+    Register &cashRegister() { return m_desk.cashRegister(); }
     void print(const QString &text) const { m_front.print(text); }
 
-    Till &m_till;
+    CashDesk &m_desk;
     Notes &m_notes;
     const Translator &m_translator;
     ReceiptView m_view;

@@ -1,5 +1,7 @@
 #include "till/storage/Database.h"
 
+#include "till/storage/Schema.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtSql/QSqlError>
@@ -10,9 +12,6 @@ namespace till {
 
 namespace {
 
-constexpr int ApplicationId = 0x54494C4C; // "TILL"
-constexpr int Version = 1;
-
 //! Result codes of SQLite that people can do something about.
 enum Code : int {
     Busy = 5,
@@ -22,52 +21,6 @@ enum Code : int {
     Full = 13,
     CannotOpen = 14,
     NotADatabase = 26,
-};
-
-const char *const Schema[] = {
-    "CREATE TABLE receipts ("
-    " id INTEGER PRIMARY KEY,"
-    " type INTEGER NOT NULL,"
-    " state INTEGER NOT NULL CHECK (state BETWEEN 0 AND 3),"
-    " orderNumber TEXT NOT NULL,"
-    " nextPosnum INTEGER NOT NULL)",
-    "CREATE INDEX unfinished ON receipts (id) WHERE state < 2",
-    "CREATE TABLE positions ("
-    " receipt INTEGER NOT NULL REFERENCES receipts,"
-    " place INTEGER NOT NULL,"
-    " posnum INTEGER NOT NULL,"
-    " code TEXT NOT NULL,"
-    " name TEXT NOT NULL,"
-    " price INTEGER NOT NULL,"
-    " taraMode INTEGER NOT NULL,"
-    " taraCapacity REAL NOT NULL,"
-    " pack REAL NOT NULL,"
-    " unit TEXT NOT NULL,"
-    " count REAL NOT NULL,"
-    " base REAL NOT NULL,"
-    " groupId TEXT NOT NULL,"
-    " stornoed INTEGER NOT NULL,"
-    " PRIMARY KEY (receipt, place)) WITHOUT ROWID",
-    "CREATE TABLE softChecks ("
-    " receipt INTEGER NOT NULL REFERENCES receipts,"
-    " place INTEGER NOT NULL,"
-    " number TEXT NOT NULL,"
-    " PRIMARY KEY (receipt, place)) WITHOUT ROWID",
-    "CREATE TABLE pluginData ("
-    " receipt INTEGER NOT NULL REFERENCES receipts,"
-    " plugin TEXT NOT NULL,"
-    " key TEXT NOT NULL,"
-    " value BLOB NOT NULL,"
-    " types TEXT NOT NULL,"
-    " digest BLOB NOT NULL,"
-    " PRIMARY KEY (receipt, plugin, key))",
-    "CREATE TABLE journal ("
-    " id INTEGER PRIMARY KEY,"
-    " receipt INTEGER NOT NULL REFERENCES receipts,"
-    " depth INTEGER NOT NULL,"
-    " kind TEXT NOT NULL,"
-    " json BLOB NOT NULL)",
-    "CREATE INDEX journalOfReceipt ON journal (receipt, id)",
 };
 
 QString inMemory()
@@ -204,13 +157,13 @@ bool Database::recognise()
     m_new = application.toInt() == 0 && version.toInt() == 0 && contents.toInt() == 0;
     if (m_new)
         return true;
-    if (application.toInt() != ApplicationId)
+    if (application.toInt() != schema::applicationId)
         return fail(QStringLiteral("this is a database of another program"));
-    if (version.toInt() != Version)
+    if (version.toInt() != schema::version)
         return fail(QStringLiteral("the database was made by another version of the till (its "
                                    "format is %1, this till knows %2)")
                         .arg(version.toInt())
-                        .arg(Version));
+                        .arg(schema::version));
     return true;
 }
 
@@ -242,10 +195,10 @@ bool Database::makeSchema()
     if (!begin())
         return false;
     bool made = true;
-    for (const char *statement : Schema)
+    for (const char *statement : schema::statements)
         made = made && execute(QLatin1String(statement));
-    made = made && execute(QStringLiteral("PRAGMA application_id = %1").arg(ApplicationId))
-           && execute(QStringLiteral("PRAGMA user_version = %1").arg(Version)) && commit();
+    made = made && execute(QStringLiteral("PRAGMA application_id = %1").arg(schema::applicationId))
+           && execute(QStringLiteral("PRAGMA user_version = %1").arg(schema::version)) && commit();
     if (!made)
         rollBack();
     return made;

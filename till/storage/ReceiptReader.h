@@ -1,7 +1,7 @@
 #ifndef TILL_STORAGE_RECEIPTREADER_H
 #define TILL_STORAGE_RECEIPTREADER_H
 
-#include "till/receipt/Receipt.h"
+#include "till/receipt/ReceiptRecord.h"
 #include "till/storage/Storage.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 #ifndef TILL_STORAGE_RECEIPTWRITER_H
 #define TILL_STORAGE_RECEIPTWRITER_H
 
-#include "till/receipt/Receipt.h"
+#include "till/receipt/ReceiptRecord.h"
 #include "till/storage/Storage.h"
 
 #include <QtCore/QMap>

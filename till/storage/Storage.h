@@ -1,7 +1,7 @@
 #ifndef TILL_STORAGE_STORAGE_H
 #define TILL_STORAGE_STORAGE_H
 
-#include "till/receipt/Receipt.h"
+#include "till/receipt/ReceiptRecord.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>

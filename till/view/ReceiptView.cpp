@@ -1,11 +1,9 @@
 #include "till/view/ReceiptView.h"
 
-#include "till/language/TillMessages.h"
 #include "till/view/DisplayText.h"
-#include "till/view/TaraNotes.h"
+#include "till/view/ReceiptText.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace till {
 
@@ -24,15 +22,7 @@ QString stornoMark()
     return QStringLiteral("x ");
 }
 
-//! A row of the table, as texts.
-struct Row
-{
-    QString number;
-    QString article;
-    QString quantity;
-    QString price;
-    QString sum;
-};
+using Row = ReceiptText::Row;
 
 //! How wide the columns are.
 struct Widths
@@ -66,53 +56,33 @@ QString aligned(const Row &row, const Widths &widths)
         .join(gap());
 }
 
-tr::Tr nameOfType(int type)
+//! The columns as wide as the rows need them, and the article what that leaves of a line.
+Widths measure(const ReceiptText &text)
 {
-    switch (type) {
-    case Document::Sale:
-        return messages::tillSale();
-    case Document::Return:
-        return messages::tillReturn();
-    default:
-        return messages::tillDocument();
-    }
-}
-
-tr::Tr nameOf(ReceiptState state)
-{
-    switch (state) {
-    case ReceiptState::Open:
-        return messages::tillOpen();
-    case ReceiptState::Subtotal:
-        return messages::tillSubtotal();
-    case ReceiptState::Closed:
-        return messages::tillClosed();
-    case ReceiptState::Cancelled:
-        return messages::tillCancelled();
-    }
-    return {};
+    Widths widths;
+    widen(widths, text.captions);
+    for (const ReceiptText::Line &line : text.lines)
+        widen(widths, line.row);
+    widths.sum = std::max(widths.sum, displayWidth(text.total));
+    widths.article = std::max(TextPage::width - widths.all(), narrowestArticle);
+    return widths;
 }
 
 //! One receipt being written.
 class Rendering
 {
 public:
-    Rendering(const Translator &translator, Style style, const Receipt &receipt,
-              const TaraState &taras)
-        : m_translator(translator)
+    Rendering(const ReceiptText &text, Style style)
+        : m_text(text)
         , m_style(style)
-        , m_receipt(receipt)
-        , m_taras(taras)
-        , m_notes(translator, receipt, taras)
-        , m_lines(receipt.lines())
         , m_page(style)
-        , m_widths(measured())
+        , m_widths(measure(text))
     {
     }
 
-    QString text(TaraControl control)
+    QString text()
     {
-        writeHeader(control);
+        m_page.writePieces(separated(m_text.header, QStringLiteral(" ·")), 0);
         writeCaptions();
         writeRule();
         writeLines();
@@ -122,76 +92,9 @@ public:
     }
 
 private:
-    QString say(const tr::Tr &message) const { return m_translator.text(message); }
-
-    // Above the table
-
-    void writeHeader(TaraControl control)
-    {
-        QList<Piece> pieces{{title(), Paint::Bold}, {say(nameOf(m_receipt.state()))}};
-        if (const auto order = m_receipt.getOrder())
-            pieces.append({say(messages::tillOrder()).arg(printable(order->number))});
-        const QStringList softChecks = m_receipt.softChecks();
-        for (const QString &number : softChecks)
-            pieces.append({say(messages::tillSoftCheck()).arg(printable(number))});
-        if (control == TaraControl::Suspended)
-            pieces.append({say(messages::tillTaraSuspended()), Paint::Yellow});
-        if (control == TaraControl::Absent)
-            pieces.append({say(messages::tillTaraAbsent()), Paint::Yellow});
-        m_page.writePieces(separated(pieces, QStringLiteral(" ·")), 0);
-    }
-
-    //! "Чек № 12"; without the number as long as there is none.
-    QString title() const
-    {
-        const QString type = say(nameOfType(m_receipt.getType()));
-        if (m_receipt.id() == 0)
-            return type;
-        return QStringList{type, say(messages::tillNumber()), QString::number(m_receipt.id())}.join(
-            QLatin1Char(' '));
-    }
-
-    // The table
-
-    Row captions() const
-    {
-        return {say(messages::tillNumber()), say(messages::tillArticle()),
-                say(messages::tillQuantity()), say(messages::tillPrice()),
-                say(messages::tillSum())};
-    }
-
-    Row rowOf(const Position &position) const
-    {
-        const ArticleData &article = position.article();
-        return {QString::number(position.getPosnum()),
-                printable(article.code + QLatin1Char(' ') + article.name), quantityOf(position),
-                toText(article.price), toText(position.sum())};
-    }
-
-    //! "1.5 л", or "3 шт = 1.5 л" of an article whose piece is not one base unit.
-    QString quantityOf(const Position &position) const
-    {
-        const QString base = amountText(position.getBquant(), unitOf(position.article()));
-        if (position.article().pack == 1.0)
-            return base;
-        const QString count = amountText(position.getCquant(), say(messages::tillPieces()));
-        return count + QStringLiteral(" = ") + base;
-    }
-
-    Widths measured() const
-    {
-        Widths widths;
-        widen(widths, captions());
-        for (const auto &position : m_lines)
-            widen(widths, rowOf(*position));
-        widths.sum = std::max(widths.sum, displayWidth(toText(m_receipt.total())));
-        widths.article = std::max(TextPage::width - widths.all(), narrowestArticle);
-        return widths;
-    }
-
     void writeCaptions()
     {
-        m_page.write(gap() + m_page.painted(aligned(captions(), m_widths), Paint::Bold));
+        m_page.write(gap() + m_page.painted(aligned(m_text.captions, m_widths), Paint::Bold));
     }
 
     void writeRule()
@@ -201,18 +104,19 @@ private:
 
     void writeLines()
     {
-        if (m_lines.isEmpty())
-            m_page.writePieces({{say(messages::tillNoLines())}}, noteIndent());
-        for (const auto &position : m_lines) {
-            writePosition(*position);
-            writeNotes(*position);
+        if (m_text.lines.isEmpty())
+            m_page.writePieces({{m_text.noLines}}, noteIndent());
+        for (const ReceiptText::Line &line : m_text.lines) {
+            writeRow(line);
+            for (const QList<Piece> &note : line.notes)
+                m_page.writePieces(note, noteIndent());
         }
     }
 
-    void writePosition(const Position &position)
+    void writeRow(const ReceiptText::Line &line)
     {
-        const QString row = aligned(rowOf(position), m_widths);
-        if (!position.isStornoed())
+        const QString row = aligned(line.row, m_widths);
+        if (!line.stornoed)
             m_page.write(gap() + row);
         else if (m_style.colour)
             m_page.write(gap() + m_page.painted(row, Paint::Struck));
@@ -220,36 +124,18 @@ private:
             m_page.write(stornoMark() + row);
     }
 
-    void writeNotes(const Position &position)
-    {
-        QList<QList<Piece>> notes;
-        if (const TaraUse *tara = m_taras.tara(position.getPosnum()))
-            notes.append(m_notes.ofTara(*tara));
-        if (const GoodsUse *goods = m_taras.goodsOf(position.getPosnum()))
-            notes.append(m_notes.ofGoods(*goods, position));
-        for (const QList<Piece> &note : std::as_const(notes)) {
-            if (!note.isEmpty())
-                m_page.writePieces(note, noteIndent());
-        }
-    }
-
     //! Notes stand below the article.
     int noteIndent() const { return gapWidth + m_widths.number + gapWidth; }
 
     void writeTotal()
     {
-        const QString label = say(messages::tillTotal());
-        const int room = m_widths.all() - gapWidth - displayWidth(label);
-        const QString total = rightAligned(toText(m_receipt.total()), room);
-        m_page.write(gap() + m_page.painted(label + total, Paint::Bold));
+        const int room = m_widths.all() - gapWidth - displayWidth(m_text.totalCaption);
+        const QString total = rightAligned(m_text.total, room);
+        m_page.write(gap() + m_page.painted(m_text.totalCaption + total, Paint::Bold));
     }
 
-    const Translator &m_translator;
+    const ReceiptText &m_text;
     const Style m_style;
-    const Receipt &m_receipt;
-    const TaraState &m_taras;
-    const TaraNotes m_notes;
-    const QList<QSharedPointer<Position>> m_lines;
     TextPage m_page;
     const Widths m_widths;
 };
@@ -276,7 +162,8 @@ ReceiptView::ReceiptView(const Translator &translator, Style style)
 QString ReceiptView::render(const Receipt &receipt, const TaraState &taras,
                             TaraControl control) const
 {
-    return Rendering(m_translator, m_style, receipt, taras).text(control);
+    const ReceiptText text = ReceiptText::of(receipt, taras, control, m_translator);
+    return Rendering(text, m_style).text();
 }
 
 QString ReceiptView::renderQuestion(const tr::Tr &question, const tr::Tr &confirm,

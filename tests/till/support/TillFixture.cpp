@@ -71,7 +71,7 @@ void TillTest::start(const till::Setup &setup, const QString &language)
     commands.reset();
     till.reset();
     translator = std::make_unique<Translator>(language);
-    till = std::make_unique<Till>(setup, notes);
+    till = std::make_unique<CashDesk>(setup, notes);
     const QString error = till->start();
     ASSERT_EQ(error.toStdString(), "");
     const auto print = [this](const QString &text) { printed.append(text); };

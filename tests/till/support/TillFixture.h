@@ -2,7 +2,7 @@
 #define TESTS_TILL_SUPPORT_TILLFIXTURE_H
 
 #include "till/course/Notes.h"
-#include "till/register/Till.h"
+#include "till/register/CashDesk.h"
 #include "till/script/CommandLine.h"
 
 #include <QtCore/QTemporaryDir>
@@ -57,7 +57,7 @@ protected:
     QStringList printed;
     QList<QJsonObject> heard;
     std::unique_ptr<Translator> translator;
-    std::unique_ptr<Till> till;
+    std::unique_ptr<CashDesk> till;
     std::unique_ptr<CommandLine> commands;
 
 private:

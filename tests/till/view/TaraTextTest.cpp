@@ -4,7 +4,7 @@
 namespace {
 
 //! What a cashier reads below a tara and below goods.
-class TaraNotes : public ShownReceipt
+class TaraText : public ShownReceipt
 {
 };
 
@@ -20,11 +20,11 @@ void PrintTo(const Tara &tara, std::ostream *out)
     *out << tara.free << " of " << tara.capacity << " free";
 }
 
-class TaraNotesFill : public TaraNotes, public testing::WithParamInterface<Tara>
+class TaraTextFill : public TaraText, public testing::WithParamInterface<Tara>
 {
 };
 
-TEST_P(TaraNotesFill, Tara_ShowsBarAmountsAndMark)
+TEST_P(TaraTextFill, Tara_ShowsBarAmountsAndMark)
 {
     addTara(GetParam().capacity, GetParam().free);
 
@@ -32,7 +32,7 @@ TEST_P(TaraNotesFill, Tara_ShowsBarAmountsAndMark)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Amounts, TaraNotesFill,
+    Amounts, TaraTextFill,
     testing::Values(Tara{5.0, 5.0, "[..........] 0 / 5, пусто"},
                     Tara{5.0, 2.0, "[######....] 3 / 5, свободно 2"},
                     Tara{1.5, 0.375, "[########..] 1.125 / 1.5, свободно 0.375"},
@@ -40,25 +40,25 @@ INSTANTIATE_TEST_SUITE_P(
                     Tara{5.0, -1.25, "[!!!!!!!!!!] 6.25 / 5, переполнена на 1.25"}));
 
 // A drop shows as one cell, and what is not quite full as nine.
-INSTANTIATE_TEST_SUITE_P(NearTheEnds, TaraNotesFill,
+INSTANTIATE_TEST_SUITE_P(NearTheEnds, TaraTextFill,
                          testing::Values(Tara{5.0, 4.999, "[#.........] 0.001 / 5, свободно 4.999"},
                                          Tara{5.0, 0.001, "[#########.] 4.999 / 5, свободно 0.001"},
                                          Tara{5.0, -0.001,
                                               "[!!!!!!!!!!] 5.001 / 5, переполнена на 0.001"}));
 
 // What is too little for three decimals counts as nothing.
-INSTANTIATE_TEST_SUITE_P(Rounded, TaraNotesFill,
+INSTANTIATE_TEST_SUITE_P(Rounded, TaraTextFill,
                          testing::Values(Tara{5.0, 4.9996, "[..........] 0 / 5, пусто"},
                                          Tara{5.0, 5.0004, "[..........] 0 / 5, пусто"},
                                          Tara{5.0, 0.0004, "[##########] 5 / 5, полна"},
                                          Tara{5.0, -0.0004, "[##########] 5 / 5, полна"}));
 
-INSTANTIATE_TEST_SUITE_P(Odd, TaraNotesFill,
+INSTANTIATE_TEST_SUITE_P(Odd, TaraTextFill,
                          testing::Values(Tara{0.0, 0.0, "[..........] 0 / 0, пусто"},
                                          Tara{0.0, -2.0, "[!!!!!!!!!!] 2 / 0, переполнена на 2"},
                                          Tara{5.0, 6.0, "[..........] -1 / 5, свободно 6"}));
 
-TEST_F(TaraNotes, TaraWithGoods_NamesThemInTheOrderOfTheirRecords)
+TEST_F(TaraText, TaraWithGoods_NamesThemInTheOrderOfTheirRecords)
 {
     addTara(5.0, 2.0);
     addBeer(2.0, {{idOf(1), 2.0}});
@@ -67,7 +67,7 @@ TEST_F(TaraNotes, TaraWithGoods_NamesThemInTheOrderOfTheirRecords)
     EXPECT_EQ(notesOf(1), QStringList{"[######....] 3 / 5 л, свободно 2: поз. 2 — 2, поз. 3 — 1"});
 }
 
-TEST_F(TaraNotes, OverfullTaraWithGoods_NamesThem)
+TEST_F(TaraText, OverfullTaraWithGoods_NamesThem)
 {
     addTara(2.0, -1.0);
     addBeer(3.0, {{idOf(1), 3.0}});
@@ -75,7 +75,7 @@ TEST_F(TaraNotes, OverfullTaraWithGoods_NamesThem)
     EXPECT_EQ(notesOf(1), QStringList{"[!!!!!!!!!!] 3 / 2 л, переполнена на 1: поз. 2 — 3"});
 }
 
-TEST_F(TaraNotes, GoodsThatUseNothingOfTheTara_AreNamedAllTheSame)
+TEST_F(TaraText, GoodsThatUseNothingOfTheTara_AreNamedAllTheSame)
 {
     addTara(5.0, 5.0);
     addBeer(1.0, {{idOf(1), 0.0}});
@@ -83,7 +83,7 @@ TEST_F(TaraNotes, GoodsThatUseNothingOfTheTara_AreNamedAllTheSame)
     EXPECT_EQ(notesOf(1), QStringList{"[..........] 0 / 5 л, пусто: поз. 2 — 0"});
 }
 
-TEST_F(TaraNotes, GoodsInOtherTara_AreNotNamed)
+TEST_F(TaraText, GoodsInOtherTara_AreNotNamed)
 {
     addTara(5.0, 5.0);
     addTara(5.0, 4.0);
@@ -92,7 +92,7 @@ TEST_F(TaraNotes, GoodsInOtherTara_AreNotNamed)
     EXPECT_EQ(notesOf(1), QStringList{"[..........] 0 / 5, пусто"});
 }
 
-TEST_F(TaraNotes, GoodsOfDifferentUnits_CapacityHasNoUnit)
+TEST_F(TaraText, GoodsOfDifferentUnits_CapacityHasNoUnit)
 {
     addTara(5.0, 3.0);
     addBeer(1.0, {{idOf(1), 1.0}});
@@ -101,7 +101,7 @@ TEST_F(TaraNotes, GoodsOfDifferentUnits_CapacityHasNoUnit)
     EXPECT_EQ(notesOf(1), QStringList{"[####......] 2 / 5, свободно 3: поз. 2 — 1, поз. 3 — 1"});
 }
 
-TEST_F(TaraNotes, GoodsThatTheReceiptNeverHeld_AreNamedByTheirNumber)
+TEST_F(TaraText, GoodsThatTheReceiptNeverHeld_AreNamedByTheirNumber)
 {
     addTara(5.0, 4.0);
     taras.goods.append({9, {{idOf(1), 1.0}}});
@@ -109,7 +109,7 @@ TEST_F(TaraNotes, GoodsThatTheReceiptNeverHeld_AreNamedByTheirNumber)
     EXPECT_EQ(notesOf(1), QStringList{"[##........] 1 / 5, свободно 4: поз. 9 — 1"});
 }
 
-TEST_F(TaraNotes, ManyGoods_GoOnInTheNextLine)
+TEST_F(TaraText, ManyGoods_GoOnInTheNextLine)
 {
     addTara(5.0, 1.5);
     for (int i = 0; i < 7; ++i)
@@ -121,21 +121,21 @@ TEST_F(TaraNotes, ManyGoods_GoOnInTheNextLine)
                      "поз. 4 — 0.5, поз. 5 — 0.5, поз. 6 — 0.5, поз. 7 — 0.5, поз. 8 — 0.5"}));
 }
 
-TEST_F(TaraNotes, TaraWithoutRecord_HasNoNote)
+TEST_F(TaraText, TaraWithoutRecord_HasNoNote)
 {
     add(bottle(), 1);
 
     EXPECT_EQ(notesOf(1), QStringList());
 }
 
-TEST_F(TaraNotes, GoodsWithoutRecord_HaveNoNote)
+TEST_F(TaraText, GoodsWithoutRecord_HaveNoNote)
 {
     add(beer(), 1);
 
     EXPECT_EQ(notesOf(1), QStringList());
 }
 
-TEST_F(TaraNotes, GoodsInSeveralTaras_NameThemInTheOrderOfTheTaras)
+TEST_F(TaraText, GoodsInSeveralTaras_NameThemInTheOrderOfTheTaras)
 {
     addTara(1.0, 0.0);
     addTara(2.0, 0.0);
@@ -145,7 +145,7 @@ TEST_F(TaraNotes, GoodsInSeveralTaras_NameThemInTheOrderOfTheTaras)
     EXPECT_EQ(notesOf(3), QStringList{"в таре: поз. 2 — 2, поз. 1 — 1"});
 }
 
-TEST_F(TaraNotes, GoodsWithoutEnoughRoom_ShowWhatIsNotPlaced)
+TEST_F(TaraText, GoodsWithoutEnoughRoom_ShowWhatIsNotPlaced)
 {
     addTara(1.0, 0.0);
     addBeer(3.5, {{idOf(1), 1.0}});
@@ -153,7 +153,7 @@ TEST_F(TaraNotes, GoodsWithoutEnoughRoom_ShowWhatIsNotPlaced)
     EXPECT_EQ(notesOf(2), QStringList{"в таре: поз. 1 — 1; не размещено 2.5 л"});
 }
 
-TEST_F(TaraNotes, GoodsSoldInPacks_ShowBaseUnitsNotPlaced)
+TEST_F(TaraText, GoodsSoldInPacks_ShowBaseUnitsNotPlaced)
 {
     const int posnum = add(nuts(), 3);
     taras.goods.append(till::GoodsUse{posnum, {}});
@@ -161,7 +161,7 @@ TEST_F(TaraNotes, GoodsSoldInPacks_ShowBaseUnitsNotPlaced)
     EXPECT_EQ(notesOf(1), QStringList{"не размещено 0.6 кг"});
 }
 
-TEST_F(TaraNotes, GoodsThatShrankInTheirTara_ShowWhatIsNotedInExcess)
+TEST_F(TaraText, GoodsThatShrankInTheirTara_ShowWhatIsNotedInExcess)
 {
     addTara(5.0, 2.0);
     addBeer(1.0, {{idOf(1), 3.0}});
@@ -169,7 +169,7 @@ TEST_F(TaraNotes, GoodsThatShrankInTheirTara_ShowWhatIsNotedInExcess)
     EXPECT_EQ(notesOf(2), QStringList{"в таре: поз. 1 — 3; записано лишнее 2 л"});
 }
 
-TEST_F(TaraNotes, RestTooSmallForThreeDecimals_IsNotShown)
+TEST_F(TaraText, RestTooSmallForThreeDecimals_IsNotShown)
 {
     addTara(5.0, 4.0);
     addBeer(1.0004, {{idOf(1), 1.0}});
@@ -177,7 +177,7 @@ TEST_F(TaraNotes, RestTooSmallForThreeDecimals_IsNotShown)
     EXPECT_EQ(notesOf(2), QStringList{"в таре: поз. 1 — 1"});
 }
 
-TEST_F(TaraNotes, RestOfOneThousandth_IsShown)
+TEST_F(TaraText, RestOfOneThousandth_IsShown)
 {
     addTara(5.0, 4.0);
     addBeer(1.001, {{idOf(1), 1.0}});
@@ -185,7 +185,7 @@ TEST_F(TaraNotes, RestOfOneThousandth_IsShown)
     EXPECT_EQ(notesOf(2), QStringList{"в таре: поз. 1 — 1; не размещено 0.001 л"});
 }
 
-TEST_F(TaraNotes, GoodsInTaraThatIsGone_MarkIt)
+TEST_F(TaraText, GoodsInTaraThatIsGone_MarkIt)
 {
     addTara(1.0, 0.0);
     addBeer(2.5, {{idOf(1), 1.0}, {"{a}", 0.5}, {"{b}", 1.0}});
@@ -194,7 +194,7 @@ TEST_F(TaraNotes, GoodsInTaraThatIsGone_MarkIt)
               QStringList{"в таре: поз. 1 — 1, удалённая тара — 1, удалённая тара — 0.5"});
 }
 
-TEST_F(TaraNotes, StornoedTaraThatIsStillNoted_IsShown)
+TEST_F(TaraText, StornoedTaraThatIsStillNoted_IsShown)
 {
     addTara(1.0, 1.0);
     receipt.storno(1);
@@ -202,7 +202,7 @@ TEST_F(TaraNotes, StornoedTaraThatIsStillNoted_IsShown)
     EXPECT_EQ(notesOf(1), QStringList{"[..........] 0 / 1, пусто"});
 }
 
-TEST_F(TaraNotes, PositionNotedAsTaraAndAsGoods_ShowsBoth)
+TEST_F(TaraText, PositionNotedAsTaraAndAsGoods_ShowsBoth)
 {
     addTara(5.0, 4.0);
     taras.goods.append({1, {{idOf(1), 1.0}}});

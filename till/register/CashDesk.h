@@ -1,5 +1,5 @@
-#ifndef TILL_REGISTER_TILL_H
-#define TILL_REGISTER_TILL_H
+#ifndef TILL_REGISTER_CASHDESK_H
+#define TILL_REGISTER_CASHDESK_H
 
 #include "host/Config.h"
 #include "till/goods/Catalogue.h"
@@ -24,14 +24,14 @@ struct Setup
     QMap<QString, QString> settings; //!< further settings, over those of the file
 };
 
-//! A register with all its parts, switched on and off as a whole.
-class Till
+//! A register with all its parts, switched on and off as a whole: the till that a front is given.
+class CashDesk
 {
 public:
     //! \a notes must outlive the till.
-    Till(Setup setup, Notes &notes);
-    ~Till();
-    Q_DISABLE_COPY_MOVE(Till)
+    CashDesk(Setup setup, Notes &notes);
+    ~CashDesk();
+    Q_DISABLE_COPY_MOVE(CashDesk)
 
     /*!
      * Switches the till on: reads the settings and the catalogue, opens the database, loads the
@@ -80,4 +80,4 @@ private:
 
 } // namespace till
 
-#endif // TILL_REGISTER_TILL_H
+#endif // TILL_REGISTER_CASHDESK_H

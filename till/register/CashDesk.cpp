@@ -1,4 +1,4 @@
-#include "till/register/Till.h"
+#include "till/register/CashDesk.h"
 
 #include "till/register/SettingsFile.h"
 
@@ -6,22 +6,23 @@
 
 namespace till {
 
-Till::Till(Setup setup, Notes &notes)
+CashDesk::CashDesk(Setup setup, Notes &notes)
     : m_setup(std::move(setup))
     , m_notes(notes)
 {
 }
 
-Till::~Till()
+CashDesk::~CashDesk()
 {
     stop();
 }
 
-QString Till::start()
+QString CashDesk::start()
 {
-    using Step = QString (Till::*)();
-    constexpr Step steps[] = {&Till::readSettings, &Till::readCatalogue, &Till::openDatabase,
-                              &Till::loadPlugin, &Till::startRegister};
+    using Step = QString (CashDesk::*)();
+    constexpr Step steps[] = {&CashDesk::readSettings, &CashDesk::readCatalogue,
+                              &CashDesk::openDatabase, &CashDesk::loadPlugin,
+                              &CashDesk::startRegister};
     for (const Step step : steps) {
         if (const QString error = (this->*step)(); !error.isEmpty()) {
             stop();
@@ -31,7 +32,7 @@ QString Till::start()
     return {};
 }
 
-void Till::stop()
+void CashDesk::stop()
 {
     m_register.reset();
     if (std::exchange(m_plugin, std::nullopt))
@@ -39,14 +40,14 @@ void Till::stop()
     m_storage.reset();
 }
 
-QString Till::set(const QString &key, const QString &value)
+QString CashDesk::set(const QString &key, const QString &value)
 {
     stop();
     m_setup.settings.insert(key, value);
     return start();
 }
 
-void Till::setFront(Register::Asker asker, Register::Shower shower)
+void CashDesk::setFront(Register::Asker asker, Register::Shower shower)
 {
     m_asker = std::move(asker);
     m_shower = std::move(shower);
@@ -56,7 +57,7 @@ void Till::setFront(Register::Asker asker, Register::Shower shower)
     }
 }
 
-QString Till::readSettings()
+QString CashDesk::readSettings()
 {
     if (!m_setup.settingsFile.isEmpty()) {
         if (const QString error = readSettingsFile(m_setup.settingsFile, m_settings);
@@ -68,7 +69,7 @@ QString Till::readSettings()
     return {};
 }
 
-QString Till::readCatalogue()
+QString CashDesk::readCatalogue()
 {
     auto loaded = Catalogue::load(m_setup.catalogue);
     if (const QString *error = std::get_if<QString>(&loaded))
@@ -77,14 +78,14 @@ QString Till::readCatalogue()
     return {};
 }
 
-QString Till::openDatabase()
+QString CashDesk::openDatabase()
 {
     QString error;
     m_storage = Storage::open(m_setup.database, &error);
     return error;
 }
 
-QString Till::loadPlugin()
+QString CashDesk::loadPlugin()
 {
     if (m_setup.plugin.isEmpty())
         return {};
@@ -95,7 +96,7 @@ QString Till::loadPlugin()
     return {};
 }
 
-QString Till::startRegister()
+QString CashDesk::startRegister()
 {
     m_notes.add("start", {{"database", m_setup.database}, {"plugin", m_setup.plugin}});
     m_register = std::make_unique<Register>(Register::Parts{

@@ -1,5 +1,5 @@
-#ifndef TILL_VIEW_TARANOTES_H
-#define TILL_VIEW_TARANOTES_H
+#ifndef TILL_VIEW_TARATEXT_H
+#define TILL_VIEW_TARATEXT_H
 
 #include "till/language/Translator.h"
 #include "till/receipt/Receipt.h"
@@ -19,10 +19,10 @@ QString unitOf(const ArticleData &article);
  * shown as "0" counts as nothing, so that words and numbers agree. What it was made from must live
  * as long.
  */
-class TaraNotes
+class TaraText
 {
 public:
-    TaraNotes(const Translator &translator, const Receipt &receipt, const TaraState &state)
+    TaraText(const Translator &translator, const Receipt &receipt, const TaraState &state)
         : m_translator(translator)
         , m_receipt(receipt)
         , m_state(state)
@@ -57,4 +57,4 @@ private:
 
 } // namespace till
 
-#endif // TILL_VIEW_TARANOTES_H
+#endif // TILL_VIEW_TARATEXT_H

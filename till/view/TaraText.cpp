@@ -1,4 +1,4 @@
-#include "till/view/TaraNotes.h"
+#include "till/view/TaraText.h"
 
 #include "till/language/TillMessages.h"
 #include "till/view/DisplayText.h"
@@ -42,7 +42,7 @@ QString bar(int cells, char sign)
 
 } // namespace
 
-enum class TaraNotes::Fill { Empty, Partial, Full, Overfull };
+enum class TaraText::Fill { Empty, Partial, Full, Overfull };
 
 QString amountText(double quantity, const QString &unit)
 {
@@ -54,7 +54,7 @@ QString unitOf(const ArticleData &article)
     return elided(printable(article.unit), longestUnit);
 }
 
-QList<Piece> TaraNotes::ofTara(const TaraUse &tara) const
+QList<Piece> TaraText::ofTara(const TaraUse &tara) const
 {
     const Fill fill = fillOf(tara);
     const QList<Piece> contents = contentsOf(tara);
@@ -67,7 +67,7 @@ QList<Piece> TaraNotes::ofTara(const TaraUse &tara) const
     return pieces + separated(contents, QStringLiteral(","));
 }
 
-QList<Piece> TaraNotes::ofGoods(const GoodsUse &goods, const Position &position) const
+QList<Piece> TaraText::ofGoods(const GoodsUse &goods, const Position &position) const
 {
     const QList<Piece> rest = unplaced(goods, position);
     QList<Piece> shares = separated(sharesOf(goods), QStringLiteral(","));
@@ -79,7 +79,7 @@ QList<Piece> TaraNotes::ofGoods(const GoodsUse &goods, const Position &position)
     return shares + rest;
 }
 
-TaraNotes::Fill TaraNotes::fillOf(const TaraUse &tara)
+TaraText::Fill TaraText::fillOf(const TaraUse &tara)
 {
     if (isShownAsZero(usedOf(tara)))
         return Fill::Empty;
@@ -88,7 +88,7 @@ TaraNotes::Fill TaraNotes::fillOf(const TaraUse &tara)
     return tara.free < 0 ? Fill::Overfull : Fill::Partial;
 }
 
-Paint TaraNotes::paintOf(Fill fill)
+Paint TaraText::paintOf(Fill fill)
 {
     switch (fill) {
     case Fill::Empty:
@@ -103,7 +103,7 @@ Paint TaraNotes::paintOf(Fill fill)
     return Paint::Plain;
 }
 
-QString TaraNotes::barOf(const TaraUse &tara, Fill fill)
+QString TaraText::barOf(const TaraUse &tara, Fill fill)
 {
     switch (fill) {
     case Fill::Empty:
@@ -118,7 +118,7 @@ QString TaraNotes::barOf(const TaraUse &tara, Fill fill)
     return {};
 }
 
-QString TaraNotes::fillText(const TaraUse &tara, Fill fill) const
+QString TaraText::fillText(const TaraUse &tara, Fill fill) const
 {
     switch (fill) {
     case Fill::Empty:
@@ -133,7 +133,7 @@ QString TaraNotes::fillText(const TaraUse &tara, Fill fill) const
     return {};
 }
 
-QList<Piece> TaraNotes::contentsOf(const TaraUse &tara) const
+QList<Piece> TaraText::contentsOf(const TaraUse &tara) const
 {
     QList<Piece> contents;
     for (const GoodsUse &goods : m_state.goods) {
@@ -145,7 +145,7 @@ QList<Piece> TaraNotes::contentsOf(const TaraUse &tara) const
 }
 
 //! The unit of the goods in the tara; none when it holds none or their units differ.
-QString TaraNotes::contentsUnit(const TaraUse &tara) const
+QString TaraText::contentsUnit(const TaraUse &tara) const
 {
     QStringList units;
     for (const GoodsUse &goods : m_state.goods) {
@@ -159,7 +159,7 @@ QString TaraNotes::contentsUnit(const TaraUse &tara) const
 }
 
 //! The taras that the goods are in, in the order of the taras; then those that are gone.
-QList<Piece> TaraNotes::sharesOf(const GoodsUse &goods) const
+QList<Piece> TaraText::sharesOf(const GoodsUse &goods) const
 {
     QList<Piece> shares;
     QMap<QString, double> gone = goods.used;
@@ -171,7 +171,7 @@ QList<Piece> TaraNotes::sharesOf(const GoodsUse &goods) const
 }
 
 //! A tara that is gone has nothing but a random name to go by: the greatest amount comes first.
-QList<Piece> TaraNotes::goneShares(QList<double> amounts) const
+QList<Piece> TaraText::goneShares(QList<double> amounts) const
 {
     std::sort(amounts.begin(), amounts.end(), std::greater<>());
     const QString pattern = m_translator.text(messages::tillShareOfGone());
@@ -182,7 +182,7 @@ QList<Piece> TaraNotes::goneShares(QList<double> amounts) const
 }
 
 //! What found no room, or is noted beyond the quantity of the position. Nothing when all is placed.
-QList<Piece> TaraNotes::unplaced(const GoodsUse &goods, const Position &position) const
+QList<Piece> TaraText::unplaced(const GoodsUse &goods, const Position &position) const
 {
     double left = position.getBquant();
     for (const double used : goods.used)
@@ -194,7 +194,7 @@ QList<Piece> TaraNotes::unplaced(const GoodsUse &goods, const Position &position
     return {{m_translator.text(pattern).arg(amount), Paint::Red}};
 }
 
-QString TaraNotes::share(int posnum, double used) const
+QString TaraText::share(int posnum, double used) const
 {
     return m_translator.text(messages::tillShare()).arg(QString::number(posnum), toText(used));
 }

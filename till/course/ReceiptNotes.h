@@ -1,0 +1,37 @@
+#ifndef TILL_COURSE_RECEIPTNOTES_H
+#define TILL_COURSE_RECEIPTNOTES_H
+
+#include "till/course/Notes.h"
+#include "till/receipt/Receipt.h"
+
+#include <QtCore/QHash>
+
+namespace till {
+
+//! Notes how the receipt in hand stands; but for a take-up, only for those who want states.
+class ReceiptNotes
+{
+public:
+    //! \a notes must outlive this object.
+    explicit ReceiptNotes(Notes &notes);
+
+    //! Notes that \a receipt, or none when it is null, is in hand from now on, and all of it:
+    //! whoever follows the notes forgets the receipt before and begins with what stands here.
+    void tellTakenUp(const Receipt *receipt);
+    //! Notes \a position as it stands.
+    void tell(const Position &position);
+    //! Notes those positions of \a receipt that are not as they were noted last, or never were.
+    void tellChanged(const Receipt &receipt);
+    //! Notes what a plugin stored.
+    void tellData(const QString &plugin, const QString &key, const QVariant &value);
+    //! Notes the positions that changed unnoted, then the receipt as a whole.
+    void tellReceipt(const Receipt &receipt);
+
+private:
+    Notes &m_notes;
+    QHash<int, LineRecord> m_told; //!< by position number
+};
+
+} // namespace till
+
+#endif // TILL_COURSE_RECEIPTNOTES_H

@@ -1,0 +1,18 @@
+#ifndef TILL_RECEIPT_LIMITS_H
+#define TILL_RECEIPT_LIMITS_H
+
+#include "till/goods/Money.h"
+
+namespace till {
+
+//! The greatest count of pieces in a position. What is above is a slip of the finger.
+constexpr double greatestCount = 999'999.999;
+//! The greatest sum of a receipt: what a cashier can type, far from where sums would overflow.
+constexpr Kopecks greatestSum = 99'999'999'999'999;
+
+//! Why \a count pieces cannot stand in one position; empty when they can.
+QString countFault(double count);
+
+} // namespace till
+
+#endif // TILL_RECEIPT_LIMITS_H

@@ -1,0 +1,50 @@
+#ifndef TILL_RECEIPT_RECEIPTRECORD_H
+#define TILL_RECEIPT_RECEIPTRECORD_H
+
+#include "host/Document.h"
+#include "till/goods/Article.h"
+
+#include <QtCore/QList>
+#include <QtCore/QStringList>
+
+namespace till {
+
+//! How far a receipt has come.
+enum class ReceiptState : int {
+    Open = 0,
+    Subtotal = 1, //!< at subtotal: nothing is sold any more, payment is awaited
+    Closed = 2,   //!< paid
+    Cancelled = 3,
+};
+
+//! A position as it is stored. Stornoed positions stay in the receipt as struck lines.
+struct LineRecord
+{
+    int posnum = 0;
+    ArticleData article; //!< as it was when the position was added
+    double count = 0.0;  //!< pieces
+    double base = 0.0;   //!< base units
+    QString groupId;
+    bool stornoed = false;
+
+    bool operator==(const LineRecord &other) const = default;
+};
+
+//! A receipt as it is stored: everything that a register needs to go on with it.
+struct ReceiptRecord
+{
+    qint64 id = 0; //!< number of the receipt in the database; 0 until it was stored
+    int type = Document::Sale;
+    ReceiptState state = ReceiptState::Open;
+    QString order;           //!< number of the attached order, empty when there is none
+    QStringList softChecks;  //!< numbers of the added soft-checks
+    int nextPosnum = 1;      //!< numbers below are never used again in this receipt
+    QList<LineRecord> lines; //!< in the order of adding
+    Document::PluginData pluginData;
+
+    bool operator==(const ReceiptRecord &other) const = default;
+};
+
+} // namespace till
+
+#endif // TILL_RECEIPT_RECEIPTRECORD_H

@@ -1,0 +1,30 @@
+#ifndef TILL_REGISTER_JOURNAL_H
+#define TILL_REGISTER_JOURNAL_H
+
+#include "till/course/Notes.h"
+#include "till/storage/Storage.h"
+
+namespace till {
+
+//! Collects what is kept of the notes, until it is taken to be stored.
+class Journal
+{
+public:
+    //! \a notes must outlive this object.
+    explicit Journal(Notes &notes);
+    ~Journal();
+    Q_DISABLE_COPY_MOVE(Journal)
+
+    //! What was collected since it was last taken.
+    QList<JournalEntry> take() { return std::exchange(m_entries, {}); }
+
+private:
+    void collect(const QJsonObject &note);
+
+    Notes &m_notes;
+    QList<JournalEntry> m_entries;
+};
+
+} // namespace till
+
+#endif // TILL_REGISTER_JOURNAL_H
