@@ -51,6 +51,7 @@ public:
 
     //! The register; only while the till is on.
     Register &cashRegister() { return *m_register; }
+    const Register &cashRegister() const { return *m_register; }
     bool isOn() const { return m_register != nullptr; }
 
     const Catalogue &catalogue() const { return *m_catalogue; }

@@ -1,12 +1,11 @@
 #include "till/script/CommandLine.h"
 
-#include "till/language/TillMessages.h"
 #include "till/script/Expectations.h"
+#include "till/script/Usage.h"
 #include "till/script/Words.h"
 
 #include <QtCore/QRegularExpression>
 
-#include <algorithm>
 #include <utility>
 
 namespace till {
@@ -24,11 +23,7 @@ QString copied(const QString &text)
 //! A row of the table of commands.
 struct CommandLine::Command
 {
-    QString name;
-    QString usage; //!< the words behind the name
-    QString help;
-    int atLeast; //!< number of words behind the name
-    int atMost;
+    Usage usage;
     Outcome (CommandLine::*run)(const QStringList &words); //!< given the words behind the name
     bool isWatching = false; //!< looks at what the command before it did
     bool worksOff = false;   //!< needs no till that is switched on
@@ -36,51 +31,58 @@ struct CommandLine::Command
 
 const QList<CommandLine::Command> &CommandLine::commands()
 {
-    constexpr int any = 1000;
     static const QList<Command> table{
-        {"open", "[sale|return]", "open a receipt", 0, 1, &CommandLine::open},
-        {"add", "ARTICLE [QUANTITY]", "add an article as a new position; quantity 1 if none", 1, 2,
+        {{"open", "[sale|return]", "open a receipt", 0, 1}, &CommandLine::open},
+        {{"add", "ARTICLE [QUANTITY]", "add an article as a new position; quantity 1 if none", 1,
+          2},
          &CommandLine::add},
-        {"qty", "POSITION QUANTITY", "change the quantity of a position", 2, 2,
+        {{"qty", "POSITION QUANTITY", "change the quantity of a position", 2, 2},
          &CommandLine::changeCount},
-        {"storno", "POSITION", "storno a position, after a question", 1, 1, &CommandLine::storno},
-        {"split", "POSITION PART...", "take parts off as new positions; the rest stays", 2, any,
+        {{"storno", "POSITION", "storno a position, after a question", 1, 1}, &CommandLine::storno},
+        {{"split", "POSITION PART...", "take parts off as new positions; the rest stays", 2,
+          Usage::any},
          &CommandLine::split},
-        {"unite", "POSITION POSITION...", "put positions of one article into the first", 2, any,
+        {{"unite", "POSITION POSITION...", "put positions of one article into the first", 2,
+          Usage::any},
          &CommandLine::unite},
-        {"order", "NUMBER", "attach an order", 1, 1, &CommandLine::order},
-        {"softcheck", "NUMBER", "add a soft-check", 1, 1, &CommandLine::softCheck},
-        {"subtotal", "", "go to subtotal", 0, 0, &CommandLine::subtotal},
-        {"pay", "[MONEY]", "pay and close, from subtotal or at once; exactly if no money is named",
-         0, 1, &CommandLine::pay},
-        {"cancel", "", "cancel the receipt, after a question", 0, 0, &CommandLine::cancel},
-        {"answer", "yes|no...", "answer the next questions in advance", 1, any,
-         &CommandLine::queueAnswer, true, true},
-        {"show", "", "show the receipt", 0, 0, &CommandLine::show, true},
-        {"articles", "[TEXT]", "list the catalogue, or the articles that contain a text", 0, 1,
-         &CommandLine::articles, true},
-        {"log", "", "show what the plugin logged for the last command", 0, 0, &CommandLine::log,
-         true, true},
-        {"say", "TEXT...", "print a text", 0, any, &CommandLine::say, true, true},
-        {"set", "KEY VALUE", "change a setting; the till is switched off and on for it", 2, 2,
-         &CommandLine::set, false, true},
-        {"restart", "", "switch the till off and on; the receipt in hand is taken up again", 0, 0,
-         &CommandLine::restart, false, true},
-        {"expect", "WHAT...", "check what happened or what is; see 'help expect'", 1, any,
-         &CommandLine::expect, true},
-        {"help", "[COMMAND]", "list the commands, or explain one", 0, 1, &CommandLine::help, true,
+        {{"order", "NUMBER", "attach an order", 1, 1}, &CommandLine::order},
+        {{"softcheck", "NUMBER", "add a soft-check", 1, 1}, &CommandLine::softCheck},
+        {{"subtotal", "", "go to subtotal", 0, 0}, &CommandLine::subtotal},
+        {{"pay", "[MONEY]", "pay and close, from subtotal or at once; exactly if no money is named",
+          0, 1},
+         &CommandLine::pay},
+        {{"cancel", "", "cancel the receipt, after a question", 0, 0}, &CommandLine::cancel},
+        {{"answer", "yes|no...", "answer the next questions in advance", 1, Usage::any},
+         &CommandLine::queueAnswer,
+         true,
          true},
-        {"quit", "", "leave; the receipt in hand is kept", 0, 0, &CommandLine::quit, true, true},
+        {{"show", "", "show the receipt", 0, 0}, &CommandLine::show, true},
+        {{"articles", "[TEXT]", "list the catalogue, or the articles that contain a text", 0, 1},
+         &CommandLine::articles,
+         true},
+        {{"log", "", "show what the plugin logged for the last command", 0, 0},
+         &CommandLine::log,
+         true,
+         true},
+        {{"say", "TEXT...", "print a text", 0, Usage::any}, &CommandLine::say, true, true},
+        {{"set", "KEY VALUE", "change a setting; the till is switched off and on for it", 2, 2},
+         &CommandLine::set,
+         false,
+         true},
+        {{"restart", "", "switch the till off and on; the receipt in hand is taken up again", 0, 0},
+         &CommandLine::restart,
+         false,
+         true},
+        {{"expect", "WHAT...", "check what happened or what is; see 'help expect'", 1, Usage::any},
+         &CommandLine::expect,
+         true},
+        {{"help", "[COMMAND]", "list the commands, or explain one", 0, 1},
+         &CommandLine::help,
+         true,
+         true},
+        {{"quit", "", "leave; the receipt in hand is kept", 0, 0}, &CommandLine::quit, true, true},
     };
     return table;
-}
-
-const CommandLine::Command *CommandLine::find(const QString &name)
-{
-    const auto &table = commands();
-    const auto found = std::find_if(table.cbegin(), table.cend(),
-                                    [&name](const Command &c) { return c.name == name; });
-    return found == table.cend() ? nullptr : &*found;
 }
 
 CommandLine::CommandLine(CashDesk &desk, Notes &notes, const Translator &translator, Style style,
@@ -126,20 +128,17 @@ Outcome CommandLine::run(const QString &line)
 
 Outcome CommandLine::runWords(const QStringList &words)
 {
-    const Command *const command = find(words.constFirst());
+    const Command *const command = rowCalled(words.constFirst(), commands());
     if (!command)
         return Outcome::mistake("no command \"" + words.constFirst() + "\"; try 'help'");
-    const qsizetype given = words.size() - 1;
-    if (given < command->atLeast || given > command->atMost)
-        return Outcome::mistake("usage: " + (command->name + ' ' + command->usage).trimmed());
+    if (!command->usage.allows(words.mid(1)))
+        return Outcome::mistake("usage: " + command->usage.text());
     if (!m_desk.isOn() && !command->worksOff)
         return Outcome::failed("the till is off; 'restart' switches it on");
     if (command->isWatching)
         return (this->*command->run)(words.mid(1));
     m_heard = {};
-    const Outcome outcome = (this->*command->run)(words.mid(1));
-    m_heard.outcome = outcome;
-    return outcome;
+    return (this->*command->run)(words.mid(1));
 }
 
 QString CommandLine::leftOver() const
@@ -171,111 +170,6 @@ void CommandLine::hear(const QJsonObject &note)
         m_heard.log.append(note.value("text").toString());
 }
 
-Outcome CommandLine::open(const QStringList &words)
-{
-    const QString type = words.value(0, "sale");
-    if (type != "sale" && type != "return")
-        return notOneOf(type, {"sale", "return"});
-    return cashRegister().open(type == "sale" ? Document::Sale : Document::Return);
-}
-
-Outcome CommandLine::add(const QStringList &words)
-{
-    const QString quantity = words.value(1, "1");
-    const std::optional<double> count = parseQuantity(quantity);
-    return count ? cashRegister().add(words[0], *count) : notANumber(quantity);
-}
-
-Outcome CommandLine::changeCount(const QStringList &words)
-{
-    const std::optional<int> posnum = parsePosnum(words[0]);
-    if (!posnum)
-        return notAPosition(words[0]);
-    const std::optional<double> count = parseQuantity(words[1]);
-    return count ? cashRegister().changeCount(*posnum, *count) : notANumber(words[1]);
-}
-
-Outcome CommandLine::storno(const QStringList &words)
-{
-    const std::optional<int> posnum = parsePosnum(words[0]);
-    return posnum ? cashRegister().storno(*posnum) : notAPosition(words[0]);
-}
-
-Outcome CommandLine::split(const QStringList &words)
-{
-    const std::optional<int> posnum = parsePosnum(words[0]);
-    if (!posnum)
-        return notAPosition(words[0]);
-    QList<double> parts;
-    for (const QString &word : words.mid(1)) {
-        const std::optional<double> part = parseQuantity(word);
-        if (!part)
-            return notANumber(word);
-        parts.append(*part);
-    }
-    return cashRegister().split(*posnum, parts);
-}
-
-Outcome CommandLine::unite(const QStringList &words)
-{
-    QList<int> posnums;
-    for (const QString &word : words) {
-        const std::optional<int> posnum = parsePosnum(word);
-        if (!posnum)
-            return notAPosition(word);
-        posnums.append(*posnum);
-    }
-    return cashRegister().unite(posnums);
-}
-
-Outcome CommandLine::order(const QStringList &words)
-{
-    return cashRegister().attachOrder(words[0]);
-}
-
-Outcome CommandLine::softCheck(const QStringList &words)
-{
-    return cashRegister().addSoftCheck(words[0]);
-}
-
-Outcome CommandLine::subtotal(const QStringList &words)
-{
-    Q_UNUSED(words)
-    return cashRegister().subtotal();
-}
-
-Outcome CommandLine::pay(const QStringList &words)
-{
-    if (words.isEmpty())
-        return cashRegister().pay(std::nullopt);
-    const std::optional<Kopecks> tendered = parseMoney(words[0]);
-    if (!tendered)
-        return notMoney(words[0]);
-    const Outcome outcome = cashRegister().pay(tendered);
-    if (outcome) {
-        const Kopecks change = *tendered - cashRegister().receipt()->total();
-        print("  " + m_translator.text(messages::tillChange()).arg(toText(change)));
-    }
-    return outcome;
-}
-
-Outcome CommandLine::cancel(const QStringList &words)
-{
-    Q_UNUSED(words)
-    return cashRegister().cancel();
-}
-
-Outcome CommandLine::queueAnswer(const QStringList &words)
-{
-    for (const QString &word : words) {
-        if (word != "yes" && word != "no")
-            return notOneOf(word, {"yes", "no"});
-    }
-    for (const QString &word : words)
-        m_answers.append(word == "yes");
-    return Outcome::done();
-}
-
 QString CommandLine::renderReceipt() const
 {
     if (!m_desk.isOn() || !m_desk.cashRegister().receipt())
@@ -285,83 +179,21 @@ QString CommandLine::renderReceipt() const
                          cashRegister.taraControl());
 }
 
-Outcome CommandLine::show(const QStringList &words)
-{
-    Q_UNUSED(words)
-    if (!cashRegister().receipt())
-        return Outcome::mistake("no receipt was opened");
-    print(renderReceipt());
-    return Outcome::done();
-}
-
-Outcome CommandLine::articles(const QStringList &words)
-{
-    const QString wanted = words.value(0);
-    const auto all = m_desk.catalogue().articles();
-    for (const auto &article : all) {
-        const ArticleData &data = article->data;
-        if (data.code.contains(wanted, Qt::CaseInsensitive)
-            || data.name.contains(wanted, Qt::CaseInsensitive))
-            print(
-                QString("%1 %2 %3").arg(data.code, -10).arg(toText(data.price), 10).arg(data.name));
-    }
-    return Outcome::done();
-}
-
-Outcome CommandLine::log(const QStringList &words)
-{
-    Q_UNUSED(words)
-    for (const QString &line : std::as_const(m_heard.log))
-        print("  " + line);
-    return Outcome::done();
-}
-
-Outcome CommandLine::say(const QStringList &words)
-{
-    print("\n" + words.join(' '));
-    return Outcome::done();
-}
-
-Outcome CommandLine::set(const QStringList &words)
-{
-    const QString error = m_desk.set(words[0], words[1]);
-    return error.isEmpty() ? Outcome::done() : Outcome::failed(error);
-}
-
-Outcome CommandLine::restart(const QStringList &words)
-{
-    Q_UNUSED(words)
-    m_desk.stop();
-    const QString error = m_desk.start();
-    return error.isEmpty() ? Outcome::done() : Outcome::failed(error);
-}
-
-Outcome CommandLine::expect(const QStringList &words)
-{
-    return Expectations(*this).check(words);
-}
-
 Outcome CommandLine::help(const QStringList &words)
 {
     if (words.isEmpty()) {
         for (const Command &command : commands())
-            print(
-                QString("  %1 %2").arg(command.name + ' ' + command.usage, -28).arg(command.help));
+            print(QString("  %1 %2")
+                      .arg(command.usage.name + ' ' + command.usage.words, -28)
+                      .arg(command.usage.help));
         return Outcome::done();
     }
-    const Command *const command = find(words[0]);
+    const Command *const command = rowCalled(words[0], commands());
     if (!command)
         return Outcome::mistake("no command \"" + words[0] + "\"; try 'help'");
-    print((command->name + ' ' + command->usage).trimmed() + "\n  " + command->help);
-    if (command->name == "expect")
+    print(command->usage.text() + "\n  " + command->usage.help);
+    if (command->usage.name == "expect")
         print(Expectations::help());
-    return Outcome::done();
-}
-
-Outcome CommandLine::quit(const QStringList &words)
-{
-    Q_UNUSED(words)
-    m_hasQuit = true;
     return Outcome::done();
 }
 
@@ -370,14 +202,14 @@ QStringList CommandLine::completions(const QStringList &words) const
     QStringList candidates;
     if (words.size() <= 1) {
         for (const Command &command : commands())
-            candidates.append(command.name);
+            candidates.append(command.usage.name);
     } else if (words[0] == "add") {
         const auto all = m_desk.catalogue().articles();
         for (const auto &article : all)
             candidates.append(article->data.code);
     } else if (words[0] == "help") {
         for (const Command &command : commands())
-            candidates.append(command.name);
+            candidates.append(command.usage.name);
     } else if (words[0] == "open") {
         candidates = {"sale", "return"};
     } else if (words[0] == "answer") {

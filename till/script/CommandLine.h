@@ -4,6 +4,7 @@
 #include "till/language/Translator.h"
 #include "till/register/CashDesk.h"
 #include "till/register/Outcome.h"
+#include "till/script/Heard.h"
 #include "till/view/ReceiptView.h"
 
 #include <QtCore/QStringList>
@@ -53,19 +54,8 @@ public:
     QStringList completions(const QStringList &words) const;
 
 private:
-    friend class Expectations;
     struct Command;
     static const QList<Command> &commands();
-    static const Command *find(const QString &name);
-
-    //! What the last command (other than "expect", "answer" and "show") made the till say.
-    struct Heard
-    {
-        Outcome outcome;
-        QList<tr::Tr> messages;
-        QList<tr::Tr> questions;
-        QStringList log;
-    };
 
     Outcome runWords(const QStringList &words);
     bool answer(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel);
@@ -101,7 +91,7 @@ private:
     const Translator &m_translator;
     ReceiptView m_view;
     Front m_front;
-    Heard m_heard;
+    Heard m_heard; //!< since the last command that is no "expect", "answer" or "show"
     QList<bool> m_answers;
     QStringList m_unanswered;
     bool m_hasQuit = false;

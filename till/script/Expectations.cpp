@@ -1,5 +1,7 @@
 #include "till/script/Expectations.h"
 
+#include "till/script/Comparison.h"
+#include "till/script/Usage.h"
 #include "till/script/Words.h"
 
 #include <algorithm>
@@ -9,43 +11,11 @@ namespace till {
 //! A row of the table of what can be expected.
 struct Expectations::Row
 {
-    QString name;
-    QString usage;
-    QString help;
-    int atLeast; //!< number of words behind the name
-    int atMost;
-    Checker check;
+    Usage usage;
+    Checker check; //!< given the words behind the name
 };
 
 namespace {
-
-Outcome differs(const QString &what, const QString &expected, const QString &found)
-{
-    return Outcome::mistake(what + ": expected " + expected + ", found " + found);
-}
-
-Outcome compare(const QString &what, const QString &expected, const QString &found)
-{
-    return expected == found ? Outcome::done() : differs(what, expected, found);
-}
-
-//! Compares a number as the cashier sees it, to three decimals.
-Outcome compareQuantity(const QString &what, const QString &expected, double found)
-{
-    const std::optional<double> number = parseQuantity(expected);
-    return number ? compare(what, toText(*number), toText(found)) : notANumber(expected);
-}
-
-Outcome compareMoney(const QString &what, const QString &expected, Kopecks found)
-{
-    const std::optional<Kopecks> money = parseMoney(expected);
-    return money ? compare(what, toText(*money), toText(found)) : notMoney(expected);
-}
-
-bool isNone(const QStringList &words)
-{
-    return words.size() == 1 && words[0] == QLatin1String("none");
-}
 
 QString keysOf(const QList<tr::Tr> &texts)
 {
@@ -108,28 +78,29 @@ double unplaced(const GoodsUse &goods, const Position *position)
 
 const QList<Expectations::Row> &Expectations::rows()
 {
-    constexpr int any = 1000;
     static const QList<Row> table{
-        {"position", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...",
-         "a position, and what is in it", 2, any, &Expectations::position},
-        {"positions", "COUNT", "how many positions are not stornoed", 1, 1,
+        {{"position", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...",
+          "a position, and what is in it", 2, Usage::any},
+         &Expectations::position},
+        {{"positions", "COUNT", "how many positions are not stornoed", 1, 1},
          &Expectations::positions},
-        {"tara", "N none|capacity C|free F...", "what is noted of a tara position", 2, any,
+        {{"tara", "N none|capacity C|free F...", "what is noted of a tara position", 2, Usage::any},
          &Expectations::tara},
-        {"goods", "N none|in TARA AMOUNT...|unplaced AMOUNT...",
-         "where the goods of a position are", 2, any, &Expectations::goods},
-        {"records", "TARAS GOODS", "how many records there are of each kind", 2, 2,
+        {{"goods", "N none|in TARA AMOUNT...|unplaced AMOUNT...",
+          "where the goods of a position are", 2, Usage::any},
+         &Expectations::goods},
+        {{"records", "TARAS GOODS", "how many records there are of each kind", 2, 2},
          &Expectations::records},
-        {"total", "MONEY", "the sum of the receipt", 1, 1, &Expectations::total},
-        {"message", "none|KEY|TEXT", "a message that the last command showed", 1, any,
+        {{"total", "MONEY", "the sum of the receipt", 1, 1}, &Expectations::total},
+        {{"message", "none|KEY|TEXT", "a message that the last command showed", 1, Usage::any},
          &Expectations::message},
-        {"question", "none|KEY|TEXT", "a question that the last command asked", 1, any,
+        {{"question", "none|KEY|TEXT", "a question that the last command asked", 1, Usage::any},
          &Expectations::question},
-        {"log", "none|TEXT", "a line that the plugin logged for the last command", 1, any,
+        {{"log", "none|TEXT", "a line that the plugin logged for the last command", 1, Usage::any},
          &Expectations::log},
-        {"state", "none|open|subtotal|closed|cancelled", "how far the receipt is", 1, 1,
+        {{"state", "none|open|subtotal|closed|cancelled", "how far the receipt is", 1, 1},
          &Expectations::state},
-        {"control", "active|suspended|none", "whether the plugin watches the receipt", 1, 1,
+        {{"control", "active|suspended|none", "whether the plugin watches the receipt", 1, 1},
          &Expectations::control},
     };
     return table;
@@ -140,7 +111,7 @@ QString Expectations::help()
     QString text = QStringLiteral("  expect accepted|refused|mistake COMMAND...\n"
                                   "      carry out a command that ends in that way");
     for (const Row &row : rows())
-        text += "\n  expect " + row.name + ' ' + row.usage + "\n      " + row.help;
+        text += "\n  expect " + row.usage.text() + "\n      " + row.usage.help;
     return text;
 }
 
@@ -152,13 +123,11 @@ Outcome Expectations::check(const QStringList &words)
         return command(Outcome::Refused, words.mid(1));
     if (words[0] == "mistake")
         return command(Outcome::Mistake, words.mid(1));
-    const auto &table = rows();
-    const auto row = std::find_if(table.cbegin(), table.cend(),
-                                  [&](const Row &r) { return r.name == words[0]; });
-    if (row == table.cend())
+    const Row *const row = rowCalled(words[0], rows());
+    if (!row)
         return Outcome::mistake("\"" + words[0] + "\" cannot be expected; try 'help expect'");
-    if (words.size() - 1 < row->atLeast || words.size() - 1 > row->atMost)
-        return Outcome::mistake("usage: expect " + row->name + ' ' + row->usage);
+    if (!row->usage.allows(words.mid(1)))
+        return Outcome::mistake("usage: expect " + row->usage.text());
     return (this->*row->check)(words.mid(1));
 }
 
@@ -169,7 +138,7 @@ Outcome Expectations::command(Outcome::Kind kind, const QStringList &words) cons
         return Outcome::mistake("which command?");
     if (words[0] == "expect")
         return Outcome::mistake("an expectation cannot be expected");
-    const Outcome outcome = m_line.runWords(words);
+    const Outcome outcome = m_carryOut(words);
     if (outcome.kind == kind)
         return Outcome::done(outcome.text);
     return differs(words.join(' '), names[kind],
@@ -283,17 +252,17 @@ Outcome Expectations::total(const QStringList &words) const
 
 Outcome Expectations::message(const QStringList &words) const
 {
-    return checkSaid("message", words, m_line.m_heard.messages);
+    return checkSaid("message", words, m_heard.messages);
 }
 
 Outcome Expectations::question(const QStringList &words) const
 {
-    return checkSaid("question", words, m_line.m_heard.questions);
+    return checkSaid("question", words, m_heard.questions);
 }
 
 Outcome Expectations::log(const QStringList &words) const
 {
-    const QStringList &lines = m_line.m_heard.log;
+    const QStringList &lines = m_heard.log;
     const QString found = lines.isEmpty() ? QStringLiteral("none") : lines.join(" | ");
     if (isNone(words))
         return lines.isEmpty() ? Outcome::done() : differs("log", "none", found);

@@ -1,7 +1,10 @@
 #ifndef TILL_SCRIPT_EXPECTATIONS_H
 #define TILL_SCRIPT_EXPECTATIONS_H
 
-#include "till/script/CommandLine.h"
+#include "till/register/CashDesk.h"
+#include "till/script/Heard.h"
+
+#include <functional>
 
 namespace till {
 
@@ -9,9 +12,14 @@ namespace till {
 class Expectations
 {
 public:
-    //! \a line must outlive this object.
-    explicit Expectations(CommandLine &line)
-        : m_line(line)
+    //! Carries out a command that is expected to end in some way.
+    using CarryOut = std::function<Outcome(const QStringList &words)>;
+
+    //! \a heard is what the last command made the till say. Both must outlive this object.
+    Expectations(const CashDesk &desk, const Heard &heard, CarryOut carryOut)
+        : m_desk(desk)
+        , m_heard(heard)
+        , m_carryOut(std::move(carryOut))
     {
     }
 
@@ -39,9 +47,11 @@ private:
     Outcome state(const QStringList &words) const;
     Outcome control(const QStringList &words) const;
 
-    Register &cashRegister() const { return m_line.cashRegister(); }
+    const Register &cashRegister() const { return m_desk.cashRegister(); }
 
-    CommandLine &m_line;
+    const CashDesk &m_desk;
+    const Heard &m_heard;
+    const CarryOut m_carryOut;
 };
 
 } // namespace till

@@ -1,6 +1,6 @@
 #include "tests/till/console/ProgramFixture.h"
-#include "tests/till/console/RebuiltReceipt.h"
-#include "tests/till/console/StoredReceipts.h"
+#include "tests/till/support/RebuiltReceipt.h"
+#include "tests/till/support/StoredReceipts.h"
 
 #include <QtCore/QDir>
 

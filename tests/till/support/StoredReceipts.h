@@ -1,5 +1,5 @@
-#ifndef TESTS_TILL_CONSOLE_STOREDRECEIPTS_H
-#define TESTS_TILL_CONSOLE_STOREDRECEIPTS_H
+#ifndef TESTS_TILL_SUPPORT_STOREDRECEIPTS_H
+#define TESTS_TILL_SUPPORT_STOREDRECEIPTS_H
 
 #include "till/storage/Storage.h"
 
@@ -19,4 +19,4 @@ inline std::optional<till::ReceiptRecord> storedReceipt(const QString &path, qin
     return storage->receipt(id, &error);
 }
 
-#endif // TESTS_TILL_CONSOLE_STOREDRECEIPTS_H
+#endif // TESTS_TILL_SUPPORT_STOREDRECEIPTS_H

@@ -1,0 +1,34 @@
+#include "till/script/Comparison.h"
+
+#include "till/script/Words.h"
+
+namespace till {
+
+Outcome differs(const QString &what, const QString &expected, const QString &found)
+{
+    return Outcome::mistake(what + ": expected " + expected + ", found " + found);
+}
+
+Outcome compare(const QString &what, const QString &expected, const QString &found)
+{
+    return expected == found ? Outcome::done() : differs(what, expected, found);
+}
+
+Outcome compareQuantity(const QString &what, const QString &expected, double found)
+{
+    const std::optional<double> number = parseQuantity(expected);
+    return number ? compare(what, toText(*number), toText(found)) : notANumber(expected);
+}
+
+Outcome compareMoney(const QString &what, const QString &expected, Kopecks found)
+{
+    const std::optional<Kopecks> money = parseMoney(expected);
+    return money ? compare(what, toText(*money), toText(found)) : notMoney(expected);
+}
+
+bool isNone(const QStringList &words)
+{
+    return words.size() == 1 && words[0] == QLatin1String("none");
+}
+
+} // namespace till

@@ -1,0 +1,26 @@
+#ifndef TILL_SCRIPT_COMPARISON_H
+#define TILL_SCRIPT_COMPARISON_H
+
+#include "till/goods/Money.h"
+#include "till/register/Outcome.h"
+
+#include <QtCore/QStringList>
+
+namespace till {
+
+// Done when \a found is as expected; otherwise the mistake that says what is.
+
+Outcome compare(const QString &what, const QString &expected, const QString &found);
+//! Compares a number as the cashier sees it, to three decimals.
+Outcome compareQuantity(const QString &what, const QString &expected, double found);
+Outcome compareMoney(const QString &what, const QString &expected, Kopecks found);
+
+//! The mistake of what is not as expected.
+Outcome differs(const QString &what, const QString &expected, const QString &found);
+
+//! Whether \a words are the one word "none".
+bool isNone(const QStringList &words);
+
+} // namespace till
+
+#endif // TILL_SCRIPT_COMPARISON_H

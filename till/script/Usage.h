@@ -1,0 +1,40 @@
+#ifndef TILL_SCRIPT_USAGE_H
+#define TILL_SCRIPT_USAGE_H
+
+#include <QtCore/QList>
+#include <QtCore/QStringList>
+
+#include <algorithm>
+
+namespace till {
+
+//! How something is typed, with what stands behind its name: a command, or what can be expected.
+struct Usage
+{
+    static constexpr int any = 1000; //!< as many words as one likes
+
+    QString name;
+    QString words; //!< behind the name, for a person
+    QString help;
+    int atLeast; //!< number of words behind the name
+    int atMost;
+
+    QString text() const { return (name + ' ' + words).trimmed(); }
+    bool allows(const QStringList &behind) const
+    {
+        return behind.size() >= atLeast && behind.size() <= atMost;
+    }
+};
+
+//! The row of \a table, which have a `usage` each, with that name; null when there is none.
+template <typename Row>
+const Row *rowCalled(const QString &name, const QList<Row> &table)
+{
+    const auto found = std::find_if(table.cbegin(), table.cend(),
+                                    [&name](const Row &row) { return row.usage.name == name; });
+    return found == table.cend() ? nullptr : &*found;
+}
+
+} // namespace till
+
+#endif // TILL_SCRIPT_USAGE_H
