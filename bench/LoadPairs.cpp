@@ -15,14 +15,14 @@ class Load
 public:
     explicit Load(int) {}
 
-    void measured() { load(BENCH_PLUGIN); }
+    void measured() { load(BENCH_UNMAPPED_PLUGIN); }
     void byHand() { load(BENCH_EMPTY_PLUGIN); }
     void rearm() { m_loader->unload(); }
 
     bool same()
     {
         measured();
-        const bool isPlugin = isLoadedAndGoes(BENCH_PLUGIN, "PackagingControl");
+        const bool isPlugin = isLoadedAndGoes(BENCH_UNMAPPED_PLUGIN, "PackagingControl");
         byHand();
         return isPlugin && isLoadedAndGoes(BENCH_EMPTY_PLUGIN, "EmptyPlugin");
     }

@@ -16,10 +16,9 @@ if ! { cmake --preset dev && cmake --build --preset dev --target plugin_session;
     exit 1
 fi
 
-# The debug information of the unloaded plugin is kept, to name what it would have lost.
 program=$(find build/dev -name plugin_session -type f -perm -u+x)
 if ! valgrind --leak-check=full --show-leak-kinds=definite,indirect \
-    --errors-for-leak-kinds=definite,indirect --keep-debuginfo=yes --num-callers=40 \
+    --errors-for-leak-kinds=definite,indirect --num-callers=40 \
     --error-exitcode=9 --log-file="$log" "$program"; then
     cat "$log" >&2
     exit 1

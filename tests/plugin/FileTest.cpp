@@ -8,9 +8,23 @@
 #include <QtCore/QPluginLoader>
 #include <QtCore/QPointer>
 
+#include <dlfcn.h>
+
 #include <memory>
 
 namespace {
+
+TEST(PluginFileWithoutLoadHints, Unloaded_StaysMapped)
+{
+    QPluginLoader loader;
+    loader.setLoadHints({}); // first, or Qt would keep the library by itself
+    loader.setFileName(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE));
+    ASSERT_NE(loader.instance(), nullptr);
+
+    EXPECT_TRUE(loader.unload());
+
+    EXPECT_NE(dlopen(PACKAGINGCONTROL_PLUGIN_FILE, RTLD_NOLOAD | RTLD_LAZY), nullptr);
+}
 
 class PluginFile : public testing::Test
 {

@@ -136,12 +136,9 @@ PluginLoader::Result instantiate(QPluginLoader &library, const QString &path,
 
 std::unique_ptr<QPluginLoader> open(const QString &path)
 {
-    auto library = std::make_unique<QPluginLoader>();
-    // Symbols are resolved at once, so that a missing one shows here and not at its first use. Qt
-    // would keep the code in the process for ever were it not told otherwise; a newer Qt has to be
-    // told before it knows the file, as it only adds to the hints of one that it knows.
-    library->setLoadHints(QLibrary::ResolveAllSymbolsHint);
-    library->setFileName(path);
+    auto library = std::make_unique<QPluginLoader>(path);
+    // Symbols are resolved at once, so that a missing one shows here and not at its first use.
+    library->setLoadHints(library->loadHints() | QLibrary::ResolveAllSymbolsHint);
     return library;
 }
 

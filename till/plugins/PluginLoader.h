@@ -80,15 +80,15 @@ public:
 
     /*!
      * Loads the file \a path and creates its object, or finds the one that an earlier load of this
-     * file created. With an error nothing stays loaded. A plugin that this loader loaded before is
+     * file created. With an error no object is left. A plugin that this loader loaded before is
      * left loaded and no longer reached by `unload`.
      */
     Result load(const QString &path);
 
     /*!
-     * Deletes the plugin's object and takes its code out of the process. Nothing of the plugin may
-     * be in use, copies of its triggers included. False when nothing was loaded, or when somebody
-     * else loaded the same file too; then the object lives on.
+     * Deletes the plugin's object, which nobody may use any more; its code stays in the process.
+     * False when nothing was loaded, or when somebody else loaded the same file too; then the
+     * object lives on.
      */
     bool unload();
 
