@@ -1,6 +1,5 @@
 #include "host/ActionArguments.h"
 #include "host/ActionQueueController.h"
-#include "host/GoodsItem.h"
 #include "host/Quantity.h"
 #include "host/Session.h"
 #include "plugin/PackagingControl.h"
@@ -74,29 +73,25 @@ void PackagingControl::modifyTaraCapacity(const QSharedPointer<TaraInfo> &tara, 
 void PackagingControl::modifyPackagingUsedCapacity(const QSharedPointer<PackagingInfo> &info,
                                                    double newUsedCapacity)
 {
-    double delta = newUsedCapacity; // above 0: to be poured in; below 0: to be given back
+    double delta = newUsedCapacity; // above 0: to be filled in; below 0: to be released
     for (const double used : std::as_const(info->usedTara))
         delta -= used;
 
-    const auto taras = taraList;
-    for (const auto &tara : taras) {
-        const bool pouring = isPositive(delta);
-        if (!pouring && !isNegative(delta))
+    for (const auto &tara : std::as_const(taraList)) {
+        if (isZero(delta))
             break;
         const double free = tara->freeCapacity;
-        // Only over-full tara gives goods back: one with room keeps its share when the goods
-        // shrink.
-        const bool concerned =
-            pouring ? isPositive(free) : isNegative(free) && info->usedTara.contains(tara->id);
-        if (!concerned)
+        const bool fills = isPositive(free) && isPositive(delta);
+        // Only over-full taras release: one with room keeps its share when the goods shrink.
+        const bool releases =
+            isNegative(free) && isNegative(delta) && info->usedTara.contains(tara->id);
+        if (!fills && !releases)
             continue;
-
         const double amount = std::abs(free) < std::abs(delta) ? free : delta;
         logger->info(QStringLiteral("Изменение использованной позицией %1 ёмкости тары %2 на %3"),
                      info->posnum, tara->posnum, toLogText(amount));
-        double &used = info->usedTara[tara->id]; // 0 if the goods did not use this tara yet
         tara->freeCapacity -= amount;
-        used += amount;
+        info->usedTara[tara->id] += amount;
         delta -= amount;
     }
 }

@@ -29,13 +29,11 @@ void PackagingControl::resizeTara(const QSharedPointer<GoodsItem> &position)
     if (tara->isEmpty())
         return;
 
+    const auto infos = packagingList; // a copy: the events of the action change the list
+    const auto user = std::find_if(infos.cbegin(), infos.cend(), [&tara](const auto &info) {
+        return info->usedTara.contains(tara->id);
+    });
     // The first goods take the whole change, even when several share the tara.
-    const auto user =
-        std::find_if(packagingList.cbegin(), packagingList.cend(),
-                     [&tara](const auto &info) { return info->usedTara.contains(tara->id); });
-    if (user == packagingList.cend())
-        return;
-    // Held: the host's events may take it out of the list.
-    const auto info = *user; // NOLINT(performance-unnecessary-copy-initialization)
-    modifyPackagingPositionQuantity(info, newCapacity - oldCapacity);
+    if (user != infos.cend())
+        modifyPackagingPositionQuantity(*user, newCapacity - oldCapacity);
 }

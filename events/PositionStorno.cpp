@@ -1,12 +1,10 @@
 #include "events/EventPosition.h"
-#include "host/Finally.h"
 #include "host/LoyaltySystemLayer.h"
 #include "plugin/PackagingControl.h"
-#include "registry/GiveBack.h"
 
 #include <log4qt/logger.h>
 
-#include <vector>
+#include <utility>
 
 void PackagingControl::onPositionStornoEvent(const Event &event)
 {
@@ -25,45 +23,37 @@ void PackagingControl::onPositionStornoEvent(const Event &event)
 
 void PackagingControl::dropTara(const QSharedPointer<TaraInfo> &tara)
 {
-    // Held, to be switched on again whatever the host does to the plugin meanwhile.
-    const auto receipt = document;
-    taraList.removeAll(tara); // from here on nothing is poured into it
-    {
-        const Finally switchOn([held = receipt.get()] {
-            if (held)
-                held->setDocumentSwitch(true);
-        });
-        if (receipt)
-            receipt->setDocumentSwitch(false);
-        takeGoodsOut(tara, receipt);
-    }
+    taraList.removeAll(tara);      // from here on nothing is poured into it
+    const auto receipt = document; // held: what is switched off is switched on again
     if (receipt)
-        Singleton<LoyaltySystemLayer>::instance()->updateDocument(receipt);
+        receipt->setDocumentSwitch(false);
+    takeGoodsOut(*tara);
+    if (!receipt)
+        return;
+    receipt->setDocumentSwitch(true);
+    Singleton<LoyaltySystemLayer>::instance()->updateDocument(receipt);
 }
 
-void PackagingControl::takeGoodsOut(const QSharedPointer<TaraInfo> &tara,
-                                    const QSharedPointer<AbstractDocument> &receipt)
+void PackagingControl::takeGoodsOut(const TaraInfo &tara)
 {
-    // The host answers each reduction with events of the goods, which remove records from the list.
-    // Handles of its own: in Qt 6.4 a list that shares its elements crashes when there is no memory
-    // to detach.
-    const std::vector<QSharedPointer<PackagingInfo>> infos(packagingList.cbegin(),
-                                                           packagingList.cend());
+    const auto receipt = document;
+    const auto infos = packagingList; // a copy: the events of each action change the list
     for (const auto &info : infos) {
-        // Meanwhile the host may have turned to another receipt, whose positions are not these.
-        if (document != receipt)
-            break;
-        const auto used = info->usedTara.constFind(tara->id);
-        if (used == info->usedTara.cend())
+        if (document != receipt) // the host has switched receipts
+            return;
+        if (!info->usedTara.contains(tara.id))
             continue;
-        if (modifyPackagingPositionQuantity(info, -*used))
-            info->usedTara.remove(tara->id);
+        if (modifyPackagingPositionQuantity(info, -info->usedTara.value(tara.id)))
+            info->usedTara.remove(tara.id);
     }
 }
 
 void PackagingControl::removePackagingInfo(const QSharedPointer<GoodsItem> &position)
 {
     const auto info = getPackagingInfoByPosnum(position->getPosnum());
-    packaging::giveBack(*info, taraList);
+    for (const auto &tara : std::as_const(taraList)) {
+        if (info->usedTara.contains(tara->id))
+            tara->freeCapacity += info->usedTara.value(tara->id);
+    }
     packagingList.removeAll(info);
 }

@@ -2,8 +2,6 @@
 
 #include "host/ActivityNotifier.h"
 #include "host/Config.h"
-#include "host/Event.h"
-#include "host/GoodsItem.h"
 #include "host/Quantity.h"
 
 #include <log4qt/logger.h>
@@ -14,58 +12,33 @@
 
 #include <functional>
 
-namespace {
-
-//! Names under which events and actions carry the host's types.
-void registerMetaTypes()
+PackagingControl::PackagingControl()
+    : BaseActivityListener(nullptr)
+    , logger(Log4Qt::LogManager::logger(QStringLiteral("packaging")))
 {
+    setObjectName(QStringLiteral("PackagingControl"));
+    // Names under which events and actions carry the host's types.
     qRegisterMetaType<Event>("Event");
     qRegisterMetaType<GoodsItemPtr>("GoodsItemPtr");
     qRegisterMetaType<GoodsItemPtrList>("GoodsItemPtrList");
     qRegisterMetaType<Quantity>("Quantity");
 }
 
-QString allowSaleEmptyTaraKey()
-{
-    return QStringLiteral("PackagingControl:allowSaleEmptyTara");
-}
-
-} // namespace
-
-PackagingControl::PackagingControl()
-    : BaseActivityListener(nullptr)
-    // On the heap, not in the plugin's image: the loggers keep it as a key.
-    , logger(Log4Qt::LogManager::logger(QString::fromLatin1("packaging")))
-{
-    registerMetaTypes();
-    // On the heap, not in the plugin's image: the document keeps it as a key.
-    setObjectName(QString::fromLatin1("PackagingControl"));
-}
-
-PackagingControl::~PackagingControl() = default;
-
 bool PackagingControl::init()
 {
-    using Callback = EContext::Result (PackagingControl::*)(const control::Action &);
-    const auto attach = [this](control::EActionType type, ActionTrigger::Order order,
-                               Callback callback, ActionTrigger::Priority priority) {
-        addTrigger(ActionTrigger(EContext::Receipt, type, order, std::bind_front(callback, this),
-                                 ActionTrigger::DefaultResult, priority));
-    };
-
-    attach(control::ApplyModifiers, ActionTrigger::Before, &PackagingControl::beforeApplyModifiers,
+    using This = PackagingControl;
+    attach(ActionTrigger::Before, control::ApplyModifiers, &This::beforeApplyModifiers,
            ActionTrigger::Normal);
-    attach(control::SplitPositions, ActionTrigger::After, &PackagingControl::afterSplitPositions,
+    attach(ActionTrigger::After, control::SplitPositions, &This::afterSplitPositions,
            ActionTrigger::Low);
-    attach(control::UnitePositions, ActionTrigger::After, &PackagingControl::afterUnitePositions,
+    attach(ActionTrigger::After, control::UnitePositions, &This::afterUnitePositions,
            ActionTrigger::Low);
-    if (!Singleton<Config>::instance()->getBool(allowSaleEmptyTaraKey(), true)) {
-        attach(control::Subtotal, ActionTrigger::Before, &PackagingControl::beforeSubtotal,
-               ActionTrigger::High);
-        attach(control::Payment, ActionTrigger::Before, &PackagingControl::beforeSubtotal,
-               ActionTrigger::High);
+    if (!Singleton<Config>::instance()->getBool(
+            QStringLiteral("PackagingControl:allowSaleEmptyTara"), true)) {
+        for (const auto type : {control::Subtotal, control::Payment})
+            attach(ActionTrigger::Before, type, &This::beforeSubtotal, ActionTrigger::High);
     }
-    attach(control::AddSoftCheck, ActionTrigger::After, &PackagingControl::afterSoftcheck,
+    attach(ActionTrigger::After, control::AddSoftCheck, &This::afterSoftcheck,
            ActionTrigger::Normal);
 
     Singleton<ActivityNotifier>::instance()->subscribe(
@@ -74,22 +47,27 @@ bool PackagingControl::init()
     return true;
 }
 
+void PackagingControl::attach(ActionTrigger::Order order, control::EActionType type,
+                              Callback callback, ActionTrigger::Priority priority)
+{
+    addTrigger(ActionTrigger(EContext::Receipt, type, order, std::bind_front(callback, this),
+                             ActionTrigger::DefaultResult, priority));
+}
+
 void PackagingControl::setDocument(const QSharedPointer<AbstractDocument> &newDocument)
 {
-    constexpr int saleReceipt = 1;
-    // Held: the host may change its own handle while it answers.
-    const auto receipt = newDocument; // NOLINT(performance-unnecessary-copy-initialization)
-    if (!receipt || receipt->getType() != saleReceipt) {
+    constexpr int sale = 1;
+    if (!newDocument || newDocument->getType() != sale) {
         disablePlugin();
         return;
     }
-    if (receipt->getOrder()) {
+    if (newDocument->getOrder()) {
         logger->info(QStringLiteral(
             "Обрабатываемый документ содержит заказ, работа плагина приостановлена"));
         return;
     }
     Singleton<ActivityNotifier>::instance()->enableListener(this);
-    DocumentWatcher::setDocument(receipt);
+    DocumentWatcher::setDocument(newDocument);
     restorePluginData();
 }
 
@@ -111,9 +89,8 @@ void PackagingControl::handleEvent(const Event &event)
     }
 }
 
-EContext::Result PackagingControl::afterSoftcheck(const control::Action &action)
+EContext::Result PackagingControl::afterSoftcheck(const control::Action &)
 {
-    Q_UNUSED(action)
     logger->info(QStringLiteral("Добавлен софт-чек или заказ, работа плагина приостановлена"));
     disablePlugin();
     return EContext::Continue;
@@ -132,6 +109,5 @@ QString PackagingControl::getId() const
 
 QSharedPointer<GoodsItem> PackagingControl::findPosition(int posnum) const
 {
-    const auto receipt = document; // held: the host may take it away while it answers
-    return receipt ? receipt->getPositionByPosnum(posnum) : nullptr;
+    return document ? document->getPositionByPosnum(posnum) : nullptr;
 }

@@ -1,12 +1,11 @@
 #include "plugin/PackagingControl.h"
-#include "registry/NewRecord.h"
 
 #include <QtCore/QVariant>
 
 #include <map>
 #include <utility>
 
-// The registry is kept in the document as a tree of variants, under the plugin's object name:
+// The registry is stored in the document as a tree of variants, under the plugin's object name:
 //   taraInfo:      [{capacity, freeCapacity, id, posnum}, ...]
 //   packagingInfo: [{posnum, usedTara: {id: quantity, ...}}, ...]
 
@@ -15,27 +14,8 @@ namespace {
 using TaraInfo = PackagingControl::TaraInfo;
 using PackagingInfo = PackagingControl::PackagingInfo;
 
-// The document keeps these texts longer than the plugin may stay loaded, so that they live on the
-// heap and not in the plugin's image. They are made once: every event saves every record.
-struct Keys
-{
-    QString taraInfo = QString::fromLatin1("taraInfo");
-    QString packagingInfo = QString::fromLatin1("packagingInfo");
-    QString capacity = QString::fromLatin1("capacity");
-    QString freeCapacity = QString::fromLatin1("freeCapacity");
-    QString id = QString::fromLatin1("id");
-    QString posnum = QString::fromLatin1("posnum");
-    QString usedTara = QString::fromLatin1("usedTara");
-};
-
-const Keys &keys()
-{
-    static const Keys texts;
-    return texts;
-}
-
-// Entries are put down in the order of their keys, each at the end, which spares the search; in the
-// standard map, which `QVariantMap` takes over as it is, because that one takes a value by moving.
+// Every event that changes a record stores all of them. So entries are appended in the order of
+// their keys, which saves the search, to a standard map, which `QVariantMap` takes over as it is.
 using Entries = std::map<QString, QVariant>;
 
 template <typename Value>
@@ -47,10 +27,10 @@ void append(Entries &entries, const QString &key, const Value &value)
 QVariantMap toVariantMap(const TaraInfo &tara)
 {
     Entries entries;
-    append(entries, keys().capacity, tara.capacity);
-    append(entries, keys().freeCapacity, tara.freeCapacity);
-    append(entries, keys().id, tara.id);
-    append(entries, keys().posnum, tara.posnum);
+    append(entries, QStringLiteral("capacity"), tara.capacity);
+    append(entries, QStringLiteral("freeCapacity"), tara.freeCapacity);
+    append(entries, QStringLiteral("id"), tara.id);
+    append(entries, QStringLiteral("posnum"), tara.posnum);
     return QVariantMap(std::move(entries));
 }
 
@@ -65,8 +45,8 @@ QVariantMap toVariantMap(const QMap<QString, double> &quantities)
 QVariantMap toVariantMap(const PackagingInfo &info)
 {
     Entries entries;
-    append(entries, keys().posnum, info.posnum);
-    append(entries, keys().usedTara, toVariantMap(info.usedTara));
+    append(entries, QStringLiteral("posnum"), info.posnum);
+    append(entries, QStringLiteral("usedTara"), toVariantMap(info.usedTara));
     return QVariantMap(std::move(entries));
 }
 
@@ -80,91 +60,52 @@ QVariantList toVariantList(const QList<QSharedPointer<Record>> &records)
     return list;
 }
 
-// Maps are read in one walk: keys of different lengths differ at once, which is cheaper than a
-// search for each of them.
-
-QSharedPointer<TaraInfo> toTaraInfo(const QVariant &stored)
+QMap<QString, double> toQuantities(const QVariantMap &map)
 {
-    const auto tara = packaging::newRecord<TaraInfo>();
-    const Keys &key = keys();
-    const QVariantMap map = stored.toMap();
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
-        if (entry.key() == key.capacity)
-            tara->capacity = entry->toDouble();
-        else if (entry.key() == key.freeCapacity)
-            tara->freeCapacity = entry->toDouble();
-        else if (entry.key() == key.id)
-            tara->id = entry->toString();
-        else if (entry.key() == key.posnum)
-            tara->posnum = entry->toInt();
-    }
-    return tara;
-}
-
-QMap<QString, double> toQuantities(const QVariant &stored)
-{
-    std::map<QString, double> quantities;
-    const QVariantMap map = stored.toMap();
+    QMap<QString, double> quantities;
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry)
-        quantities.emplace_hint(quantities.cend(), entry.key(), entry->toDouble());
-    return QMap<QString, double>(std::move(quantities));
+        quantities.insert(entry.key(), entry->toDouble());
+    return quantities;
 }
 
-QSharedPointer<PackagingInfo> toPackagingInfo(const QVariant &stored)
+TaraInfo toTaraInfo(const QVariantMap &map)
 {
-    const auto info = packaging::newRecord<PackagingInfo>();
-    const Keys &key = keys();
-    const QVariantMap map = stored.toMap();
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
-        if (entry.key() == key.posnum)
-            info->posnum = entry->toInt();
-        else if (entry.key() == key.usedTara)
-            info->usedTara = toQuantities(*entry);
-    }
-    return info;
+    return {.posnum = map.value(QStringLiteral("posnum")).toInt(),
+            .id = map.value(QStringLiteral("id")).toString(),
+            .capacity = map.value(QStringLiteral("capacity")).toDouble(),
+            .freeCapacity = map.value(QStringLiteral("freeCapacity")).toDouble()};
 }
 
-template <typename Record>
-QList<QSharedPointer<Record>> toRecords(const QVariant &stored,
-                                        QSharedPointer<Record> (*toRecord)(const QVariant &))
+PackagingInfo toPackagingInfo(const QVariantMap &map)
 {
-    const QVariantList elements = stored.toList();
-    QList<QSharedPointer<Record>> records;
-    records.reserve(elements.size());
-    for (const QVariant &element : elements)
-        records.append(toRecord(element));
-    return records;
+    return {.posnum = map.value(QStringLiteral("posnum")).toInt(),
+            .usedTara = toQuantities(map.value(QStringLiteral("usedTara")).toMap())};
 }
 
 } // namespace
 
 void PackagingControl::savePluginData() const
 {
-    const auto receipt = document; // the host may take the document away between the two writes
-    if (!receipt)
+    if (!document)
         return;
-    // Both are made before either is written: when memory runs out here, the document keeps two
-    // lists that belong together.
     const QVariantList taras = toVariantList(taraList);
-    const QVariantList packaging = toVariantList(packagingList);
-    receipt->setPluginData(objectName(), keys().taraInfo, taras);
-    receipt->setPluginData(objectName(), keys().packagingInfo, packaging);
+    const QVariantList infos = toVariantList(packagingList);
+    document->setPluginData(objectName(), QStringLiteral("taraInfo"), taras);
+    document->setPluginData(objectName(), QStringLiteral("packagingInfo"), infos);
 }
 
 void PackagingControl::restorePluginData()
 {
     taraList.clear();
     packagingList.clear();
-    const auto receipt = document;
-    if (!receipt)
+    if (!document)
         return;
-    const auto taras =
-        toRecords(receipt->getPluginData(objectName(), keys().taraInfo, {}), toTaraInfo);
-    const auto packaging =
-        toRecords(receipt->getPluginData(objectName(), keys().packagingInfo, {}), toPackagingInfo);
-    // While it answered, the host may have turned to another receipt, whose records these are not.
-    if (document && document != receipt)
-        return;
-    taraList = taras;
-    packagingList = packaging;
+    const QVariantList taras =
+        document->getPluginData(objectName(), QStringLiteral("taraInfo"), {}).toList();
+    for (const QVariant &tara : taras)
+        taraList.append(QSharedPointer<TaraInfo>::create(toTaraInfo(tara.toMap())));
+    const QVariantList infos =
+        document->getPluginData(objectName(), QStringLiteral("packagingInfo"), {}).toList();
+    for (const QVariant &info : infos)
+        packagingList.append(QSharedPointer<PackagingInfo>::create(toPackagingInfo(info.toMap())));
 }

@@ -1,21 +1,18 @@
-#include "host/GoodsItem.h"
 #include "plugin/PackagingControl.h"
+
+#include <QtCore/QSet>
 
 bool PackagingControl::isTaraSplitted(const QSharedPointer<GoodsItem> &goods) const
 {
     const auto tara = getTaraByPosnum(goods->getPosnum());
     if (!tara)
         return false;
-    // Without a QSet, which in Qt 6.4 ends the process when there is no memory to insert with.
-    const PackagingInfo *user = nullptr;
+    QSet<int> users;
     for (const auto &info : packagingList) {
-        if (!info->usedTara.contains(tara->id)) // with any value, 0 too
-            continue;
-        if (user && user->posnum != info->posnum)
-            return true;
-        user = info.get();
+        if (info->usedTara.contains(tara->id)) // with any value, 0 too
+            users.insert(info->posnum);
     }
-    return false;
+    return users.size() >= 2;
 }
 
 bool PackagingControl::isTaraPartialFilled(const QSharedPointer<GoodsItem> &goods) const

@@ -1,4 +1,3 @@
-#include "host/GoodsItem.h"
 #include "plugin/PackagingControl.h"
 #include "triggers/ArgumentLookup.h"
 
@@ -7,14 +6,15 @@
 EContext::Result PackagingControl::afterUnitePositions(const control::Action &action)
 {
     logger->info(QStringLiteral("Обработка объединения позиций"));
-    const auto deleted = packaging::positionsArgument(action, QStringLiteral("deletedPositions"));
+    const auto deleted =
+        packaging::argument(action, QStringLiteral("deletedPositions")).value<GoodsItemPtrList>();
     for (const auto &position : deleted) {
         if (position)
             removePackagingInfo(position);
     }
-    // A position without a record is placed too; its record is let go of and the capacity stays
-    // taken.
-    const auto changed = packaging::positionsArgument(action, QStringLiteral("changedPositions"));
+    // A position without a record is placed too: its capacity is taken, and no record holds it.
+    const auto changed =
+        packaging::argument(action, QStringLiteral("changedPositions")).value<GoodsItemPtrList>();
     for (const auto &position : changed) {
         if (position)
             modifyPackagingUsedCapacity(getPackagingInfoByPosnum(position->getPosnum()),

@@ -207,9 +207,8 @@ void Rules::afterUnion(const std::vector<PositionPtr> &deleted,
 
 Answer Rules::beforeSubtotal()
 {
-    // Without a receipt in hand there is nothing to ask about.
     const auto isEmptyTara = [](const auto &tara) { return tara->isEmpty(); };
-    if (!m_receipt || std::none_of(taras.begin(), taras.end(), isEmptyTara))
+    if (std::none_of(taras.begin(), taras.end(), isEmptyTara))
         return Continue;
     const ReceiptPtr receipt = m_receipt;
     if (!m_world.askAboutEmptyTara())
@@ -229,9 +228,9 @@ bool Rules::stornoEmptyTara()
     for (const auto &tara : snapshot) {
         if (!tara->isEmpty())
             continue;
-        if (m_receipt != receipt)
-            return false; // empty tara is left in a receipt that is no longer in hand
         m_world.storno(tara->posnum);
+        if (m_receipt != receipt)
+            return false; // what happened to the receipt cannot be seen any more
         if (receipt->find(tara->posnum) || receipt->isEmpty())
             return false;
     }

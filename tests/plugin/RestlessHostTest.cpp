@@ -13,110 +13,12 @@
 
 namespace {
 
-using Records = QList<int>;
-
-Records posnumsOf(const TestPlugin &plugin)
-{
-    Records posnums;
-    for (const auto &tara : plugin.taraList)
-        posnums << tara->posnum;
-    return posnums;
-}
-
 QVariantList storedTaras(std::initializer_list<int> posnums)
 {
     QVariantList list;
     for (const int posnum : posnums)
         list << QVariantMap{{"posnum", posnum}, {"capacity", 1.0}, {"freeCapacity", 1.0}};
     return list;
-}
-
-//! A receipt that does something once, on its first question of a kind.
-class RestlessReceipt : public Document
-{
-public:
-    int getType() const override { return once(onType), Document::getType(); }
-    QVariant getPluginData(const QString &pluginId, const QString &key,
-                           const QVariant &defaultValue) const override
-    {
-        once(onData);
-        return Document::getPluginData(pluginId, key, defaultValue);
-    }
-    QSharedPointer<GoodsItem> getPositionByPosnum(int posnum) const override
-    {
-        once(onPosition);
-        return Document::getPositionByPosnum(posnum);
-    }
-
-    mutable std::function<void()> onType;
-    mutable std::function<void()> onData;
-    mutable std::function<void()> onPosition;
-
-private:
-    static void once(std::function<void()> &what)
-    {
-        if (const auto now = std::exchange(what, nullptr))
-            now();
-    }
-};
-
-class RestlessHost : public testing::Test
-{
-protected:
-    FakeHost host;
-    TestPlugin plugin;
-    QSharedPointer<RestlessReceipt> restless{new RestlessReceipt};
-    QSharedPointer<Document> other{new Document};
-};
-
-TEST_F(RestlessHost, TurnsToAnotherReceiptDuringRestore_KeepsTheOthersRecords)
-{
-    restless->setPluginData("PackagingControl", "taraInfo", storedTaras({1, 2}));
-    other->setPluginData("PackagingControl", "taraInfo", storedTaras({9}));
-    restless->onData = [this] { plugin.setDocument(other); };
-
-    plugin.setDocument(restless);
-
-    EXPECT_EQ(plugin.heldDocument(), other);
-    EXPECT_EQ(posnumsOf(plugin), Records{9});
-}
-
-TEST_F(RestlessHost, SetsTheSameReceiptDuringRestore_DoublesNoRecord)
-{
-    restless->setPluginData("PackagingControl", "taraInfo", storedTaras({1, 2}));
-    restless->onData = [this] { plugin.setDocument(restless); };
-
-    plugin.setDocument(restless);
-
-    EXPECT_EQ(posnumsOf(plugin), (Records{1, 2}));
-}
-
-TEST_F(RestlessHost, DropsItsOwnHandleWhenAskedForTheType_IsAskedToTheEnd)
-{
-    QSharedPointer<AbstractDocument> handle = restless;
-    const QWeakPointer<RestlessReceipt> watch = restless;
-    restless->onType = [&handle] { handle.reset(); };
-    restless.reset();
-
-    plugin.setDocument(handle);
-
-    EXPECT_EQ(plugin.heldDocument(), watch.toStrongRef());
-    EXPECT_NE(plugin.heldDocument(), nullptr);
-}
-
-TEST_F(RestlessHost, SuspendsDuringALookup_IsAskedToTheEnd)
-{
-    const auto tmc = QSharedPointer<Tmc>::create(Tmc::Tara, 1.0);
-    const auto position = QSharedPointer<GoodsItem>::create(1, tmc);
-    restless->addPosition(position);
-    restless->onPosition = [this] { plugin.disablePlugin(); };
-    plugin.setDocument(restless);
-    restless.reset(); // the plugin has the last handle
-
-    plugin.onPositionAddEvent(Event(EActivityListener::eventPositionAdded)
-                                  .addArgument("position", QVariant::fromValue(position)));
-
-    EXPECT_EQ(plugin.heldDocument(), nullptr);
 }
 
 //! Answers yes, and does something first.
@@ -137,21 +39,22 @@ private:
     std::function<void()> m_first;
 };
 
-//! Counts the stornos that it is asked for, carries them out, and does something after the first.
+//! Notes the stornos that it is asked for, carries them out, and does something after one.
 class RestlessLogic : public DocumentLogic
 {
 public:
-    RestlessLogic(FakeHost &host, std::function<void()> afterFirst)
+    RestlessLogic(FakeHost &host, int posnum, std::function<void()> after)
         : m_host(host)
-        , m_afterFirst(std::move(afterFirst))
+        , m_posnum(posnum)
+        , m_after(std::move(after))
     {
     }
     bool stornoPosition(const control::Action &action) override
     {
         asked << control::args::Core(action).positionNumber();
         m_host.storno(asked.constLast());
-        if (asked.size() == 1)
-            m_afterFirst();
+        if (asked.constLast() == m_posnum)
+            m_after();
         return true;
     }
 
@@ -159,10 +62,12 @@ public:
 
 private:
     FakeHost &m_host;
-    std::function<void()> m_afterFirst;
+    int m_posnum;
+    std::function<void()> m_after;
 };
 
-class RestlessPayment : public RestlessHost
+//! Taras 1 and 2 are empty, and the payment is near.
+class RestlessPayment : public testing::Test
 {
 protected:
     RestlessPayment()
@@ -182,6 +87,18 @@ protected:
         return FakeHost::trigger(plugin, ActionTrigger::Before,
                                  control::Action(control::Subtotal, {}));
     }
+
+    //! Does \a what after the storno of \a posnum.
+    QSharedPointer<RestlessLogic> after(int posnum, std::function<void()> what)
+    {
+        const auto logic = QSharedPointer<RestlessLogic>::create(host, posnum, std::move(what));
+        MockFactory<DocumentLogic>::mocked = logic;
+        return logic;
+    }
+
+    FakeHost host;
+    TestPlugin plugin;
+    QSharedPointer<Document> other{new Document};
 };
 
 TEST_F(RestlessPayment, TurnsToAnotherReceiptDuringTheQuestion_CancelsAndStornoesNothing)
@@ -203,19 +120,41 @@ TEST_F(RestlessPayment, SuspendsDuringTheQuestion_GoesOnWithoutAStorno)
 
 TEST_F(RestlessPayment, TurnsToAnotherReceiptDuringTheFirstStorno_CancelsAndAsksForNoOther)
 {
-    const auto logic =
-        QSharedPointer<RestlessLogic>::create(host, [this] { plugin.setDocument(other); });
-    MockFactory<DocumentLogic>::mocked = logic;
+    const auto logic = after(1, [this] { plugin.setDocument(other); });
 
     EXPECT_EQ(subtotal(), EContext::Cancel);
     EXPECT_EQ(logic->asked, QList<int>{1});
 }
 
+TEST_F(RestlessPayment, TurnsToAnotherReceiptDuringTheLastStorno_Cancels)
+{
+    const auto logic = after(2, [this] { plugin.setDocument(other); });
+
+    EXPECT_EQ(subtotal(), EContext::Cancel);
+    EXPECT_EQ(logic->asked, (QList<int>{1, 2}));
+}
+
+TEST_F(RestlessPayment, TurnsToAnotherReceiptDuringTheLastStornoBeforeAFullTara_Cancels)
+{
+    host.addTara(4, 1.0);
+    plugin.getTaraByPosnum(4)->freeCapacity = 0.0;
+    const auto logic = after(2, [this] { plugin.setDocument(other); });
+
+    EXPECT_EQ(subtotal(), EContext::Cancel);
+    EXPECT_EQ(logic->asked, (QList<int>{1, 2}));
+}
+
+TEST_F(RestlessPayment, SetsTheSameReceiptDuringTheFirstStorno_GoesOn)
+{
+    const auto logic = after(1, [this] { plugin.setDocument(host.receipt()); });
+
+    EXPECT_EQ(subtotal(), EContext::Continue);
+    EXPECT_EQ(logic->asked, (QList<int>{1, 2}));
+}
+
 TEST_F(RestlessPayment, SuspendsDuringTheFirstStorno_CancelsSinceTaraIsLeft)
 {
-    const auto logic =
-        QSharedPointer<RestlessLogic>::create(host, [this] { plugin.disablePlugin(); });
-    MockFactory<DocumentLogic>::mocked = logic;
+    const auto logic = after(1, [this] { plugin.disablePlugin(); });
 
     EXPECT_EQ(subtotal(), EContext::Cancel);
     EXPECT_EQ(logic->asked, QList<int>{1});

@@ -135,41 +135,4 @@ TEST_F(CreatePackagingInfo, NewPosition_IsPouredBeforeItIsListed)
     EXPECT_EQ(subject.packagingList.size(), 1);
 }
 
-//! Pours as the plugin does and throws, as it may when memory runs out.
-class ThrowsWhenItPoured : public TestPlugin
-{
-public:
-    void modifyPackagingUsedCapacity(const QSharedPointer<PackagingInfo> &info,
-                                     double newUsedCapacity) override
-    {
-        TestPlugin::modifyPackagingUsedCapacity(info, newUsedCapacity);
-        throw std::bad_alloc();
-    }
-};
-
-TEST_F(CreatePackagingInfo, NewPositionThatThrows_TakesNoCapacity)
-{
-    ThrowsWhenItPoured subject;
-    const auto first = subject.putTara(1, "{1}", 5.0, 5.0);
-    const auto second = subject.putTara(2, "{2}", 5.0, 4.0);
-
-    EXPECT_THROW(subject.createPackagingInfo(goods(3, 7.0)), std::bad_alloc);
-
-    EXPECT_EQ(subject.packagingList.size(), 0);
-    EXPECT_EQ(first->freeCapacity, 5.0);
-    EXPECT_EQ(second->freeCapacity, 4.0);
-}
-
-TEST_F(CreatePackagingInfo, KnownPositionThatThrows_KeepsWhatItTook)
-{
-    ThrowsWhenItPoured subject;
-    const auto tara = subject.putTara(1, "{1}", 5.0, 4.0);
-    const auto known = subject.putGoods(3, Used{{"{1}", 1.0}});
-
-    EXPECT_THROW(subject.createPackagingInfo(goods(3, 3.0)), std::bad_alloc);
-
-    EXPECT_EQ(tara->freeCapacity, 2.0);
-    EXPECT_EQ(known->usedTara, (Used{{"{1}", 3.0}}));
-}
-
 } // namespace

@@ -133,26 +133,6 @@ TEST_F(Save, UsesTwoKeysOfItsOwnAndNoOther)
     EXPECT_EQ(data.value("PackagingControl").value("other"), QVariant(2));
 }
 
-//! Whether the text owns its characters; those of a literal are gone when the plugin is unloaded.
-bool ownsItsText(const QString &text)
-{
-    return text.capacity() > 0;
-}
-
-TEST_F(Save, Keys_MayOutliveThePlugin)
-{
-    plugin.putTara(2, "{a}", 1.0, 1.0);
-    plugin.putGoods(3);
-
-    plugin.savePluginData();
-
-    const auto data = host.receipt()->pluginData();
-    EXPECT_THAT(data.keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
-    EXPECT_THAT(data.first().keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
-    EXPECT_THAT(storedTara(0).keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
-    EXPECT_THAT(storedGoods(0).keys(), testing::Each(testing::ResultOf(ownsItsText, true)));
-}
-
 TEST_F(Save, WritesTheTaraFirstAndReadsNothing)
 {
     plugin.savePluginData();
@@ -299,28 +279,6 @@ TEST_F(Named, RecordsThatChangeWhileTheTaraIsStored_AreSavedAsTheyWereAtFirst)
     EXPECT_EQ(document->getPluginData("PackagingControl", "packagingInfo", {}),
               QVariant(QVariantList{
                   QVariantMap{{"posnum", 3}, {"usedTara", QVariantMap{{"{a}", 1.0}}}}}));
-}
-
-TEST_F(Named, DocumentTakenAwayWhileTheTaraIsStored_StillGetsTheGoods)
-{
-    document->onFirstCall = [this] { plugin.disablePlugin(); };
-
-    plugin.savePluginData();
-
-    EXPECT_EQ(document->calls,
-              (QStringList{"PackagingControl taraInfo", "PackagingControl packagingInfo"}));
-}
-
-TEST_F(Named, DocumentTakenAwayWhileTheTaraIsRead_IsReadToTheEnd)
-{
-    document->Document::setPluginData("PackagingControl", "packagingInfo",
-                                      QVariantList{QVariantMap{{"posnum", 3}}});
-    document->onFirstCall = [this] { plugin.disablePlugin(); };
-
-    plugin.restorePluginData();
-
-    ASSERT_EQ(plugin.packagingList.size(), 1);
-    EXPECT_EQ(plugin.packagingList[0]->posnum, 3);
 }
 
 } // namespace

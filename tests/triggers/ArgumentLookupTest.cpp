@@ -93,7 +93,7 @@ TEST(PositionsArgument, ListOfPositions_IsTakenAsItIs)
 {
     const GoodsItemPtrList list{position(1), nullptr, position(2)};
     const auto action = with({{"positions", QVariant::fromValue(list)}});
-    EXPECT_EQ(packaging::positionsArgument(action, "positions"), list);
+    EXPECT_EQ(packaging::argument(action, "positions").value<GoodsItemPtrList>(), list);
 }
 
 TEST(PositionsArgument, RegisteredConversion_IsUsed)
@@ -101,7 +101,7 @@ TEST(PositionsArgument, RegisteredConversion_IsUsed)
     registerForeignTypes();
     const GoodsItemPtrList list{position(1)};
     const auto action = with({{"positions", QVariant::fromValue(ForeignPositions{list})}});
-    EXPECT_EQ(packaging::positionsArgument(action, "positions"), list);
+    EXPECT_EQ(packaging::argument(action, "positions").value<GoodsItemPtrList>(), list);
 }
 
 class PositionsArgumentOfAnotherType : public testing::TestWithParam<QVariant>
@@ -111,7 +111,8 @@ class PositionsArgumentOfAnotherType : public testing::TestWithParam<QVariant>
 TEST_P(PositionsArgumentOfAnotherType, IsAnEmptyList)
 {
     const auto action = with({{"positions", GetParam()}});
-    EXPECT_EQ(packaging::positionsArgument(action, "positions"), GoodsItemPtrList());
+    EXPECT_EQ(packaging::argument(action, "positions").value<GoodsItemPtrList>(),
+              GoodsItemPtrList());
 }
 
 INSTANTIATE_TEST_SUITE_P(Value, PositionsArgumentOfAnotherType,
@@ -122,7 +123,8 @@ INSTANTIATE_TEST_SUITE_P(Value, PositionsArgumentOfAnotherType,
 TEST(PositionsArgument, OnePosition_IsNoList)
 {
     const auto action = with({{"positions", QVariant::fromValue(position(1))}});
-    EXPECT_EQ(packaging::positionsArgument(action, "positions"), GoodsItemPtrList());
+    EXPECT_EQ(packaging::argument(action, "positions").value<GoodsItemPtrList>(),
+              GoodsItemPtrList());
 }
 
 // What the callbacks make of it.

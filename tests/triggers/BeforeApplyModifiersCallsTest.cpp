@@ -142,6 +142,15 @@ TEST_F(BeforeApplyModifiersCalls, SessionWasNeverMade_MakesItAndContinues)
     EXPECT_NE(static_cast<Session *>(Singleton<Session>::instance), nullptr);
 }
 
+TEST_F(BeforeApplyModifiersCalls, PositionIsNoTara_AsksForNoSession)
+{
+    goods(2, 1);
+    const ServiceInstead<Session> none(nullptr);
+    for (const int posnum : {2, 99})
+        EXPECT_EQ(before(actions::on(posnum, control::ApplyModifiers)), EContext::Continue);
+    EXPECT_EQ(static_cast<Session *>(Singleton<Session>::instance), nullptr);
+}
+
 TEST_F(BeforeApplyModifiersCalls, NotifierWasNeverMade_MakesItAndRefuses)
 {
     EXPECT_CALL(plugin, isTaraSplitted(tara)).Times(2).WillRepeatedly(Return(true));

@@ -191,6 +191,18 @@ TEST_P(BeforeSubtotalCalls, StornoFails_Cancels)
     EXPECT_EQ(subtotal(), EContext::Cancel);
 }
 
+TEST_P(BeforeSubtotalCalls, WithoutADocument_AsksAndTakesTheAnswerOfTheStorno)
+{
+    plugin.disablePlugin();
+    host.dialogAnswer = true;
+    EXPECT_CALL(plugin, isExistsEmptyTara()).Times(2).WillRepeatedly(Return(true));
+    EXPECT_CALL(plugin, stornoAllEmptyTara(_)).WillOnce(Return(true)).WillOnce(Return(false));
+    EXPECT_EQ(subtotal(), EContext::Continue);
+    EXPECT_EQ(subtotal(), EContext::Cancel);
+    EXPECT_EQ(host.journal,
+              (QStringList{"ask packingControlSaleEmptyTara", "ask packingControlSaleEmptyTara"}));
+}
+
 INSTANTIATE_TEST_SUITE_P(Action, BeforeSubtotalCalls,
                          testing::Values(control::Subtotal, control::Payment));
 

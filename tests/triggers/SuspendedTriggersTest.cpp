@@ -76,12 +76,26 @@ TEST_P(SuspendedTriggers, AfterUnion_ContinuesAndWritesNothing)
     EXPECT_EQ(host.journal, QStringList());
 }
 
-TEST_P(SuspendedTriggers, BeforeSubtotal_ContinuesWithoutAQuestion)
+TEST_P(SuspendedTriggers, BeforeSubtotalAnsweredYes_StornoesNothingAndContinues)
 {
     for (const auto type : {control::Subtotal, control::Payment})
         EXPECT_EQ(before(control::Action(type, {})), EContext::Continue);
-    EXPECT_EQ(host.journal, QStringList());
+    EXPECT_EQ(host.journal,
+              (QStringList{"ask packingControlSaleEmptyTara", "ask packingControlSaleEmptyTara"}));
+}
+
+TEST_P(SuspendedTriggers, BeforeSubtotalAnsweredNo_Cancels)
+{
+    host.dialogAnswer = false;
+    EXPECT_EQ(before(control::Action(control::Subtotal, {})), EContext::Cancel);
     EXPECT_EQ(log.lines(), QStringList());
+}
+
+TEST_P(SuspendedTriggers, BeforeSubtotalWithoutEmptyTara_ContinuesWithoutAQuestion)
+{
+    plugin.taraList.removeLast();
+    EXPECT_EQ(before(control::Action(control::Subtotal, {})), EContext::Continue);
+    EXPECT_EQ(host.journal, QStringList());
 }
 
 TEST_P(SuspendedTriggers, StornoAllEmptyTara_LogsAsksTheHostForNothingAndSucceeds)
@@ -151,10 +165,11 @@ protected:
     }
 };
 
-TEST_F(SuspendedMeanwhile, StornoTookEffect_Continues)
+TEST_F(SuspendedMeanwhile, StornoTookEffect_CancelsOnce)
 {
-    EXPECT_EQ(before(control::Action(control::Subtotal, {})), EContext::Continue);
+    EXPECT_EQ(before(control::Action(control::Subtotal, {})), EContext::Cancel);
     EXPECT_EQ(host.receipt()->getPositionByPosnum(1), nullptr);
+    EXPECT_EQ(before(control::Action(control::Subtotal, {})), EContext::Continue);
 }
 
 TEST_F(SuspendedMeanwhile, StornoWasRefused_Cancels)
