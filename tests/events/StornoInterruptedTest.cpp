@@ -75,6 +75,23 @@ TEST_F(InterruptedStorno, Suspension_SavesNothingMore)
     EXPECT_EQ(host.journal, (QStringList{"switch on", "loyalty"}));
 }
 
+TEST_F(InterruptedStorno, SuspensionByTheLastWhoHasTheReceipt_KeepsItToTheEnd)
+{
+    const QWeakPointer<AbstractDocument> receipt = host.receipt();
+    const LoyaltyOfReceipts loyalty;
+
+    storno([this] {
+        host.newReceipt();
+        plugin.disablePlugin();
+        host.journal.clear();
+    });
+
+    EXPECT_EQ(host.journal, QStringList{"switch on"});
+    ASSERT_EQ(loyalty.told.size(), 1);
+    EXPECT_NE(loyalty.told[0], nullptr);
+    EXPECT_EQ(loyalty.told[0], receipt.toStrongRef());
+}
+
 TEST_F(InterruptedStorno, AddedOrder_CountsAsSuspension)
 {
     storno([this] {

@@ -193,6 +193,16 @@ TEST_F(TaraChange, FilledTaraThatNoGoodsName_AsksForNothing)
     EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 2.0}));
 }
 
+TEST_F(TaraChange, FilledTaraWithoutAnyGoods_AsksForNothing)
+{
+    standsTara(2, "A", 1.5, 0.0);
+
+    host.changeQuantity(2, 2);
+
+    EXPECT_EQ(host.journal, save());
+    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
+}
+
 TEST_F(TaraChange, RefusedGoods_LeaveTheNewCapacityStanding)
 {
     standsTara(2, "A", 1.5, 0.0);

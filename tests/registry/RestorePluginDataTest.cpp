@@ -201,6 +201,46 @@ TEST_F(Restore, LogsNothingAndOnlyReads)
     EXPECT_EQ(host.journal, (QStringList{"load taraInfo", "load packagingInfo"}));
 }
 
+//! A receipt that notes how many records a plugin has whenever it is asked for some.
+class CountingReceipt : public Document
+{
+public:
+    explicit CountingReceipt(const TestPlugin &plugin)
+        : m_plugin(plugin)
+    {
+    }
+
+    QVariant getPluginData(const QString &pluginId, const QString &key,
+                           const QVariant &defaultValue) const override
+    {
+        counts << QString("%1: %2 taras, %3 goods")
+                      .arg(key)
+                      .arg(m_plugin.taraList.size())
+                      .arg(m_plugin.packagingList.size());
+        return Document::getPluginData(pluginId, key, defaultValue);
+    }
+
+    mutable QStringList counts;
+
+private:
+    const TestPlugin &m_plugin;
+};
+
+TEST_F(Restore, TarasStandInTheirListBeforeTheGoodsAreRead)
+{
+    const auto receipt = QSharedPointer<CountingReceipt>::create(plugin);
+    receipt->setPluginData("PackagingControl", "taraInfo", QVariantList{QVariantMap(), 1});
+    receipt->setPluginData("PackagingControl", "packagingInfo", QVariantList{QVariantMap()});
+    plugin.putTara(2, "{a}", 1.0, 1.0);
+    plugin.putGoods(3);
+
+    plugin.setDocument(receipt);
+
+    EXPECT_EQ(receipt->counts,
+              (QStringList{"taraInfo: 0 taras, 0 goods", "packagingInfo: 2 taras, 0 goods"}));
+    EXPECT_EQ(plugin.packagingList.size(), 1);
+}
+
 TEST_F(Restore, WithoutADocument_ForgetsAndReadsNothing)
 {
     plugin.putTara(2, "{a}", 1.0, 1.0);

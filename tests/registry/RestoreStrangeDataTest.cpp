@@ -191,6 +191,8 @@ INSTANTIATE_TEST_SUITE_P(
                     NumberRow{"text", "no number", 0, 0.0}, NumberRow{"empty text", "", 0, 0.0},
                     NumberRow{"invalid", QVariant(), 0, 0.0}, NumberRow{"below 0", -3, -3, -3.0},
                     NumberRow{"long long", qlonglong(8), 8, 8.0}, NumberRow{"double", 2.0, 2, 2.0},
+                    NumberRow{"rounded double", 2.7, 3, 2.7},
+                    NumberRow{"text with a fraction", "2.5", 0, 2.5},
                     NumberRow{"bool", true, 1, 1.0}, NumberRow{"list", QVariantList{1}, 0, 0.0},
                     NumberRow{"map", QVariantMap{{"posnum", 5}}, 0, 0.0},
                     NumberRow{"text list", QStringList{"1", "2"}, 0, 0.0},
@@ -291,6 +293,20 @@ TEST_F(RestoreStrangeData, DeepMaps_AreReadOneLevelDown)
 
     EXPECT_THAT(plugin.packagingList,
                 testing::ElementsAre(testing::Pointee(PackagingInfo{0, {{"usedTara", 0.0}}})));
+}
+
+TEST_F(RestoreStrangeData, FilledMapsUnderOtherKeys_AreNoUse)
+{
+    const QVariantMap used{{"{a}", 1.0}};
+    const QVariantMap other{{"{b}", 2.0}};
+    restoreFrom("packagingInfo", QVariantList{QVariantMap{{"posnum", 5},
+                                                          {"usedTar", other},
+                                                          {"usedTara", used},
+                                                          {"usedTara2", other},
+                                                          {"zzz", other}}});
+
+    EXPECT_THAT(plugin.packagingList,
+                testing::ElementsAre(testing::Pointee(PackagingInfo{5, {{"{a}", 1.0}}})));
 }
 
 TEST_F(RestoreStrangeData, HugeLists_ComeBackWhole)

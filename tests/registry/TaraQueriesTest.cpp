@@ -42,6 +42,25 @@ TEST_F(TaraShared, ThreeGoodsPositions_True)
     EXPECT_TRUE(isShared());
 }
 
+TEST_F(TaraShared, GoodsInNoTaraBeforeTwoUsers_True)
+{
+    plugin.putTara(7, "{b}", 10.0, 5.0);
+    plugin.putGoods(3, {{"{b}", 3.0}});
+    plugin.putGoods(4);
+    plugin.putGoods(5, {{"{a}", 1.0}});
+    plugin.putGoods(6, {{"{a}", 1.0}});
+
+    EXPECT_TRUE(isShared());
+}
+
+TEST_F(TaraShared, UsersOfDescendingNumbers_True)
+{
+    plugin.putGoods(6, {{"{a}", 1.0}});
+    plugin.putGoods(5, {{"{a}", 1.0}});
+
+    EXPECT_TRUE(isShared());
+}
+
 TEST_F(TaraShared, TwoRecordsOfOneNumber_False)
 {
     plugin.putGoods(3, {{"{a}", 3.0}});
