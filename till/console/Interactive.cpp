@@ -66,6 +66,14 @@ QString describe(const Outcome &outcome)
     return outcome.kind == Outcome::Refused ? QStringLiteral("refused") : outcome.text;
 }
 
+//! Prints the receipt unless it looks as it was \a shown last.
+void showChanged(const QString &receipt, QString &shown)
+{
+    if (receipt != shown)
+        std::fputs(receipt.toUtf8().constData(), stdout);
+    shown = receipt;
+}
+
 } // namespace
 
 bool isTerminal()
@@ -101,7 +109,7 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         std::puts("The till. 'help' lists the commands, 'quit' leaves.");
     }
     bool allDone = true;
-    QString shown = commands.renderReceipt();
+    QString shown = terminal ? commands.renderReceipt() : QString();
     while (!commands.hasQuit()) {
         const std::optional<QString> line = terminal ? readTyped("till> ") : readPiped();
         if (!line)
@@ -112,10 +120,8 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         if (const QString text = describe(outcome); !text.isEmpty())
             show(text);
         allDone = allDone && (terminal || outcome);
-        const QString receipt = commands.renderReceipt();
-        if (terminal && receipt != shown)
-            std::fputs(receipt.toUtf8().constData(), stdout);
-        shown = receipt;
+        if (terminal && commands.hasTouchedReceipt())
+            showChanged(commands.renderReceipt(), shown);
     }
     return allDone;
 }

@@ -110,6 +110,7 @@ CommandLine::~CommandLine()
 
 Outcome CommandLine::run(const QString &line)
 {
+    m_hasTouchedReceipt = false;
     const std::optional<QStringList> words = splitWords(line);
     if (!words)
         return Outcome::mistake("a quote is not closed");
@@ -166,7 +167,10 @@ bool CommandLine::answer(const tr::Tr &question, const tr::Tr &confirm, const tr
 
 void CommandLine::hear(const QJsonObject &note)
 {
-    if (note.value("kind").toString() == QLatin1String("log"))
+    static const QStringList touching{"action", "takeup"};
+    const QString kind = note.value("kind").toString();
+    m_hasTouchedReceipt = m_hasTouchedReceipt || touching.contains(kind);
+    if (kind == QLatin1String("log"))
         m_heard.log.append(note.value("text").toString());
 }
 

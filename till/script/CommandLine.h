@@ -47,6 +47,9 @@ public:
     //! Whether the last command was "quit".
     bool hasQuit() const { return m_hasQuit; }
 
+    //! Whether the last line did anything that may have changed the receipt, or which one it is.
+    bool hasTouchedReceipt() const { return m_hasTouchedReceipt; }
+
     //! The receipt as a person sees it; empty when none was opened.
     QString renderReceipt() const;
 
@@ -94,6 +97,7 @@ private:
     Heard m_heard; //!< since the last command that is no "expect", "answer" or "show"
     QList<bool> m_answers;
     QStringList m_unanswered;
+    bool m_hasTouchedReceipt = false;
     bool m_hasQuit = false;
 };
 
