@@ -67,7 +67,7 @@ public:
         m_plugin = std::get<till::LoadedPlugin>(loaded);
         m_register.emplace(
             till::Register::Parts{catalogue(), *m_storage, &*m_plugin, m_settings, m_notes});
-        error = m_register->resume();
+        error = m_register->start();
         if (!error.isEmpty())
             giveUp(error);
     }

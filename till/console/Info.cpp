@@ -77,12 +77,13 @@ QString describePlugin(const Setup &setup, QString &text)
     Singleton<Config>::instance = &settings;
     Singleton<ActivityNotifier>::instance = &notifier;
     const LoadedPlugin &plugin = std::get<LoadedPlugin>(loaded);
-    plugin.plugin->init();
-    text = "plugin:   " + setup.plugin + '\n' + describe(plugin, notifier.codes());
+    const std::optional<PluginError> fault = plugin.initialise();
+    if (!fault)
+        text = "plugin:   " + setup.plugin + '\n' + describe(plugin, notifier.codes());
     loader.unload();
     Singleton<Config>::instance = nullptr;
     Singleton<ActivityNotifier>::instance = nullptr;
-    return {};
+    return fault ? fault->text() : QString();
 }
 
 } // namespace till

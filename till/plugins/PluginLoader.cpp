@@ -79,7 +79,7 @@ PluginLoader::MetadataResult readRecord(const QPluginLoader &library, const QStr
         return PluginError{PluginError::NoMetadata, path,
                            QStringLiteral("the metadata of a Qt plugin"),
                            QStringLiteral("none (%1)").arg(library.errorString())};
-    const PluginMetadata metadata{record.value(QLatin1String("IID")).toString(),
+    const PluginMetadata metadata{path, record.value(QLatin1String("IID")).toString(),
                                   record.value(QLatin1String("className")).toString(), record};
     if (metadata.interfaceId == interfaceId())
         return metadata;
@@ -148,6 +148,15 @@ QString PluginError::text() const
 {
     return QStringLiteral("Cannot load the plugin %1: expected %2, found %3")
         .arg(path, expected, found);
+}
+
+std::optional<PluginError> LoadedPlugin::initialise() const
+{
+    if (plugin->init())
+        return std::nullopt;
+    return PluginError{PluginError::NotReady, metadata.path,
+                       QStringLiteral("a plugin that init() makes ready"),
+                       QStringLiteral("one whose init() answers false")};
 }
 
 PluginLoader::PluginLoader() = default;

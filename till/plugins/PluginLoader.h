@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 
 #include <memory>
+#include <optional>
 #include <variant>
 
 class BaseActivityListener;
@@ -21,19 +22,10 @@ namespace till {
 //! What a plugin file says of itself, without its code being loaded.
 struct PluginMetadata
 {
+    QString path;        //!< of the file, absolute
     QString interfaceId; //!< always "PackagingControl" for a file that the loader accepts
     QString className;   //!< class of the object that the plugin creates
     QJsonObject record;  //!< the whole record, as Qt reads it
-};
-
-//! A plugin's object, by each part of it that a host talks to. All belong to the plugin.
-struct LoadedPlugin
-{
-    PluginMetadata metadata;
-    QObject *object = nullptr;
-    BasicPlugin *plugin = nullptr;            //!< life cycle and triggers
-    BaseActivityListener *listener = nullptr; //!< receives events
-    DocumentWatcher *watcher = nullptr;       //!< is told of the document in hand
 };
 
 //! Why a plugin file was not taken.
@@ -47,6 +39,7 @@ struct PluginError
         WrongInterface, //!< a Qt plugin for something else
         NotLoadable,    //!< the system cannot load it: an unresolved symbol, a newer Qt
         WrongObject,    //!< its object lacks a part that every plugin has
+        NotReady,       //!< its `init()` answered false
     };
 
     Fault fault;
@@ -56,6 +49,19 @@ struct PluginError
 
     //! One line for a person: path, expected and found.
     QString text() const;
+};
+
+//! A plugin's object, by each part of it that a host talks to. All belong to the plugin.
+struct LoadedPlugin
+{
+    PluginMetadata metadata;
+    QObject *object = nullptr;
+    BasicPlugin *plugin = nullptr;            //!< life cycle and triggers
+    BaseActivityListener *listener = nullptr; //!< receives events
+    DocumentWatcher *watcher = nullptr;       //!< is told of the document in hand
+
+    //! Initialises the plugin; the error when it answers that it is not ready. To be called once.
+    std::optional<PluginError> initialise() const;
 };
 
 /*!

@@ -59,13 +59,14 @@ void CashDesk::setFront(Register::Asker asker, Register::Shower shower)
 
 QString CashDesk::readSettings()
 {
+    m_settings.emplace();
     if (!m_setup.settingsFile.isEmpty()) {
-        if (const QString error = readSettingsFile(m_setup.settingsFile, m_settings);
+        if (const QString error = readSettingsFile(m_setup.settingsFile, *m_settings);
             !error.isEmpty())
             return error;
     }
     for (auto entry = m_setup.settings.cbegin(); entry != m_setup.settings.cend(); ++entry)
-        m_settings.set(entry.key(), entry.value());
+        m_settings->set(entry.key(), entry.value());
     return {};
 }
 
@@ -100,10 +101,10 @@ QString CashDesk::startRegister()
 {
     m_notes.add("start", {{"database", m_setup.database}, {"plugin", m_setup.plugin}});
     m_register = std::make_unique<Register>(Register::Parts{
-        *m_catalogue, *m_storage, m_plugin ? &*m_plugin : nullptr, m_settings, m_notes});
+        *m_catalogue, *m_storage, m_plugin ? &*m_plugin : nullptr, *m_settings, m_notes});
     m_register->setAsker(m_asker);
     m_register->setShower(m_shower);
-    return m_register->resume();
+    return m_register->start();
 }
 
 } // namespace till

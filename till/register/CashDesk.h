@@ -71,7 +71,7 @@ private:
     Notes &m_notes;
     Register::Asker m_asker;
     Register::Shower m_shower;
-    Config m_settings;
+    std::optional<Config> m_settings; //!< made anew at each start
     std::optional<Catalogue> m_catalogue;
     std::unique_ptr<Storage> m_storage;
     PluginLoader m_loader;

@@ -156,6 +156,7 @@ Outcome Register::pay(std::optional<Kopecks> tendered)
         return Outcome::mistake("no receipt is open");
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
+    m_journal.begin();
     EContext::Result result = EContext::Continue;
     if (m_receipt->state() != ReceiptState::Subtotal)
         result = run(control::Action(control::Payment, {}));
@@ -164,18 +165,22 @@ Outcome Register::pay(std::optional<Kopecks> tendered)
     if (result == EContext::Continue && isEnough)
         result =
             run(control::Action(control::CloseReceipt, {{"tendered", tendered.value_or(due)}}));
+    const bool isShort = result == EContext::Continue && !isEnough;
+    if (isShort)
+        show(messages::tillNotEnoughMoney());
     // Both actions are one command: they are stored together, so that no end comes between them.
     const Outcome outcome = keep(result);
-    return outcome && !isEnough ? refuse(messages::tillNotEnoughMoney()) : outcome;
+    return outcome && isShort ? Outcome::refused(messages::tillNotEnoughMoney().key()) : outcome;
 }
 
 Outcome Register::cancel()
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
+    m_journal.begin();
     if (!ask(messages::tillCancelReceipt(), messages::tillYes(), messages::tillNo()))
-        return Outcome::refused({});
-    return perform(control::Action(control::CancelReceipt, {}));
+        return keep(EContext::Cancel);
+    return keep(run(control::Action(control::CancelReceipt, {})));
 }
 
 Outcome Register::checkPosition(int posnum) const

@@ -6,7 +6,7 @@
 
 namespace till {
 
-//! Collects what is kept of the notes, until it is taken to be stored.
+//! Collects what is kept of the notes of one command, until it is taken to be stored.
 class Journal
 {
 public:
@@ -15,7 +15,9 @@ public:
     ~Journal();
     Q_DISABLE_COPY_MOVE(Journal)
 
-    //! What was collected since it was last taken.
+    //! A command begins. What was noted before it belongs to none, and is forgotten.
+    void begin() { m_entries.clear(); }
+    //! What was collected since the command began.
     QList<JournalEntry> take() { return std::exchange(m_entries, {}); }
 
 private:

@@ -17,18 +17,21 @@ Register::Register(const Parts &parts)
     , m_journal(parts.notes)
 {
     m_runner.setArticles([this](const QString &code) { return m_catalogue.find(code); });
-    if (m_plugin)
-        m_plugin->plugin->init();
 }
 
 Register::~Register()
 {
-    if (m_plugin)
+    if (m_isPluginReady)
         m_plugin->plugin->deinit();
 }
 
-QString Register::resume()
+QString Register::start()
 {
+    if (m_plugin) {
+        if (const auto error = m_plugin->initialise())
+            return error->text();
+        m_isPluginReady = true;
+    }
     QString error;
     const std::optional<ReceiptRecord> record = m_storage.unfinishedReceipt(&error);
     if (error.isEmpty() && record)
@@ -80,8 +83,10 @@ bool Register::isInHand() const
 
 Outcome Register::refuse(const tr::Tr &message)
 {
+    m_journal.begin();
     show(message);
-    return Outcome::refused(message.key());
+    const Outcome kept = keep(EContext::Cancel);
+    return kept.kind == Outcome::Refused ? Outcome::refused(message.key()) : kept;
 }
 
 EContext::Result Register::run(const control::Action &action)
@@ -91,6 +96,7 @@ EContext::Result Register::run(const control::Action &action)
 
 Outcome Register::perform(const control::Action &action)
 {
+    m_journal.begin();
     return keep(run(action));
 }
 

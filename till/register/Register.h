@@ -38,7 +38,7 @@ public:
     //! Shows a message to the cashier.
     using Shower = std::function<void(const tr::Tr &message)>;
 
-    //! Puts the host's services in place and initialises the plugin.
+    //! Puts the host's services in place.
     explicit Register(const Parts &parts);
     ~Register();
     Q_DISABLE_COPY_MOVE(Register)
@@ -46,9 +46,11 @@ public:
     void setAsker(Asker asker) { m_asker = std::move(asker); }
     void setShower(Shower shower) { m_shower = std::move(shower); }
 
-    //! Takes up the receipt that was in hand when the register ended, if any. Empty text or an
-    //! error.
-    QString resume();
+    /*!
+     * Initialises the plugin and takes up the receipt that was in hand when the register ended, if
+     * any. To be called once, before all else. Empty text or an error, with its place.
+     */
+    QString start();
 
     // Commands. Counts are pieces, as the cashier counts; numbers are position numbers.
 
@@ -85,6 +87,7 @@ private:
     //! Stores what a command did to the receipt; \a result is how its last action ended.
     Outcome keep(EContext::Result result);
     Outcome checkPosition(int posnum) const;
+    //! A command that ends before its first action: the cashier is shown why.
     Outcome refuse(const tr::Tr &message);
     QString store();
     QString reload(qint64 id);
@@ -101,7 +104,8 @@ private:
     Asker m_asker;
     Shower m_shower;
     QSharedPointer<Receipt> m_receipt;
-    Journal m_journal; //!< what is not stored yet
+    Journal m_journal; //!< of the command that is under way
+    bool m_isPluginReady = false;
 };
 
 } // namespace till

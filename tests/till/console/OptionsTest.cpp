@@ -96,6 +96,14 @@ TEST_F(Options, NoPlugin_WorksWithoutTara)
     EXPECT_THAT(out, HasSubstr("без контроля тары"));
 }
 
+TEST_F(Options, InfoOnAPluginThatIsNotReady_SaysSo)
+{
+    const RunResult info = run({"info", "--plugin", NOT_READY_PLUGIN});
+    EXPECT_EQ(info.status, 3);
+    EXPECT_EQ(info.out, "");
+    EXPECT_THAT(info.err, HasSubstr("init() answers false"));
+}
+
 TEST_F(Options, Settings_ComeFromAFileAndTheCommandLine)
 {
     const QString ini = write("s.ini", "[PackagingControl]\nallowSaleEmptyTara=false\n");

@@ -55,6 +55,11 @@ TEST_F(Start, BadRow_IsNamedWithLineAndColumn)
     fails({"--catalogue", catalogue}, catalogue + ":3: column 3", "\"dear\"");
 }
 
+TEST_F(Start, PluginThatIsNotReady_IsNamed)
+{
+    fails({"--plugin", NOT_READY_PLUGIN}, NOT_READY_PLUGIN, "init() answers false");
+}
+
 TEST_F(Start, MissingSettings_AreNamed)
 {
     fails({"--config", "/nowhere/s.ini"}, "/nowhere/s.ini", "");

@@ -1,5 +1,7 @@
 #include "tests/till/support/TillFixture.h"
 
+#include <QtCore/QFile>
+
 // Every command on its good path.
 
 namespace till {
@@ -199,6 +201,22 @@ TEST_F(Command, Say_PrintsItsWords)
 {
     done({"say two  words"});
     EXPECT_EQ(takePrinted(), QString("\ntwo words"));
+}
+
+TEST_F(Command, Restart_ForgetsASettingThatLeftTheFile)
+{
+    QFile file(directory.filePath("s.ini"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[PackagingControl]\nallowSaleEmptyTara=false\n");
+    file.close();
+    till::Setup strict = setup();
+    strict.settingsFile = file.fileName();
+    start(strict);
+    done({"open", "add PET1", "answer no"});
+    refused("subtotal");
+
+    ASSERT_TRUE(file.resize(0));
+    done({"restart", "subtotal"});
 }
 
 TEST_F(Command, Help_ListsEachCommandOrExplainsOne)
