@@ -105,9 +105,12 @@ void TraceReader::read(const QJsonObject &note)
         return readTakenUp(note, kind);
     if (kind == "command") {
         m_command = note["text"].toString();
+        m_unstored.clear(); // what was told before it belongs to no command
         m_stage = Stage::Acting;
     } else if (kind == "outcome") {
         acceptUnderWay();
+    } else if (m_actions.isEmpty() && (kind == "message" || kind == "answer")) {
+        m_stage = Stage::Storing; // unless an action follows
     } else if (kind == "action") {
         readAction(note);
     } else if (kind == "result") {

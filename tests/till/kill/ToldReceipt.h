@@ -87,7 +87,7 @@ private:
     ToldReceipt m_underWay;
     ToldReceipt m_takenUp;
     QList<ToldReceipt> m_finished;
-    QByteArrayList m_unstored; //!< journal notes since the last save
+    QByteArrayList m_unstored; //!< journal notes of the command under way, until a save
     QList<QJsonObject> m_actions;
     QString m_command;
     Stage m_stage = Stage::Idle;
