@@ -28,7 +28,7 @@ TEST(Layout, Values_HaveTheirSizes)
     EXPECT_EQ(sizeof(ActionTrigger), 56U);
     EXPECT_EQ(sizeof(Quantity), 16U);
     EXPECT_EQ(sizeof(tr::Tr), 48U);
-    EXPECT_EQ(sizeof(Finally), 40U);
+    EXPECT_EQ(sizeof(Finally), 32U);
 }
 
 // The slot and the factory make them where they are used.
