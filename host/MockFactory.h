@@ -10,14 +10,11 @@
 template <class T>
 struct MockFactory
 {
-    //! The installed substitute, or null.
+    //! The installed substitute, or null. For each type the host library has one.
     static QSharedPointer<T> mocked;
 
     //! The substitute when there is one, else a new `T`. Never null.
     static QSharedPointer<T> create() { return mocked ? mocked : QSharedPointer<T>(new T); }
 };
-
-template <class T>
-QSharedPointer<T> MockFactory<T>::mocked{};
 
 #endif // HOST_MOCKFACTORY_H

@@ -41,15 +41,13 @@ private:
 
 /*!
  * A process-wide service of the host: `Singleton<Config>::instance()` is the object, and
- * `Singleton<Config>::instance = &mine` puts another in its place.
+ * `Singleton<Config>::instance = &mine` puts another in its place. The slot of each service is in
+ * the host library; a type without one does not link.
  */
 template <class T>
 struct Singleton
 {
     static SingletonSlot<T> instance;
 };
-
-template <class T>
-SingletonSlot<T> Singleton<T>::instance{};
 
 #endif // HOST_SINGLETON_H

@@ -12,6 +12,13 @@ struct Maker
     virtual bool isSubstitute() const { return false; }
 };
 
+} // namespace
+
+template <>
+QSharedPointer<Maker> MockFactory<Maker>::mocked{};
+
+namespace {
+
 template <class T>
 class Factory : public testing::Test
 {

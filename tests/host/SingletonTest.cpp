@@ -19,6 +19,13 @@ struct UserDefined
     int number = 5;
 };
 
+} // namespace
+
+template <>
+SingletonSlot<UserDefined> Singleton<UserDefined>::instance{};
+
+namespace {
+
 //! Starts with an empty slot, and leaves it so; what the slot made is deleted.
 template <class T>
 class Slot : public testing::Test
