@@ -27,6 +27,13 @@ foreach(header ${headers})
     endif()
 endforeach()
 
+# The stand-in for Log4Qt is the host package's, and never taken for Log4Qt.
+file(GLOB taken
+    ${MOVED}/${LIB_DIR}/cmake/*[Ll]og4[Qq]t* ${MOVED}/${LIB_DIR}/liblog4qt*)
+if(taken)
+    message(SEND_ERROR "taken for Log4Qt: ${taken}")
+endif()
+
 # Libraries are found from where the file lies.
 file(GLOB binaries ${MOVED}/${LIB_DIR}/*.so ${MOVED}/${PLUGIN} ${MOVED}/${BIN_DIR}/*)
 foreach(binary ${binaries})
