@@ -10,12 +10,14 @@ SingletonSlot<Config> Singleton<Config>::instance{};
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 std::optional<bool> parseBool(const QVariant &value)
 {
     const QString text = value.toString().trimmed().toLower();
-    if (QStringList{"true", "yes", "on", "1"}.contains(text))
+    if (QStringList{u"true"_s, u"yes"_s, u"on"_s, u"1"_s}.contains(text))
         return true;
-    if (QStringList{"false", "no", "off", "0"}.contains(text))
+    if (QStringList{u"false"_s, u"no"_s, u"off"_s, u"0"_s}.contains(text))
         return false;
     return std::nullopt;
 }
