@@ -21,9 +21,8 @@ findings=$build/findings
 targets=("receipt 200000 256" "catalogue 50000 256" "till 8000 160")
 
 mkdir -p "$log" "$findings"
-CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DPACKAGINGCONTROL_FUZZ=ON \
-    -DCMAKE_UNITY_BUILD=ON \
-    -DCMAKE_CXX_FLAGS="-fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer -O1" \
+CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DPACKAGINGCONTROL_FUZZ=ON -DPACKAGINGCONTROL_SANITIZE=ON -DCMAKE_UNITY_BUILD=ON \
     >"$log/build.log"
 cmake --build "$build" --target fuzz_receipt fuzz_catalogue fuzz_till >>"$log/build.log" \
     || { cat "$log/build.log" >&2; exit 1; }

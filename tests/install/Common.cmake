@@ -19,6 +19,7 @@ endfunction()
 function(build source binary)
     run(${CMAKE_COMMAND} -S ${source} -B ${binary} -G ${GENERATOR}
         -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS}
+        -DPACKAGINGCONTROL_SANITIZE=${SANITIZE}
         -DCMAKE_BUILD_TYPE=${BUILD_TYPE} -DCMAKE_PREFIX_PATH=${MOVED} -DQt6_DIR=${QT_DIR}
         -DCMAKE_EXPORT_COMPILE_COMMANDS=ON ${ARGN})
     run(${CMAKE_COMMAND} --build ${binary})
