@@ -30,6 +30,15 @@ if(PACKAGINGCONTROL_SANITIZE)
 else()
     # Clang leaves the sanitizers' own symbols to the program, so that libraries cannot be complete.
     add_link_options(-Wl,--no-undefined)
+
+    # What is delivered is hardened as Debian hardens its packages.
+    set(delivered $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+    add_compile_options("$<${delivered}:-fstack-protector-strong;-Wformat;-Wformat-security>")
+    if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
+        add_compile_options("$<${delivered}:-fstack-clash-protection;-fcf-protection>")
+    endif()
+    add_compile_options("$<${delivered}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>")
+    add_link_options("$<${delivered}:-Wl,-z,relro,-z,now>")
 endif()
 if(PACKAGINGCONTROL_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link)
