@@ -83,13 +83,19 @@ void PrintTo(const ToldReceipt &receipt, std::ostream *out)
 
 void TraceReader::restart()
 {
-    m_underWay = m_acknowledged;
+    forgetUnderWay();
     m_takenUp = {};
     m_unstored.clear(); // what was only in the killed till's memory went with it
-    m_actions.clear();
     m_command.clear();
+}
+
+void TraceReader::forgetUnderWay()
+{
+    m_underWay = m_acknowledged;
+    m_actions.clear();
     m_stage = Stage::Idle;
     m_opens = false;
+    m_takesUp = false;
 }
 
 void TraceReader::read(const QJsonObject &note)
@@ -101,14 +107,28 @@ void TraceReader::read(const QJsonObject &note)
         entry.remove("line");
         m_unstored.append(QJsonDocument(entry).toJson(QJsonDocument::Compact));
     }
-    if (note["depth"].toInt() == 0 && kind != "command" && kind != "outcome")
-        return readTakenUp(note, kind);
+    if (kind == "takeup")
+        readTakeup(note);
+    else if (kind == "outcome")
+        note["outcome"] == "failed" ? forgetUnderWay() : acceptUnderWay();
+    else if (m_takesUp || (note["depth"].toInt() == 0 && kind != "command"))
+        readTakenUp(note, kind);
+    else
+        readCommand(note, kind);
+}
+
+void TraceReader::readTakeup(const QJsonObject &note)
+{
+    m_takenUp = {};
+    m_takesUp = note["id"].toInteger() != 0;
+}
+
+void TraceReader::readCommand(const QJsonObject &note, const QString &kind)
+{
     if (kind == "command") {
         m_command = note["text"].toString();
         m_unstored.clear(); // what was told before it belongs to no command
         m_stage = Stage::Acting;
-    } else if (kind == "outcome") {
-        acceptUnderWay();
     } else if (m_actions.isEmpty() && (kind == "message" || kind == "answer")) {
         m_stage = Stage::Storing; // unless an action follows
     } else if (kind == "action") {
@@ -138,6 +158,7 @@ void TraceReader::readTakenUp(const QJsonObject &note, const QString &kind)
         record.state = static_cast<ReceiptState>(note["state"].toInt());
         record.order = note["order"].toString();
         record.softChecks = toTexts(note["softChecks"].toArray());
+        m_takesUp = false;
     }
 }
 
@@ -213,6 +234,20 @@ ToldReceipt TraceReader::underWay() const
 void TraceReader::keepJournal()
 {
     m_underWay.journal += std::exchange(m_unstored, {});
+}
+
+TraceReader::Found TraceReader::foundIn(const Storage &storage) const
+{
+    const ToldReceipt whole = underWay();
+    const ToldReceipt found = ToldReceipt::stored(storage, whole.record.id);
+    const bool isNew = whole.record.id != m_acknowledged.record.id;
+    if (isNew && m_acknowledged.record.id != 0
+        && ToldReceipt::stored(storage, m_acknowledged.record.id) != m_acknowledged)
+        return Found::Half;
+    if (m_stage >= Stage::Storing && found == whole)
+        return Found::Whole;
+    const bool isUntouched = isNew ? found.record.id == 0 : found == m_acknowledged;
+    return isUntouched && m_stage != Stage::Stored ? Found::Nothing : Found::Half;
 }
 
 void TraceReader::acceptUnderWay()

@@ -72,16 +72,27 @@ public:
     //! The receipt as the started till told that it took it up; number 0 when it took up none.
     const ToldReceipt &takenUp() const { return m_takenUp; }
 
+    //! What a database has of the command under way, which was interrupted.
+    enum class Found {
+        Nothing, //!< what was acknowledged before, and no more
+        Whole,
+        Half, //!< or something else that should not be
+    };
+    Found foundIn(const Storage &storage) const;
+
     //! The command under way turned out to be stored.
     void acceptUnderWay();
 
 private:
+    void readTakeup(const QJsonObject &note);
     void readTakenUp(const QJsonObject &note, const QString &kind);
+    void readCommand(const QJsonObject &note, const QString &kind);
     void readAction(const QJsonObject &note);
     void readResult(const QJsonObject &note);
     void readReceipt(const QJsonObject &note);
     void keepJournal();
     bool isEndOfCommand(const QJsonObject &result) const;
+    void forgetUnderWay();
 
     ToldReceipt m_acknowledged;
     ToldReceipt m_underWay;
@@ -91,7 +102,8 @@ private:
     QList<QJsonObject> m_actions;
     QString m_command;
     Stage m_stage = Stage::Idle;
-    bool m_opens = false; //!< the command under way opens a receipt
+    bool m_opens = false;   //!< the command under way opens a receipt
+    bool m_takesUp = false; //!< it is told what a receipt is that was stored before
 };
 
 } // namespace till
