@@ -3,7 +3,6 @@
 
 #include "host/Event.h"
 #include "host/Quantity.h"
-#include "host/Tr.h"
 
 #include <gtest/gtest.h>
 
@@ -16,48 +15,6 @@
 
 namespace {
 
-struct Name
-{
-    const char *name;
-    QMetaType type;
-    // Looked up before any test runs, since mere use of a type may register it.
-    QMetaType foundAtStart = QMetaType::fromName(name);
-};
-
-void PrintTo(const Name &name, std::ostream *out)
-{
-    *out << name.name;
-}
-
-class MetaTypeName : public testing::TestWithParam<Name>
-{
-};
-
-TEST_P(MetaTypeName, IsKnownWithoutAPlugin)
-{
-    EXPECT_EQ(GetParam().foundAtStart, GetParam().type);
-}
-
-TEST_P(MetaTypeName, ValuesAreMadeAndCopied)
-{
-    const QMetaType type = QMetaType::fromName(GetParam().name);
-    const QVariant made(type);
-    const QVariant copy = made;
-
-    ASSERT_TRUE(made.isValid());
-    EXPECT_EQ(copy.metaType(), type);
-    EXPECT_EQ(copy, made);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Each, MetaTypeName,
-    testing::Values(Name{"Event", QMetaType::fromType<Event>()},
-                    Name{"GoodsItemPtr", QMetaType::fromType<QSharedPointer<GoodsItem>>()},
-                    Name{"GoodsItemPtrList",
-                         QMetaType::fromType<QList<QSharedPointer<GoodsItem>>>()},
-                    Name{"Quantity", QMetaType::fromType<Quantity>()},
-                    Name{"tr::Tr", QMetaType::fromType<tr::Tr>()}));
-
 TEST(EventMetaType, Name_IsTheTypesOwn)
 {
     EXPECT_STREQ(QMetaType::fromType<Event>().name(), "Event");
@@ -65,7 +22,7 @@ TEST(EventMetaType, Name_IsTheTypesOwn)
 
 TEST(EventMetaType, Equality_IsTheEvents)
 {
-    const QMetaType type = QMetaType::fromName("Event");
+    const QMetaType type = QMetaType::fromType<Event>();
     const Event one = Event(EActivityListener::eventError).addArgument("a", 1);
     const Event same = Event(EActivityListener::eventError).addArgument("a", 1);
     const Event other = Event(EActivityListener::eventError).addArgument("a", 2);
@@ -88,7 +45,7 @@ TEST(EventMetaType, InAVariant_ComparesAndComesBack)
 class PositionMetaType : public testing::Test
 {
 protected:
-    const QMetaType type = QMetaType::fromName("GoodsItemPtr");
+    const QMetaType type = QMetaType::fromType<GoodsItemPtr>();
     const GoodsItemPtr one = position(1);
     const GoodsItemPtr same = one;
     const GoodsItemPtr other = position(1);
@@ -172,7 +129,7 @@ TEST_F(PositionListMetaType, ComesBackInItsOrder)
 
 TEST_F(PositionListMetaType, SequentialView_IsRegistered)
 {
-    const QMetaType type = QMetaType::fromName("GoodsItemPtrList");
+    const QMetaType type = QMetaType::fromType<GoodsItemPtrList>();
 
     EXPECT_TRUE(QMetaType::canView(type, QMetaType::fromType<QSequentialIterable>()));
     EXPECT_TRUE(QMetaType::canConvert(type, QMetaType::fromType<QSequentialIterable>()));
@@ -191,7 +148,7 @@ TEST_F(PositionListMetaType, SequentialView_KnowsItsElements)
 {
     const auto view = wrapped.value<QSequentialIterable>();
 
-    EXPECT_EQ(view.metaContainer().valueMetaType(), QMetaType::fromName("GoodsItemPtr"));
+    EXPECT_EQ(view.metaContainer().valueMetaType(), QMetaType::fromType<GoodsItemPtr>());
 }
 
 TEST_F(PositionListMetaType, MutableView_ChangesTheList)
@@ -228,7 +185,7 @@ TEST_F(PositionListMetaType, SomethingElse_IsAnEmptyList)
 class QuantityMetaType : public testing::Test
 {
 protected:
-    const QMetaType type = QMetaType::fromName("Quantity");
+    const QMetaType type = QMetaType::fromType<Quantity>();
     const Quantity quantity{1.5, quantModeRecalculated};
 };
 

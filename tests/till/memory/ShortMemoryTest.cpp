@@ -34,7 +34,7 @@ TEST_F(ShortTill, AnyAllocationFails_KeepsEveryAcknowledgedCommandWhole)
     bool isSet = false;
     const int wanted = qEnvironmentVariableIntValue("TILL_SHORTAGES", &isSet);
     const long allocations = countAllocations();
-    const long step = std::max(1L, 2 * allocations / (isSet ? wanted : 100));
+    const long step = std::max(1L, 2 * allocations / (isSet ? wanted : 60));
     int played = 0;
     for (long at = 1; at <= allocations && !HasFailure(); at += step) {
         for (const bool isOver : {true, false}) {
