@@ -82,7 +82,7 @@ public:
     //! The cashier changes the count of pieces of a position.
     void changeCount(int posnum, double count)
     {
-        if (!m_register->changeCount(posnum, count))
+        if (!m_register->carryOut(till::command::ChangeCount{posnum, count}))
             giveUp(QStringLiteral("the till refuses to change position %1").arg(posnum));
     }
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace till {
 
@@ -231,6 +232,17 @@ std::variant<Catalogue, QString> Catalogue::load(const QString &path)
     } catch (const CatalogueRefusal &refusal) {
         return path + refusal.text;
     }
+}
+
+QList<QSharedPointer<Article>> Catalogue::containing(const QString &text) const
+{
+    QList<QSharedPointer<Article>> found;
+    std::copy_if(m_articles.cbegin(), m_articles.cend(), std::back_inserter(found),
+                 [&text](const QSharedPointer<Article> &article) {
+                     return article->data.code.contains(text, Qt::CaseInsensitive)
+                            || article->data.name.contains(text, Qt::CaseInsensitive);
+                 });
+    return found;
 }
 
 void Catalogue::add(const QSharedPointer<Article> &article)

@@ -45,6 +45,9 @@ public:
     //! Every article, in the order of the file.
     QList<QSharedPointer<Article>> articles() const { return m_articles; }
 
+    //! Those whose code or name contains \a text in any letter case, in the order of the file.
+    QList<QSharedPointer<Article>> containing(const QString &text) const;
+
 private:
     void add(const QSharedPointer<Article> &article);
 

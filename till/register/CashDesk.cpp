@@ -2,6 +2,8 @@
 
 #include "till/register/SettingsFile.h"
 
+#include <QtCore/QScopedValueRollback>
+
 #include <utility>
 
 namespace till {
@@ -14,10 +16,41 @@ CashDesk::CashDesk(Setup setup, Notes &notes)
 
 CashDesk::~CashDesk()
 {
-    stop();
+    m_isSwitching = true;
+    switchOff();
+}
+
+QString CashDesk::whenIdle(const std::function<QString()> &step)
+{
+    if (isBusy())
+        return Outcome::busy().text;
+    const QScopedValueRollback<bool> switching(m_isSwitching, true);
+    return step();
 }
 
 QString CashDesk::start()
+{
+    return whenIdle([this] { return switchOn(); });
+}
+
+QString CashDesk::stop()
+{
+    return whenIdle([this] {
+        switchOff();
+        return QString();
+    });
+}
+
+QString CashDesk::set(const QString &key, const QString &value)
+{
+    return whenIdle([&] {
+        switchOff();
+        m_setup.settings.insert(key, value);
+        return switchOn();
+    });
+}
+
+QString CashDesk::switchOn()
 {
     using Step = QString (CashDesk::*)();
     constexpr Step steps[] = {&CashDesk::readSettings, &CashDesk::readCatalogue,
@@ -25,26 +58,19 @@ QString CashDesk::start()
                               &CashDesk::startRegister};
     for (const Step step : steps) {
         if (const QString error = (this->*step)(); !error.isEmpty()) {
-            stop();
+            switchOff();
             return error;
         }
     }
     return {};
 }
 
-void CashDesk::stop()
+void CashDesk::switchOff()
 {
     m_register.reset();
     if (std::exchange(m_plugin, std::nullopt))
         m_loader.unload();
     m_storage.reset();
-}
-
-QString CashDesk::set(const QString &key, const QString &value)
-{
-    stop();
-    m_setup.settings.insert(key, value);
-    return start();
 }
 
 void CashDesk::setFront(Register::Asker asker, Register::Shower shower)

@@ -9,6 +9,7 @@
 
 #include <QtCore/QMap>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -24,7 +25,12 @@ struct Setup
     QMap<QString, QString> settings; //!< further settings, over those of the file
 };
 
-//! A register with all its parts, switched on and off as a whole: the till that a front is given.
+/*!
+ * A register with all its parts, switched on and off as a whole: the till that a front is given.
+ *
+ * While it is busy, in a question say, it is not switched: start(), stop() and set() change nothing
+ * and return the text of `Outcome::busy()`.
+ */
 class CashDesk
 {
 public:
@@ -41,7 +47,7 @@ public:
     QString start();
 
     //! Switches the till off. The plugin is unloaded; the receipt in hand stays in the database.
-    void stop();
+    QString stop();
 
     /*!
      * Changes a setting, which plugins read when they start: the till is switched off and on. Empty
@@ -54,6 +60,9 @@ public:
     const Register &cashRegister() const { return *m_register; }
     bool isOn() const { return m_register != nullptr; }
 
+    //! Whether a command is under way, or the till is just being switched.
+    bool isBusy() const { return m_isSwitching || (m_register && m_register->isBusy()); }
+
     const Catalogue &catalogue() const { return *m_catalogue; }
     const Setup &setup() const { return m_setup; }
 
@@ -61,6 +70,10 @@ public:
     void setFront(Register::Asker asker, Register::Shower shower);
 
 private:
+    //! Does \a step unless the till is busy.
+    QString whenIdle(const std::function<QString()> &step);
+    QString switchOn();
+    void switchOff();
     QString readSettings();
     QString readCatalogue();
     QString openDatabase();
@@ -77,6 +90,7 @@ private:
     PluginLoader m_loader;
     std::optional<LoadedPlugin> m_plugin;
     std::unique_ptr<Register> m_register;
+    bool m_isSwitching = false;
 };
 
 } // namespace till

@@ -37,71 +37,76 @@ QString number(int posnum)
 
 } // namespace
 
-Outcome Register::open(int type)
+Outcome Register::execute(const command::Open &open)
 {
     if (isInHand())
         return Outcome::mistake("a receipt is open already: pay or cancel it first");
-    takeUp(QSharedPointer<Receipt>::create(type));
-    return perform(control::Action(control::OpenReceipt, {{"receiptType", type}}));
+    takeUp(QSharedPointer<Receipt>::create(open.type));
+    return perform(control::Action(control::OpenReceipt, {{"receiptType", open.type}}));
 }
 
-Outcome Register::add(const QString &code, double count)
+Outcome Register::execute(const command::Add &add)
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
-    const auto article = m_catalogue.find(code);
+    const auto article = m_catalogue.find(add.article);
     if (!article)
-        return Outcome::mistake("no article \"" + code + "\" in the catalogue");
-    if (count <= 0)
+        return Outcome::mistake("no article \"" + add.article + "\" in the catalogue");
+    if (add.count <= 0)
         return Outcome::mistake("the quantity must be above 0");
-    if (const QString fault = m_receipt->limitFault(article->data, count); !fault.isEmpty())
+    if (const QString fault = m_receipt->limitFault(article->data, add.count); !fault.isEmpty())
         return Outcome::mistake(fault);
-    return perform(control::Action(control::AddPosition,
-                                   {{argument::article, code}, {argument::count, count}}));
+    return perform(control::Action(
+        control::AddPosition, {{argument::article, add.article}, {argument::count, add.count}}));
 }
 
-Outcome Register::changeCount(int posnum, double count)
+Outcome Register::execute(const command::ChangeCount &change)
 {
-    if (const Outcome check = checkPosition(posnum); !check)
+    if (const Outcome check = checkPosition(change.posnum); !check)
         return check;
-    if (count < 0)
+    if (change.count < 0)
         return Outcome::mistake("the quantity must not be below 0");
-    const auto line = m_receipt->line(posnum);
-    const QString fault = m_receipt->limitFault(line->article(), count, line.get());
+    const auto line = m_receipt->line(change.posnum);
+    const QString fault = m_receipt->limitFault(line->article(), change.count, line.get());
     if (!fault.isEmpty())
         return Outcome::mistake(fault);
-    const double base = count * line->article().pack;
+    const double base = change.count * line->article().pack;
     m_services.modifiers().set(modifiers::Quantity,
                                QVariant::fromValue(Quantity(base, quantModeNone)));
-    return perform(onPosition(control::ApplyModifiers, posnum));
+    return perform(onPosition(control::ApplyModifiers, change.posnum));
 }
 
-Outcome Register::storno(int posnum)
+Outcome Register::execute(const command::Storno &storno)
 {
-    if (const Outcome check = checkPosition(posnum); !check)
+    if (const Outcome check = checkPosition(storno.posnum); !check)
         return check;
-    return perform(onPosition(control::StornoPosition, posnum));
+    return perform(onPosition(control::StornoPosition, storno.posnum));
 }
 
-Outcome Register::split(int posnum, const QList<double> &parts)
+Outcome Register::execute(const command::Split &split)
 {
-    if (const Outcome check = checkPosition(posnum); !check)
+    if (const Outcome check = checkPosition(split.posnum); !check)
         return check;
-    double left = m_receipt->line(posnum)->getCquant();
-    for (const double part : parts) {
-        if (part <= 0)
+    if (split.parts.isEmpty())
+        return Outcome::mistake("at least one part must be named");
+    double left = m_receipt->line(split.posnum)->getCquant();
+    for (const double part : split.parts) {
+        if (!(part > 0)) // "not a number" neither
             return Outcome::mistake("each part must be above 0");
         left -= part;
     }
     if (toText(left).startsWith(QLatin1Char('-')))
-        return Outcome::mistake("position " + number(posnum) + " holds less than the parts");
-    const control::Action action = onPosition(control::SplitPositions, posnum);
-    action.setArgument(argument::parts, toVariants(parts));
+        return Outcome::mistake("position " + number(split.posnum) + " holds less than the parts");
+    const control::Action action = onPosition(control::SplitPositions, split.posnum);
+    action.setArgument(argument::parts, toVariants(split.parts));
     return perform(action);
 }
 
-Outcome Register::unite(const QList<int> &posnums)
+Outcome Register::execute(const command::Unite &unite)
 {
+    const QList<int> &posnums = unite.posnums;
+    if (posnums.size() < 2)
+        return Outcome::mistake("at least two positions must be named");
     QSet<int> seen;
     double count = 0.0;
     for (const int posnum : posnums) {
@@ -121,27 +126,31 @@ Outcome Register::unite(const QList<int> &posnums)
         control::Action(control::UnitePositions, {{argument::positions, toVariants(posnums)}}));
 }
 
-Outcome Register::attachOrder(const QString &orderNumber)
+Outcome Register::execute(const command::AttachOrder &order)
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
+    if (order.number.isEmpty())
+        return Outcome::mistake("the order has no number");
     if (m_receipt->getOrder())
         return Outcome::mistake("the receipt has order " + m_receipt->getOrder()->number
                                 + " already");
-    return perform(control::Action(control::AddSoftCheck, {{argument::order, orderNumber}}));
+    return perform(control::Action(control::AddSoftCheck, {{argument::order, order.number}}));
 }
 
-Outcome Register::addSoftCheck(const QString &softCheckNumber)
+Outcome Register::execute(const command::AddSoftCheck &softCheck)
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
-    if (m_receipt->softChecks().contains(softCheckNumber))
-        return Outcome::mistake("the receipt has soft-check " + softCheckNumber + " already");
+    if (softCheck.number.isEmpty())
+        return Outcome::mistake("the soft-check has no number");
+    if (m_receipt->softChecks().contains(softCheck.number))
+        return Outcome::mistake("the receipt has soft-check " + softCheck.number + " already");
     return perform(
-        control::Action(control::AddSoftCheck, {{argument::softCheck, softCheckNumber}}));
+        control::Action(control::AddSoftCheck, {{argument::softCheck, softCheck.number}}));
 }
 
-Outcome Register::subtotal()
+Outcome Register::execute(const command::Subtotal &)
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
@@ -150,34 +159,32 @@ Outcome Register::subtotal()
     return perform(control::Action(control::Subtotal, {}));
 }
 
-Outcome Register::pay(std::optional<Kopecks> tendered)
+Outcome Register::execute(const command::Pay &pay)
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
-    m_journal.begin();
     EContext::Result result = EContext::Continue;
     if (m_receipt->state() != ReceiptState::Subtotal)
         result = run(control::Action(control::Payment, {}));
     const Kopecks due = m_receipt->total();
-    const bool isEnough = !tendered || *tendered >= due;
-    if (result == EContext::Continue && isEnough)
-        result =
-            run(control::Action(control::CloseReceipt, {{"tendered", tendered.value_or(due)}}));
-    const bool isShort = result == EContext::Continue && !isEnough;
-    if (isShort)
-        show(messages::tillNotEnoughMoney());
+    const Kopecks tendered = pay.tendered.value_or(due);
+    if (result == EContext::Continue && tendered < due)
+        return refuse(messages::tillNotEnoughMoney());
+    if (result == EContext::Continue)
+        result = run(control::Action(control::CloseReceipt, {{"tendered", tendered}}));
     // Both actions are one command: they are stored together, so that no end comes between them.
-    const Outcome outcome = keep(result);
-    return outcome && isShort ? Outcome::refused(messages::tillNotEnoughMoney().key()) : outcome;
+    Outcome outcome = keep(result);
+    if (outcome && pay.tendered)
+        outcome.change = tendered - due;
+    return outcome;
 }
 
-Outcome Register::cancel()
+Outcome Register::execute(const command::Cancel &)
 {
     if (!isInHand())
         return Outcome::mistake("no receipt is open");
-    m_journal.begin();
     if (!ask(messages::tillCancelReceipt(), messages::tillYes(), messages::tillNo()))
         return keep(EContext::Cancel);
     return keep(run(control::Action(control::CancelReceipt, {})));

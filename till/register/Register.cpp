@@ -3,6 +3,8 @@
 #include "host/BasicPlugin.h"
 #include "host/DocumentWatcher.h"
 
+#include <QtCore/QScopedValueRollback>
+
 namespace till {
 
 Register::Register(const Parts &parts)
@@ -21,12 +23,14 @@ Register::Register(const Parts &parts)
 
 Register::~Register()
 {
+    m_isBusy = true; // the plugin may ask something when it ends
     if (m_isPluginReady)
         m_plugin->plugin->deinit();
 }
 
 QString Register::start()
 {
+    const QScopedValueRollback<bool> underWay(m_isBusy, true);
     if (m_plugin) {
         if (const auto error = m_plugin->initialise())
             return error->text();
@@ -37,6 +41,17 @@ QString Register::start()
     if (error.isEmpty() && record)
         takeUp(QSharedPointer<Receipt>::create(*record));
     return error;
+}
+
+Outcome Register::carryOut(const Command &command)
+{
+    if (m_isBusy)
+        return Outcome::busy();
+    const QScopedValueRollback<bool> underWay(m_isBusy, true);
+    m_journal.begin();
+    return tellCommand(m_notes, toText(command), [&] {
+        return std::visit([this](const auto &kind) { return execute(kind); }, command);
+    });
 }
 
 TaraState Register::taraState() const
@@ -57,6 +72,7 @@ TaraControl Register::taraControl() const
 
 int Register::runQueued(const control::Action &action)
 {
+    const QScopedValueRollback<bool> underWay(m_isBusy, true); // a plugin may ask at any time
     return m_runner.run(action, ActionRunner::Origin::Program);
 }
 
@@ -83,7 +99,6 @@ bool Register::isInHand() const
 
 Outcome Register::refuse(const tr::Tr &message)
 {
-    m_journal.begin();
     show(message);
     const Outcome kept = keep(EContext::Cancel);
     return kept.kind == Outcome::Refused ? Outcome::refused(message.key()) : kept;
@@ -96,7 +111,6 @@ EContext::Result Register::run(const control::Action &action)
 
 Outcome Register::perform(const control::Action &action)
 {
-    m_journal.begin();
     return keep(run(action));
 }
 

@@ -7,6 +7,7 @@
 #include "till/plugins/PluginLoader.h"
 #include "till/receipt/Receipt.h"
 #include "till/receipt/TaraState.h"
+#include "till/register/Command.h"
 #include "till/register/Journal.h"
 #include "till/register/Outcome.h"
 #include "till/storage/Storage.h"
@@ -18,6 +19,9 @@ namespace till {
  *
  * A command is done when it is durable. One that cannot be stored leaves the receipt as the last
  * stored command left it.
+ *
+ * A question or a message may run an event loop in the middle of a command. Commands that come
+ * meanwhile are refused.
  */
 class Register final : private HostProgram
 {
@@ -52,22 +56,15 @@ public:
      */
     QString start();
 
-    // Commands. Counts are pieces, as the cashier counts; numbers are position numbers.
+    /*!
+     * Carries \a command out, the only way to do anything with a receipt: notes that it begins and
+     * how it ended, and stores what it did. While another is under way nothing happens, and nothing
+     * is noted: the outcome is `Outcome::busy()`.
+     */
+    Outcome carryOut(const Command &command);
 
-    Outcome open(int type);
-    Outcome add(const QString &code, double count);
-    Outcome changeCount(int posnum, double count);
-    Outcome storno(int posnum);
-    //! Takes \a parts off as new positions; what is left stays in the old one.
-    Outcome split(int posnum, const QList<double> &parts);
-    //! Puts everything into the first of \a posnums. All must be of one article.
-    Outcome unite(const QList<int> &posnums);
-    Outcome attachOrder(const QString &number);
-    Outcome addSoftCheck(const QString &number);
-    Outcome subtotal();
-    //! Pays, from subtotal or at once, and closes. Without \a tendered the sum is paid exactly.
-    Outcome pay(std::optional<Kopecks> tendered);
-    Outcome cancel();
+    //! Whether a command would be refused because something is under way.
+    bool isBusy() const { return m_isBusy; }
 
     //! The receipt that was opened last, also when it is closed; null when there was none.
     QSharedPointer<const Receipt> receipt() const { return m_receipt; }
@@ -80,6 +77,18 @@ private:
     bool ask(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel) override;
     void show(const tr::Tr &message) override;
 
+    Outcome execute(const command::Open &open);
+    Outcome execute(const command::Add &add);
+    Outcome execute(const command::ChangeCount &change);
+    Outcome execute(const command::Storno &storno);
+    Outcome execute(const command::Split &split);
+    Outcome execute(const command::Unite &unite);
+    Outcome execute(const command::AttachOrder &order);
+    Outcome execute(const command::AddSoftCheck &softCheck);
+    Outcome execute(const command::Subtotal &);
+    Outcome execute(const command::Pay &pay);
+    Outcome execute(const command::Cancel &);
+
     bool isInHand() const;
     EContext::Result run(const control::Action &action);
     //! Runs an action that is a whole command, and keeps it.
@@ -87,7 +96,7 @@ private:
     //! Stores what a command did to the receipt; \a result is how its last action ended.
     Outcome keep(EContext::Result result);
     Outcome checkPosition(int posnum) const;
-    //! A command that ends before its first action: the cashier is shown why.
+    //! Ends a command that the register itself refuses: the cashier is shown why.
     Outcome refuse(const tr::Tr &message);
     QString store();
     QString reload(qint64 id);
@@ -106,6 +115,7 @@ private:
     QSharedPointer<Receipt> m_receipt;
     Journal m_journal; //!< of the command that is under way
     bool m_isPluginReady = false;
+    bool m_isBusy = false;
 };
 
 } // namespace till

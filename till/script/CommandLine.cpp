@@ -1,7 +1,7 @@
 #include "till/script/CommandLine.h"
 
-#include "till/script/Expectations.h"
-#include "till/script/Usage.h"
+#include "till/language/TillMessages.h"
+#include "till/script/RegisterWords.h"
 #include "till/script/Words.h"
 
 #include <QtCore/QRegularExpression>
@@ -18,10 +18,15 @@ QString copied(const QString &text)
     return QString(text.constData(), text.size());
 }
 
+Outcome tillIsOff()
+{
+    return Outcome::failed("the till is off; 'restart' switches it on");
+}
+
 } // namespace
 
-//! A row of the table of commands.
-struct CommandLine::Command
+//! A row of the table of the script's own commands.
+struct CommandLine::Row
 {
     Usage usage;
     Outcome (CommandLine::*run)(const QStringList &words); //!< given the words behind the name
@@ -29,29 +34,9 @@ struct CommandLine::Command
     bool worksOff = false;   //!< needs no till that is switched on
 };
 
-const QList<CommandLine::Command> &CommandLine::commands()
+const QList<CommandLine::Row> &CommandLine::ownRows()
 {
-    static const QList<Command> table{
-        {{"open", "[sale|return]", "open a receipt", 0, 1}, &CommandLine::open},
-        {{"add", "ARTICLE [QUANTITY]", "add an article as a new position; quantity 1 if none", 1,
-          2},
-         &CommandLine::add},
-        {{"qty", "POSITION QUANTITY", "change the quantity of a position", 2, 2},
-         &CommandLine::changeCount},
-        {{"storno", "POSITION", "storno a position, after a question", 1, 1}, &CommandLine::storno},
-        {{"split", "POSITION PART...", "take parts off as new positions; the rest stays", 2,
-          Usage::any},
-         &CommandLine::split},
-        {{"unite", "POSITION POSITION...", "put positions of one article into the first", 2,
-          Usage::any},
-         &CommandLine::unite},
-        {{"order", "NUMBER", "attach an order", 1, 1}, &CommandLine::order},
-        {{"softcheck", "NUMBER", "add a soft-check", 1, 1}, &CommandLine::softCheck},
-        {{"subtotal", "", "go to subtotal", 0, 0}, &CommandLine::subtotal},
-        {{"pay", "[MONEY]", "pay and close, from subtotal or at once; exactly if no money is named",
-          0, 1},
-         &CommandLine::pay},
-        {{"cancel", "", "cancel the receipt, after a question", 0, 0}, &CommandLine::cancel},
+    static const QList<Row> table{
         {{"answer", "yes|no...", "answer the next questions in advance", 1, Usage::any},
          &CommandLine::queueAnswer,
          true,
@@ -110,36 +95,54 @@ CommandLine::~CommandLine()
 
 Outcome CommandLine::run(const QString &line)
 {
+    if (m_desk.isBusy())
+        return Outcome::busy();
     m_hasTouchedReceipt = false;
     const std::optional<QStringList> words = splitWords(line);
     if (!words)
         return Outcome::mistake("a quote is not closed");
     if (words->isEmpty())
         return Outcome::done();
-    m_notes.add("command", {{"text", line.trimmed()}});
-    Outcome outcome;
-    {
-        const Notes::Nesting inside(m_notes);
-        outcome = runWords(*words);
-    }
-    static const QStringList names{"done", "refused", "mistake", "failed"};
-    m_notes.add("outcome", {{"outcome", names[outcome.kind]}, {"text", outcome.text}});
+    return runWords(*words, line.trimmed());
+}
+
+Outcome CommandLine::runWords(const QStringList &words, const QString &text)
+{
+    if (rowCalled(words[0], registerWords()))
+        return carryOut(words, text);
+    // What is expected of a command is told as that command.
+    if (words[0] == "expect" && Expectations::isOfCommand(words.mid(1)))
+        return expect(words.mid(1));
+    return tellCommand(m_notes, text, [&] { return runOwn(words); });
+}
+
+Outcome CommandLine::carryOut(const QStringList &words, const QString &text)
+{
+    m_heard = {};
+    const ReadCommand read = readCommand(words);
+    const Command *const command = std::get_if<Command>(&read);
+    if (!command)
+        return tellCommand(m_notes, text, [&] { return std::get<Outcome>(read); });
+    if (!m_desk.isOn())
+        return tellCommand(m_notes, text, tillIsOff);
+    const Outcome outcome = cashRegister().carryOut(*command);
+    if (outcome.change)
+        print("  " + m_translator.text(messages::tillChange()).arg(toText(*outcome.change)));
     return outcome;
 }
 
-Outcome CommandLine::runWords(const QStringList &words)
+Outcome CommandLine::runOwn(const QStringList &words)
 {
-    const Command *const command = rowCalled(words.constFirst(), commands());
-    if (!command)
-        return Outcome::mistake("no command \"" + words.constFirst() + "\"; try 'help'");
-    if (!command->usage.allows(words.mid(1)))
-        return Outcome::mistake("usage: " + command->usage.text());
-    if (!m_desk.isOn() && !command->worksOff)
-        return Outcome::failed("the till is off; 'restart' switches it on");
-    if (command->isWatching)
-        return (this->*command->run)(words.mid(1));
-    m_heard = {};
-    return (this->*command->run)(words.mid(1));
+    const Row *const row = rowCalled(words[0], ownRows());
+    if (!row)
+        return Outcome::mistake("no command \"" + words[0] + "\"; try 'help'");
+    if (!row->usage.allows(words.mid(1)))
+        return Outcome::mistake("usage: " + row->usage.text());
+    if (!m_desk.isOn() && !row->worksOff)
+        return tillIsOff();
+    if (!row->isWatching)
+        m_heard = {};
+    return (this->*row->run)(words.mid(1));
 }
 
 QString CommandLine::leftOver() const
@@ -183,37 +186,44 @@ QString CommandLine::renderReceipt() const
                          cashRegister.taraControl());
 }
 
+QList<Usage> CommandLine::usages()
+{
+    QList<Usage> usages;
+    for (const RegisterWords &row : registerWords())
+        usages.append(row.usage);
+    for (const Row &row : ownRows())
+        usages.append(row.usage);
+    return usages;
+}
+
 Outcome CommandLine::help(const QStringList &words)
 {
-    if (words.isEmpty()) {
-        for (const Command &command : commands())
-            print(QString("  %1 %2")
-                      .arg(command.usage.name + ' ' + command.usage.words, -28)
-                      .arg(command.usage.help));
-        return Outcome::done();
+    const QString name = words.value(0);
+    bool isKnown = name.isEmpty();
+    const QList<Usage> all = usages();
+    for (const Usage &usage : all) {
+        if (name.isEmpty())
+            print(QString("  %1 %2").arg(usage.name + ' ' + usage.words, -28).arg(usage.help));
+        else if (usage.name == name)
+            print(usage.text() + "\n  " + usage.help);
+        isKnown = isKnown || usage.name == name;
     }
-    const Command *const command = rowCalled(words[0], commands());
-    if (!command)
-        return Outcome::mistake("no command \"" + words[0] + "\"; try 'help'");
-    print(command->usage.text() + "\n  " + command->usage.help);
-    if (command->usage.name == "expect")
+    if (name == "expect")
         print(Expectations::help());
-    return Outcome::done();
+    return isKnown ? Outcome::done() : Outcome::mistake("no command \"" + name + "\"; try 'help'");
 }
 
 QStringList CommandLine::completions(const QStringList &words) const
 {
     QStringList candidates;
-    if (words.size() <= 1) {
-        for (const Command &command : commands())
-            candidates.append(command.usage.name);
+    if (words.size() <= 1 || words[0] == "help") {
+        const QList<Usage> all = usages();
+        for (const Usage &usage : all)
+            candidates.append(usage.name);
     } else if (words[0] == "add") {
         const auto all = m_desk.catalogue().articles();
         for (const auto &article : all)
             candidates.append(article->data.code);
-    } else if (words[0] == "help") {
-        for (const Command &command : commands())
-            candidates.append(command.usage.name);
     } else if (words[0] == "open") {
         candidates = {"sale", "return"};
     } else if (words[0] == "answer") {

@@ -4,7 +4,8 @@
 #include "till/language/Translator.h"
 #include "till/register/CashDesk.h"
 #include "till/register/Outcome.h"
-#include "till/script/Heard.h"
+#include "till/script/Expectations.h"
+#include "till/script/Usage.h"
 #include "till/view/ReceiptView.h"
 
 #include <QtCore/QStringList>
@@ -36,6 +37,7 @@ public:
     Q_DISABLE_COPY_MOVE(CommandLine)
 
     //! Carries out one line. What there is to see is printed; the outcome is the caller's to show.
+    //! While a command is under way nothing happens; the outcome is `Outcome::busy()`.
     Outcome run(const QString &line);
 
     /*!
@@ -57,24 +59,18 @@ public:
     QStringList completions(const QStringList &words) const;
 
 private:
-    struct Command;
-    static const QList<Command> &commands();
+    struct Row;
+    static const QList<Row> &ownRows();
+    //! How each command is typed, the register's before the script's own.
+    static QList<Usage> usages();
 
-    Outcome runWords(const QStringList &words);
+    //! Carries out the command \a words; \a text is how it is told where no register tells it.
+    Outcome runWords(const QStringList &words, const QString &text);
+    Outcome carryOut(const QStringList &words, const QString &text);
+    Outcome runOwn(const QStringList &words);
     bool answer(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel);
     void hear(const QJsonObject &note);
 
-    Outcome open(const QStringList &words);
-    Outcome add(const QStringList &words);
-    Outcome changeCount(const QStringList &words);
-    Outcome storno(const QStringList &words);
-    Outcome split(const QStringList &words);
-    Outcome unite(const QStringList &words);
-    Outcome order(const QStringList &words);
-    Outcome softCheck(const QStringList &words);
-    Outcome subtotal(const QStringList &words);
-    Outcome pay(const QStringList &words);
-    Outcome cancel(const QStringList &words);
     Outcome queueAnswer(const QStringList &words);
     Outcome show(const QStringList &words);
     Outcome articles(const QStringList &words);

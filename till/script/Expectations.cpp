@@ -59,6 +59,18 @@ Outcome checkPart(const Position &position, const QString &part, const QString &
     return notOneOf(part, {"quantity", "base", "sum", "article", "stornoed", "live"});
 }
 
+//! How a command is expected to end, in a word.
+std::optional<Outcome::Kind> endCalled(const QString &word)
+{
+    if (word == "accepted")
+        return Outcome::Done;
+    if (word == "refused")
+        return Outcome::Refused;
+    if (word == "mistake")
+        return Outcome::Mistake;
+    return std::nullopt;
+}
+
 //! What the goods hold in the tara at \a posnum.
 double amountIn(const TaraState &state, const GoodsUse &goods, int posnum)
 {
@@ -115,14 +127,15 @@ QString Expectations::help()
     return text;
 }
 
+bool Expectations::isOfCommand(const QStringList &words)
+{
+    return words.size() > 1 && endCalled(words[0]) && words[1] != "expect";
+}
+
 Outcome Expectations::check(const QStringList &words)
 {
-    if (words[0] == "accepted")
-        return command(Outcome::Done, words.mid(1));
-    if (words[0] == "refused")
-        return command(Outcome::Refused, words.mid(1));
-    if (words[0] == "mistake")
-        return command(Outcome::Mistake, words.mid(1));
+    if (const std::optional<Outcome::Kind> end = endCalled(words[0]))
+        return command(*end, words.mid(1));
     const Row *const row = rowCalled(words[0], rows());
     if (!row)
         return Outcome::mistake("\"" + words[0] + "\" cannot be expected; try 'help expect'");

@@ -1,12 +1,22 @@
 #ifndef TILL_SCRIPT_EXPECTATIONS_H
 #define TILL_SCRIPT_EXPECTATIONS_H
 
+#include "host/Tr.h"
 #include "till/register/CashDesk.h"
-#include "till/script/Heard.h"
+
+#include <QtCore/QStringList>
 
 #include <functional>
 
 namespace till {
+
+//! What a command made the till say.
+struct Heard
+{
+    QList<tr::Tr> messages;
+    QList<tr::Tr> questions;
+    QStringList log;
+};
 
 //! The "expect" command: done when what is expected holds; otherwise a mistake that says what is.
 class Expectations
@@ -24,6 +34,9 @@ public:
     }
 
     Outcome check(const QStringList &words);
+
+    //! Whether \a words expect some end of a command, which they name.
+    static bool isOfCommand(const QStringList &words);
 
     //! What can be expected, for a person.
     static QString help();

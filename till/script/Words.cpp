@@ -21,7 +21,8 @@ std::optional<QStringList> splitWords(const QString &line)
     const QString trimmed = line.trimmed();
     if (trimmed.startsWith(QLatin1Char('#')))
         return QStringList();
-    if (trimmed.count(QLatin1Char('"')) % 2 != 0)
+    // Three quotes in a row are a quote itself.
+    if (QString(trimmed).remove(QLatin1String("\"\"\"")).count(QLatin1Char('"')) % 2 != 0)
         return std::nullopt;
     return QProcess::splitCommand(trimmed);
 }

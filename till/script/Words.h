@@ -10,8 +10,9 @@
 namespace till {
 
 /*!
- * Splits \a line at spaces; double quotes hold words with spaces together. Nothing for a line whose
- * quotes do not match. A comment or an empty line has no words.
+ * Splits \a line at spaces; double quotes hold words with spaces together, three of them in a row
+ * are a quote. Nothing for a line whose quotes do not match. A comment or an empty line has no
+ * words.
  */
 std::optional<QStringList> splitWords(const QString &line);
 

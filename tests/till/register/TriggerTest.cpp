@@ -54,12 +54,13 @@ protected:
         storage = Storage::open(":memory:", &error);
         m_register = std::make_unique<Register>(
             Register::Parts{till->catalogue(), *storage, &loaded, settings, notes});
-        EXPECT_TRUE(m_register->open(Document::Sale));
-        EXPECT_TRUE(m_register->add("CHIPS", 2));
+        EXPECT_TRUE(m_register->carryOut(command::Open{}));
+        EXPECT_TRUE(m_register->carryOut(command::Add{"CHIPS", 2}));
     }
     ~Triggers() override { m_register.reset(); }
 
     Register &cashRegister() { return *m_register; }
+    Outcome carryOut(const Command &command) { return m_register->carryOut(command); }
     ModifiersContainer &modifiers() { return *Singleton<Session>::instance->getModifiers(); }
 
     ScribePlugin plugin;
@@ -80,7 +81,7 @@ TEST_F(Triggers, Run_BeforeByPriorityThenAfterByPriority)
     plugin.add("before high", control::ApplyModifiers, T::Before, T::High);
     plugin.add("before normal too", control::ApplyModifiers, T::Before, T::Normal);
     plugin.add("of another", control::Subtotal, T::Before, T::High);
-    EXPECT_TRUE(cashRegister().changeCount(1, 3));
+    EXPECT_TRUE(carryOut(command::ChangeCount{1, 3}));
     EXPECT_EQ(plugin.ran, QStringList({"before high", "before normal", "before normal too",
                                        "after high", "after low"}));
 }
@@ -91,7 +92,7 @@ TEST_F(Triggers, FirstThatDoesNotContinue_StopsTheAction)
                EContext::Error);
     plugin.add("later", control::Subtotal, ActionTrigger::Before, ActionTrigger::Low);
     plugin.add("after", control::Subtotal, ActionTrigger::After, ActionTrigger::High);
-    EXPECT_EQ(cashRegister().subtotal().kind, Outcome::Refused);
+    EXPECT_EQ(carryOut(command::Subtotal{}).kind, Outcome::Refused);
     EXPECT_EQ(plugin.ran, QStringList("stops"));
     EXPECT_EQ(cashRegister().receipt()->state(), ReceiptState::Open);
     EXPECT_EQ(notesOf("result").last().value("result").toInt(), EContext::Error);
@@ -101,7 +102,7 @@ TEST_F(Triggers, Cancel_StopsTheActionToo)
 {
     plugin.add("stops", control::Payment, ActionTrigger::Before, ActionTrigger::High,
                EContext::Cancel);
-    EXPECT_EQ(cashRegister().pay(std::nullopt).kind, Outcome::Refused);
+    EXPECT_EQ(carryOut(command::Pay{}).kind, Outcome::Refused);
     EXPECT_EQ(cashRegister().receipt()->state(), ReceiptState::Open);
     EXPECT_EQ(notesOf("result").last().value("result").toInt(), EContext::Cancel);
 }
@@ -111,7 +112,7 @@ TEST_F(Triggers, AfterTheAction_NothingIsStopped)
     plugin.add("refuses", control::Subtotal, ActionTrigger::After, ActionTrigger::High,
                EContext::Error);
     plugin.add("runs", control::Subtotal, ActionTrigger::After, ActionTrigger::Low);
-    EXPECT_TRUE(cashRegister().subtotal());
+    EXPECT_TRUE(carryOut(command::Subtotal{}));
     EXPECT_EQ(plugin.ran, QStringList({"refuses", "runs"}));
 }
 
@@ -122,19 +123,19 @@ TEST_F(Triggers, EachPoint_IsPassedByItsCommand)
                                             control::AddSoftCheck};
     for (const auto type : types)
         plugin.add(QString::number(type), type, ActionTrigger::Before, ActionTrigger::High);
-    EXPECT_TRUE(cashRegister().changeCount(1, 3));
-    EXPECT_TRUE(cashRegister().split(1, {1}));
-    EXPECT_TRUE(cashRegister().unite({1, 2}));
-    EXPECT_TRUE(cashRegister().addSoftCheck("1"));
-    EXPECT_TRUE(cashRegister().attachOrder("2"));
-    EXPECT_TRUE(cashRegister().subtotal());
+    EXPECT_TRUE(carryOut(command::ChangeCount{1, 3}));
+    EXPECT_TRUE(carryOut(command::Split{1, {1}}));
+    EXPECT_TRUE(carryOut(command::Unite{{1, 2}}));
+    EXPECT_TRUE(carryOut(command::AddSoftCheck{"1"}));
+    EXPECT_TRUE(carryOut(command::AttachOrder{"2"}));
+    EXPECT_TRUE(carryOut(command::Subtotal{}));
     EXPECT_EQ(plugin.ran, QStringList({"5", "233", "234", "129", "129", "133"}));
 }
 
 TEST_F(Triggers, Modifiers_AreSetForTheChangeAndClearedAfterIt)
 {
     plugin.add("before", control::ApplyModifiers, ActionTrigger::Before, ActionTrigger::High);
-    EXPECT_TRUE(cashRegister().changeCount(1, 3));
+    EXPECT_TRUE(carryOut(command::ChangeCount{1, 3}));
     EXPECT_EQ(plugin.quantitySet, QList<bool>({true}));
     EXPECT_FALSE(modifiers().isSet(modifiers::Quantity));
 }
@@ -143,23 +144,23 @@ TEST_F(Triggers, Modifiers_AreClearedAfterARefusalToo)
 {
     plugin.add("no", control::ApplyModifiers, ActionTrigger::Before, ActionTrigger::High,
                EContext::Error);
-    EXPECT_FALSE(cashRegister().changeCount(1, 3));
+    EXPECT_FALSE(carryOut(command::ChangeCount{1, 3}));
     EXPECT_FALSE(modifiers().isSet(modifiers::Quantity));
 }
 
 TEST_F(Triggers, Modifiers_AreClearedAfterEachOtherAction)
 {
-    const auto clears = [this](const auto &command) {
+    const auto clears = [this](const Command &command) {
         modifiers().set(modifiers::Quantity, QVariant::fromValue(Quantity(1, quantModeNone)));
-        EXPECT_TRUE(command());
+        EXPECT_TRUE(carryOut(command));
         return !modifiers().isSet(modifiers::Quantity);
     };
-    EXPECT_TRUE(clears([this] { return cashRegister().add("CHIPS", 1); }));
-    EXPECT_TRUE(clears([this] { return cashRegister().split(1, {1}); }));
-    EXPECT_TRUE(clears([this] { return cashRegister().unite({1, 3}); }));
-    EXPECT_TRUE(clears([this] { return cashRegister().addSoftCheck("1"); }));
-    EXPECT_TRUE(clears([this] { return cashRegister().subtotal(); }));
-    EXPECT_TRUE(clears([this] { return cashRegister().pay(std::nullopt); }));
+    EXPECT_TRUE(clears(command::Add{"CHIPS", 1}));
+    EXPECT_TRUE(clears(command::Split{1, {1}}));
+    EXPECT_TRUE(clears(command::Unite{{1, 3}}));
+    EXPECT_TRUE(clears(command::AddSoftCheck{"1"}));
+    EXPECT_TRUE(clears(command::Subtotal{}));
+    EXPECT_TRUE(clears(command::Pay{}));
 }
 
 } // namespace

@@ -1,0 +1,74 @@
+#include "till/script/RegisterWords.h"
+#include "till/script/Words.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+// A command's text, which the script language reads back.
+
+namespace till {
+
+namespace {
+
+struct Written
+{
+    const char *name;
+    Command command;
+    const char *text;
+};
+
+void PrintTo(const Written &written, std::ostream *out)
+{
+    *out << written.text;
+}
+
+class CommandText : public testing::TestWithParam<Written>
+{
+};
+
+TEST_P(CommandText, Command_IsWrittenAsTyped)
+{
+    EXPECT_EQ(toText(GetParam().command).toStdString(), GetParam().text);
+}
+
+TEST_P(CommandText, Text_IsReadBack)
+{
+    const auto words = splitWords(toText(GetParam().command));
+    ASSERT_TRUE(words.has_value());
+    const ReadCommand read = readCommand(*words);
+    ASSERT_TRUE(std::holds_alternative<Command>(read));
+    EXPECT_TRUE(std::get<Command>(read) == GetParam().command);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, CommandText,
+    testing::Values(Written{"Open", command::Open{}, "open sale"},
+                    Written{"OpenReturn", command::Open{Document::Return}, "open return"},
+                    Written{"Add", command::Add{"CHIPS"}, "add CHIPS 1"},
+                    Written{"AddSpaces", command::Add{"A  b", 0.125}, "add \"A  b\" 0.125"},
+                    Written{"AddQuote", command::Add{"3\" pipe", 2}, "add \"3\"\"\" pipe\" 2"},
+                    Written{"AddQuotes", command::Add{"\"a b\"", 2}, "add \"\"\"\"a b\"\"\"\" 2"},
+                    Written{"AddInch", command::Add{"3\"", 2}, "add 3\"\"\" 2"},
+                    Written{"Qty", command::ChangeCount{2, 1.5}, "qty 2 1.5"},
+                    Written{"QtyNothing", command::ChangeCount{12, 0}, "qty 12 0"},
+                    Written{"Storno", command::Storno{3}, "storno 3"},
+                    Written{"Split", command::Split{3, {0.5, 1}}, "split 3 0.5 1"},
+                    Written{"Unite", command::Unite{{3, 1, 2}}, "unite 3 1 2"},
+                    Written{"Order", command::AttachOrder{"A-7"}, "order A-7"},
+                    Written{"OrderComment", command::AttachOrder{"#7"}, "order #7"},
+                    Written{"SoftCheck", command::AddSoftCheck{"8 b"}, "softcheck \"8 b\""},
+                    Written{"Subtotal", command::Subtotal{}, "subtotal"},
+                    Written{"Pay", command::Pay{}, "pay"},
+                    Written{"PayMoney", command::Pay{15005}, "pay 150.05"},
+                    Written{"Cancel", command::Cancel{}, "cancel"}),
+    [](const auto &written) { return written.param.name; });
+
+TEST(CommandTable, EachCommand_HasARow)
+{
+    EXPECT_EQ(registerWords().size(), std::variant_size_v<Command>);
+}
+
+} // namespace
+
+} // namespace till

@@ -1,0 +1,140 @@
+#include "till/script/RegisterWords.h"
+
+#include "till/script/Words.h"
+
+namespace till {
+
+namespace {
+
+ReadCommand readOpen(const QStringList &words)
+{
+    const QString type = words.value(0, "sale");
+    if (type != "sale" && type != "return")
+        return notOneOf(type, {"sale", "return"});
+    return command::Open{type == "sale" ? Document::Sale : Document::Return};
+}
+
+ReadCommand readAdd(const QStringList &words)
+{
+    const QString quantity = words.value(1, "1");
+    const std::optional<double> count = parseQuantity(quantity);
+    if (!count)
+        return notANumber(quantity);
+    return command::Add{words[0], *count};
+}
+
+ReadCommand readChangeCount(const QStringList &words)
+{
+    const std::optional<int> posnum = parsePosnum(words[0]);
+    if (!posnum)
+        return notAPosition(words[0]);
+    const std::optional<double> count = parseQuantity(words[1]);
+    if (!count)
+        return notANumber(words[1]);
+    return command::ChangeCount{*posnum, *count};
+}
+
+ReadCommand readStorno(const QStringList &words)
+{
+    const std::optional<int> posnum = parsePosnum(words[0]);
+    if (!posnum)
+        return notAPosition(words[0]);
+    return command::Storno{*posnum};
+}
+
+ReadCommand readSplit(const QStringList &words)
+{
+    const std::optional<int> posnum = parsePosnum(words[0]);
+    if (!posnum)
+        return notAPosition(words[0]);
+    QList<double> parts;
+    for (const QString &word : words.mid(1)) {
+        const std::optional<double> part = parseQuantity(word);
+        if (!part)
+            return notANumber(word);
+        parts.append(*part);
+    }
+    return command::Split{*posnum, parts};
+}
+
+ReadCommand readUnite(const QStringList &words)
+{
+    QList<int> posnums;
+    for (const QString &word : words) {
+        const std::optional<int> posnum = parsePosnum(word);
+        if (!posnum)
+            return notAPosition(word);
+        posnums.append(*posnum);
+    }
+    return command::Unite{posnums};
+}
+
+ReadCommand readOrder(const QStringList &words)
+{
+    return command::AttachOrder{words[0]};
+}
+
+ReadCommand readSoftCheck(const QStringList &words)
+{
+    return command::AddSoftCheck{words[0]};
+}
+
+ReadCommand readSubtotal(const QStringList &)
+{
+    return command::Subtotal{};
+}
+
+ReadCommand readPay(const QStringList &words)
+{
+    if (words.isEmpty())
+        return command::Pay{};
+    const std::optional<Kopecks> tendered = parseMoney(words[0]);
+    if (!tendered)
+        return notMoney(words[0]);
+    return command::Pay{tendered};
+}
+
+ReadCommand readCancel(const QStringList &)
+{
+    return command::Cancel{};
+}
+
+} // namespace
+
+const QList<RegisterWords> &registerWords()
+{
+    static const QList<RegisterWords> table{
+        {{"open", "[sale|return]", "open a receipt", 0, 1}, readOpen},
+        {{"add", "ARTICLE [QUANTITY]", "add an article as a new position; quantity 1 if none", 1,
+          2},
+         readAdd},
+        {{"qty", "POSITION QUANTITY", "change the quantity of a position", 2, 2}, readChangeCount},
+        {{"storno", "POSITION", "storno a position, after a question", 1, 1}, readStorno},
+        {{"split", "POSITION PART...", "take parts off as new positions; the rest stays", 2,
+          Usage::any},
+         readSplit},
+        {{"unite", "POSITION POSITION...", "put positions of one article into the first", 2,
+          Usage::any},
+         readUnite},
+        {{"order", "NUMBER", "attach an order", 1, 1}, readOrder},
+        {{"softcheck", "NUMBER", "add a soft-check", 1, 1}, readSoftCheck},
+        {{"subtotal", "", "go to subtotal", 0, 0}, readSubtotal},
+        {{"pay", "[MONEY]", "pay and close, from subtotal or at once; exactly if no money is named",
+          0, 1},
+         readPay},
+        {{"cancel", "", "cancel the receipt, after a question", 0, 0}, readCancel},
+    };
+    return table;
+}
+
+ReadCommand readCommand(const QStringList &words)
+{
+    const RegisterWords *const row = rowCalled(words.value(0), registerWords());
+    if (!row)
+        return Outcome::mistake("no command \"" + words.value(0) + "\"; try 'help'");
+    if (!row->usage.allows(words.mid(1)))
+        return Outcome::mistake("usage: " + row->usage.text());
+    return row->read(words.mid(1));
+}
+
+} // namespace till

@@ -1,0 +1,30 @@
+#ifndef TILL_SCRIPT_REGISTERWORDS_H
+#define TILL_SCRIPT_REGISTERWORDS_H
+
+#include "till/register/Command.h"
+#include "till/register/Outcome.h"
+#include "till/script/Usage.h"
+
+#include <variant>
+
+namespace till {
+
+//! A command, or the mistake in its words.
+using ReadCommand = std::variant<Command, Outcome>;
+
+//! How a command of the register is typed.
+struct RegisterWords
+{
+    Usage usage;
+    ReadCommand (*read)(const QStringList &words); //!< given the words behind the name
+};
+
+//! Every command of the register, one row each.
+const QList<RegisterWords> &registerWords();
+
+//! The command of the register that \a words are.
+ReadCommand readCommand(const QStringList &words);
+
+} // namespace till
+
+#endif // TILL_SCRIPT_REGISTERWORDS_H
