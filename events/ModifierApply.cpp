@@ -29,7 +29,7 @@ void PackagingControl::resizeTara(const QSharedPointer<GoodsItem> &position)
     if (tara->isEmpty())
         return;
 
-    const auto infos = packagingList; // a copy: the events of the action change the list
+    const auto infos = packagingList; // a copy, which holds the record that the action may drop
     const auto user = std::find_if(infos.cbegin(), infos.cend(), [&tara](const auto &info) {
         return info->usedTara.contains(tara->id);
     });

@@ -39,12 +39,12 @@ void PackagingControl::takeGoodsOut(const TaraInfo &tara)
     const auto receipt = document;
     const auto infos = packagingList; // a copy: the events of each action change the list
     for (const auto &info : infos) {
-        if (document != receipt) // the host has switched receipts
-            return;
         if (!info->usedTara.contains(tara.id))
             continue;
         if (modifyPackagingPositionQuantity(info, -info->usedTara.value(tara.id)))
             info->usedTara.remove(tara.id);
+        if (document != receipt) // the host has switched receipts
+            return;
     }
 }
 

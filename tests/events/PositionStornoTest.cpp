@@ -235,6 +235,38 @@ TEST_F(StornoWithoutDocument, Tara_IsForgottenAndItsGoodsKeepTheirEntry)
     EXPECT_EQ(host.journal, QStringList());
 }
 
+//! Says that the goods were changed, and notes what it was asked for.
+class ChangesGoodsItself : public TestPlugin
+{
+public:
+    bool modifyPackagingPositionQuantity(const QSharedPointer<PackagingInfo> &info,
+                                         double quantityDelta) override
+    {
+        changes[info->posnum] = quantityDelta;
+        return true;
+    }
+
+    QMap<int, double> changes;
+};
+
+TEST_F(StornoWithoutDocument, TaraOfASubclassThatChangesGoodsItself_LosesTheirEntries)
+{
+    const auto tara = host.putPosition(2, Tmc::Tara, 5.0, 1, 1);
+    ChangesGoodsItself subclass;
+    subclass.putTara(2, "A", 5.0, 2.0);
+    subclass.putGoods(5, {{"A", 2.0}});
+    subclass.putGoods(6, {{"B", 3.0}});
+    subclass.putGoods(7, {{"A", 1.0}});
+
+    subclass.handleEvent(Event(EActivityListener::eventPositionStorno)
+                             .addArgument("position", QVariant::fromValue(tara)));
+
+    EXPECT_EQ(subclass.changes, (QMap<int, double>{{5, -2.0}, {7, -1.0}}));
+    EXPECT_THAT(
+        values(subclass.packagingList),
+        ElementsAre(PackagingInfo{5, {}}, PackagingInfo{6, {{"B", 3.0}}}, PackagingInfo{7, {}}));
+}
+
 TEST_F(StornoWithoutDocument, Goods_AreForgottenAndNothingIsSaved)
 {
     standsTara(2, "A", 5.0, 3.0);

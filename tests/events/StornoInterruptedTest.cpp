@@ -141,6 +141,9 @@ TEST_F(InterruptedStorno, SameReceiptSetAgain_ReducesTheRest)
     EXPECT_EQ(asked(),
               (QStringList{"switch off", "change 5 to 1.000", "remove 6", "switch on", "loyalty"}));
     EXPECT_EQ(position(6), nullptr);
+    // Of the goods 5 the entry left the record that the walk held, not the one restored meanwhile.
+    EXPECT_THAT(values(plugin.packagingList),
+                ElementsAre(PackagingInfo{5, {{"A", 1.0}, {"B", 1.0}}}));
 }
 
 // The receipt changes besides.

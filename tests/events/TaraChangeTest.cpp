@@ -258,6 +258,24 @@ TEST_F(TaraChange, WithoutDocument_ResizesTaraAndAsksTheHostForNothing)
     EXPECT_EQ(host.journal, QStringList());
 }
 
+TEST_F(TaraChange, AnotherReceiptWhileItsGoodsChange_KeepsItsRecords)
+{
+    standsTara(2, "A", 1.5, 0.0);
+    standsGoods(7, 1.5, {{"A", 1.5}});
+    const auto foreign = QVariantList{QVariantMap{{"posnum", 6}, {"usedTara", QVariantMap()}}};
+    const ActionInterceptor turn([this, &foreign](const control::Action &, auto &) {
+        host.newReceipt();
+        host.receipt()->setPluginData("PackagingControl", "packagingInfo", foreign);
+        plugin.setDocument(host.receipt());
+        return EContext::Continue;
+    });
+
+    host.changeQuantity(2, 2);
+
+    EXPECT_THAT(plugin.taraList, IsEmpty());
+    EXPECT_EQ(host.receipt()->getPluginData("PackagingControl", "packagingInfo", {}), foreign);
+}
+
 TEST_F(TaraChange, SuspendedWhileItsGoodsChange_SavesNothingMore)
 {
     standsTara(2, "A", 1.5, 0.0);

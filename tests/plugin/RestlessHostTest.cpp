@@ -79,6 +79,7 @@ protected:
         host.addTara(2, 1.0);
         host.addOther(3, 1.0);
         other->setPluginData("PackagingControl", "taraInfo", storedTaras({2}));
+        other->addPosition(host.receipt()->getPositionByPosnum(3));
         host.dialogAnswer = true;
     }
 
@@ -107,6 +108,15 @@ TEST_F(RestlessPayment, TurnsToAnotherReceiptDuringTheQuestion_CancelsAndStornoe
 
     EXPECT_EQ(subtotal(), EContext::Cancel);
     EXPECT_FALSE(host.journal.contains("storno 1"));
+    EXPECT_FALSE(host.journal.contains("storno 2"));
+}
+
+TEST_F(RestlessPayment, TakesUpAReceiptDuringTheQuestionAboutNone_CancelsAndStornoesNothing)
+{
+    plugin.disablePlugin();
+    MockFactory<Dialog>::mocked.reset(new RestlessDialog([this] { plugin.setDocument(other); }));
+
+    EXPECT_EQ(subtotal(), EContext::Cancel);
     EXPECT_FALSE(host.journal.contains("storno 2"));
 }
 
@@ -152,7 +162,7 @@ TEST_F(RestlessPayment, SetsTheSameReceiptDuringTheFirstStorno_GoesOn)
     EXPECT_EQ(logic->asked, (QList<int>{1, 2}));
 }
 
-TEST_F(RestlessPayment, SuspendsDuringTheFirstStorno_CancelsSinceTaraIsLeft)
+TEST_F(RestlessPayment, SuspendsDuringTheFirstStorno_CancelsAndAsksForNoOther)
 {
     const auto logic = after(1, [this] { plugin.disablePlugin(); });
 

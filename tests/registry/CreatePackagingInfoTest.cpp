@@ -1,7 +1,5 @@
 #include "tests/registry/RegistryFixture.h"
 
-#include <new>
-
 namespace {
 
 using Used = QMap<QString, double>;
@@ -80,8 +78,10 @@ TEST_F(CreatePackagingInfo, TwoRecordsOfOneNumber_TheFirstIsUsed)
     EXPECT_THAT(plugin.packagingList, testing::ElementsAre(first, second));
 }
 
-TEST_F(CreatePackagingInfo, NewPosition_LogsOnlyThePouringAndAsksTheHostForNothing)
+TEST_F(CreatePackagingInfo, NewPosition_AsksTheHostForNothing)
 {
+    plugin.putTara(2, "{a}", 10.0, 10.0);
+
     plugin.createPackagingInfo(goods(3, 4.5));
 
     EXPECT_EQ(host.journal, QStringList());

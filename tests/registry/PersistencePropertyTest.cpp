@@ -50,12 +50,31 @@ void fill(TestPlugin &plugin)
     }
 }
 
+bool sameBits(double left, double right)
+{
+    return std::memcmp(&left, &right, sizeof left) == 0;
+}
+
+bool sameBits(const PackagingControl::TaraInfo &left, const PackagingControl::TaraInfo &right)
+{
+    return left == right && sameBits(left.capacity, right.capacity)
+           && sameBits(left.freeCapacity, right.freeCapacity);
+}
+
+bool sameBits(const PackagingControl::PackagingInfo &left,
+              const PackagingControl::PackagingInfo &right)
+{
+    return left == right
+           && std::equal(left.usedTara.cbegin(), left.usedTara.cend(), right.usedTara.cbegin(),
+                         [](double l, double r) { return sameBits(l, r); });
+}
+
 template <typename Record>
 bool sameRecords(const QList<QSharedPointer<Record>> &left,
                  const QList<QSharedPointer<Record>> &right)
 {
     return std::equal(left.cbegin(), left.cend(), right.cbegin(), right.cend(),
-                      [](const auto &l, const auto &r) { return *l == *r && l != r; });
+                      [](const auto &l, const auto &r) { return sameBits(*l, *r) && l != r; });
 }
 
 TEST(PersistenceProperty, SaveThenRestore_IsTheIdentity)

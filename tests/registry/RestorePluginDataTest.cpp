@@ -244,12 +244,14 @@ TEST_F(Restore, TarasStandInTheirListBeforeTheGoodsAreRead)
 TEST_F(Restore, WithoutADocument_ForgetsAndReadsNothing)
 {
     plugin.putTara(2, "{a}", 1.0, 1.0);
+    plugin.putGoods(3);
     plugin.disablePlugin();
 
     plugin.restorePluginData();
 
     EXPECT_EQ(host.journal, QStringList());
     EXPECT_THAT(plugin.taraList, testing::IsEmpty());
+    EXPECT_THAT(plugin.packagingList, testing::IsEmpty());
 }
 
 TEST_F(Restore, AcceptedDocument_BringsItsOwnRecords)

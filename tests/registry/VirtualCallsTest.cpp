@@ -88,6 +88,12 @@ TEST_F(VirtualCalls, IsTaraSplitted_LooksUp)
     EXPECT_EQ(subject.calls, QStringList{"getTaraByPosnum 2"});
 }
 
+TEST_F(VirtualCalls, IsTaraSplittedWithoutGoods_LooksUpToo)
+{
+    EXPECT_FALSE(subject.isTaraSplitted(tara(2, 1.0)));
+    EXPECT_EQ(subject.calls, QStringList{"getTaraByPosnum 2"});
+}
+
 TEST_F(VirtualCalls, IsTaraPartialFilled_LooksUp)
 {
     subject.foundTara.reset(new PackagingControl::TaraInfo{7, "{found}", 1.0, 0.5});

@@ -62,17 +62,26 @@ TEST_P(SuspendedTriggers, BeforeApplyModifiers_ContinuesAndLeavesTheModifiers)
     EXPECT_EQ(host.journal, QStringList());
 }
 
-TEST_P(SuspendedTriggers, AfterSplit_ContinuesAndWritesNothing)
+TEST_P(SuspendedTriggers, AfterSplit_RecordsThePiecesAndStoresNothing)
 {
     const auto piece = goods(5, 1);
+
     EXPECT_EQ(after(actions::split({actions::splitOf(position(2), {piece}, false)})),
               EContext::Continue);
+
+    EXPECT_EQ(posnumsOf(plugin.packagingList), (QList<int>{3, 2, 5}));
+    EXPECT_FALSE(piece->getGroupId().isEmpty());
+    EXPECT_EQ(piece->getGroupId(), position(2)->getGroupId());
+    EXPECT_EQ(log.lines().value(0), "INFO Обработка разбиения позиции");
     EXPECT_EQ(host.journal, QStringList());
 }
 
-TEST_P(SuspendedTriggers, AfterUnion_ContinuesAndWritesNothing)
+TEST_P(SuspendedTriggers, AfterUnion_ForgetsTheDeletedAndStoresNothing)
 {
     EXPECT_EQ(after(actions::unite({position(3)}, {position(2)})), EContext::Continue);
+
+    EXPECT_EQ(posnumsOf(plugin.packagingList), QList<int>{2});
+    EXPECT_EQ(log.lines().value(0), "INFO Обработка объединения позиций");
     EXPECT_EQ(host.journal, QStringList());
 }
 
