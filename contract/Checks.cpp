@@ -15,9 +15,9 @@ QString &file()
 Checks allChecks()
 {
     return signatureChecks() + tableChecks() + numberChecks() + metaTypeChecks() + notifierChecks()
-           + carrierChecks() + serviceChecks() + valueChecks() + startChecks() + eventChecks()
-           + queueChecks() + triggerChecks() + splitChecks() + documentChecks() + cashierChecks()
-           + fileChecks() + receiptChecks();
+           + carrierChecks() + serviceChecks() + valueChecks() + logChecks() + startChecks()
+           + eventChecks() + queueChecks() + triggerChecks() + splitChecks() + documentChecks()
+           + cashierChecks() + fileChecks() + receiptChecks();
 }
 
 QString pluginFile()

@@ -17,6 +17,7 @@ Checks notifierChecks();
 Checks carrierChecks();
 Checks serviceChecks();
 Checks valueChecks();
+Checks logChecks();
 
 // Behaviour of the host program behind the adapter's driver.
 Checks startChecks();

@@ -42,8 +42,9 @@ void Probe::setDocument(const QSharedPointer<AbstractDocument> &newDocument)
 void Probe::handleEvent(const Event &event)
 {
     events.append(event);
-    if (onEvent)
-        onEvent(event);
+    // A copy: the reaction may put another in its place.
+    if (const auto react = onEvent)
+        react(event);
 }
 
 GoodsItemPtr Probe::onlyPosition(int code) const

@@ -15,7 +15,7 @@ namespace contract {
 namespace {
 
 constexpr auto heard = EActivityListener::eventModifierApplied2;
-constexpr auto other = EActivityListener::eventModifierApplied;
+constexpr auto another = EActivityListener::eventModifierApplied;
 
 //! Notes who is called, and reacts once.
 class Listener : public BaseActivityListener
@@ -50,10 +50,13 @@ ActivityNotifier &notifier()
 //! Two listeners, "a" before "b", of event 252.
 struct Audience
 {
-    Audience()
+    explicit Audience(bool isEnabled = true)
     {
-        notifier().subscribe(a.get(), {heard});
-        notifier().subscribe(b.get(), {heard});
+        for (Listener *const listener : {a.get(), b.get()}) {
+            notifier().subscribe(listener, {heard});
+            if (isEnabled)
+                notifier().enableListener(listener);
+        }
     }
     ~Audience()
     {
@@ -79,7 +82,7 @@ struct Audience
 
 Finding subscribed()
 {
-    const Audience audience;
+    const Audience audience(false);
     notifier().notify(Event(heard));
     return audience.hear({"a252", "b252"});
 }
@@ -87,7 +90,7 @@ Finding subscribed()
 Finding otherCodes()
 {
     const Audience audience;
-    notifier().notify(Event(other));
+    notifier().notify(Event(EActivityListener::eventError));
     return audience.hear({});
 }
 
@@ -112,9 +115,12 @@ Finding subscribesInside()
 {
     const Audience audience;
     Listener late(QStringLiteral("late"), const_cast<QStringList &>(audience.journal));
-    audience.a->reacts = [&late] { notifier().subscribe(&late, {other}); };
+    audience.a->reacts = [&late] {
+        notifier().subscribe(&late, {another});
+        notifier().enableListener(&late);
+    };
     notifier().notify(Event(heard));
-    notifier().notify(Event(other));
+    notifier().notify(Event(another));
     notifier().disableListener(&late);
     return audience.hear({"a252", "b252", "late26"});
 }
@@ -140,8 +146,8 @@ Finding deletesInside()
 Finding nested()
 {
     const Audience audience;
-    notifier().subscribe(audience.b.get(), {other});
-    audience.a->reacts = [] { notifier().notify(Event(other)); };
+    notifier().subscribe(audience.b.get(), {another});
+    audience.a->reacts = [] { notifier().notify(Event(another)); };
     notifier().notify(Event(heard));
     return audience.hear({"a252", "b26", "b252"});
 }

@@ -5,9 +5,6 @@
 #include "host/Quantity.h"
 #include "host/Tr.h"
 
-#include <log4qt/logger.h>
-#include <log4qt/logmanager.h>
-
 #include <QtCore/QMetaType>
 
 namespace contract {
@@ -81,14 +78,6 @@ Finding finallyInTime()
     return judge({{!ranInside, QStringLiteral("run before the scope ends")}});
 }
 
-Finding oneLogger()
-{
-    Log4Qt::Logger *const one = Log4Qt::LogManager::logger(QStringLiteral("packaging"));
-    Log4Qt::Logger *const again = Log4Qt::LogManager::logger(QStringLiteral("packaging"));
-    return judge({{one != nullptr, QStringLiteral("no logger")},
-                  {one == again, QStringLiteral("another logger each time")}});
-}
-
 } // namespace
 
 Checks valueChecks()
@@ -106,8 +95,6 @@ Checks valueChecks()
          "the receipt stays switched off after an error", finallyOnException},
         {"Finally.InTime", "the clean-up does not run before its scope ends",
          "records are saved before they are changed", finallyInTime},
-        {"Log.OneLogger", "the logger \"packaging\" is one object however often it is asked for",
-         "the plugin's log lines are not found", oneLogger},
     };
 }
 

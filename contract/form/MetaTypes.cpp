@@ -37,9 +37,10 @@ Finding names()
 Finding eventType()
 {
     const QMetaType type = QMetaType::fromType<Event>();
-    return judge({{type.isEqualityComparable(), QStringLiteral("events cannot be compared")},
-                  {std::is_default_constructible_v<Event>, QStringLiteral("no default constructor")},
-                  {std::is_copy_constructible_v<Event>, QStringLiteral("no copy constructor")}});
+    return judge(
+        {{type.isEqualityComparable(), QStringLiteral("events cannot be compared")},
+         {std::is_default_constructible_v<Event>, QStringLiteral("no default constructor")},
+         {std::is_copy_constructible_v<Event>, QStringLiteral("no copy constructor")}});
 }
 
 Finding positionType()
@@ -59,8 +60,8 @@ Finding listType()
     const QMetaType type = QMetaType::fromType<GoodsItemPtrList>();
     const bool isSequence = QMetaType::canConvert(type, QMetaType::fromType<QSequentialIterable>());
     return judge({{isSequence, QStringLiteral("a list of positions is no sequence in a variant")},
-                  {std::is_same_v<GoodsItemPtrList, QList<GoodsItemPtr>>,
-                   QStringLiteral("GoodsItemPtrList is no QList of GoodsItemPtr")}});
+                  {std::is_same_v<GoodsItemPtrList, QList<QSharedPointer<GoodsItem>>>,
+                   QStringLiteral("GoodsItemPtrList is no QList<QSharedPointer<GoodsItem>>")}});
 }
 
 Finding quantityType()

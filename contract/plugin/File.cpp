@@ -101,10 +101,11 @@ Finding basesByName(const QString &file)
         return Row{object->qt_metacast(name) != nullptr,
                    QStringLiteral("nothing by the name \"%1\"").arg(QString::fromLatin1(name))};
     };
-    return judge({answers("PackagingControl"), answers("BasicPlugin"), answers("DocumentWatcher"),
-                  answers(qobject_interface_iid<BasicPlugin *>()),
-                  flag(qobject_cast<BaseActivityListener *>(object), "no BaseActivityListener"),
-                  flag(qobject_cast<BasicPlugin *>(object), "no BasicPlugin by qobject_cast")});
+    return judge(
+        {answers("PackagingControl"), answers("BasicPlugin"), answers("DocumentWatcher"),
+         answers(qobject_interface_iid<BasicPlugin *>()),
+         flag(dynamic_cast<BaseActivityListener *>(object) != nullptr, "no BaseActivityListener"),
+         flag(qobject_cast<BasicPlugin *>(object) != nullptr, "no BasicPlugin by qobject_cast")});
 }
 
 } // namespace

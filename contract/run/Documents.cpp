@@ -9,8 +9,8 @@ namespace contract {
 
 namespace {
 
-const QString plugin = QStringLiteral("ContractKit");
-const QString key = QStringLiteral("records");
+const QString kitsPlugin = QStringLiteral("ContractKit");
+const QString kitsKey = QStringLiteral("records");
 
 //! Everything that the plugin's records are made of.
 QVariantList storedTree()
@@ -127,32 +127,32 @@ Finding positionTravels(Stage &stage)
 Finding dataDefault(Stage &stage)
 {
     stage.begin();
-    const QVariant seen = stage.receipt->getPluginData(plugin, key, 7);
+    const QVariant seen = stage.receipt->getPluginData(kitsPlugin, kitsKey, 7);
     return judge({{seen == QVariant(7), QStringLiteral("\"%1\"").arg(seen.toString())}});
 }
 
 Finding dataComesBack(Stage &stage)
 {
     stage.begin();
-    stage.receipt->setPluginData(plugin, key, storedTree());
-    return compareWithStored(stage.receipt->getPluginData(plugin, key, {}));
+    stage.receipt->setPluginData(kitsPlugin, kitsKey, storedTree());
+    return compareWithStored(stage.receipt->getPluginData(kitsPlugin, kitsKey, {}));
 }
 
 Finding emptyListStays(Stage &stage)
 {
     stage.begin();
-    stage.receipt->setPluginData(plugin, key, QVariantList());
-    const QVariant seen = stage.receipt->getPluginData(plugin, key, 7);
+    stage.receipt->setPluginData(kitsPlugin, kitsKey, QVariantList());
+    const QVariant seen = stage.receipt->getPluginData(kitsPlugin, kitsKey, 7);
     return judge({flag(seen != QVariant(7), "the default, as if nothing had been stored")});
 }
 
 Finding dataIsApart(Stage &stage)
 {
     stage.begin();
-    stage.receipt->setPluginData(plugin, key, 1);
-    stage.receipt->setPluginData(QStringLiteral("Another"), key, 2);
-    stage.receipt->setPluginData(plugin, QStringLiteral("another"), 3);
-    const QVariant seen = stage.receipt->getPluginData(plugin, key, {});
+    stage.receipt->setPluginData(kitsPlugin, kitsKey, 1);
+    stage.receipt->setPluginData(QStringLiteral("Another"), kitsKey, 2);
+    stage.receipt->setPluginData(kitsPlugin, QStringLiteral("another"), 3);
+    const QVariant seen = stage.receipt->getPluginData(kitsPlugin, kitsKey, {});
     return judge({{seen == QVariant(1), QStringLiteral("\"%1\" and not 1").arg(seen.toString())}});
 }
 
@@ -160,11 +160,11 @@ Finding dataIsStored(Stage &stage)
 {
     stage.begin();
     stage.tara();
-    stage.receipt->setPluginData(plugin, key, storedTree());
+    stage.receipt->setPluginData(kitsPlugin, kitsKey, storedTree());
     const auto loaded = stage.driver->storeAndLoad();
     if (!loaded)
         return broken(QStringLiteral("no receipt was loaded"));
-    return compareWithStored(loaded->getPluginData(plugin, key, {}));
+    return compareWithStored(loaded->getPluginData(kitsPlugin, kitsKey, {}));
 }
 
 Finding switchedOff(Stage &stage)

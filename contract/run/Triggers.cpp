@@ -52,12 +52,15 @@ Finding calledBefore(Stage &stage)
 
 Finding quantityIsSeen(Stage &stage)
 {
-    return judge({flag(guardChange(stage, EContext::Continue).isSet, "isSet(Quantity) says no")});
+    const Guarded seen = guardChange(stage, EContext::Continue);
+    return judge({flag(seen.isSet, "isSet(Quantity) says no")});
 }
 
 Finding refusalStops(Stage &stage)
 {
     const Guarded seen = guardChange(stage, EContext::Error);
+    if (seen.calls == 0)
+        throw NotOffered{"change"};
     return judge({flag(!seen.isDone, "the change was made nevertheless"),
                   amount("the count afterwards", stage.position(seen.tara)->getCquant(), 2.0)});
 }
@@ -119,6 +122,8 @@ Finding subtotalIsGuarded(Stage &stage)
 Finding subtotalIsCancelled(Stage &stage)
 {
     const Subtotal seen = goToSubtotal(stage, EContext::Cancel);
+    if (seen.calls == 0)
+        throw NotOffered{"subtotal"};
     return judge({flag(!seen.isReached, "the subtotal was reached nevertheless")});
 }
 

@@ -17,10 +17,7 @@ may_include(plugin host log4qt)
 may_include(registry host log4qt plugin)
 may_include(events host log4qt plugin registry)
 may_include(triggers host log4qt plugin registry)
-# The contract kit knows a host, ours or another, and Log4Qt.
-may_include(contract host log4qt)
 # The kit that checks a host sees that host and nothing else of the project.
-may_include(contract host log4qt)
 # The till knows the host and Log4Qt, never the plugin; a module of it knows the ones before it that
 # it is made of.
 may_include(till/language host)
