@@ -1,0 +1,8 @@
+include(CMakeFindDependencyMacro)
+find_dependency(Qt6 6.4 COMPONENTS Core)
+find_dependency(Shopline)
+if(NOT TARGET PackagingHost::Host)
+    add_library(PackagingHost::Host INTERFACE IMPORTED)
+    target_include_directories(PackagingHost::Host INTERFACE ${CMAKE_CURRENT_LIST_DIR}/include)
+    target_link_libraries(PackagingHost::Host INTERFACE Shopline::Shopline Qt6::Core)
+endif()
