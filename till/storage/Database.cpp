@@ -246,7 +246,7 @@ QSqlQuery *Database::run(const QString &sql, const QVariantList &values)
     if (query.exec())
         return &query;
     failWith(query.lastError());
-    query.finish();
+    m_statements.erase(entry); // the driver may have given it up for good
     return nullptr;
 }
 
