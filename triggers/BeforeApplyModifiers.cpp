@@ -7,13 +7,13 @@
 
 namespace {
 
-tr::Tr usedByDifferentGoods()
+tr::Tr sharedTaraMessage()
 {
     return {QStringLiteral("packingControlTaraUsedDiffGoods"),
             QStringLiteral("Тара используется разными товарами.\nИзменение количества запрещено")};
 }
 
-tr::Tr partlyFilled()
+tr::Tr partlyFilledTaraMessage()
 {
     return {QStringLiteral("packingControlTaraAlmostFull"),
             QStringLiteral("Тара частично заполнена.\nИзменение количества запрещено")};
@@ -35,7 +35,8 @@ EContext::Result PackagingControl::beforeApplyModifiers(const control::Action &a
     pending->clearAll();
     ActivityNotifier *const notifier = Singleton<ActivityNotifier>::instance();
     // Asked anew on purpose: the answer at this moment chooses the text.
-    const tr::Tr message = isTaraSplitted(position) ? usedByDifferentGoods() : partlyFilled();
+    const tr::Tr message =
+        isTaraSplitted(position) ? sharedTaraMessage() : partlyFilledTaraMessage();
     notifier->notify(Event(EActivityListener::eventError)
                          .addArgument(QStringLiteral("errorText"), message)
                          .addArgument(QStringLiteral("forCustomer"), false));

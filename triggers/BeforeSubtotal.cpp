@@ -7,7 +7,8 @@
 
 namespace {
 
-bool confirmsStorno()
+//! Asks the cashier. True for yes.
+bool askToStornoEmptyTara()
 {
     constexpr int kind = 1;
     constexpr int flags = 0;
@@ -27,7 +28,7 @@ EContext::Result PackagingControl::beforeSubtotal(const control::Action &action)
     if (!isExistsEmptyTara())
         return EContext::Continue;
     const auto receipt = document;
-    if (!confirmsStorno())
+    if (!askToStornoEmptyTara())
         return EContext::Cancel;
     // The answer is about the receipt that was current, not about one that came meanwhile.
     if (document && document != receipt)
