@@ -2,9 +2,12 @@
 #include "host/BasicPlugin.h"
 #include "host/Document.h"
 #include "host/DocumentWatcher.h"
+#include "host/Event.h"
+#include "host/Quantity.h"
 
 #include <gtest/gtest.h>
 
+#include <QtCore/QMetaType>
 #include <QtCore/QPluginLoader>
 #include <QtCore/QPointer>
 
@@ -13,6 +16,42 @@
 #include <memory>
 
 namespace {
+
+//! A name under which the plugin registers a type of the host's.
+struct TypeName
+{
+    const char *name;
+    QMetaType type;
+    // Looked up before any test runs, since mere use of a type may register it.
+    bool isKnownAtStart = QMetaType::fromName(name).isValid();
+};
+
+void PrintTo(const TypeName &type, std::ostream *out)
+{
+    *out << type.name;
+}
+
+class RegisteredType : public testing::TestWithParam<TypeName>
+{
+};
+
+TEST_P(RegisteredType, HasItsNameOnceThePluginIsThere)
+{
+    EXPECT_FALSE(GetParam().isKnownAtStart);
+
+    QPluginLoader loader(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE));
+    ASSERT_NE(loader.instance(), nullptr);
+
+    EXPECT_EQ(QMetaType::fromName(GetParam().name), GetParam().type);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, RegisteredType,
+    testing::Values(TypeName{"Event", QMetaType::fromType<Event>()},
+                    TypeName{"GoodsItemPtr", QMetaType::fromType<GoodsItemPtr>()},
+                    TypeName{"GoodsItemPtrList", QMetaType::fromType<GoodsItemPtrList>()},
+                    TypeName{"Quantity", QMetaType::fromType<Quantity>()}),
+    [](const auto &type) { return std::string(type.param.name); });
 
 TEST(PluginFileWithoutLoadHints, Unloaded_StaysMapped)
 {
