@@ -36,17 +36,6 @@ TEST(ActionHandle, ManyValuesUnderOneKey_AreAllKept)
               (QVariantList{2, 1}));
 }
 
-TEST(ActionHandle, CopyMadeBefore_SeesAChange)
-{
-    const Action action(control::StornoPosition, {});
-    const Action copy = action;
-
-    Core(action).setPositionNumber(7);
-
-    EXPECT_EQ(Core(copy).positionNumber(), 7);
-    EXPECT_EQ(copy.getArguments(), action.getArguments());
-}
-
 TEST(ActionHandle, ChangeThroughACopy_IsSeenInTheOriginal)
 {
     const Action action(control::StornoPosition, {});
@@ -67,18 +56,6 @@ TEST(ActionHandle, Assigned_SharesFromThenOn)
 
     EXPECT_EQ(other.getType(), control::StornoPosition);
     EXPECT_EQ(Core(other).positionNumber(), 8);
-}
-
-TEST(ActionHandle, TwoActionsOfTheSameArguments_ShareNothing)
-{
-    const Arguments arguments{{"a", 1}};
-    const Action one(control::StornoPosition, arguments);
-    const Action other(control::StornoPosition, arguments);
-
-    one.setArgument("a", 2);
-
-    EXPECT_EQ(other.getArguments(), arguments);
-    EXPECT_EQ(arguments.value("a"), 1);
 }
 
 TEST(ActionHandle, ArgumentsTakenEarlier_StayAsTheyWere)
@@ -103,11 +80,6 @@ TEST(ActionHandle, SetArgument_ReplacesEveryValueOfTheKey)
 TEST(ActionAccessor, NoPositionNumber_IsZero)
 {
     EXPECT_EQ(Core(Action(control::StornoPosition, {})).positionNumber(), 0);
-}
-
-TEST(ActionAccessor, PositionNumber_IsReadBack)
-{
-    EXPECT_EQ(Core(stornoOf(5)).positionNumber(), 5);
 }
 
 TEST(ActionAccessor, PositionNumberSetAgain_ReplacesTheFirst)

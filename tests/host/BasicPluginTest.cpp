@@ -212,11 +212,6 @@ TEST_F(Plugin, Handlers_AddNoTriggers)
     EXPECT_TRUE(plugin.triggers().isEmpty());
 }
 
-TEST_F(Plugin, InterfaceIdentifier_IsDeclared)
-{
-    EXPECT_STREQ(qobject_interface_iid<BasicPlugin *>(), BasicPlugin_iid);
-}
-
 TEST_F(Plugin, InterfaceIdentifier_FindsThePartOfAnObject)
 {
     struct Object : QObject, BasicPlugin

@@ -11,16 +11,6 @@ namespace {
 
 const QString key = QStringLiteral("PackagingControl:allowSaleEmptyTara");
 
-TEST(Config, AbsentKey_IsTheDefault)
-{
-    const WarningCapture warnings;
-    const Config config;
-
-    EXPECT_TRUE(config.getBool(key, true));
-    EXPECT_FALSE(config.getBool(key, false));
-    EXPECT_EQ(warnings.lines(), QStringList());
-}
-
 TEST(Config, KeyInOtherLetters_IsAnotherKey)
 {
     Config config;

@@ -55,14 +55,6 @@ TEST(DefaultServices, Loyalty_TakesANullDocument)
     EXPECT_NO_FATAL_FAILURE(LoyaltySystemLayer().updateDocument(nullptr));
 }
 
-TEST(DefaultServices, Session_AlwaysHasTheSameModifiers)
-{
-    Session session;
-
-    ASSERT_NE(session.getModifiers(), nullptr);
-    EXPECT_EQ(session.getModifiers(), session.getModifiers());
-}
-
 TEST(DefaultServices, Session_StartsWithoutModifiers)
 {
     EXPECT_FALSE(Session().getModifiers()->isSet(modifiers::Quantity));

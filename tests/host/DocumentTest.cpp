@@ -66,14 +66,6 @@ TEST_P(TaraCapacity, Position_ShowsWhateverTheCatalogueHolds)
 INSTANTIATE_TEST_SUITE_P(Each, TaraCapacity,
                          testing::Values(QVariant(), QVariant(0.5), QVariant("2,5"), QVariant(-1)));
 
-TEST(Article, TaraModes_HaveTheContractsNumbers)
-{
-    EXPECT_EQ(Tmc(Tmc::Tara).getTaraMode(), 1);
-    EXPECT_EQ(Tmc(Tmc::PackagingGoods).getTaraMode(), 2);
-    EXPECT_EQ(Tmc().getTaraMode(), 0);
-    EXPECT_EQ(Tmc(17).getTaraMode(), 17);
-}
-
 TEST(Receipt, NewDocument_IsAnEmptySaleWithoutOrder)
 {
     const Document document;

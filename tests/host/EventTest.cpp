@@ -30,22 +30,6 @@ TEST(EventValue, UnnamedCode_IsKept)
     EXPECT_EQ(Event(static_cast<EActivityListener::Event>(70000)).getCode(), 70000);
 }
 
-TEST(EventValue, AbsentArgument_IsTheDefault)
-{
-    const Event event(eventError);
-
-    EXPECT_EQ(event.value("forCustomer", true), true);
-    EXPECT_FALSE(event.value("forCustomer", QVariant()).isValid());
-}
-
-TEST(EventValue, PresentArgument_OverrulesTheDefault)
-{
-    Event event(eventError);
-    event.addArgument("forCustomer", false);
-
-    EXPECT_EQ(event.value("forCustomer", true), false);
-}
-
 TEST(EventValue, InvalidArgument_IsPresent)
 {
     Event event(eventError);
@@ -71,15 +55,6 @@ TEST(EventValue, ArgumentAddedAgain_IsReplaced)
 
     EXPECT_EQ(event.value("forCustomer", false), true);
     EXPECT_EQ(event.arguments().size(), 1);
-}
-
-TEST(EventValue, AddArgument_Chains)
-{
-    Event event(eventError);
-    Event &chained = event.addArgument("a", 1).addArgument("b", 2);
-
-    EXPECT_EQ(&chained, &event);
-    EXPECT_EQ(event.arguments(), (QVariantMap{{"a", 1}, {"b", 2}}));
 }
 
 TEST(EventValue, Copy_IsIndependent)
@@ -118,12 +93,6 @@ void expectEquality(const Event &one, const Event &other, bool equal)
     EXPECT_EQ(other != one, !equal);
 }
 
-TEST(EventEquality, SameCodeAndArguments_AreEqual)
-{
-    expectEquality(Event(eventError).addArgument("a", 1), Event(eventError).addArgument("a", 1),
-                   true);
-}
-
 TEST(EventEquality, OrderOfAdding_DoesNotMatter)
 {
     expectEquality(Event(eventError).addArgument("a", 1).addArgument("b", 2),
@@ -133,12 +102,6 @@ TEST(EventEquality, OrderOfAdding_DoesNotMatter)
 TEST(EventEquality, OtherCode_Differs)
 {
     expectEquality(Event(eventPositionAdded), Event(eventPositionStorno), false);
-}
-
-TEST(EventEquality, OtherValue_Differs)
-{
-    expectEquality(Event(eventError).addArgument("a", 1), Event(eventError).addArgument("a", 2),
-                   false);
 }
 
 TEST(EventEquality, OtherKey_Differs)

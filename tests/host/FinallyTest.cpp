@@ -18,16 +18,6 @@ std::string messageOf(const std::function<void()> &body)
     return "nothing thrown";
 }
 
-TEST(Finally, ScopeEnds_RunsOnce)
-{
-    int runs = 0;
-    {
-        const Finally cleanUp([&] { ++runs; });
-        EXPECT_EQ(runs, 0);
-    }
-    EXPECT_EQ(runs, 1);
-}
-
 TEST(Finally, EarlyReturn_RunsOnce)
 {
     int runs = 0;

@@ -32,16 +32,6 @@ TEST(EventMetaType, Equality_IsTheEvents)
     EXPECT_FALSE(type.equals(&one, &other));
 }
 
-TEST(EventMetaType, InAVariant_ComparesAndComesBack)
-{
-    const Event event = Event(EActivityListener::eventError).addArgument("a", 1);
-    const QVariant wrapped = QVariant::fromValue(event);
-
-    EXPECT_EQ(wrapped, QVariant::fromValue(Event(event)));
-    EXPECT_NE(wrapped, QVariant::fromValue(Event(EActivityListener::eventError)));
-    EXPECT_EQ(wrapped.value<Event>(), event);
-}
-
 class PositionMetaType : public testing::Test
 {
 protected:
@@ -82,25 +72,9 @@ TEST_F(PositionMetaType, DebugOutput_ShowsThePointer)
     EXPECT_TRUE(text.startsWith("QSharedPointer(")) << text.toStdString();
 }
 
-TEST_F(PositionMetaType, ConvertsToItsObject)
-{
-    const QVariant wrapped = QVariant::fromValue(one);
-
-    EXPECT_TRUE(QMetaType::hasRegisteredConverterFunction(type, QMetaType::fromType<QObject *>()));
-    ASSERT_TRUE(wrapped.canConvert<QObject *>());
-    EXPECT_EQ(wrapped.value<QObject *>(), one.get());
-}
-
 TEST_F(PositionMetaType, NullPosition_ConvertsToANullObject)
 {
     EXPECT_EQ(QVariant::fromValue(GoodsItemPtr()).value<QObject *>(), nullptr);
-}
-
-TEST_F(PositionMetaType, ConvertsFromNothingElse)
-{
-    EXPECT_TRUE(QVariant(1).value<GoodsItemPtr>().isNull());
-    EXPECT_TRUE(QVariant("1").value<GoodsItemPtr>().isNull());
-    EXPECT_TRUE(QVariant().value<GoodsItemPtr>().isNull());
 }
 
 TEST_F(PositionMetaType, InAVariant_KeepsThePositionAlive)
@@ -121,19 +95,6 @@ protected:
     const GoodsItemPtrList positions{position(3), position(1), position(2)};
     const QVariant wrapped = QVariant::fromValue(positions);
 };
-
-TEST_F(PositionListMetaType, ComesBackInItsOrder)
-{
-    EXPECT_EQ(wrapped.value<GoodsItemPtrList>(), positions);
-}
-
-TEST_F(PositionListMetaType, SequentialView_IsRegistered)
-{
-    const QMetaType type = QMetaType::fromType<GoodsItemPtrList>();
-
-    EXPECT_TRUE(QMetaType::canView(type, QMetaType::fromType<QSequentialIterable>()));
-    EXPECT_TRUE(QMetaType::canConvert(type, QMetaType::fromType<QSequentialIterable>()));
-}
 
 TEST_F(PositionListMetaType, SequentialView_ShowsEveryPosition)
 {
@@ -189,13 +150,6 @@ protected:
     const Quantity quantity{1.5, quantModeRecalculated};
 };
 
-TEST_F(QuantityMetaType, IsAGadget)
-{
-    ASSERT_TRUE(type.flags().testFlag(QMetaType::IsGadget));
-    ASSERT_EQ(type.metaObject(), &Quantity::staticMetaObject);
-    EXPECT_STREQ(type.metaObject()->className(), "Quantity");
-}
-
 TEST_F(QuantityMetaType, Amount_IsReadAsAProperty)
 {
     const QMetaObject *meta = type.metaObject();
@@ -213,11 +167,6 @@ TEST_F(QuantityMetaType, Equality_IsTheQuantitys)
     ASSERT_TRUE(type.isEqualityComparable());
     EXPECT_TRUE(type.equals(&quantity, &same));
     EXPECT_FALSE(type.equals(&quantity, &other));
-}
-
-TEST_F(QuantityMetaType, InAVariant_ComesBack)
-{
-    EXPECT_EQ(QVariant::fromValue(quantity).value<Quantity>(), quantity);
 }
 
 } // namespace

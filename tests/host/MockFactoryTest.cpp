@@ -48,15 +48,6 @@ TYPED_TEST(Factory, NewObject_IsNotKept)
     EXPECT_TRUE(MockFactory<TypeParam>::mocked.isNull());
 }
 
-TYPED_TEST(Factory, Substitute_IsHandedOutEachTime)
-{
-    const QSharedPointer<TypeParam> substitute(new TypeParam);
-    MockFactory<TypeParam>::mocked = substitute;
-
-    EXPECT_EQ(MockFactory<TypeParam>::create(), substitute);
-    EXPECT_EQ(MockFactory<TypeParam>::create(), substitute);
-}
-
 TYPED_TEST(Factory, Substitute_OutlivesItsUse)
 {
     MockFactory<TypeParam>::mocked.reset(new TypeParam);

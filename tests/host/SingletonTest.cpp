@@ -62,13 +62,6 @@ TYPED_TEST(Slot, FirstUse_MakesTheObject)
     EXPECT_TRUE(Singleton<TypeParam>::instance == made.get());
 }
 
-TYPED_TEST(Slot, FurtherUses_GiveTheSameObject)
-{
-    const std::unique_ptr<TypeParam> made(Singleton<TypeParam>::instance());
-
-    EXPECT_EQ(Singleton<TypeParam>::instance(), made.get());
-}
-
 TYPED_TEST(Slot, AssignedObject_IsUsedInsteadOfANewOne)
 {
     Singleton<TypeParam>::instance = this->mine.get();

@@ -28,20 +28,6 @@ TEST(QuantityValue, DefaultQuantity_IsNothing)
     EXPECT_EQ(Quantity().mode(), quantModeNone);
 }
 
-TEST(QuantityValue, SameAmountAndMode_AreEqual)
-{
-    EXPECT_TRUE(Quantity(1.5, quantModeRecalculated) == Quantity(1.5, quantModeRecalculated));
-    EXPECT_FALSE(Quantity(1.5, quantModeRecalculated) != Quantity(1.5, quantModeRecalculated));
-}
-
-TEST(QuantityValue, OtherAmount_Differs)
-{
-    const double nearby = std::nextafter(1.5, 2.0);
-
-    EXPECT_FALSE(Quantity(1.5, quantModeRecalculated) == Quantity(nearby, quantModeRecalculated));
-    EXPECT_TRUE(Quantity(1.5, quantModeRecalculated) != Quantity(nearby, quantModeRecalculated));
-}
-
 TEST(QuantityValue, OtherMode_Differs)
 {
     EXPECT_FALSE(Quantity(1.5, quantModeRecalculated) == Quantity(1.5, otherMode));
