@@ -6,8 +6,8 @@
 namespace contract {
 
 /*!
- * Runs \a check in a child process and waits for it. A child that crashes, or hangs for a minute,
- * is a broken promise. What the host prints is dropped unless \a showsOutput.
+ * Runs \a check in a child process and waits for it. A child that crashes, or hangs for five
+ * minutes, is a broken promise. What the host prints is dropped unless \a showsOutput.
  */
 Finding runApart(const Check &check, bool showsOutput);
 
