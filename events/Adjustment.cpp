@@ -82,7 +82,8 @@ void PackagingControl::modifyPackagingUsedCapacity(const QSharedPointer<Packagin
             break;
         const double free = tara->freeCapacity;
         const bool fills = isPositive(free) && isPositive(delta);
-        // Only over-full taras release: one with room keeps its share when the goods shrink.
+        // Only over-full taras release: one with free capacity keeps its share when the goods
+        // shrink.
         const bool releases =
             isNegative(free) && isNegative(delta) && info->usedTara.contains(tara->id);
         if (!fills && !releases)

@@ -10,7 +10,7 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-//! The document in hand (a receipt), handled as `QSharedPointer<AbstractDocument>`.
+//! The current document (a receipt), handled as `QSharedPointer<AbstractDocument>`.
 class HOST_EXPORT AbstractDocument
 {
 public:

@@ -5,7 +5,7 @@
 #include "host/HostGlobal.h"
 #include "host/MockFactory.h"
 
-//! What the host can do to the document in hand. Made for one use by `MockFactory`.
+//! What the host can do to the current document. Made for one use by `MockFactory`.
 class HOST_EXPORT DocumentLogic
 {
 public:

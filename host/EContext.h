@@ -6,7 +6,7 @@ namespace EContext {
 
 //! Part of the host program in which an action is performed.
 enum Code : int {
-    Receipt = 6, //!< a receipt is in hand
+    Receipt = 6, //!< there is a current receipt
 };
 
 //! Answer of a trigger callback. The action queue answers with the same numbers.

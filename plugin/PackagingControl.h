@@ -140,8 +140,9 @@ protected:
      */
     virtual void modifyTaraCapacity(const QSharedPointer<TaraInfo> &tara, double newCapacity);
     /*!
-     * Brings what the goods of \a info use in all to \a newUsedCapacity: fills taras with room,
-     * first fit, or releases over-full taras that the goods use. What finds no place is dropped.
+     * Brings what the goods of \a info use in all to \a newUsedCapacity: fills taras with free
+     * capacity, first fit, or releases over-full taras that the goods use. What finds no place is
+     * dropped.
      */
     virtual void modifyPackagingUsedCapacity(const QSharedPointer<PackagingInfo> &info,
                                              double newUsedCapacity);

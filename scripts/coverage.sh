@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs the tests on a build that counts lines and branches, and fails where too few of them ran:
-# all of the plugin's rooms, and 95 % of the lines of the host library and of the till.
+# all of the plugin's modules, and 95 % of the lines of the host library and of the till.
 # scripts/coverage.sh --html also writes the pages build/coverage-html/index.html.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -20,7 +20,7 @@ find "$build" -name '*.gcda' -delete
 ctest --preset coverage -j "$(nproc)" -E '^Install\.|MemoryRunsOut|HostException|ThatThrows' --quiet --output-log "$build/tests.log" \
     || { tail -n 100 "$build/tests.log" >&2; exit 1; }
 
-# The plugin's rooms are read from the plugin's own objects: a header that a test includes is
+# The plugin's modules are read from the plugin's own objects: a header that a test includes is
 # compiled with exceptions there.
 plugin=$(find "$build" -type d -name PackagingControlObjects.dir)
 gcovr --root . --json "$build/plugin.json" --gcov-ignore-parse-errors \
@@ -50,8 +50,8 @@ measure() {
     figure "Coverage of $name" "$summary"
 }
 
-for room in plugin registry events triggers; do
-    measure "$room/" "$build/plugin.json" "$room/" --fail-under-line 100 --fail-under-branch 100
+for module in plugin registry events triggers; do
+    measure "$module/" "$build/plugin.json" "$module/" --fail-under-line 100 --fail-under-branch 100
 done
 measure host/ "$build/all.json" host/ --fail-under-line 95
 measure till/ "$build/all.json" till/ --fail-under-line 95

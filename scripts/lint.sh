@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs clang-tidy on all product code and clazy (level 1) on the plugin's rooms. Any finding fails.
+# Runs clang-tidy on all product code and clazy (level 1) on the plugin's modules. Any finding fails.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/dependencies.sh
@@ -13,7 +13,7 @@ CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
     -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=6 >/dev/null
 cmake --build "$build" --target autogen >/dev/null
 
-# batches FILTER: the batches of the rooms in build/lint whose paths match.
+# batches FILTER: the batches of the modules in build/lint whose paths match.
 batches() {
     find "$build" -path "$1" -name 'unity_*.cxx' -print0 | sort -rz
 }

@@ -109,7 +109,7 @@ protected:
         return host.receipt()->getPositionByPosnum(posnum);
     }
 
-    //! The records that the receipt in hand keeps, as a plugin that opens it would read them.
+    //! The records that the current receipt keeps, as a plugin that opens it would read them.
     void expectSavedRecordsAreThoseOf(const TestPlugin &expected) const
     {
         TestPlugin reader;

@@ -33,7 +33,7 @@ public:
     ~FakeHost();
     Q_DISABLE_COPY_MOVE(FakeHost)
 
-    //! The receipt in hand. `newReceipt` puts another in its place.
+    //! The current receipt. `newReceipt` puts another in its place.
     QSharedPointer<Document> receipt() const { return m_receipt; }
     void newReceipt(int type = Document::Sale);
 

@@ -12,7 +12,7 @@
 #include <memory>
 
 /*!
- * A plugin with a receipt in hand and the subtotal guarded, whose callbacks are reached as the host
+ * A plugin with a current receipt and the subtotal guarded, whose callbacks are reached as the host
  * reaches them: through the triggers that it registered.
  */
 template <class Plugin>
