@@ -110,6 +110,8 @@ private:
     Notes &m_notes;
 };
 
+const HostServices *inPlace = nullptr;
+
 QJsonObject describe(const Event &event)
 {
     QJsonObject fields{{"code", event.getCode()}};
@@ -183,6 +185,10 @@ HostServices::HostServices(HostProgram &program, Notes &notes, Config &settings)
     , m_loyalty(new Loyalty(notes))
     , m_log(new LogListener(notes))
 {
+    m_notifier->subscribe(m_messages.get(), {EActivityListener::eventError});
+    if (inPlace)
+        return;
+    inPlace = this;
     Singleton<ActivityNotifier>::instance = m_notifier.get();
     Singleton<Session>::instance = m_session.get();
     Singleton<ActionQueueController>::instance = m_queue.get();
@@ -190,11 +196,13 @@ HostServices::HostServices(HostProgram &program, Notes &notes, Config &settings)
     Singleton<Config>::instance = &settings;
     MockFactory<Dialog>::mocked.reset(new QuestionDialog(program));
     MockFactory<DocumentLogic>::mocked.reset(new Logic(program));
-    m_notifier->subscribe(m_messages.get(), {EActivityListener::eventError});
 }
 
 HostServices::~HostServices()
 {
+    if (!areInPlace())
+        return;
+    inPlace = nullptr;
     MockFactory<DocumentLogic>::mocked.reset();
     MockFactory<Dialog>::mocked.reset();
     Singleton<Config>::instance = nullptr;
@@ -202,6 +210,11 @@ HostServices::~HostServices()
     Singleton<ActionQueueController>::instance = nullptr;
     Singleton<Session>::instance = nullptr;
     Singleton<ActivityNotifier>::instance = nullptr;
+}
+
+bool HostServices::areInPlace() const
+{
+    return inPlace == this;
 }
 
 ActivityNotifier &HostServices::notifier()

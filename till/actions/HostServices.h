@@ -38,10 +38,14 @@ protected:
 class HostServices
 {
 public:
-    //! All three must outlive this object.
+    //! All three must outlive this object. There is one of each service: while another object has
+    //! put its own in place, this one puts none.
     HostServices(HostProgram &program, Notes &notes, Config &settings);
     ~HostServices();
     Q_DISABLE_COPY_MOVE(HostServices)
+
+    //! Whether the services of the process are this object's.
+    bool areInPlace() const;
 
     ActivityNotifier &notifier();
     ModifiersContainer &modifiers();

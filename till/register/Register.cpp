@@ -30,6 +30,8 @@ Register::~Register()
 
 QString Register::start()
 {
+    if (!m_services.areInPlace())
+        return QStringLiteral("another register is on in this process");
     const QScopedValueRollback<bool> underWay(m_isBusy, true);
     if (m_plugin) {
         if (const auto error = m_plugin->initialise())

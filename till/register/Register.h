@@ -42,7 +42,7 @@ public:
     //! Shows a message to the cashier.
     using Shower = std::function<void(const tr::Tr &message)>;
 
-    //! Puts the host's services in place.
+    //! Puts the host's services in place. They are the process's, so that one register can be on.
     explicit Register(const Parts &parts);
     ~Register();
     Q_DISABLE_COPY_MOVE(Register)
@@ -52,7 +52,8 @@ public:
 
     /*!
      * Initialises the plugin and takes up the receipt that was in hand when the register ended, if
-     * any. To be called once, before all else. Empty text or an error, with its place.
+     * any. To be called once, before all else. Empty text or an error, with its place; while
+     * another register lives, that one, and nothing was done.
      */
     QString start();
 
