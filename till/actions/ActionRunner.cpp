@@ -61,6 +61,8 @@ EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
     {
         const Notes::Nesting inside(m_notes);
         result = runTriggers(action, ActionTrigger::Before);
+        if (origin == Origin::Cashier)
+            m_wasStoppedByPlugin = result != EContext::Continue;
         if (result == EContext::Continue)
             result = carryOut(action, origin);
         if (result == EContext::Continue)

@@ -49,6 +49,9 @@ public:
 
     EContext::Result run(const control::Action &action, Origin origin);
 
+    //! Whether a trigger stopped the last action of the cashier's before it was carried out.
+    bool wasStoppedByPlugin() const { return m_wasStoppedByPlugin; }
+
     //! Runs the triggers after \a action alone, for an action that was carried out in an earlier
     //! life.
     void runTriggersAfter(const control::Action &action);
@@ -75,6 +78,7 @@ private:
     BasicPlugin *m_plugin;
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;
+    bool m_wasStoppedByPlugin = false;
 };
 
 } // namespace till

@@ -60,12 +60,6 @@ void remember(const QString &line, const QByteArray &historyFile)
         write_history(historyFile.constData());
 }
 
-QString describe(const Outcome &outcome)
-{
-    // The reason of a refusal was shown as a message.
-    return outcome.kind == Outcome::Refused ? QStringLiteral("refused") : outcome.text;
-}
-
 //! Prints the receipt unless it looks as it was \a shown last.
 void showChanged(const QString &receipt, QString &shown)
 {
@@ -117,7 +111,7 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         if (terminal && !line->trimmed().isEmpty())
             remember(*line, history);
         const Outcome outcome = commands.run(*line);
-        if (const QString text = describe(outcome); !text.isEmpty())
+        if (const QString text = commands.textOf(outcome); !text.isEmpty())
             show(text);
         allDone = allDone && (terminal || outcome);
         if (terminal && commands.hasTouchedReceipt())

@@ -17,6 +17,28 @@
     MESSAGE(tillYes, "Да")                                                                         \
     MESSAGE(tillNo, "Нет")                                                                         \
     MESSAGE(tillChange, "Сдача %1")                                                                \
+    /* Mistakes and failures */                                                                    \
+    MESSAGE(tillBusy, "Выполняется другая команда")                                                \
+    MESSAGE(tillReceiptIsOpen, "Чек уже открыт: оплатите или отмените его")                        \
+    MESSAGE(tillNoReceipt, "Нет открытого чека")                                                   \
+    MESSAGE(tillNoArticle, "В каталоге нет товара \"%1\"")                                         \
+    MESSAGE(tillNoPosition, "В чеке нет позиции %1")                                               \
+    MESSAGE(tillPositionStornoed, "Позиция %1 сторнирована")                                       \
+    MESSAGE(tillCountTooSmall, "Количество должно быть больше 0")                                  \
+    MESSAGE(tillCountNegative, "Количество не может быть меньше 0")                                \
+    MESSAGE(tillCountTooGreat, "Количество не может быть больше %1")                               \
+    MESSAGE(tillSumTooGreat, "Сумма чека не может быть больше %1")                                 \
+    MESSAGE(tillNoParts, "Не названо ни одной части")                                              \
+    MESSAGE(tillPartTooSmall, "Каждая часть должна быть больше 0")                                 \
+    MESSAGE(tillPartsTooGreat, "В позиции %1 меньше, чем в частях")                                \
+    MESSAGE(tillTooFewPositions, "Нужно назвать хотя бы две позиции")                              \
+    MESSAGE(tillPositionTwice, "Позиция %1 названа дважды")                                        \
+    MESSAGE(tillOtherArticles, "В позициях %1 и %2 разные товары")                                 \
+    MESSAGE(tillOrderNumberless, "У заказа нет номера")                                            \
+    MESSAGE(tillSoftCheckNumberless, "У софт-чека нет номера")                                     \
+    MESSAGE(tillHasOrder, "В чеке уже есть заказ %1")                                              \
+    MESSAGE(tillHasSoftCheck, "В чеке уже есть софт-чек %1")                                       \
+    MESSAGE(tillNotStored, "Не удалось сохранить")                                                 \
     /* Above the table */                                                                          \
     MESSAGE(tillSale, "Чек")                                                                       \
     MESSAGE(tillReturn, "Возврат")                                                                 \

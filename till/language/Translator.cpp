@@ -43,6 +43,14 @@ QString Translator::text(const tr::Tr &message) const
     return m_texts.value(message.key(), message.text());
 }
 
+QString Translator::text(const Message &message) const
+{
+    QString filled = text(message.pattern);
+    for (const QString &value : message.values)
+        filled = filled.arg(value);
+    return filled;
+}
+
 QStringList Translator::languages()
 {
     QStringList languages{russian()};

@@ -1,7 +1,7 @@
 #ifndef TILL_LANGUAGE_TRANSLATOR_H
 #define TILL_LANGUAGE_TRANSLATOR_H
 
-#include "host/Tr.h"
+#include "till/language/Message.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>
@@ -19,6 +19,8 @@ public:
     //! The text of \a message in this language. In Russian, and where the language has no text
     //! under the message's key, the message's own text as it stands.
     QString text(const tr::Tr &message) const;
+    //! The same, with its values in it.
+    QString text(const Message &message) const;
 
     //! Codes of the languages that ship: Russian, "ru", then the others by alphabet.
     static QStringList languages();

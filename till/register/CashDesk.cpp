@@ -23,7 +23,7 @@ CashDesk::~CashDesk()
 QString CashDesk::whenIdle(const std::function<QString()> &step)
 {
     if (isBusy())
-        return Outcome::busy().text;
+        return Outcome::busy().text();
     const QScopedValueRollback<bool> switching(m_isSwitching, true);
     return step();
 }

@@ -35,12 +35,20 @@ QString number(int posnum)
     return QString::number(posnum);
 }
 
+//! Of a command that would leave \a count in a position, and so exceed a limit.
+Outcome aboveLimit(double count)
+{
+    if (!countFault(count).isEmpty())
+        return Outcome::mistake(messages::tillCountTooGreat(), {toText(greatestCount)});
+    return Outcome::mistake(messages::tillSumTooGreat(), {toText(greatestSum)});
+}
+
 } // namespace
 
 Outcome Register::execute(const command::Open &open)
 {
     if (isInHand())
-        return Outcome::mistake("a receipt is open already: pay or cancel it first");
+        return Outcome::mistake(messages::tillReceiptIsOpen());
     takeUp(QSharedPointer<Receipt>::create(open.type));
     return perform(control::Action(control::OpenReceipt, {{"receiptType", open.type}}));
 }
@@ -48,14 +56,14 @@ Outcome Register::execute(const command::Open &open)
 Outcome Register::execute(const command::Add &add)
 {
     if (!isInHand())
-        return Outcome::mistake("no receipt is open");
+        return Outcome::mistake(messages::tillNoReceipt());
     const auto article = m_catalogue.find(add.article);
     if (!article)
-        return Outcome::mistake("no article \"" + add.article + "\" in the catalogue");
+        return Outcome::mistake(messages::tillNoArticle(), {add.article});
     if (add.count <= 0)
-        return Outcome::mistake("the quantity must be above 0");
-    if (const QString fault = m_receipt->limitFault(article->data, add.count); !fault.isEmpty())
-        return Outcome::mistake(fault);
+        return Outcome::mistake(messages::tillCountTooSmall());
+    if (!m_receipt->limitFault(article->data, add.count).isEmpty())
+        return aboveLimit(add.count);
     return perform(control::Action(
         control::AddPosition, {{argument::article, add.article}, {argument::count, add.count}}));
 }
@@ -65,11 +73,10 @@ Outcome Register::execute(const command::ChangeCount &change)
     if (const Outcome check = checkPosition(change.posnum); !check)
         return check;
     if (change.count < 0)
-        return Outcome::mistake("the quantity must not be below 0");
+        return Outcome::mistake(messages::tillCountNegative());
     const auto line = m_receipt->line(change.posnum);
-    const QString fault = m_receipt->limitFault(line->article(), change.count, line.get());
-    if (!fault.isEmpty())
-        return Outcome::mistake(fault);
+    if (!m_receipt->limitFault(line->article(), change.count, line.get()).isEmpty())
+        return aboveLimit(change.count);
     const double base = change.count * line->article().pack;
     m_services.modifiers().set(modifiers::Quantity,
                                QVariant::fromValue(Quantity(base, quantModeNone)));
@@ -88,15 +95,15 @@ Outcome Register::execute(const command::Split &split)
     if (const Outcome check = checkPosition(split.posnum); !check)
         return check;
     if (split.parts.isEmpty())
-        return Outcome::mistake("at least one part must be named");
+        return Outcome::mistake(messages::tillNoParts());
     double left = m_receipt->line(split.posnum)->getCquant();
     for (const double part : split.parts) {
         if (!(part > 0)) // "not a number" neither
-            return Outcome::mistake("each part must be above 0");
+            return Outcome::mistake(messages::tillPartTooSmall());
         left -= part;
     }
     if (toText(left).startsWith(QLatin1Char('-')))
-        return Outcome::mistake("position " + number(split.posnum) + " holds less than the parts");
+        return Outcome::mistake(messages::tillPartsTooGreat(), {number(split.posnum)});
     const control::Action action = onPosition(control::SplitPositions, split.posnum);
     action.setArgument(argument::parts, toVariants(split.parts));
     return perform(action);
@@ -106,22 +113,22 @@ Outcome Register::execute(const command::Unite &unite)
 {
     const QList<int> &posnums = unite.posnums;
     if (posnums.size() < 2)
-        return Outcome::mistake("at least two positions must be named");
+        return Outcome::mistake(messages::tillTooFewPositions());
     QSet<int> seen;
     double count = 0.0;
     for (const int posnum : posnums) {
         if (const Outcome check = checkPosition(posnum); !check)
             return check;
         if (seen.contains(posnum))
-            return Outcome::mistake("position " + number(posnum) + " is named twice");
+            return Outcome::mistake(messages::tillPositionTwice(), {number(posnum)});
         seen.insert(posnum);
         if (!(m_receipt->line(posnum)->article() == m_receipt->line(posnums[0])->article()))
-            return Outcome::mistake("positions " + number(posnums[0]) + " and " + number(posnum)
-                                    + " are of different articles");
+            return Outcome::mistake(messages::tillOtherArticles(),
+                                    {number(posnums[0]), number(posnum)});
         count += m_receipt->line(posnum)->getCquant();
     }
-    if (const QString fault = countFault(count); !fault.isEmpty())
-        return Outcome::mistake(fault);
+    if (!countFault(count).isEmpty())
+        return aboveLimit(count);
     return perform(
         control::Action(control::UnitePositions, {{argument::positions, toVariants(posnums)}}));
 }
@@ -129,23 +136,22 @@ Outcome Register::execute(const command::Unite &unite)
 Outcome Register::execute(const command::AttachOrder &order)
 {
     if (!isInHand())
-        return Outcome::mistake("no receipt is open");
+        return Outcome::mistake(messages::tillNoReceipt());
     if (order.number.isEmpty())
-        return Outcome::mistake("the order has no number");
+        return Outcome::mistake(messages::tillOrderNumberless());
     if (m_receipt->getOrder())
-        return Outcome::mistake("the receipt has order " + m_receipt->getOrder()->number
-                                + " already");
+        return Outcome::mistake(messages::tillHasOrder(), {m_receipt->getOrder()->number});
     return perform(control::Action(control::AddSoftCheck, {{argument::order, order.number}}));
 }
 
 Outcome Register::execute(const command::AddSoftCheck &softCheck)
 {
     if (!isInHand())
-        return Outcome::mistake("no receipt is open");
+        return Outcome::mistake(messages::tillNoReceipt());
     if (softCheck.number.isEmpty())
-        return Outcome::mistake("the soft-check has no number");
+        return Outcome::mistake(messages::tillSoftCheckNumberless());
     if (m_receipt->softChecks().contains(softCheck.number))
-        return Outcome::mistake("the receipt has soft-check " + softCheck.number + " already");
+        return Outcome::mistake(messages::tillHasSoftCheck(), {softCheck.number});
     return perform(
         control::Action(control::AddSoftCheck, {{argument::softCheck, softCheck.number}}));
 }
@@ -153,7 +159,7 @@ Outcome Register::execute(const command::AddSoftCheck &softCheck)
 Outcome Register::execute(const command::Subtotal &)
 {
     if (!isInHand())
-        return Outcome::mistake("no receipt is open");
+        return Outcome::mistake(messages::tillNoReceipt());
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
     return perform(control::Action(control::Subtotal, {}));
@@ -162,7 +168,7 @@ Outcome Register::execute(const command::Subtotal &)
 Outcome Register::execute(const command::Pay &pay)
 {
     if (!isInHand())
-        return Outcome::mistake("no receipt is open");
+        return Outcome::mistake(messages::tillNoReceipt());
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
     EContext::Result result = EContext::Continue;
@@ -184,7 +190,7 @@ Outcome Register::execute(const command::Pay &pay)
 Outcome Register::execute(const command::Cancel &)
 {
     if (!isInHand())
-        return Outcome::mistake("no receipt is open");
+        return Outcome::mistake(messages::tillNoReceipt());
     if (!ask(messages::tillCancelReceipt(), messages::tillYes(), messages::tillNo()))
         return keep(EContext::Cancel);
     return keep(run(control::Action(control::CancelReceipt, {})));
@@ -193,11 +199,11 @@ Outcome Register::execute(const command::Cancel &)
 Outcome Register::checkPosition(int posnum) const
 {
     if (!isInHand())
-        return Outcome::mistake("no receipt is open");
+        return Outcome::mistake(messages::tillNoReceipt());
     if (!m_receipt->line(posnum))
-        return Outcome::mistake("the receipt has no position " + number(posnum));
+        return Outcome::mistake(messages::tillNoPosition(), {number(posnum)});
     if (!m_receipt->getPositionByPosnum(posnum))
-        return Outcome::mistake("position " + number(posnum) + " is stornoed");
+        return Outcome::mistake(messages::tillPositionStornoed(), {number(posnum)});
     return Outcome::done();
 }
 

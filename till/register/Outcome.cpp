@@ -1,19 +1,45 @@
 #include "till/register/Outcome.h"
 
-#include <QtCore/QStringList>
+#include "till/language/TillMessages.h"
 
 namespace till {
 
+namespace {
+
+QJsonObject describe(const Outcome &outcome)
+{
+    static const QStringList names{"done", "refused", "refused", "refused", "mistake", "failed"};
+    static const QStringList refusers{"plugin", "register", "cashier"};
+    QJsonObject fields{
+        {"outcome", names[outcome.kind]}, {"key", outcome.reason.key()}, {"text", outcome.text()}};
+    if (outcome.isRefusal())
+        fields.insert("by", refusers[outcome.kind - Outcome::RefusedByPlugin]);
+    return fields;
+}
+
+} // namespace
+
+Outcome Outcome::busy()
+{
+    return refused(messages::tillBusy());
+}
+
+QString Outcome::text(const Translator &translator) const
+{
+    QStringList parts{translator.text(reason), detail};
+    parts.removeAll(QString());
+    return parts.join(": ");
+}
+
 Outcome tellCommand(Notes &notes, const QString &text, const std::function<Outcome()> &carryOut)
 {
-    static const QStringList names{"done", "refused", "mistake", "failed"};
     notes.add("command", {{"text", text}});
     Outcome outcome;
     {
         const Notes::Nesting inside(notes);
         outcome = carryOut();
     }
-    notes.add("outcome", {{"outcome", names[outcome.kind]}, {"text", outcome.text}});
+    notes.add("outcome", describe(outcome));
     return outcome;
 }
 

@@ -3,6 +3,7 @@
 
 #include "till/course/Notes.h"
 #include "till/goods/Money.h"
+#include "till/language/Translator.h"
 
 #include <QtCore/QString>
 
@@ -15,22 +16,33 @@ namespace till {
 struct Outcome
 {
     enum Kind {
-        Done,    //!< carried out, and durable
-        Refused, //!< the plugin, the host or the cashier's answer stopped it, or it came too early
+        Done,              //!< carried out, and durable
+        RefusedByPlugin,   //!< a trigger of the plugin stopped it with an error
+        RefusedByRegister, //!< the receipt does not allow it as it stands, or it came too early
+        Declined,          //!< the cashier's answer to a question stopped it
         Mistake, //!< the command itself is wrong: an unknown word, article, position, number
         Failed,  //!< it could not be stored; the receipt is as it was before
     };
 
     Kind kind = Done;
-    QString text;                       //!< what to tell the cashier; may be empty when done
+    Message reason; //!< what to tell the cashier; of a plugin what it told, which may be nothing
+    QString detail; //!< what no message can say: of a file, a line, its words; in English
     std::optional<Kopecks> change = {}; //!< to give back, when money was named to pay with
 
-    static Outcome done(const QString &text = {}) { return {Done, text}; }
-    static Outcome refused(const QString &text) { return {Refused, text}; }
-    static Outcome mistake(const QString &text) { return {Mistake, text}; }
-    static Outcome failed(const QString &text) { return {Failed, text}; }
+    static Outcome done(const QString &detail = {}) { return {Done, {}, detail}; }
+    static Outcome refused(const tr::Tr &reason) { return {RefusedByRegister, {reason, {}}, {}}; }
+    static Outcome mistake(const tr::Tr &reason, const QStringList &values = {})
+    {
+        return {Mistake, {reason, values}, {}};
+    }
+    static Outcome mistake(const QString &detail) { return {Mistake, {}, detail}; }
+    static Outcome failed(const QString &detail) { return {Failed, {}, detail}; }
     //! Of what comes while a command is under way: from within a question, a message or a note.
-    static Outcome busy() { return refused(QStringLiteral("a command is under way")); }
+    static Outcome busy();
+
+    bool isRefusal() const { return kind >= RefusedByPlugin && kind <= Declined; }
+    //! Reason and detail, as far as there are any, in the language of \a translator.
+    QString text(const Translator &translator = Translator()) const;
 
     explicit operator bool() const { return kind == Done; }
 };

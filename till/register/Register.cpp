@@ -2,10 +2,26 @@
 
 #include "host/BasicPlugin.h"
 #include "host/DocumentWatcher.h"
+#include "till/language/TillMessages.h"
 
 #include <QtCore/QScopedValueRollback>
 
 namespace till {
+
+namespace {
+
+QString copied(const QString &text)
+{
+    return QString(text.constData(), text.size());
+}
+
+//! A copy that shares nothing: a plugin's text may lie in its image, which a restart takes away.
+tr::Tr copied(const tr::Tr &message)
+{
+    return {copied(message.key()), copied(message.text())};
+}
+
+} // namespace
 
 Register::Register(const Parts &parts)
     : m_catalogue(parts.catalogue)
@@ -51,6 +67,7 @@ Outcome Register::carryOut(const Command &command)
         return Outcome::busy();
     const QScopedValueRollback<bool> underWay(m_isBusy, true);
     m_journal.begin();
+    m_shown = {};
     return tellCommand(m_notes, toText(command), [&] {
         return std::visit([this](const auto &kind) { return execute(kind); }, command);
     });
@@ -81,16 +98,17 @@ int Register::runQueued(const control::Action &action)
 bool Register::ask(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel)
 {
     m_notes.add("question", {{"key", question.key()}, {"text", question.text()}});
-    const bool answer = m_asker && m_asker(question, confirm, cancel);
+    const bool answer = m_asker && m_asker(copied(question), copied(confirm), copied(cancel));
     m_notes.add("answer", {{"key", answer ? confirm.key() : cancel.key()}, {"confirmed", answer}});
     return answer;
 }
 
 void Register::show(const tr::Tr &message)
 {
+    m_shown = copied(message);
     m_notes.add("message", {{"key", message.key()}, {"text", message.text()}});
     if (m_shower)
-        m_shower(message);
+        m_shower(m_shown);
 }
 
 bool Register::isInHand() const
@@ -103,7 +121,7 @@ Outcome Register::refuse(const tr::Tr &message)
 {
     show(message);
     const Outcome kept = keep(EContext::Cancel);
-    return kept.kind == Outcome::Refused ? Outcome::refused(message.key()) : kept;
+    return kept.kind == Outcome::Failed ? kept : Outcome::refused(message);
 }
 
 EContext::Result Register::run(const control::Action &action)
@@ -121,10 +139,23 @@ Outcome Register::keep(EContext::Result result)
     const qint64 storedId = m_receipt->id();
     if (const QString error = store(); !error.isEmpty()) {
         const QString reloadError = reload(storedId);
-        return Outcome::failed(reloadError.isEmpty() ? error : error + "; " + reloadError);
+        return {Outcome::Failed,
+                {messages::tillNotStored(), {}},
+                reloadError.isEmpty() ? error : error + "; " + reloadError};
     }
     m_receiptNotes.tellReceipt(*m_receipt);
-    return result == EContext::Continue ? Outcome::done() : Outcome::refused({});
+    return outcomeOf(result);
+}
+
+Outcome Register::outcomeOf(EContext::Result result) const
+{
+    if (result == EContext::Continue)
+        return Outcome::done();
+    if (result == EContext::Cancel)
+        return {Outcome::Declined, {}, {}};
+    return {m_runner.wasStoppedByPlugin() ? Outcome::RefusedByPlugin : Outcome::RefusedByRegister,
+            {m_shown, {}},
+            {}};
 }
 
 QString Register::store()

@@ -36,10 +36,11 @@ public:
         Notes &notes;
     };
 
-    //! Answers questions in the cashier's place. True takes the confirming choice.
+    //! Answers questions in the cashier's place. True takes the confirming choice. The texts are
+    //! copies that outlive the plugin.
     using Asker =
         std::function<bool(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel)>;
-    //! Shows a message to the cashier.
+    //! Shows a message to the cashier; a copy as well.
     using Shower = std::function<void(const tr::Tr &message)>;
 
     //! Puts the host's services in place. They are the process's, so that one register can be on.
@@ -96,6 +97,8 @@ private:
     Outcome perform(const control::Action &action);
     //! Stores what a command did to the receipt; \a result is how its last action ended.
     Outcome keep(EContext::Result result);
+    //! How a command ended whose last action ended with \a result.
+    Outcome outcomeOf(EContext::Result result) const;
     Outcome checkPosition(int posnum) const;
     //! Ends a command that the register itself refuses: the cashier is shown why.
     Outcome refuse(const tr::Tr &message);
@@ -115,6 +118,7 @@ private:
     Shower m_shower;
     QSharedPointer<Receipt> m_receipt;
     Journal m_journal; //!< of the command that is under way
+    tr::Tr m_shown;    //!< the last message of that command
     bool m_isPluginReady = false;
     bool m_isBusy = false;
 };

@@ -12,12 +12,6 @@ namespace till {
 
 namespace {
 
-//! A copy that shares nothing: a plugin's text may lie in its image, which a restart takes away.
-QString copied(const QString &text)
-{
-    return QString(text.constData(), text.size());
-}
-
 Outcome tillIsOff()
 {
     return Outcome::failed("the till is off; 'restart' switches it on");
@@ -145,6 +139,11 @@ Outcome CommandLine::runOwn(const QStringList &words)
     return (this->*row->run)(words.mid(1));
 }
 
+QString CommandLine::textOf(const Outcome &outcome) const
+{
+    return outcome.isRefusal() ? QStringLiteral("refused") : outcome.text(m_translator);
+}
+
 QString CommandLine::leftOver() const
 {
     if (!m_unanswered.isEmpty())
@@ -163,7 +162,7 @@ bool CommandLine::answer(const tr::Tr &question, const tr::Tr &confirm, const tr
     const bool isAnswered = !m_answers.isEmpty();
     const bool answer = isAnswered && m_answers.takeFirst();
     if (!isAnswered)
-        m_unanswered.append(copied(question.key()));
+        m_unanswered.append(question.key());
     print(text + "  → " + m_translator.text(answer ? confirm : cancel));
     return answer;
 }

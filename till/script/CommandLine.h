@@ -52,6 +52,10 @@ public:
     //! Whether the last line did anything that may have changed the receipt, or which one it is.
     bool hasTouchedReceipt() const { return m_hasTouchedReceipt; }
 
+    //! What there is to say of an \a outcome, in the language of the cashier. The reason of a
+    //! refusal was shown as a message already: of it only that it is one.
+    QString textOf(const Outcome &outcome) const;
+
     //! The receipt as a person sees it; empty when none was opened.
     QString renderReceipt() const;
 

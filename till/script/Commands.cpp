@@ -68,7 +68,7 @@ Outcome CommandLine::restart(const QStringList &words)
 
 Outcome CommandLine::expect(const QStringList &words)
 {
-    return Expectations(m_desk, m_heard,
+    return Expectations(m_desk, m_heard, m_translator,
                         [this](const QStringList &expected) {
                             return runWords(expected, expected.join(QLatin1Char(' ')));
                         })

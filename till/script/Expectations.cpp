@@ -59,16 +59,17 @@ Outcome checkPart(const Position &position, const QString &part, const QString &
     return notOneOf(part, {"quantity", "base", "sum", "article", "stornoed", "live"});
 }
 
-//! How a command is expected to end, in a word.
-std::optional<Outcome::Kind> endCalled(const QString &word)
+//! How a command ended, in the word by which "expect" is told so; a failure cannot be expected.
+QString endOf(const Outcome &outcome)
 {
-    if (word == "accepted")
-        return Outcome::Done;
-    if (word == "refused")
-        return Outcome::Refused;
-    if (word == "mistake")
-        return Outcome::Mistake;
-    return std::nullopt;
+    static const QStringList words{"accepted", "refused", "refused",
+                                   "refused",  "mistake", "not stored"};
+    return words[outcome.kind];
+}
+
+bool isEnd(const QString &word)
+{
+    return QStringList{"accepted", "refused", "mistake"}.contains(word);
 }
 
 //! What the goods hold in the tara at \a posnum.
@@ -129,13 +130,13 @@ QString Expectations::help()
 
 bool Expectations::isOfCommand(const QStringList &words)
 {
-    return words.size() > 1 && endCalled(words[0]) && words[1] != "expect";
+    return words.size() > 1 && isEnd(words[0]) && words[1] != "expect";
 }
 
 Outcome Expectations::check(const QStringList &words)
 {
-    if (const std::optional<Outcome::Kind> end = endCalled(words[0]))
-        return command(*end, words.mid(1));
+    if (isEnd(words[0]))
+        return command(words[0], words.mid(1));
     const Row *const row = rowCalled(words[0], rows());
     if (!row)
         return Outcome::mistake("\"" + words[0] + "\" cannot be expected; try 'help expect'");
@@ -144,19 +145,23 @@ Outcome Expectations::check(const QStringList &words)
     return (this->*row->check)(words.mid(1));
 }
 
-Outcome Expectations::command(Outcome::Kind kind, const QStringList &words) const
+Outcome Expectations::command(const QString &end, const QStringList &words) const
 {
-    static const QStringList names{"accepted", "refused", "a mistake", "not stored"};
     if (words.isEmpty())
         return Outcome::mistake("which command?");
     if (words[0] == "expect")
         return Outcome::mistake("an expectation cannot be expected");
     const Outcome outcome = m_carryOut(words);
-    if (outcome.kind == kind)
-        return Outcome::done(outcome.text);
-    return differs(words.join(' '), names[kind],
-                   names[outcome.kind]
-                       + (outcome.text.isEmpty() ? QString() : ": " + outcome.text));
+    const QString found = endOf(outcome);
+    if (found == end) {
+        // A refusal was shown; a mistake was not.
+        return outcome.isRefusal() ? Outcome::done() : Outcome::done(outcome.text(m_translator));
+    }
+    const bool isToldBefore = outcome || outcome.kind == Outcome::RefusedByPlugin;
+    return differs(words.join(' '), end,
+                   isToldBefore || outcome.text().isEmpty()
+                       ? found
+                       : found + ": " + outcome.text(m_translator));
 }
 
 Outcome Expectations::position(const QStringList &words) const

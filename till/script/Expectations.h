@@ -25,10 +25,12 @@ public:
     //! Carries out a command that is expected to end in some way.
     using CarryOut = std::function<Outcome(const QStringList &words)>;
 
-    //! \a heard is what the last command made the till say. Both must outlive this object.
-    Expectations(const CashDesk &desk, const Heard &heard, CarryOut carryOut)
+    //! \a heard is what the last command made the till say. All must outlive this object.
+    Expectations(const CashDesk &desk, const Heard &heard, const Translator &translator,
+                 CarryOut carryOut)
         : m_desk(desk)
         , m_heard(heard)
+        , m_translator(translator)
         , m_carryOut(std::move(carryOut))
     {
     }
@@ -46,7 +48,7 @@ private:
     struct Row;
     static const QList<Row> &rows();
 
-    Outcome command(Outcome::Kind kind, const QStringList &words) const;
+    Outcome command(const QString &end, const QStringList &words) const;
 
     Outcome position(const QStringList &words) const;
     Outcome positions(const QStringList &words) const;
@@ -64,6 +66,7 @@ private:
 
     const CashDesk &m_desk;
     const Heard &m_heard;
+    const Translator &m_translator;
     const CarryOut m_carryOut;
 };
 

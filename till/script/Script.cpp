@@ -20,11 +20,12 @@ QString shownCommand(const QString &line)
     return isSilent ? QString() : trimmed;
 }
 
-QString reason(const Outcome &outcome)
+//! What is wrong with a line that ended so; of a refusal also its key.
+QString why(const CommandLine &commands, const Outcome &outcome)
 {
-    if (outcome.kind != Outcome::Refused)
-        return outcome.text;
-    return outcome.text.isEmpty() ? QStringLiteral("refused") : "refused: " + outcome.text;
+    const QString text = commands.textOf(outcome);
+    const bool hasKey = outcome.isRefusal() && !outcome.reason.key().isEmpty();
+    return hasKey ? text + ": " + outcome.reason.key() : text;
 }
 
 } // namespace
@@ -57,7 +58,7 @@ QString Script::play(CommandLine &commands,
         if (const QString shown = shownCommand(m_lines[i]); !shown.isEmpty())
             echo(shown);
         if (const Outcome outcome = commands.run(m_lines[i]); !outcome)
-            return place(i) + m_lines[i].trimmed() + ": " + reason(outcome);
+            return place(i) + m_lines[i].trimmed() + ": " + why(commands, outcome);
     }
     const QString left = commands.leftOver();
     return left.isEmpty() ? QString() : place(m_lines.size() - 1) + left;

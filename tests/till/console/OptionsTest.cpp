@@ -41,8 +41,8 @@ TEST_F(Options, FailedScript_EndsWith1FileAndLine)
     const QString script = write("s.till", "open\nadd CHOPS\n");
     const RunResult failed = run({"play", script});
     EXPECT_EQ(failed.status, 1);
-    EXPECT_EQ(failed.err, "till: " + script.toStdString()
-                              + ":2: add CHOPS: no article \"CHOPS\" in the catalogue\n");
+    EXPECT_EQ(failed.err,
+              "till: " + script.toStdString() + ":2: add CHOPS: В каталоге нет товара \"CHOPS\"\n");
 }
 
 TEST_F(Options, FirstFailedScript_EndsThePlay)
@@ -126,7 +126,7 @@ TEST_F(Options, PipedRegister_CarriesOutItsInput)
     EXPECT_THAT(good.out, HasSubstr("129.90"));
     const RunResult bad = run({"--db", database()}, "add CHOPS\nadd BAG\nshow\n");
     EXPECT_EQ(bad.status, 1);
-    EXPECT_THAT(bad.out, HasSubstr("no article \"CHOPS\" in the catalogue"));
+    EXPECT_THAT(bad.out, HasSubstr("В каталоге нет товара \"CHOPS\""));
     EXPECT_THAT(bad.out, HasSubstr("164.90"));
 }
 

@@ -48,8 +48,8 @@ protected:
     void expectBusy(const Outcome &outcome)
     {
         ++attempts;
-        EXPECT_EQ(outcome.kind, Outcome::Refused);
-        EXPECT_EQ(outcome.text.toStdString(), "a command is under way");
+        EXPECT_EQ(outcome.kind, Outcome::RefusedByRegister);
+        EXPECT_EQ(outcome.reason.key(), QString("tillBusy"));
     }
     void tryEveryCommand()
     {
@@ -86,7 +86,7 @@ TEST_F(Busy, SwitchingWithinAQuestion_IsRefused)
         ++attempts;
     });
     EXPECT_TRUE(carryOut(command::Storno{1}));
-    EXPECT_EQ(said, QStringList(3, "a command is under way"));
+    EXPECT_EQ(said, QStringList(3, "Выполняется другая команда"));
     EXPECT_TRUE(till->isOn());
     EXPECT_FALSE(till->setup().settings.contains("A:b"));
     expectNothingElse();
@@ -106,7 +106,7 @@ TEST_F(Busy, LineWithinAQuestion_IsRefused)
 TEST_F(Busy, CommandWithinAMessage_IsRefused)
 {
     till->setFront({}, [this](const tr::Tr &) { tryEveryCommand(); });
-    EXPECT_EQ(carryOut(command::Pay{1}).text, QString("tillNotEnoughMoney"));
+    EXPECT_EQ(carryOut(command::Pay{1}).reason.key(), QString("tillNotEnoughMoney"));
     EXPECT_EQ(attempts, everyCommand().size());
     expect({"positions 2", "state subtotal"});
 }

@@ -30,7 +30,7 @@ TEST_P(CommandValue, Wrong_IsAMistakeAndChangesNothing)
     const ReceiptRecord before = receipt()->record();
     const Outcome outcome = till->cashRegister().carryOut(GetParam().command);
     EXPECT_EQ(outcome.kind, Outcome::Mistake);
-    EXPECT_EQ(outcome.text.toStdString(), GetParam().text);
+    EXPECT_EQ(outcome.text(Translator("en")).toStdString(), GetParam().text);
     EXPECT_EQ(receipt()->record(), before);
 }
 

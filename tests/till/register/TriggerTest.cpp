@@ -7,6 +7,7 @@
 #include "host/Session.h"
 #include "host/Singleton.h"
 #include "tests/till/support/TillFixture.h"
+#include "till/language/TillMessages.h"
 
 // The order of triggers and what they can do, with a plugin that only writes down.
 
@@ -92,17 +93,27 @@ TEST_F(Triggers, FirstThatDoesNotContinue_StopsTheAction)
                EContext::Error);
     plugin.add("later", control::Subtotal, ActionTrigger::Before, ActionTrigger::Low);
     plugin.add("after", control::Subtotal, ActionTrigger::After, ActionTrigger::High);
-    EXPECT_EQ(carryOut(command::Subtotal{}).kind, Outcome::Refused);
+    EXPECT_EQ(carryOut(command::Subtotal{}).kind, Outcome::RefusedByPlugin);
     EXPECT_EQ(plugin.ran, QStringList("stops"));
     EXPECT_EQ(cashRegister().receipt()->state(), ReceiptState::Open);
     EXPECT_EQ(notesOf("result").last().value("result").toInt(), EContext::Error);
+}
+
+TEST_F(Triggers, RefusalWithoutAMessage_HasNoReason)
+{
+    EXPECT_EQ(carryOut(command::Pay{1}).reason, (Message{messages::tillNotEnoughMoney(), {}}));
+    plugin.add("stops", control::SplitPositions, ActionTrigger::Before, ActionTrigger::High,
+               EContext::Error);
+    const Outcome outcome = carryOut(command::Split{1, {1}});
+    EXPECT_EQ(outcome.kind, Outcome::RefusedByPlugin);
+    EXPECT_EQ(outcome.reason, Message());
 }
 
 TEST_F(Triggers, Cancel_StopsTheActionToo)
 {
     plugin.add("stops", control::Payment, ActionTrigger::Before, ActionTrigger::High,
                EContext::Cancel);
-    EXPECT_EQ(carryOut(command::Pay{}).kind, Outcome::Refused);
+    EXPECT_EQ(carryOut(command::Pay{}).kind, Outcome::Declined);
     EXPECT_EQ(cashRegister().receipt()->state(), ReceiptState::Open);
     EXPECT_EQ(notesOf("result").last().value("result").toInt(), EContext::Cancel);
 }

@@ -122,15 +122,14 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, Expect,
-    testing::Values(
-        Expectation{"Accepted", "accepted add CHIPS", "accepted qty 1 2",
-                    "qty 1 2: expected accepted, found refused"},
-        Expectation{"Refused", "refused qty 1 2", "refused add CHIPS",
-                    "add CHIPS: expected refused, found accepted"},
-        Expectation{"Mistake", "mistake add CHOPS", "mistake qty 1 2",
-                    "qty 1 2: expected a mistake, found refused"},
-        Expectation{"MistakeNotRefusal", "mistake qty 9 1", "refused qty 9 1",
-                    "qty 9 1: expected refused, found a mistake: the receipt has no position 9"}),
+    testing::Values(Expectation{"Accepted", "accepted add CHIPS", "accepted qty 1 2",
+                                "qty 1 2: expected accepted, found refused"},
+                    Expectation{"Refused", "refused qty 1 2", "refused add CHIPS",
+                                "add CHIPS: expected refused, found accepted"},
+                    Expectation{"Mistake", "mistake add CHOPS", "mistake qty 1 2",
+                                "qty 1 2: expected mistake, found refused"},
+                    Expectation{"MistakeNotRefusal", "mistake qty 9 1", "refused qty 9 1",
+                                "qty 9 1: expected refused, found mistake: В чеке нет позиции 9"}),
     nameOf);
 
 INSTANTIATE_TEST_SUITE_P(

@@ -38,14 +38,15 @@ TEST_F(ScriptRun, GoodScript_IsPlayedToItsEnd)
 TEST_F(ScriptRun, FirstFailure_StopsWithFileAndLine)
 {
     EXPECT_EQ(play("open\n\n# nothing\nadd CHOPS\nadd CHIPS\n"),
-              path() + ":4: add CHOPS: no article \"CHOPS\" in the catalogue");
+              path() + ":4: add CHOPS: В каталоге нет товара \"CHOPS\"");
     expect({"positions 0"});
 }
 
 TEST_F(ScriptRun, RefusedCommand_Stops)
 {
     EXPECT_EQ(play("open\n  pay  \nadd CHIPS"), path() + ":2: pay: refused: tillReceiptEmpty");
-    EXPECT_EQ(play("add CAN3\nadd BEER\nqty 1 2\n"), path() + ":3: qty 1 2: refused");
+    EXPECT_EQ(play("add CAN3\nadd BEER\nqty 1 2\n"),
+              path() + ":3: qty 1 2: refused: packingControlTaraAlmostFull");
 }
 
 TEST_F(ScriptRun, FailedExpectation_StopsWithBothValues)

@@ -38,8 +38,10 @@ void failOnMessage(QtMsgType, const QMessageLogContext &context, const QString &
 
 void PrintTo(const Outcome &outcome, std::ostream *out)
 {
-    static const char *const names[] = {"done", "refused", "mistake", "failed"};
-    *out << names[outcome.kind] << " \"" << outcome.text.toStdString() << '"';
+    static const char *const names[] = {
+        "done",  "refused by the plugin", "refused by the register", "declined", "mistake",
+        "failed"};
+    *out << names[outcome.kind] << " \"" << outcome.text().toStdString() << '"';
 }
 
 TillTest::TillTest()
@@ -85,11 +87,24 @@ void TillTest::done(const QStringList &lines)
         ends(Outcome::Done, line);
 }
 
-QString TillTest::ends(Outcome::Kind kind, const QString &line)
+QString TillTest::refused(const QString &line)
+{
+    const Outcome outcome = run(line);
+    EXPECT_TRUE(outcome.isRefusal())
+        << line.toStdString() << ": " << testing::PrintToString(outcome);
+    return outcome.reason.key();
+}
+
+QString TillTest::mistake(const QString &line)
+{
+    return ends(Outcome::Mistake, line).text(Translator(QStringLiteral("en")));
+}
+
+Outcome TillTest::ends(Outcome::Kind kind, const QString &line)
 {
     const Outcome outcome = run(line);
     EXPECT_EQ(outcome.kind, kind) << line.toStdString() << ": " << testing::PrintToString(outcome);
-    return outcome.text;
+    return outcome;
 }
 
 void TillTest::expect(const QStringList &expectations)

@@ -34,11 +34,14 @@ protected:
     Outcome run(const QString &line) { return commands->run(line); }
     //! Carries the commands out, all of which must be done.
     void done(const QStringList &lines);
-    //! Carries the command out, which must end so; what it says.
-    QString ends(Outcome::Kind kind, const QString &line);
-    QString refused(const QString &line) { return ends(Outcome::Refused, line); }
-    QString mistake(const QString &line) { return ends(Outcome::Mistake, line); }
-    QString failed(const QString &line) { return ends(Outcome::Failed, line); }
+    //! Carries the command out, which must end so.
+    Outcome ends(Outcome::Kind kind, const QString &line);
+    //! The same for any refusal; the key of its reason.
+    QString refused(const QString &line);
+    //! The same for a mistake; what is said of it in English.
+    QString mistake(const QString &line);
+    //! The same for a failure; its detail.
+    QString failed(const QString &line) { return ends(Outcome::Failed, line).detail; }
     //! Each must hold.
     void expect(const QStringList &expectations);
 
