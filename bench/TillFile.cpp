@@ -7,19 +7,32 @@
 
 namespace bench {
 
+namespace {
+
+//! What \a value holds when it is of that type, else null.
+template <typename Type>
+const Type *heldIf(const QVariant *value)
+{
+    return value->metaType() == QMetaType::fromType<Type>()
+               ? static_cast<const Type *>(value->constData())
+               : nullptr;
+}
+
+} // namespace
+
 TillFile::TillFile(const QString &path)
 {
     check(sqlite3_open(path.toUtf8().constData(), &m_database));
-    for (const char *setting : {"PRAGMA locking_mode = EXCLUSIVE", "PRAGMA synchronous = FULL",
-                                "PRAGMA journal_mode = WAL"})
+    for (const char *setting : {"PRAGMA synchronous = FULL", "PRAGMA journal_mode = WAL"})
         check(sqlite3_exec(m_database, setting, nullptr, nullptr, nullptr));
     for (const char *sql :
          {"BEGIN IMMEDIATE",
-          "INSERT OR REPLACE INTO positions (receipt, place, posnum, code, name, price, taraMode, "
-          "taraCapacity, pack, unit, count, base, groupId, stornoed) "
-          "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-          "INSERT OR REPLACE INTO pluginData (receipt, plugin, key, value, types, digest) "
-          "VALUES (?, ?, ?, ?, ?, ?)",
+          "INSERT OR REPLACE INTO positions VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+          "INSERT INTO pluginData VALUES (?, ?, ?, ?, ?, ?) ON CONFLICT DO UPDATE SET value = "
+          "excluded.value, types = excluded.types, digest = excluded.digest",
+          "INSERT INTO receipts VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?) ON CONFLICT DO UPDATE SET "
+          "state = excluded.state, total = excluded.total, contents = excluded.contents, digest = "
+          "excluded.digest",
           "INSERT INTO journal (receipt, depth, kind, json) VALUES (?, ?, ?, ?)", "COMMIT"})
         m_statements.push_back(prepare(sql));
 }
@@ -35,36 +48,13 @@ void TillFile::commit(const CommandRows &rows)
 {
     run(m_statements[Begin]);
 
-    sqlite3_stmt *line = m_statements[Line];
-    const till::ArticleData &article = rows.line.article;
-    sqlite3_bind_int64(line, 1, rows.receipt);
-    sqlite3_bind_int64(line, 2, rows.place);
-    sqlite3_bind_int(line, 3, rows.line.posnum);
-    bind(line, 4, article.code);
-    bind(line, 5, article.name);
-    sqlite3_bind_int64(line, 6, article.price);
-    sqlite3_bind_int(line, 7, article.taraMode);
-    sqlite3_bind_double(line, 8, article.taraCapacity);
-    sqlite3_bind_double(line, 9, article.pack);
-    bind(line, 10, article.unit);
-    sqlite3_bind_double(line, 11, rows.line.count);
-    sqlite3_bind_double(line, 12, rows.line.base);
-    bind(line, 13, rows.line.groupId);
-    sqlite3_bind_int(line, 14, rows.line.stornoed ? 1 : 0);
-    run(line);
-
-    sqlite3_stmt *data = m_statements[Data];
-    sqlite3_bind_int64(data, 1, rows.receipt);
-    bind(data, 2, rows.plugin);
-    bind(data, 3, rows.key);
-    bind(data, 4, rows.data.bytes);
-    bind(data, 5, rows.data.types);
-    bind(data, 6, rows.data.digest);
-    run(data);
+    put(m_statements[Line], rows.line);
+    put(m_statements[Data], rows.data);
+    put(m_statements[Header], rows.header);
 
     sqlite3_stmt *journal = m_statements[Journal];
     for (const till::JournalEntry &entry : rows.journal) {
-        sqlite3_bind_int64(journal, 1, rows.receipt);
+        sqlite3_bind_int64(journal, 1, rows.header.values[0].toLongLong());
         sqlite3_bind_int(journal, 2, entry.depth);
         bind(journal, 3, entry.kind);
         bind(journal, 4, entry.json);
@@ -77,12 +67,14 @@ void TillFile::commit(const CommandRows &rows)
 QStringList TillFile::contents()
 {
     QStringList rows;
-    for (const char *sql : {"SELECT * FROM receipts ORDER BY id", "SELECT * FROM positions",
-                            "SELECT * FROM softChecks",
-                            "SELECT receipt, plugin, key, hex(value), types, hex(digest) FROM "
-                            "pluginData ORDER BY receipt, plugin, key",
-                            "SELECT id, receipt, depth, kind, typeof(json), CAST(json AS TEXT) "
-                            "FROM journal ORDER BY id"}) {
+    for (const char *sql :
+         {"SELECT id, type, state, orderNumber, nextPosnum, opened, ended, positions, "
+          "total, hex(contents), hex(digest) FROM receipts ORDER BY id",
+          "SELECT *, hex(digest) FROM positions", "SELECT *, hex(digest) FROM softChecks",
+          "SELECT receipt, plugin, key, hex(value), types, hex(digest) FROM "
+          "pluginData ORDER BY receipt, plugin, key",
+          "SELECT id, receipt, depth, kind, typeof(json), CAST(json AS TEXT) "
+          "FROM journal ORDER BY id"}) {
         sqlite3_stmt *statement = prepare(sql);
         while (sqlite3_step(statement) == SQLITE_ROW) {
             QStringList fields;
@@ -102,6 +94,27 @@ sqlite3_stmt *TillFile::prepare(const char *sql)
     sqlite3_stmt *statement = nullptr;
     check(sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr));
     return statement;
+}
+
+void TillFile::put(sqlite3_stmt *statement, const till::Table::Row &row)
+{
+    int parameter = 0;
+    for (const QVariant &value : row.values)
+        bind(statement, ++parameter, value);
+    bind(statement, ++parameter, row.digest);
+    run(statement);
+}
+
+void TillFile::bind(sqlite3_stmt *statement, int parameter, const QVariant &value)
+{
+    if (const auto *text = heldIf<QString>(&value))
+        bind(statement, parameter, *text);
+    else if (const auto *bytes = heldIf<QByteArray>(&value))
+        bind(statement, parameter, *bytes);
+    else if (const auto *number = heldIf<double>(&value))
+        sqlite3_bind_double(statement, parameter, *number);
+    else
+        sqlite3_bind_int64(statement, parameter, value.toLongLong());
 }
 
 // The rows outlive the statement's run, so that nothing is copied.

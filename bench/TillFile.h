@@ -1,8 +1,8 @@
 #ifndef BENCH_TILLFILE_H
 #define BENCH_TILLFILE_H
 
+#include "till/database/Table.h"
 #include "till/storage/Storage.h"
-#include "till/storage/VariantBytes.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -18,18 +18,15 @@ namespace bench {
 //! The rows that one command of the till writes.
 struct CommandRows
 {
-    qint64 receipt = 0;
-    qsizetype place = 0; //!< of the one line that the command changes
-    till::LineRecord line;
-    QString plugin;
-    QString key; //!< of the plugin data that the command changes
-    till::VariantBytes data;
+    till::Table::Row header;
+    till::Table::Row line; //!< the one that the command changes
+    till::Table::Row data; //!< the plugin data that it changes
     QList<till::JournalEntry> journal;
 };
 
 /*!
- * A database of the till's, written with SQLite alone: opened, locked and committed as durably as
- * the till does. Ends the process when SQLite reports an error.
+ * A database of the till's, written with SQLite alone: opened and committed as durably as the till
+ * does. Ends the process when SQLite reports an error.
  */
 class TillFile
 {
@@ -45,9 +42,11 @@ public:
     QStringList contents();
 
 private:
-    enum Statement { Begin, Line, Data, Journal, Commit };
+    enum Statement { Begin, Line, Data, Header, Journal, Commit };
 
     sqlite3_stmt *prepare(const char *sql);
+    void put(sqlite3_stmt *statement, const till::Table::Row &row);
+    void bind(sqlite3_stmt *statement, int parameter, const QVariant &value);
     void bind(sqlite3_stmt *statement, int parameter, const QString &text);
     void bind(sqlite3_stmt *statement, int parameter, const QByteArray &bytes);
     void run(sqlite3_stmt *statement);

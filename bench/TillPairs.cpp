@@ -1,9 +1,11 @@
 #include "bench/Pairs.h"
 #include "bench/Records.h"
 #include "bench/TillFile.h"
+#include "till/database/Database.h"
 #include "till/goods/Catalogue.h"
 #include "till/plugins/PluginLoader.h"
 #include "till/register/Register.h"
+#include "till/storage/Schema.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -98,22 +100,33 @@ private:
     std::optional<till::Register> m_register;
 };
 
-//! What the last command of \a till wrote; it had \a earlier entries in its journal before.
-CommandRows lastRows(RunningTill &till, qsizetype place, qsizetype earlier)
+//! The row of \a table that \a condition picks.
+till::Table::Row rowOf(till::Database &database, const till::Table &table, const QString &condition)
+{
+    QSqlQuery *rows = database.run(table.select() + QStringLiteral("WHERE ") + condition);
+    if (!rows || !database.next(*rows))
+        giveUp(QStringLiteral("%1: no row where %2").arg(database.path(), condition));
+    const till::Table::Row row = table.row(*rows);
+    rows->finish();
+    return row;
+}
+
+//! What the last command of \a till, on the file \a path, wrote; it had \a earlier entries in its
+//! journal before.
+CommandRows lastRows(RunningTill &till, const QString &path, qsizetype place, qsizetype earlier)
 {
     QString error;
-    const auto record = till.storage().receipt(till.receipt(), &error);
-    if (!record)
+    const auto database = till::Database::open(path, till::Database::Access::Reading, &error);
+    if (!database)
         giveUp(error);
-    CommandRows rows{record->id,
-                     place,
-                     record->lines[place],
-                     QStringLiteral("PackagingControl"),
-                     QStringLiteral("taraInfo"),
-                     {},
-                     till.storage().journal(record->id)};
+    const QString receipt = QString::number(till.receipt());
+    CommandRows rows{rowOf(*database, till::receiptsTable(), QStringLiteral("id = ") + receipt),
+                     rowOf(*database, till::positionsTable(),
+                           QStringLiteral("receipt = %1 AND place = %2").arg(receipt).arg(place)),
+                     rowOf(*database, till::pluginDataTable(),
+                           QStringLiteral("receipt = %1 AND key = 'taraInfo'").arg(receipt)),
+                     till.storage().journal(till.receipt())};
     rows.journal.remove(0, earlier);
-    rows.data = *till::VariantBytes::of(record->pluginData[rows.plugin][rows.key], &error);
     return rows;
 }
 
@@ -171,9 +184,9 @@ private:
     {
         RunningTill till(recordedPath());
         till.changeCount(m_posnum, 2);
-        m_first = lastRows(till, m_posnum - 1, 0);
+        m_first = lastRows(till, recordedPath(), m_posnum - 1, 0);
         till.changeCount(m_posnum, 1);
-        m_second = lastRows(till, m_posnum - 1, m_first.journal.size());
+        m_second = lastRows(till, recordedPath(), m_posnum - 1, m_first.journal.size());
     }
 
     QTemporaryDir m_directory{QStringLiteral("bench-XXXXXX")};

@@ -25,13 +25,14 @@ may_include(till/goods host)
 may_include(till/receipt host till/goods)
 set(receipt host till/goods till/receipt)
 may_include(till/course ${receipt})
-may_include(till/storage ${receipt})
+may_include(till/database)
+may_include(till/storage ${receipt} till/database)
 may_include(till/plugins host)
 may_include(till/actions ${receipt} log4qt till/language till/course)
 may_include(till/register ${known_by_till/actions} till/actions till/plugins till/storage)
 may_include(till/view ${receipt} till/language)
 may_include(till/script ${known_by_till/register} till/register till/view)
-may_include(till/console ${known_by_till/script} till/script)
+may_include(till/console ${known_by_till/script} till/script till/database)
 
 # Sets FOLDER to the folder that PATH, which an include names, leads into: empty for what is not the
 # project's.

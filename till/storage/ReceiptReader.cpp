@@ -1,100 +1,274 @@
 #include "till/storage/ReceiptReader.h"
 
-#include "till/storage/Database.h"
-#include "till/storage/VariantBytes.h"
+#include "till/database/Database.h"
+#include "till/receipt/RecordFault.h"
+#include "till/storage/Schema.h"
+
+#include <algorithm>
 
 namespace till {
 
 namespace {
 
-bool readHeader(Database &database, ReceiptRecord &record)
+//! Reads one receipt; notes the first fault of each kind and goes on.
+class Reader
 {
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT type, state, orderNumber, nextPosnum FROM receipts WHERE id = ?"),
-        {record.id});
-    bool isFound = false;
-    while (rows && database.next(*rows)) {
-        isFound = true;
-        record.type = rows->value(0).toInt();
-        record.state = static_cast<ReceiptState>(rows->value(1).toInt());
-        record.order = rows->value(2).toString();
-        record.nextPosnum = rows->value(3).toInt();
+public:
+    Reader(Database &database, qint64 id)
+        : m_database(database)
+        , m_id(id)
+    {
     }
-    return isFound && database.error().isEmpty();
-}
 
-bool readLines(Database &database, ReceiptRecord &record)
-{
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT posnum, code, name, price, taraMode, taraCapacity, pack, unit, "
-                       "count, base, groupId, stornoed "
-                       "FROM positions WHERE receipt = ? ORDER BY place"),
-        {record.id});
-    while (rows && database.next(*rows)) {
-        const ArticleData article{rows->value(1).toString(),   rows->value(2).toString(),
-                                  rows->value(3).toLongLong(), rows->value(4).toInt(),
-                                  rows->value(5).toDouble(),   rows->value(6).toDouble(),
-                                  rows->value(7).toString()};
-        record.lines.append({rows->value(0).toInt(), article, rows->value(8).toDouble(),
-                             rows->value(9).toDouble(), rows->value(10).toString(),
-                             rows->value(11).toBool()});
+    std::optional<ReadReceipt> read()
+    {
+        if (!readHeader())
+            return std::nullopt;
+        readLines();
+        readSoftChecks();
+        readValues();
+        checkWhole();
+        return m_database.error().isEmpty() ? std::optional(m_read) : std::nullopt;
     }
-    return database.error().isEmpty();
-}
 
-bool readSoftChecks(Database &database, ReceiptRecord &record)
-{
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT number FROM softChecks WHERE receipt = ? ORDER BY place"),
-        {record.id});
-    while (rows && database.next(*rows))
-        record.softChecks.append(rows->value(0).toString());
-    return database.error().isEmpty();
-}
+private:
+    bool readHeader()
+    {
+        QSqlQuery *const rows =
+            m_database.run(receiptsTable().select() + QStringLiteral("WHERE id = ?"), {m_id});
+        if (!rows || !m_database.next(*rows))
+            return false;
+        const Table::Row row = receiptsTable().row(*rows);
+        rows->finish();
+        ReceiptRecord &record = m_read.record;
+        record.id = m_id;
+        record.type = row.values[1].toInt();
+        record.state = static_cast<ReceiptState>(row.values[2].toInt());
+        record.order = row.values[3].toString();
+        record.nextPosnum = row.values[4].toInt();
+        m_positions = row.values[7].toLongLong();
+        m_contents = row.values[9].toByteArray();
+        m_read.isHeaderWhole = row.isWhole;
+        if (!row.isWhole)
+            note(QStringLiteral("its header is not as it was stored"));
+        return true;
+    }
 
-bool readPluginData(Database &database, ReceiptRecord &record)
-{
-    QSqlQuery *const rows =
-        database.run(QStringLiteral("SELECT plugin, key, value, types, digest FROM pluginData "
-                                    "WHERE receipt = ? ORDER BY plugin, key"),
-                     {record.id});
-    while (rows && database.next(*rows)) {
-        const QString plugin = rows->value(0).toString();
-        const QString key = rows->value(1).toString();
-        const VariantBytes bytes{rows->value(2).toByteArray(), rows->value(3).toString(),
-                                 rows->value(4).toByteArray()};
-        QString reason;
-        const auto value = bytes.value(&reason);
-        if (!value) {
-            rows->finish();
-            return database.fail(
-                QStringLiteral("receipt %1: the data of plugin \"%2\" under \"%3\" %4")
-                    .arg(QString::number(record.id), plugin, key, reason));
+    template <typename Take>
+    void readRowsOf(const Table &table, const QString &order, Take take)
+    {
+        QSqlQuery *const rows = m_database.run(
+            table.select() + QStringLiteral("WHERE receipt = ? ORDER BY %1").arg(order), {m_id});
+        while (rows && m_database.next(*rows)) {
+            const Table::Row row = table.row(*rows);
+            m_rows.toggle(row.digest);
+            take(row);
         }
-        record.pluginData[plugin].insert(key, *value);
     }
-    return database.error().isEmpty();
+
+    void readLines()
+    {
+        readRowsOf(positionsTable(), QStringLiteral("place"), [this](const Table::Row &row) {
+            const LineRecord line = lineOf(row.values);
+            if (!row.isWhole)
+                note(QStringLiteral("position %1 is not as it was stored").arg(line.posnum));
+            m_read.record.lines.append(line);
+        });
+    }
+
+    void readSoftChecks()
+    {
+        readRowsOf(softChecksTable(), QStringLiteral("place"), [this](const Table::Row &row) {
+            const QString number = row.values[2].toString();
+            if (!row.isWhole)
+                note(QStringLiteral("soft-check %1 is not as it was stored").arg(number));
+            m_read.record.softChecks.append(number);
+        });
+    }
+
+    void readValues()
+    {
+        readRowsOf(pluginDataTable(), QStringLiteral("plugin, key"), [this](const Table::Row &row) {
+            const QString plugin = row.values[1].toString();
+            const QString key = row.values[2].toString();
+            if (!row.isWhole && m_read.valueFault.isEmpty())
+                m_read.valueFault =
+                    QStringLiteral("the data of plugin \"%1\" under \"%2\" are damaged")
+                        .arg(plugin, key);
+            m_read.values.append(
+                {plugin, key, {row.values[3].toByteArray(), row.values[4].toString()}});
+        });
+    }
+
+    void checkWhole()
+    {
+        const auto &lines = m_read.record.lines;
+        const auto live = std::count_if(lines.cbegin(), lines.cend(),
+                                        [](const LineRecord &line) { return !line.stornoed; });
+        if (live != m_positions)
+            note(QStringLiteral("%1 positions are there, and there were %2")
+                     .arg(live)
+                     .arg(m_positions));
+        note(faultOf(m_read.record));
+        // A damaged value has no digest that could tell anything.
+        if (m_read.valueFault.isEmpty() && m_rows.bytes() != m_contents)
+            note(QStringLiteral("its rows are not those that were stored"));
+    }
+
+    void note(const QString &fault)
+    {
+        if (m_read.fault.isEmpty())
+            m_read.fault = fault;
+    }
+
+    Database &m_database;
+    qint64 m_id;
+    ReadReceipt m_read;
+    qint64 m_positions = 0;
+    QByteArray m_contents;
+    RowsDigest m_rows;
+};
+
+void failFor(Database &database, qint64 id, const QString &fault)
+{
+    database.fail(QStringLiteral("receipt %1: %2").arg(id).arg(fault));
+}
+
+//! Says of a receipt that does not hold how to go on without it.
+void failWithWayOn(Database &database, qint64 id, const QString &fault)
+{
+    failFor(database, id,
+            QStringLiteral("%1; \"till set-apart %2\" sets this receipt apart, so that another can "
+                           "be opened")
+                .arg(fault)
+                .arg(id));
+}
+
+//! The number that \a sql gives; 0 when it gives none.
+qint64 numberOf(Database &database, const QString &sql, const QVariantList &values = {})
+{
+    QSqlQuery *const rows = database.run(sql, values);
+    qint64 number = 0;
+    while (rows && database.next(*rows))
+        number = rows->value(0).toLongLong();
+    return number;
+}
+
+bool isSetApart(Database &database, qint64 id)
+{
+    return numberOf(database, QStringLiteral("SELECT count(*) FROM setApart WHERE receipt = ?"),
+                    {id})
+           != 0;
+}
+
+bool isUnfinished(const ReadReceipt &read)
+{
+    return read.record.state == ReceiptState::Open || read.record.state == ReceiptState::Subtotal;
+}
+
+//! Puts the values of plugins into the record; the error is noted for one that cannot be had.
+std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read)
+{
+    ReceiptRecord record = read.record;
+    for (const ReadReceipt::Value &value : read.values) {
+        QString reason;
+        const auto decoded = value.bytes.value(&reason);
+        if (!decoded) {
+            failFor(database, record.id,
+                    QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
+                        .arg(value.plugin, value.key, reason));
+            return std::nullopt;
+        }
+        record.pluginData[value.plugin].insert(value.key, *decoded);
+    }
+    return record;
+}
+
+//! The receipt, if it holds and is unfinished.
+std::optional<ReadReceipt> readIfUnfinished(Database &database, qint64 id)
+{
+    const auto read = readRows(database, id);
+    if (!read && database.error().isEmpty())
+        failWithWayOn(database, id, QStringLiteral("its header is missing"));
+    if (!read || (read->isHeaderWhole && !isUnfinished(*read)))
+        return std::nullopt;
+    if (const QString fault = read->anyFault(); !fault.isEmpty()) {
+        failWithWayOn(database, id, fault);
+        return std::nullopt;
+    }
+    return read;
 }
 
 } // namespace
 
+std::optional<ReadReceipt> readRows(Database &database, qint64 id)
+{
+    return Reader(database, id).read();
+}
+
 std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id)
 {
-    ReceiptRecord record;
-    record.id = id;
-    const bool isWhole = readHeader(database, record) && readLines(database, record)
-                         && readSoftChecks(database, record) && readPluginData(database, record);
-    return isWhole ? std::optional(record) : std::nullopt;
+    const auto read = readRows(database, id);
+    if (!read)
+        return std::nullopt;
+    if (const QString fault = read->anyFault(); !fault.isEmpty()) {
+        failFor(database, id, fault);
+        return std::nullopt;
+    }
+    return withValues(database, *read);
+}
+
+std::optional<ReceiptRecord> readLines(Database &database, qint64 id)
+{
+    const auto read = readRows(database, id);
+    if (!read)
+        return std::nullopt;
+    if (!read->fault.isEmpty()) {
+        failFor(database, id, read->fault);
+        return std::nullopt;
+    }
+    return read->record;
 }
 
 std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database)
 {
-    qint64 id = 0;
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT id FROM receipts WHERE state < 2 ORDER BY id DESC LIMIT 1"));
-    while (rows && database.next(*rows))
-        id = rows->value(0).toLongLong();
-    return id == 0 ? std::nullopt : readReceipt(database, id);
+    const qint64 newest = highestNumber(database);
+    std::optional<ReadReceipt> found;
+    if (newest != 0 && !isSetApart(database, newest))
+        found = readIfUnfinished(database, newest);
+    const qint64 next = numberOf(
+        database, QStringLiteral("SELECT id FROM receipts WHERE state < 2 AND id NOT IN (SELECT "
+                                 "receipt FROM setApart) ORDER BY id DESC LIMIT 1"));
+    if (!found && database.error().isEmpty() && next != 0)
+        found = readIfUnfinished(database, next);
+    return found && database.error().isEmpty() ? withValues(database, *found) : std::nullopt;
+}
+
+QString reasonToSetApart(Database &database, qint64 id)
+{
+    if (id < 1 || id > highestNumber(database))
+        database.fail(QStringLiteral("there is no receipt %1").arg(id));
+    else if (isSetApart(database, id))
+        failFor(database, id, QStringLiteral("it is set apart already"));
+    if (!database.error().isEmpty())
+        return {};
+    const auto read = readRows(database, id);
+    const QString unreadable = database.error();
+    database.forgetError();
+    if (!read)
+        return unreadable.isEmpty() ? QStringLiteral("its header is missing") : unreadable;
+    const QString fault = read->anyFault();
+    if (fault.isEmpty() && !isUnfinished(*read))
+        failFor(database, id, QStringLiteral("it is finished and whole"));
+    return fault.isEmpty() ? QStringLiteral("unfinished") : fault;
+}
+
+qint64 highestNumber(Database &database)
+{
+    return numberOf(database,
+                    QStringLiteral("SELECT max(coalesce((SELECT seq FROM sqlite_sequence WHERE "
+                                   "name = 'receipts'), 0), coalesce((SELECT max(id) FROM "
+                                   "receipts), 0))"));
 }
 
 QList<JournalEntry> readJournal(Database &database, qint64 receiptId)
@@ -107,6 +281,16 @@ QList<JournalEntry> readJournal(Database &database, qint64 receiptId)
         entries.append(
             {rows->value(0).toInt(), rows->value(1).toString(), rows->value(2).toByteArray()});
     return entries;
+}
+
+LineRecord lineOf(const QVariantList &values)
+{
+    const ArticleData article{values[3].toString(), values[4].toString(), values[5].toLongLong(),
+                              values[6].toInt(),    values[7].toDouble(), values[8].toDouble(),
+                              values[9].toString()};
+    return {values[2].toInt(),     article,
+            values[10].toDouble(), values[11].toDouble(),
+            values[12].toString(), values[13].toBool()};
 }
 
 } // namespace till

@@ -3,6 +3,7 @@
 
 #include "till/receipt/ReceiptRecord.h"
 #include "till/storage/Storage.h"
+#include "till/storage/VariantBytes.h"
 
 #include <optional>
 
@@ -10,15 +11,56 @@ namespace till {
 
 class Database;
 
+//! A receipt as its rows have it, and whether they hold.
+struct ReadReceipt
+{
+    ReceiptRecord record; //!< without the plugin data
+    bool isHeaderWhole = false;
+
+    //! A value that a plugin stored, not looked into yet.
+    struct Value
+    {
+        QString plugin;
+        QString key;
+        VariantBytes bytes;
+    };
+    QList<Value> values;
+
+    QString fault;      //!< why the record does not hold; empty when it does
+    QString valueFault; //!< why a value of a plugin does not
+
+    //! The first fault; empty when all holds.
+    QString anyFault() const { return fault.isEmpty() ? valueFault : fault; }
+};
+
 // Nothing is returned for what is not there, and, with the error noted, for what cannot be read.
 
-std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id);
+//! The receipt, which need not hold.
+std::optional<ReadReceipt> readRows(Database &database, qint64 id);
 
-//! The newest receipt that was neither closed nor cancelled.
+//! The receipt, which must hold, with its plugin data.
+std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id);
+//! The receipt without its plugin data, which need not hold.
+std::optional<ReceiptRecord> readLines(Database &database, qint64 id);
+
+/*!
+ * The newest receipt that was neither closed nor cancelled, nor set apart; it must hold. So must
+ * the header of the newest of all, lest an unfinished one be taken for finished. The error says how
+ * to go on.
+ */
 std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database);
+
+//! Why the receipt may be set apart; an error is noted when it may not.
+QString reasonToSetApart(Database &database, qint64 id);
+
+//! The highest number that was ever given to a receipt; 0 when none was.
+qint64 highestNumber(Database &database);
 
 //! The receipt's journal, oldest first.
 QList<JournalEntry> readJournal(Database &database, qint64 receiptId);
+
+//! The line that a row of positions has.
+LineRecord lineOf(const QVariantList &values);
 
 } // namespace till
 

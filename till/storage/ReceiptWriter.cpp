@@ -1,177 +1,274 @@
 #include "till/storage/ReceiptWriter.h"
 
-#include "till/storage/Database.h"
+#include "till/database/Database.h"
+#include "till/receipt/RecordFault.h"
+#include "till/storage/ReceiptReader.h"
+#include "till/storage/Schema.h"
 #include "till/storage/VariantBytes.h"
 
-#include <cmath>
-#include <tuple>
+#include <QtCore/QDateTime>
+
+#include <utility>
 
 namespace till {
 
 namespace {
 
-//! A text as the database takes it: a null one would become NULL.
-QString stored(const QString &text)
+QVariantList rowOf(qint64 id, qsizetype place, const LineRecord &line)
 {
-    return text.isNull() ? QStringLiteral("") : text;
+    const ArticleData &article = line.article;
+    return {id,
+            place,
+            line.posnum,
+            storable(article.code),
+            storable(article.name),
+            article.price,
+            article.taraMode,
+            article.taraCapacity,
+            article.pack,
+            storable(article.unit),
+            line.count,
+            line.base,
+            storable(line.groupId),
+            line.stornoed};
 }
 
-QByteArray stored(const QByteArray &bytes)
+QVariantList rowOf(qint64 id, qsizetype place, const QString &softCheck)
 {
-    return bytes.isNull() ? QByteArray("") : bytes;
+    return {id, place, storable(softCheck)};
 }
 
-auto headerOf(const ReceiptRecord &record)
+QVariantList rowOf(const StoredReceipt &receipt)
 {
-    return std::tie(record.type, record.state, record.order, record.nextPosnum);
+    const ReceiptRecord &record = receipt.record;
+    return {record.id,
+            record.type,
+            static_cast<int>(record.state),
+            storable(record.order),
+            record.nextPosnum,
+            receipt.opened,
+            receipt.ended,
+            receipt.positions,
+            receipt.total,
+            receipt.contents.bytes()};
 }
 
-//! False for numbers that the database would turn into something else.
-bool isStorable(const LineRecord &line)
+bool isFinished(const ReceiptRecord &record)
 {
-    return !std::isnan(line.count) && !std::isnan(line.base)
-           && !std::isnan(line.article.taraCapacity) && !std::isnan(line.article.pack);
+    return record.state == ReceiptState::Closed || record.state == ReceiptState::Cancelled;
 }
 
-QString nameOf(qint64 receiptId)
+//! Counts \a line in, or out of, what the header says of positions.
+void count(StoredReceipt &receipt, const LineRecord &line, int sign)
 {
-    return receiptId == 0 ? QStringLiteral("the new receipt")
-                          : QStringLiteral("receipt %1").arg(receiptId);
+    if (line.stornoed)
+        return;
+    receipt.positions += sign;
+    receipt.total += sign * sumOf(line.article.price, line.count);
 }
 
-bool writeHeader(Database &database, ReceiptRecord &next, const ReceiptRecord &last)
+//! Writes one receipt; it knows what the database holds of it.
+class Writer
 {
-    const QVariantList fields{next.type, static_cast<int>(next.state), stored(next.order),
-                              next.nextPosnum};
-    if (next.id == 0) {
-        const QSqlQuery *inserted = database.run(
-            QStringLiteral(
-                "INSERT INTO receipts (type, state, orderNumber, nextPosnum) VALUES (?, ?, ?, ?)"),
-            fields);
-        next.id = inserted ? inserted->lastInsertId().toLongLong() : 0;
-        return inserted;
+public:
+    Writer(Database &database, StoredReceipt &next, const StoredReceipt &last)
+        : m_database(database)
+        , m_next(next)
+        , m_last(last)
+    {
     }
-    if (next.id == last.id && headerOf(next) == headerOf(last))
-        return true;
-    const QSqlQuery *updated = database.run(
-        QStringLiteral("UPDATE receipts SET type = ?, state = ?, orderNumber = ?, nextPosnum = ? "
-                       "WHERE id = ?"),
-        fields + QVariantList{next.id});
-    if (updated && updated->numRowsAffected() == 0)
-        return database.fail(QStringLiteral("there is no %1").arg(nameOf(next.id)));
-    if (!updated || next.id == last.id)
-        return updated;
-    // What the database holds of this receipt is not at hand: all of it is written anew.
-    return database.run(QStringLiteral("DELETE FROM positions WHERE receipt = ?"), {next.id})
-           && database.run(QStringLiteral("DELETE FROM softChecks WHERE receipt = ?"), {next.id})
-           && database.run(QStringLiteral("DELETE FROM pluginData WHERE receipt = ?"), {next.id});
-}
 
-bool writeLines(Database &database, const ReceiptRecord &next, const ReceiptRecord &last)
-{
-    for (qsizetype place = 0; place < next.lines.size(); ++place) {
-        const LineRecord &line = next.lines[place];
-        if (place < last.lines.size() && line == last.lines[place])
-            continue;
-        if (!isStorable(line))
-            return database.fail(
-                QStringLiteral("position %1 has a quantity that is not a number").arg(line.posnum));
-        const ArticleData &article = line.article;
-        if (!database.run(
-                QStringLiteral("INSERT OR REPLACE INTO positions (receipt, place, posnum, code, "
-                               "name, price, taraMode, taraCapacity, pack, unit, count, base, "
-                               "groupId, stornoed) "
-                               "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-                {next.id, place, line.posnum, stored(article.code), stored(article.name),
-                 article.price, article.taraMode, article.taraCapacity, article.pack,
-                 stored(article.unit), line.count, line.base, stored(line.groupId), line.stornoed}))
-            return false;
+    bool write()
+    {
+        return begin() && writeLines() && writeSoftChecks() && writeValues() && removeValues()
+               && writeHeader();
     }
-    return next.lines.size() >= last.lines.size()
-           || database.run(QStringLiteral("DELETE FROM positions WHERE receipt = ? AND place >= ?"),
-                           {next.id, next.lines.size()});
-}
 
-bool writeSoftChecks(Database &database, const ReceiptRecord &next, const ReceiptRecord &last)
-{
-    for (qsizetype place = 0; place < next.softChecks.size(); ++place) {
-        if (place < last.softChecks.size() && next.softChecks[place] == last.softChecks[place])
-            continue;
-        if (!database.run(QStringLiteral("INSERT OR REPLACE INTO softChecks (receipt, place, "
-                                         "number) VALUES (?, ?, ?)"),
-                          {next.id, place, stored(next.softChecks[place])}))
-            return false;
+private:
+    //! The number of the receipt, and a place without rows that are not known.
+    bool begin()
+    {
+        ReceiptRecord &record = m_next.record;
+        m_next.contents = m_last.contents;
+        m_next.opened = m_last.opened;
+        m_next.ended = m_last.ended;
+        m_next.positions = m_last.positions;
+        m_next.total = m_last.total;
+        if (record.id == 0) {
+            record.id = highestNumber(m_database) + 1;
+            m_next.opened = QDateTime::currentMSecsSinceEpoch();
+            return m_database.error().isEmpty();
+        }
+        return record.id == m_last.record.id || removeRows();
     }
-    return next.softChecks.size() >= last.softChecks.size()
-           || database.run(
-               QStringLiteral("DELETE FROM softChecks WHERE receipt = ? AND place >= ?"),
-               {next.id, next.softChecks.size()});
-}
 
-//! Writes \a value unless its bytes have the digest that was stored last; then sets \a digest.
-bool writeValue(Database &database, const QVariantList &receiptPluginKey, const QVariant &value,
-                QByteArray &digest)
-{
-    QString culprit;
-    const auto bytes = VariantBytes::of(value, &culprit);
-    if (!bytes)
-        return database.fail(
-            QStringLiteral("the data of plugin \"%1\" under \"%2\" hold a value "
-                           "of type \"%3\", which cannot be stored")
-                .arg(receiptPluginKey[1].toString(), receiptPluginKey[2].toString(), culprit));
-    if (bytes->digest == digest)
-        return true;
-    digest = bytes->digest;
-    return database.run(QStringLiteral("INSERT OR REPLACE INTO pluginData (receipt, plugin, key, "
-                                       "value, types, digest) VALUES (?, ?, ?, ?, ?, ?)"),
-                        receiptPluginKey
-                            + QVariantList{bytes->bytes, stored(bytes->types), bytes->digest});
-}
+    //! What the database holds of this receipt is not at hand: all of it is written anew.
+    bool removeRows()
+    {
+        const qint64 id = m_next.record.id;
+        QSqlQuery *const header =
+            m_database.run(QStringLiteral("SELECT opened, ended FROM receipts WHERE id = ?"), {id});
+        if (!header || !m_database.next(*header))
+            return header && m_database.fail(QStringLiteral("there is no receipt %1").arg(id));
+        m_next.opened = header->value(0).toLongLong();
+        m_next.ended = header->value(1).toLongLong();
+        header->finish();
+        return m_database.run(QStringLiteral("DELETE FROM positions WHERE receipt = ?"), {id})
+               && m_database.run(QStringLiteral("DELETE FROM softChecks WHERE receipt = ?"), {id})
+               && m_database.run(QStringLiteral("DELETE FROM pluginData WHERE receipt = ?"), {id});
+    }
 
-bool writePluginData(Database &database, StoredReceipt &next, const StoredReceipt &last)
-{
-    const auto &data = next.record.pluginData;
-    for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
-        const QVariantMap lastData = last.record.pluginData.value(plugin.key());
-        const auto lastDigests = last.digests.value(plugin.key());
-        auto &digests = next.digests[plugin.key()];
-        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry) {
-            QByteArray &digest = digests[entry.key()];
-            digest = lastDigests.value(entry.key());
-            if (!VariantBytes::areSurelySame(entry.value(), lastData.value(entry.key()))
-                && !writeValue(database,
-                               {next.record.id, stored(plugin.key()), stored(entry.key())},
-                               entry.value(), digest))
+    bool writeHeader()
+    {
+        if (isFinished(m_next.record) && m_next.ended == 0)
+            m_next.ended = QDateTime::currentMSecsSinceEpoch();
+        const QVariantList row = rowOf(m_next);
+        return row == rowOf(m_last)
+               || receiptsTable().write(m_database, row, receiptsTable().digest(row));
+    }
+
+    bool writeRow(const Table &table, const QVariantList &row)
+    {
+        const QByteArray digest = table.digest(row);
+        m_next.contents.toggle(digest);
+        return table.write(m_database, row, digest);
+    }
+
+    //! Forgets the row that was stored; what is to come writes over it or takes it out.
+    void forget(const Table &table, const QVariantList &row)
+    {
+        m_next.contents.toggle(table.digest(row));
+    }
+
+    //! Takes out the rows from \a place on.
+    bool cut(const char *table, qsizetype place)
+    {
+        return m_database.run(
+            QStringLiteral("DELETE FROM %1 WHERE receipt = ? AND place >= ?").arg(table),
+            {m_next.record.id, place});
+    }
+
+    bool writeLines()
+    {
+        const QList<LineRecord> &lines = m_next.record.lines;
+        const QList<LineRecord> &old = m_last.record.lines;
+        for (qsizetype place = 0; place < lines.size(); ++place) {
+            if (place < old.size() && lines[place] == old[place])
+                continue;
+            if (place < old.size())
+                forgetLine(place);
+            if (!writeLine(place))
                 return false;
         }
+        for (qsizetype place = lines.size(); place < old.size(); ++place)
+            forgetLine(place);
+        return lines.size() >= old.size() || cut("positions", lines.size());
     }
-    return true;
-}
 
-bool removePluginData(Database &database, const ReceiptRecord &next, const ReceiptRecord &last)
-{
-    for (auto plugin = last.pluginData.cbegin(); plugin != last.pluginData.cend(); ++plugin) {
-        const QVariantMap kept = next.pluginData.value(plugin.key());
-        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry) {
-            if (!kept.contains(entry.key())
-                && !database.run(QStringLiteral("DELETE FROM pluginData WHERE receipt = ? "
-                                                "AND plugin = ? AND key = ?"),
-                                 {next.id, stored(plugin.key()), stored(entry.key())}))
+    void forgetLine(qsizetype place)
+    {
+        const LineRecord &line = m_last.record.lines[place];
+        forget(positionsTable(), rowOf(m_next.record.id, place, line));
+        count(m_next, line, -1);
+    }
+
+    bool writeLine(qsizetype place)
+    {
+        const LineRecord &line = m_next.record.lines[place];
+        if (const QString fault = faultOf(line, m_next.record.nextPosnum); !fault.isEmpty())
+            return m_database.fail(fault + QStringLiteral(", which cannot be stored"));
+        count(m_next, line, 1);
+        return writeRow(positionsTable(), rowOf(m_next.record.id, place, line));
+    }
+
+    bool writeSoftChecks()
+    {
+        const qint64 id = m_next.record.id;
+        const QStringList &numbers = m_next.record.softChecks;
+        const QStringList &old = m_last.record.softChecks;
+        for (qsizetype place = 0; place < numbers.size(); ++place) {
+            if (place < old.size() && numbers[place] == old[place])
+                continue;
+            if (place < old.size())
+                forget(softChecksTable(), rowOf(id, place, old[place]));
+            if (!writeRow(softChecksTable(), rowOf(id, place, numbers[place])))
                 return false;
         }
+        for (qsizetype place = numbers.size(); place < old.size(); ++place)
+            forget(softChecksTable(), rowOf(id, place, old[place]));
+        return numbers.size() >= old.size() || cut("softChecks", numbers.size());
     }
-    return true;
-}
+
+    bool writeValues()
+    {
+        const auto &data = m_next.record.pluginData;
+        for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
+            const QVariantMap lastData = m_last.record.pluginData.value(plugin.key());
+            const auto lastDigests = m_last.digests.value(plugin.key());
+            auto &digests = m_next.digests[plugin.key()];
+            for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry) {
+                QByteArray &digest = digests[entry.key()];
+                digest = lastDigests.value(entry.key());
+                if (!VariantBytes::areSurelySame(entry.value(), lastData.value(entry.key()))
+                    && !writeValue(plugin.key(), entry.key(), entry.value(), digest))
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    //! Writes \a value unless its row has the \a digest that was stored last; then sets that.
+    bool writeValue(const QString &plugin, const QString &key, const QVariant &value,
+                    QByteArray &digest)
+    {
+        QString culprit;
+        const auto bytes = VariantBytes::of(value, &culprit);
+        if (!bytes)
+            return m_database.fail(
+                QStringLiteral("the data of plugin \"%1\" under \"%2\" hold a value of type "
+                               "\"%3\", which cannot be stored")
+                    .arg(plugin, key, culprit));
+        const QVariantList row{m_next.record.id, storable(plugin), storable(key), bytes->bytes,
+                               storable(bytes->types)};
+        const QByteArray last = std::exchange(digest, pluginDataTable().digest(row));
+        if (digest == last)
+            return true;
+        m_next.contents.toggle(last);
+        m_next.contents.toggle(digest);
+        return pluginDataTable().write(m_database, row, digest);
+    }
+
+    bool removeValues()
+    {
+        const auto &old = m_last.record.pluginData;
+        for (auto plugin = old.cbegin(); plugin != old.cend(); ++plugin) {
+            const QVariantMap kept = m_next.record.pluginData.value(plugin.key());
+            for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry) {
+                if (!kept.contains(entry.key()) && !removeValue(plugin.key(), entry.key()))
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    bool removeValue(const QString &plugin, const QString &key)
+    {
+        m_next.contents.toggle(m_last.digests.value(plugin).value(key));
+        return m_database.run(
+            QStringLiteral("DELETE FROM pluginData WHERE receipt = ? AND plugin = ? AND key = ?"),
+            {m_next.record.id, storable(plugin), storable(key)});
+    }
+
+    Database &m_database;
+    StoredReceipt &m_next;
+    const StoredReceipt &m_last;
+};
 
 } // namespace
 
 bool writeReceipt(Database &database, StoredReceipt &next, const StoredReceipt &last)
 {
-    return writeHeader(database, next.record, last.record)
-           && writeLines(database, next.record, last.record)
-           && writeSoftChecks(database, next.record, last.record)
-           && writePluginData(database, next, last)
-           && removePluginData(database, next.record, last.record);
+    return Writer(database, next, last).write();
 }
 
 bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal)
@@ -179,7 +276,7 @@ bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry
     for (const JournalEntry &entry : journal) {
         if (!database.run(QStringLiteral("INSERT INTO journal (receipt, depth, kind, json) "
                                          "VALUES (?, ?, ?, ?)"),
-                          {receiptId, entry.depth, stored(entry.kind), stored(entry.json)}))
+                          {receiptId, entry.depth, storable(entry.kind), storable(entry.json)}))
             return false;
     }
     return true;

@@ -1,6 +1,7 @@
 #ifndef TILL_STORAGE_RECEIPTWRITER_H
 #define TILL_STORAGE_RECEIPTWRITER_H
 
+#include "till/database/Table.h"
 #include "till/receipt/ReceiptRecord.h"
 #include "till/storage/Storage.h"
 
@@ -15,14 +16,22 @@ struct StoredReceipt
 {
     ReceiptRecord record;
     QMap<QString, QMap<QString, QByteArray>> digests; //!< of the plugin data, by plugin and key
+
+    // What its header has besides the record's own fields; all of it follows a change of one row
+    // without a look at the others.
+    RowsDigest contents;
+    qint64 opened = 0;
+    qint64 ended = 0;
+    qint64 positions = 0; //!< that are not stornoed
+    Kopecks total = 0;    //!< of these
 };
 
 // Both work within a transaction of the caller's, and return false with the error noted.
 
 /*!
  * Writes what \a next has and \a last has not, and takes out what only \a last has. Gives the
- * record a number when it has none, and fills in the digests. A \a last without a number stands for
- * "not known": everything is written anew.
+ * record a number when it has none, and fills in all but the record. A \a last without a number
+ * stands for "not known": everything is written anew.
  */
 bool writeReceipt(Database &database, StoredReceipt &next, const StoredReceipt &last);
 

@@ -1,7 +1,6 @@
 #include "till/storage/VariantBytes.h"
 
 #include <QtCore/QAssociativeIterable>
-#include <QtCore/QCryptographicHash>
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
 #include <QtCore/QMetaType>
@@ -138,11 +137,10 @@ std::optional<VariantBytes> VariantBytes::of(const QVariant &value, QString *cul
     *culprit = survey.culprit;
     if (!culprit->isEmpty())
         return std::nullopt;
-    VariantBytes stored{{}, survey.foreign.join(QLatin1Char('\n')), {}};
+    VariantBytes stored{{}, survey.foreign.join(QLatin1Char('\n'))};
     QDataStream stream(&stored.bytes, QIODevice::WriteOnly);
     stream.setVersion(StreamVersion);
     stream << value;
-    stored.digest = stored.computeDigest();
     // Operators of others may not fit together, or may write nothing of what they hold.
     if (stream.status() != QDataStream::Ok || (!stored.types.isEmpty() && !stored.decode())) {
         *culprit = QString::fromLatin1(value.metaType().name());
@@ -176,11 +174,6 @@ bool VariantBytes::areSurelySame(const QVariant &left, const QVariant &right)
 
 std::optional<QVariant> VariantBytes::value(QString *reason) const
 {
-    // Before anything is read, for to read damaged bytes may take any amount of memory.
-    if (digest != computeDigest()) {
-        *reason = QStringLiteral("are damaged");
-        return std::nullopt;
-    }
     const QStringList names = types.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString &name : names) {
         if (!isKnown(name)) {
@@ -192,14 +185,6 @@ std::optional<QVariant> VariantBytes::value(QString *reason) const
     if (!decoded)
         *reason = QStringLiteral("are damaged");
     return decoded;
-}
-
-QByteArray VariantBytes::computeDigest() const
-{
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
-    hash.addData(bytes);
-    hash.addData(types.toUtf8());
-    return hash.result();
 }
 
 std::optional<QVariant> VariantBytes::decode() const

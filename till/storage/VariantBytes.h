@@ -12,9 +12,8 @@ namespace till {
 //! A variant as bytes that can be kept and that give the same variant back, with its types.
 struct VariantBytes
 {
-    QByteArray bytes;  //!< as QDataStream writes it
-    QString types;     //!< the types in it that are not Qt Core's own, one a line
-    QByteArray digest; //!< of both, to know damaged ones from good ones
+    QByteArray bytes; //!< as QDataStream writes it
+    QString types;    //!< the types in it that are not Qt Core's own, one a line
 
     /*!
      * The bytes of \a value. Nothing, and the name of the type in \a culprit, when it is or holds a
@@ -30,10 +29,10 @@ struct VariantBytes
     static bool areSurelySame(const QVariant &left, const QVariant &right);
 
     //! The variant; nothing, and \a reason in words that follow "the data", when there is none.
+    //! Only for bytes that are known to be whole: damaged ones may take any amount of memory.
     std::optional<QVariant> value(QString *reason) const;
 
 private:
-    QByteArray computeDigest() const;
     std::optional<QVariant> decode() const;
 };
 

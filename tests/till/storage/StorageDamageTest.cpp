@@ -34,6 +34,9 @@ protected:
         EXPECT_EQ(opened()->unfinishedReceipt(&error), std::nullopt);
         return error;
     }
+
+    const QString wayOn = "; \"till set-apart 1\" sets this receipt apart, so that another can be "
+                          "opened";
 };
 
 TEST_F(StorageDamage, Garbage_IsRefused)
@@ -59,13 +62,14 @@ TEST_F(StorageDamage, TruncatedAnywhere_IsRefused)
     }
 }
 
-TEST_F(StorageDamage, PageOverwritten_IsRefused)
+TEST_F(StorageDamage, PageOverwritten_IsAnErrorOfTheReading)
 {
     leaveUnfinished(200);
     QByteArray damaged = contents(path());
     damaged.replace(damaged.size() / 8192 * 4096, 4096, QByteArray(4096, '\x5a'));
     overwrite(path(), damaged);
-    refusedAsIs("the database is damaged");
+    EXPECT_THAT(unreadable().toStdString(), HasSubstr("damaged"));
+    EXPECT_EQ(contents(path()), damaged);
 }
 
 TEST_F(StorageDamage, EmptiedFileBesideAFullLog_IsRefusedAndTheLogStays)
@@ -87,11 +91,50 @@ TEST_F(StorageDamage, MissingFileBesideAFullLog_IsRefusedAndTheLogStays)
     EXPECT_FALSE(QFileInfo::exists(path()));
 }
 
-TEST_F(StorageDamage, MissingTable_IsAnErrorOfTheReading)
+// Whether anything is wrong shows without a look at every page; after a kill each is looked at.
+TEST_F(StorageDamage, PageOverwrittenInAFileThatWasLeftOpen_IsRefused)
+{
+    leaveUnfinished(200);
+    {
+        const auto storage = opened();
+        ReceiptRecord second = receiptOf(1);
+        save(*storage, second);
+        for (const QString name : {"till.db", "till.db-wal"})
+            overwrite(path("left-" + name), contents(path(name)));
+    }
+    QByteArray damaged = contents(path("left-till.db"));
+    damaged.replace(damaged.size() / 8192 * 4096, 4096, QByteArray(4096, '\x5a'));
+    overwrite(path("left-till.db"), damaged);
+    EXPECT_THAT(refusalOf(path("left-till.db")).toStdString(),
+                HasSubstr("the database is damaged"));
+    EXPECT_EQ(contents(path("left-till.db")), damaged);
+}
+
+class MissingTable : public StorageDamage, public testing::WithParamInterface<const char *>
+{
+};
+
+TEST_P(MissingTable, IsRefusedAndNamed)
 {
     leaveUnfinished(1);
-    query("DROP TABLE softChecks");
-    EXPECT_EQ(unreadable(), path() + ": no such table: softChecks");
+    const QString kind = GetParam();
+    query("DROP " + kind);
+    EXPECT_EQ(refusal(),
+              path() + ": the database is damaged (its " + kind + " is missing or altered)");
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, MissingTable,
+                         testing::Values("table positions", "table softChecks", "table pluginData",
+                                         "table journal", "table setApart", "index unfinished",
+                                         "index journalOfReceipt", "index receiptsByTime"),
+                         [](const auto &test) { return std::string(test.param).substr(6); });
+
+TEST_F(StorageDamage, AlteredTable_IsRefused)
+{
+    leaveUnfinished(1);
+    query("ALTER TABLE journal ADD COLUMN more");
+    EXPECT_EQ(refusal(),
+              path() + ": the database is damaged (its table journal is missing or altered)");
 }
 
 //! What may have happened to a value of plugin data.
@@ -109,7 +152,8 @@ TEST_P(DamagedPluginData, IsAnErrorThatNamesPluginAndKey)
 
     EXPECT_EQ(unreadable(), path()
                                 + ": receipt 1: the data of plugin \"PackagingControl\" under "
-                                  "\"taraInfo\" are damaged");
+                                  "\"taraInfo\" are damaged"
+                                + wayOn);
 }
 
 INSTANTIATE_TEST_SUITE_P(Damages, DamagedPluginData,
@@ -119,6 +163,23 @@ INSTANTIATE_TEST_SUITE_P(Damages, DamagedPluginData,
                                          "value = 'text'", "types = 'Unknown'", "digest = x''",
                                          "value = x'ffffffffffffffffffff'"),
                          [](const auto &test) { return "Damage" + std::to_string(test.index); });
+
+TEST_P(DamagedPluginData, DoesNotHideTheLines)
+{
+    ReceiptRecord record = receiptOf(3);
+    record.softChecks = QStringList{"5"};
+    ReceiptRecord bare = record;
+    record.pluginData["PackagingControl"]["taraInfo"] = 1;
+    save(*opened(), record);
+    query(QStringLiteral("UPDATE pluginData SET %1").arg(GetParam()));
+
+    QString error = "old";
+    bare.id = record.id;
+    EXPECT_EQ(opened()->lines(record.id, &error), bare);
+    EXPECT_EQ(error, QString());
+    EXPECT_EQ(opened()->receipt(record.id, &error), std::nullopt);
+    EXPECT_NE(error, QString());
+}
 
 TEST_F(StorageDamage, PluginData_DoesNotHideTheOtherReceipts)
 {

@@ -36,6 +36,7 @@ protected:
         bigger.lines[0].stornoed = true;
         for (int posnum = 4; posnum <= 300; ++posnum)
             bigger.lines.append(lineOf(posnum));
+        bigger.nextPosnum = 301;
         bigger.pluginData["plugin"]["key"] = QByteArray(10000, 'x');
     }
 

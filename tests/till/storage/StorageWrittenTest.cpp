@@ -52,23 +52,23 @@ TEST_F(StorageWritten, NothingChanged_WritesNothing)
     EXPECT_EQ(touched(), QStringList());
 }
 
-TEST_F(StorageWritten, OneLineChanged_WritesThatLine)
+TEST_F(StorageWritten, OneLineChanged_WritesThatLineAndTheHeader)
 {
     record.lines[2].stornoed = true;
-    EXPECT_EQ(touched(), QStringList{"INSERT positions 2"});
+    EXPECT_EQ(touched(), (QStringList{"UPDATE positions 2", "UPDATE receipts 1"}));
 }
 
 TEST_F(StorageWritten, LineAdded_WritesThatLineAndTheHeader)
 {
     record.lines.append(lineOf(5));
     record.nextPosnum = 6;
-    EXPECT_EQ(touched(), (QStringList{"UPDATE receipts 1", "INSERT positions 4"}));
+    EXPECT_EQ(touched(), (QStringList{"INSERT positions 4", "UPDATE receipts 1"}));
 }
 
-TEST_F(StorageWritten, LastLineRemoved_RemovesThatLine)
+TEST_F(StorageWritten, LastLineRemoved_RemovesThatLineAndTheHeader)
 {
     record.lines.removeLast();
-    EXPECT_EQ(touched(), QStringList{"DELETE positions 3"});
+    EXPECT_EQ(touched(), (QStringList{"DELETE positions 3", "UPDATE receipts 1"}));
 }
 
 TEST_F(StorageWritten, HeaderChanged_WritesTheHeader)
@@ -77,16 +77,16 @@ TEST_F(StorageWritten, HeaderChanged_WritesTheHeader)
     EXPECT_EQ(touched(), QStringList{"UPDATE receipts 1"});
 }
 
-TEST_F(StorageWritten, SoftCheckAdded_WritesThatOne)
+TEST_F(StorageWritten, SoftCheckAdded_WritesThatOneAndTheHeader)
 {
     record.softChecks.append("3");
-    EXPECT_EQ(touched(), QStringList{"INSERT softChecks 2"});
+    EXPECT_EQ(touched(), (QStringList{"INSERT softChecks 2", "UPDATE receipts 1"}));
 }
 
-TEST_F(StorageWritten, PluginDataChanged_WritesThatKey)
+TEST_F(StorageWritten, PluginDataChanged_WritesThatKeyAndTheHeader)
 {
     record.pluginData["plugin"]["text"] = "x";
-    EXPECT_EQ(touched(), QStringList{"INSERT pluginData text"});
+    EXPECT_EQ(touched(), (QStringList{"UPDATE pluginData text", "UPDATE receipts 1"}));
 }
 
 TEST_F(StorageWritten, PluginDataSetToTheSame_WritesNothing)
@@ -99,19 +99,20 @@ TEST_F(StorageWritten, PluginDataThatOnlyCountAsEqual_AreWritten)
 {
     ASSERT_EQ(QVariant(QVariantList{1, 0.0}), QVariant(QVariantList{1, -0.0}));
     record.pluginData["plugin"]["list"] = QVariantList{1, -0.0};
-    EXPECT_EQ(touched(), QStringList{"INSERT pluginData list"});
+    EXPECT_EQ(touched(), (QStringList{"UPDATE pluginData list", "UPDATE receipts 1"}));
 }
 
-TEST_F(StorageWritten, PluginDataRemoved_RemovesThatKey)
+TEST_F(StorageWritten, PluginDataRemoved_RemovesThatKeyAndTheHeader)
 {
     record.pluginData["plugin"].remove("text");
-    EXPECT_EQ(touched(), QStringList{"DELETE pluginData text"});
+    EXPECT_EQ(touched(), (QStringList{"DELETE pluginData text", "UPDATE receipts 1"}));
 }
 
-TEST_F(StorageWritten, PluginRemoved_RemovesItsKeys)
+TEST_F(StorageWritten, PluginRemoved_RemovesItsKeysAndTheHeader)
 {
     record.pluginData.remove("plugin");
-    EXPECT_EQ(touched(), (QStringList{"DELETE pluginData list", "DELETE pluginData text"}));
+    EXPECT_EQ(touched(), (QStringList{"DELETE pluginData list", "DELETE pluginData text",
+                                      "UPDATE receipts 1"}));
 }
 
 } // namespace

@@ -28,7 +28,8 @@ struct State
 
 std::optional<State> state;
 
-//! The file behind \a descriptor when it is on the disk, else empty.
+//! The file behind \a descriptor when it is on the disk, else empty. The index that SQLite keeps of
+//! a log is made anew at need: nothing depends on what is in it.
 std::string fileOf(int descriptor)
 {
     if (!state)
@@ -37,7 +38,8 @@ std::string fileOf(int descriptor)
     const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
     const ssize_t length = readlink(link.c_str(), target, sizeof target);
     const std::string file(target, length > 0 ? static_cast<size_t>(length) : 0);
-    return file.starts_with(state->directory) ? file : std::string();
+    const bool counts = file.starts_with(state->directory) && !file.ends_with("-shm");
+    return counts ? file : std::string();
 }
 
 bool isOnDisk(const char *path)

@@ -1,16 +1,19 @@
-#include "till/storage/Database.h"
-
-#include "till/storage/Schema.h"
+#include "till/database/Database.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtSql/QSqlError>
 
 #include <atomic>
+#include <cerrno>
 
 namespace till {
 
 namespace {
+
+//! How long others that are at the file for a moment are waited for, in milliseconds.
+constexpr int Patience = 5000;
 
 //! Result codes of SQLite that people can do something about.
 enum Code : int {
@@ -23,21 +26,17 @@ enum Code : int {
     NotADatabase = 26,
 };
 
-QString inMemory()
-{
-    return QStringLiteral(":memory:");
-}
-
 //! What \a code means to the people at the register; empty when it is nothing they know.
 QString meaningOf(int code)
 {
     switch (code) {
     case Busy:
     case Locked:
-        return QStringLiteral("another till has this database open");
+        return QStringLiteral("another program is writing to the database");
     case ReadOnly:
+        return QStringLiteral("the database cannot be written");
     case CannotOpen:
-        return QStringLiteral("the database cannot be opened for writing");
+        return QStringLiteral("the database cannot be opened");
     case Corrupt:
         return QStringLiteral("the database is damaged");
     case NotADatabase:
@@ -79,12 +78,10 @@ Database::~Database()
     QSqlDatabase::removeDatabase(m_connection);
 }
 
-std::unique_ptr<Database> Database::open(const QString &path, QString *error)
+std::unique_ptr<Database> Database::open(const QString &path, Access access, QString *error)
 {
     std::unique_ptr<Database> database(new Database(path));
-    const bool ready = database->checkPlace() && database->connectToFile() && database->recognise()
-                       && database->check() && database->makeDurable() && database->makeSchema()
-                       && database->checkWritable();
+    const bool ready = database->prepare(access) && database->connectToFile(access);
     *error = database->error();
     return ready ? std::move(database) : nullptr;
 }
@@ -100,76 +97,67 @@ bool Database::failWith(const QSqlError &error)
     return fail(reasonOf(error));
 }
 
-// The file itself is not opened here: to close it would end the locks that this process has on it.
-bool Database::checkPlace()
+bool Database::prepare(Access access)
 {
-    if (m_path == inMemory())
+    if (access == Access::Till && m_path == inMemory())
         return true;
-    if (m_path.isEmpty())
-        return fail(QStringLiteral("no name of a database file was given"));
-    const QFileInfo file(m_path);
-    if (file.isDir())
-        return fail(QStringLiteral("this is a directory, not a database file"));
-    if (file.exists() && !file.isFile())
-        return fail(QStringLiteral("this is not a regular file"));
-    if (file.exists() && !file.isWritable())
-        return fail(QStringLiteral("this file may not be written"));
-    const QFileInfo directory(file.absolutePath());
-    if (!directory.isDir())
-        return fail(QStringLiteral("there is no directory %1").arg(directory.filePath()));
-    if (!directory.isWritable())
-        return fail(
-            QStringLiteral("the directory %1 may not be written").arg(directory.filePath()));
-    // SQLite would take such a file for a new database and delete the log, with the receipts. (A
-    // file of one byte is an empty one to it.)
-    const QString log = (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath())
-                        + QStringLiteral("-wal");
-    if (file.size() <= 1 && QFileInfo(log).size() > 0)
-        return fail(
-            QStringLiteral("the database is damaged (empty, but its log %1 is not)").arg(log));
-    return true;
+    const QString fault = access == Access::Till ? placeFault(m_path) : readingFault(m_path);
+    if (!fault.isEmpty())
+        return fail(fault);
+    if (access == Access::Till && !claim())
+        return false;
+    return access == Access::Reading || !hasLog(m_path) || checkLeftOpen();
 }
 
-bool Database::connectToFile()
+//! Read by somebody who cannot write, for who can write brings the log into the file at the end.
+bool Database::checkLeftOpen()
+{
+    const auto reader = open(m_path, Access::Reading, &m_error);
+    if (reader && !reader->checkFile(Check::Quick))
+        m_error = reader->error();
+    return m_error.isEmpty();
+}
+
+bool Database::claim()
+{
+    makePrivateFile(m_path); // otherwise SQLite would, as the umask has it
+    if (m_lock.take(m_path)) {
+        // One that was made by hand, or before files were private.
+        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner);
+        return true;
+    }
+    if (errno == EWOULDBLOCK)
+        return fail(QStringLiteral("another till has this database open"));
+    return fail(QStringLiteral("the database cannot be opened for writing (%1)")
+                    .arg(qt_error_string(errno)));
+}
+
+bool Database::connectToFile(Access access)
 {
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
         return fail(QStringLiteral("Qt's driver for SQLite is not installed"));
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
-    m_database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
+    if (access == Access::Reading)
+        m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     // An absolute path, for SQLite reads "file:..." as a URI.
     m_database.setDatabaseName(m_path == inMemory() ? m_path
                                                     : QFileInfo(m_path).absoluteFilePath());
     if (!m_database.open())
         return failWith(m_database.lastError());
-    // Before the first access, so that the first access takes the lock for good.
-    return execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"))
-           && execute(QStringLiteral("PRAGMA synchronous = FULL"))
+    return waitForOthers(true) && execute(QStringLiteral("PRAGMA synchronous = FULL"))
            && execute(QStringLiteral("PRAGMA foreign_keys = ON"));
 }
 
-bool Database::recognise()
+bool Database::waitForOthers(bool waits)
 {
-    const QVariant application = valueOf(QStringLiteral("PRAGMA application_id"));
-    const QVariant version = valueOf(QStringLiteral("PRAGMA user_version"));
-    const QVariant contents = valueOf(QStringLiteral("SELECT count(*) FROM sqlite_master"));
-    if (!application.isValid() || !version.isValid() || !contents.isValid())
-        return false;
-    m_new = application.toInt() == 0 && version.toInt() == 0 && contents.toInt() == 0;
-    if (m_new)
-        return true;
-    if (application.toInt() != schema::applicationId)
-        return fail(QStringLiteral("this is a database of another program"));
-    if (version.toInt() != schema::version)
-        return fail(QStringLiteral("the database was made by another version of the till (its "
-                                   "format is %1, this till knows %2)")
-                        .arg(version.toInt())
-                        .arg(schema::version));
-    return true;
+    return execute(QStringLiteral("PRAGMA busy_timeout = %1").arg(waits ? Patience : 0));
 }
 
-bool Database::check()
+bool Database::checkFile(Check check)
 {
-    const QVariant result = valueOf(QStringLiteral("PRAGMA quick_check(1)"));
+    const QVariant result =
+        valueOf(check == Check::Quick ? QStringLiteral("PRAGMA quick_check(1)")
+                                      : QStringLiteral("PRAGMA integrity_check(1)"));
     if (!result.isValid())
         return false;
     if (result.toString() != QLatin1String("ok"))
@@ -178,7 +166,7 @@ bool Database::check()
     return true;
 }
 
-bool Database::makeDurable()
+bool Database::keepLog()
 {
     const QVariant mode = valueOf(QStringLiteral("PRAGMA journal_mode = WAL"));
     if (!mode.isValid())
@@ -188,28 +176,35 @@ bool Database::makeDurable()
     return true;
 }
 
-bool Database::makeSchema()
+void Database::foldLog()
 {
-    if (!m_new)
-        return true;
-    if (!begin())
-        return false;
-    bool made = true;
-    for (const char *statement : schema::statements)
-        made = made && execute(QLatin1String(statement));
-    made = made && execute(QStringLiteral("PRAGMA application_id = %1").arg(schema::applicationId))
-           && execute(QStringLiteral("PRAGMA user_version = %1").arg(schema::version)) && commit();
-    if (!made)
-        rollBack();
-    return made;
+    const QString error = m_error;
+    waitForOthers(false); // a reader may take long, and a cashier does not wait for one
+    valueOf(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    waitForOthers(true);
+    m_error = error;
 }
 
-bool Database::checkWritable()
+bool Database::copyTo(const QString &path)
 {
-    if (!begin())
-        return false;
-    rollBack();
-    return true;
+    const QString part = path + QStringLiteral(".part"); // until it is whole
+    const auto failed = [&](const QString &reason) {
+        return fail(QStringLiteral("no copy can be made at %1: %2").arg(path, reason));
+    };
+    if (QFileInfo::exists(path))
+        return failed(QStringLiteral("there is something already"));
+    QFile::remove(part);
+    if (!makePrivateFile(part))
+        return failed(qt_error_string(errno));
+    QSqlQuery copying(m_database);
+    copying.prepare(QStringLiteral("VACUUM INTO ?"));
+    copying.addBindValue(QFileInfo(part).absoluteFilePath());
+    const bool isWhole = copying.exec();
+    if (isWhole && bringToMedium(part) && QFile::rename(part, path) && bringToMedium(path))
+        return true;
+    const QString reason = isWhole ? qt_error_string(errno) : reasonOf(copying.lastError());
+    QFile::remove(part);
+    return failed(reason);
 }
 
 bool Database::execute(const QString &sql)
@@ -218,7 +213,6 @@ bool Database::execute(const QString &sql)
     return query.exec(sql) || failWith(query.lastError());
 }
 
-//! The first value of the first row; invalid, with the error noted, when there is none.
 QVariant Database::valueOf(const QString &sql)
 {
     QSqlQuery query(m_database);

@@ -1,0 +1,107 @@
+#ifndef TILL_DATABASE_DATABASE_H
+#define TILL_DATABASE_DATABASE_H
+
+#include "till/database/DatabaseFile.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlQuery>
+
+#include <map>
+#include <memory>
+
+namespace till {
+
+/*!
+ * A connection to a database file. Operations that fail say why in `error`, one line that starts
+ * with the path.
+ */
+class Database
+{
+public:
+    //! What a connection is for.
+    enum class Access {
+        Till,    //!< the one that writes: nobody else can have it meanwhile, but others may read
+        Reading, //!< beside a till, or without one; nothing is ever written to the file
+    };
+
+    /*!
+     * Connects to the file at \a path; a till makes it, empty, when there is none, and checks one
+     * that was left with a log, as after a kill. Null, with the reason in \a error, when that
+     * cannot be done.
+     */
+    static std::unique_ptr<Database> open(const QString &path, Access access, QString *error);
+    ~Database();
+    Q_DISABLE_COPY_MOVE(Database)
+
+    //! The path as it was given.
+    QString path() const { return m_path; }
+
+    //! What went wrong last; empty when nothing did since `forgetError`.
+    QString error() const { return m_error; }
+    void forgetError() { m_error.clear(); }
+    //! Notes \a reason as the error and returns false.
+    bool fail(const QString &reason);
+
+    /*!
+     * Runs \a sql with \a values in place of its question marks. The statement is prepared once and
+     * kept; the result is valid until the same text is run again. Null when it failed.
+     */
+    QSqlQuery *run(const QString &sql, const QVariantList &values = {});
+    //! True while \a rows, a result of `run`, has one more row; false at the end and when reading
+    //! failed, which `error` tells apart.
+    bool next(QSqlQuery &rows);
+
+    //! Runs \a sql once; nothing of it is kept.
+    bool execute(const QString &sql);
+    //! The first value of the first row; invalid when there is none, with the error noted.
+    QVariant valueOf(const QString &sql);
+
+    bool begin();
+    bool commit();
+    //! Undoes what was done since `begin`; the error stays as it was.
+    void rollBack();
+
+    //! Keeps what is committed in a log until it is folded in, so that a commit costs one wait for
+    //! the disk and readers see a whole database meanwhile.
+    bool keepLog();
+    //! Brings what the log holds into the file, as far as no reader is in the way; nothing depends
+    //! on it.
+    void foldLog();
+
+    //! How far a check of the file goes.
+    enum class Check {
+        Quick, //!< all but whether indices agree with their tables
+        Whole,
+    };
+    //! SQLite's own check of the file. False, with the error noted, when it finds a fault.
+    bool checkFile(Check check);
+
+    /*!
+     * Writes a whole copy, as of now, to \a path, where there must be nothing. When it returns
+     * true, the copy is on the disk, for its owner alone.
+     */
+    bool copyTo(const QString &path);
+
+private:
+    explicit Database(const QString &path);
+
+    bool prepare(Access access);
+    bool claim();
+    bool checkLeftOpen();
+    bool connectToFile(Access access);
+    bool waitForOthers(bool waits);
+    bool failWith(const QSqlError &error);
+
+    QString m_path;
+    QString m_connection;
+    QString m_error;
+    DatabaseLock m_lock;
+    QSqlDatabase m_database;
+    std::map<QString, QSqlQuery> m_statements;
+};
+
+} // namespace till
+
+#endif // TILL_DATABASE_DATABASE_H

@@ -1,0 +1,160 @@
+#include "till/database/DatabaseFile.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace till {
+
+namespace {
+
+constexpr mode_t ownersFile = 0600;
+constexpr mode_t ownersFolder = 0700;
+
+//! The file that \a path leads to, for what lies beside it lies beside that one.
+QString realPath(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
+}
+
+QString kindFault(const QFileInfo &file)
+{
+    if (file.isDir())
+        return QStringLiteral("this is a directory, not a database file");
+    if (file.exists() && !file.isFile())
+        return QStringLiteral("this is not a regular file");
+    return {};
+}
+
+QString folderFault(const QFileInfo &folder)
+{
+    if (!folder.isDir())
+        return QStringLiteral("there is no directory %1").arg(folder.filePath());
+    if (!folder.isWritable())
+        return QStringLiteral("the directory %1 may not be written").arg(folder.filePath());
+    return {};
+}
+
+bool synchronise(const QByteArray &path, int flags)
+{
+    const int descriptor = ::open(path.constData(), flags | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool done = fsync(descriptor) == 0;
+    close(descriptor);
+    return done;
+}
+
+} // namespace
+
+QString inMemory()
+{
+    return QStringLiteral(":memory:");
+}
+
+// The file itself is not opened here: to close it would end the locks that this process has on it.
+QString placeFault(const QString &path)
+{
+    if (path.isEmpty())
+        return QStringLiteral("no name of a database file was given");
+    const QFileInfo file(path);
+    if (const QString fault = kindFault(file); !fault.isEmpty())
+        return fault;
+    if (file.exists() && !file.isWritable())
+        return QStringLiteral("this file may not be written");
+    if (const QString fault = folderFault(QFileInfo(file.absolutePath())); !fault.isEmpty())
+        return fault;
+    // SQLite would take such a file for a new database and delete the log, with the receipts. (A
+    // file of one byte is an empty one to it.)
+    if (file.size() <= 1 && hasLog(path))
+        return QStringLiteral("the database is damaged (empty, but its log %1-wal is not)")
+            .arg(realPath(path));
+    return {};
+}
+
+QString readingFault(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return QStringLiteral("there is no such file");
+    return kindFault(file);
+}
+
+bool hasLog(const QString &path)
+{
+    return QFileInfo(realPath(path) + QStringLiteral("-wal")).size() > 0;
+}
+
+bool makePrivateFile(const QString &path)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, ownersFile);
+    if (descriptor < 0)
+        return false;
+    const bool done = fchmod(descriptor, ownersFile) == 0; // the umask may have taken more away
+    close(descriptor);
+    return done;
+}
+
+bool makePrivateFolder(const QString &path)
+{
+    const QString folder = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    if (QFileInfo(folder).isDir())
+        return true;
+    if (!makePrivateFolder(QFileInfo(folder).path()))
+        return false;
+    const QByteArray name = QFile::encodeName(folder);
+    return mkdir(name.constData(), ownersFolder) == 0 && chmod(name.constData(), ownersFolder) == 0;
+}
+
+bool bringToMedium(const QString &path)
+{
+    return synchronise(QFile::encodeName(path), O_RDWR)
+           && synchronise(QFile::encodeName(QFileInfo(path).absolutePath()),
+                          O_RDONLY | O_DIRECTORY);
+}
+
+DatabaseLock::~DatabaseLock()
+{
+    if (m_descriptor < 0)
+        return;
+    unlink(m_file.constData());
+    close(m_descriptor);
+}
+
+bool DatabaseLock::take(const QString &path)
+{
+    m_file = QFile::encodeName(realPath(path) + QStringLiteral("-lock"));
+    for (;;) {
+        const int descriptor = ::open(m_file.constData(), O_RDWR | O_CREAT | O_CLOEXEC, ownersFile);
+        if (descriptor < 0)
+            return false;
+        struct stat locked = {};
+        struct stat named = {};
+        const bool isMine =
+            fchmod(descriptor, ownersFile) == 0 && flock(descriptor, LOCK_EX | LOCK_NB) == 0;
+        if (!isMine || fstat(descriptor, &locked) != 0) {
+            const int reason = errno;
+            close(descriptor);
+            errno = reason;
+            return false;
+        }
+        // The one before may have taken the file away between the two calls: then another would
+        // make and lock a new one.
+        if (stat(m_file.constData(), &named) == 0 && named.st_ino == locked.st_ino) {
+            m_descriptor = descriptor;
+            return true;
+        }
+        close(descriptor);
+    }
+}
+
+} // namespace till

@@ -1,0 +1,51 @@
+#ifndef TILL_DATABASE_DATABASEFILE_H
+#define TILL_DATABASE_DATABASEFILE_H
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace till {
+
+//! The name of a database that is in no file.
+QString inMemory();
+
+//! Why no database can be opened or made at \a path; empty when nothing is known against it.
+QString placeFault(const QString &path);
+//! Why no database can be read at \a path; empty when nothing is known against it.
+QString readingFault(const QString &path);
+
+//! Whether the log beside the file holds what the file itself may lack, as after a kill.
+bool hasLog(const QString &path);
+
+//! Makes an empty file that its owner alone may read and write, whatever the umask. False when
+//! there is one already or none can be made; `errno` says which.
+bool makePrivateFile(const QString &path);
+//! Makes the folder and those above it as far as they are missing, for their owner alone, whatever
+//! the umask. False, with `errno`, when that cannot be done.
+bool makePrivateFolder(const QString &path);
+//! Brings what is written to the file at \a path, and its name, to the medium. False with `errno`.
+bool bringToMedium(const QString &path);
+
+/*!
+ * A till's claim on a database: a locked file beside it, which other programs that read the
+ * database need not heed. The system ends the lock with the process, however that ends.
+ */
+class DatabaseLock
+{
+public:
+    DatabaseLock() = default;
+    ~DatabaseLock();
+    Q_DISABLE_COPY_MOVE(DatabaseLock)
+
+    //! Locks the database at \a path, which must exist. False when another has it locked, with
+    //! `errno` EWOULDBLOCK, or when the file cannot be made.
+    bool take(const QString &path);
+
+private:
+    QByteArray m_file;
+    int m_descriptor = -1;
+};
+
+} // namespace till
+
+#endif // TILL_DATABASE_DATABASEFILE_H

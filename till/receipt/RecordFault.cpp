@@ -1,0 +1,68 @@
+#include "till/receipt/RecordFault.h"
+
+#include "till/receipt/Limits.h"
+
+#include <QtCore/QSet>
+
+#include <cmath>
+
+namespace till {
+
+namespace {
+
+//! More than a catalogue can say of one piece, in base units.
+constexpr double greatestPack = 1e9;
+
+// Of what is no number no comparison holds.
+
+bool isCount(double count)
+{
+    return std::abs(count) < greatestCount + 0.0005; // counts are kept to three decimals
+}
+
+bool isBase(double base)
+{
+    return std::abs(base) <= greatestCount * greatestPack;
+}
+
+QString lineFault(const LineRecord &line)
+{
+    const ArticleData &article = line.article;
+    if (article.price < 0 || article.price > greatestSum)
+        return QStringLiteral("a price out of range");
+    if (!isCount(line.count) || !isBase(line.base))
+        return QStringLiteral("a quantity out of range");
+    if (!(article.pack > 0.0 && article.pack <= greatestPack))
+        return QStringLiteral("a pack out of range");
+    if (!(article.taraCapacity >= 0.0 && article.taraCapacity <= greatestPack))
+        return QStringLiteral("a tara capacity out of range");
+    return {};
+}
+
+} // namespace
+
+QString faultOf(const LineRecord &line, int nextPosnum)
+{
+    if (line.posnum < 1)
+        return QStringLiteral("%1 is no number of a position").arg(line.posnum);
+    if (line.posnum >= nextPosnum)
+        return QStringLiteral("position %1 has a number that was not given yet").arg(line.posnum);
+    const QString fault = lineFault(line);
+    return fault.isEmpty() ? fault
+                           : QStringLiteral("position %1 has %2").arg(line.posnum).arg(fault);
+}
+
+QString faultOf(const ReceiptRecord &record)
+{
+    QSet<int> numbers;
+    for (const LineRecord &line : record.lines) {
+        if (const QString fault = faultOf(line, record.nextPosnum); !fault.isEmpty())
+            return fault;
+        if (numbers.contains(line.posnum))
+            return QStringLiteral("position %1 is there twice").arg(line.posnum);
+        numbers.insert(line.posnum);
+    }
+    return {};
+}
+
+} // namespace till

@@ -1,0 +1,45 @@
+#ifndef TILL_STORAGE_UPKEEP_H
+#define TILL_STORAGE_UPKEEP_H
+
+#include "till/receipt/ReceiptRecord.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace till {
+
+// What is done with a database from outside, also while a till has it open. The file stays as it
+// is.
+
+//! A receipt that does not hold, or was set apart.
+struct OddReceipt
+{
+    qint64 id = 0;
+    bool isSetApart = false;
+    QString reason; //!< what is wrong with it, or was when it was set apart
+};
+
+//! What a check of a database found.
+struct CheckReport
+{
+    QString fileFault; //!< of the file itself, by SQLite's own check; empty when there is none
+    qint64 whole = 0;  //!< receipts that hold
+    QList<OddReceipt> odd;
+
+    //! Nothing is damaged but what was set apart.
+    bool isGood() const;
+};
+
+//! Checks the file, and every receipt in it against its digest and the till's limits. Nothing, and
+//! the reason in \a error, when \a path cannot be opened or is not of today's format.
+std::optional<CheckReport> checkDatabase(const QString &path, QString *error);
+
+//! Writes a whole copy of the database, with the log of a till that is on or was killed, to
+//! \a target, where there must be nothing yet. Empty text or an error.
+QString backUp(const QString &path, const QString &target);
+
+} // namespace till
+
+#endif // TILL_STORAGE_UPKEEP_H
