@@ -70,7 +70,6 @@ void CashDesk::switchOff()
     m_register.reset();
     if (std::exchange(m_plugin, std::nullopt))
         m_loader.unload();
-    m_storage.reset();
 }
 
 void CashDesk::setFront(Register::Asker asker, Register::Shower shower)
@@ -98,6 +97,8 @@ QString CashDesk::readSettings()
 
 QString CashDesk::readCatalogue()
 {
+    if (m_catalogue)
+        return {};
     auto loaded = Catalogue::load(m_setup.catalogue);
     if (const QString *error = std::get_if<QString>(&loaded))
         return *error;
@@ -108,7 +109,8 @@ QString CashDesk::readCatalogue()
 QString CashDesk::openDatabase()
 {
     QString error;
-    m_storage = Storage::open(m_setup.database, &error);
+    if (!m_storage)
+        m_storage = Storage::open(m_setup.database, &error);
     return error;
 }
 

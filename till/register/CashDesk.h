@@ -40,18 +40,19 @@ public:
     Q_DISABLE_COPY_MOVE(CashDesk)
 
     /*!
-     * Switches the till on: reads the settings and the catalogue, opens the database, loads the
-     * plugin and takes up the receipt that was in hand. Returns an empty text or what is missing,
-     * with its place; then the till stays off.
+     * Switches the till on: reads the settings, for the first time also the catalogue, and opens
+     * the database; loads the plugin and takes up the receipt that was in hand. Returns an empty
+     * text or what is missing, with its place; then the till stays off.
      */
     QString start();
 
-    //! Switches the till off. The plugin is unloaded; the receipt in hand stays in the database.
+    //! Switches the till off: the register and the plugin, which is unloaded. The receipt in hand
+    //! stays in the database, which stays open for a next start, as does the catalogue.
     QString stop();
 
     /*!
      * Changes a setting, which plugins read when they start: the till is switched off and on. Empty
-     * text or an error. An in-memory database starts anew.
+     * text or an error.
      */
     QString set(const QString &key, const QString &value);
 
@@ -65,6 +66,8 @@ public:
 
     const Catalogue &catalogue() const { return *m_catalogue; }
     const Setup &setup() const { return m_setup; }
+    //! The copy that was made of a database of the format before; empty when there was none.
+    QString copyBefore() const { return m_storage ? m_storage->copyBefore() : QString(); }
 
     //! Who answers questions and shows messages; kept over restarts.
     void setFront(Register::Asker asker, Register::Shower shower);

@@ -55,9 +55,11 @@ QString Register::start()
         m_isPluginReady = true;
     }
     QString error;
-    const std::optional<ReceiptRecord> record = m_storage.unfinishedReceipt(&error);
-    if (error.isEmpty() && record)
+    std::optional<ReceiptRecord> record = m_storage.unfinishedReceipt(&error);
+    if (error.isEmpty() && record) {
+        record->state = ReceiptState::Open; // what asks before subtotal is to ask again
         takeUp(QSharedPointer<Receipt>::create(*record));
+    }
     return error;
 }
 

@@ -52,6 +52,14 @@ QStringList toTexts(const QJsonArray &array)
 
 } // namespace
 
+ToldReceipt ToldReceipt::asTakenUp() const
+{
+    ToldReceipt receipt = *this;
+    if (receipt.record.state == ReceiptState::Subtotal)
+        receipt.record.state = ReceiptState::Open;
+    return receipt;
+}
+
 ToldReceipt ToldReceipt::stored(const Storage &storage, qint64 id)
 {
     QString error;
@@ -84,6 +92,7 @@ void PrintTo(const ToldReceipt &receipt, std::ostream *out)
 void TraceReader::restart()
 {
     forgetUnderWay();
+    m_underWay = m_acknowledged.asTakenUp();
     m_takenUp = {};
     m_unstored.clear(); // what was only in the killed till's memory went with it
     m_command.clear();
@@ -252,6 +261,10 @@ TraceReader::Found TraceReader::foundIn(const Storage &storage) const
 
 void TraceReader::acceptUnderWay()
 {
+    if (m_stage == Stage::Acting) { // "answer" and its like store nothing
+        m_stage = Stage::Idle;
+        return;
+    }
     if (m_stage == Stage::Storing)
         keepJournal();
     if (m_opens && m_acknowledged.record.id != 0)

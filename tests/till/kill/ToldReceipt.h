@@ -38,6 +38,9 @@ struct ToldReceipt
                && record.softChecks.isEmpty();
     }
 
+    //! The same receipt as the next till has it: open, so that it goes through subtotal again.
+    ToldReceipt asTakenUp() const;
+
     //! The same receipt as the database has it.
     static ToldReceipt stored(const Storage &storage, qint64 id);
 };

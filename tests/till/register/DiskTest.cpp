@@ -75,14 +75,6 @@ TEST_F(FullDisk, PluginGoesOnFromWhatIsStored)
     expect({"goods 2 in 1 3 unplaced 2", "records 1 1"});
 }
 
-TEST_F(FullDisk, Restart_FindsWhatWasAcknowledged)
-{
-    failsOnAFullDisk("add DARK 1");
-    const ReceiptRecord before = receipt()->record();
-    done({"restart"});
-    EXPECT_EQ(receipt()->record(), before);
-}
-
 TEST_F(FullDisk, Trace_GoesBackToTheStoredReceipt)
 {
     heard.clear();
@@ -90,16 +82,6 @@ TEST_F(FullDisk, Trace_GoesBackToTheStoredReceipt)
     EXPECT_EQ(noted("takeup", "id"), QVariantList() << receipt()->id());
     EXPECT_EQ(notesOf("receipt").last().value("positions").toInt(), 2);
     EXPECT_EQ(notesOf("outcome").last().value("outcome").toString(), QString("failed"));
-}
-
-TEST_F(FullDisk, FailedSync_IsReportedToo)
-{
-    disk.failSyncs();
-    EXPECT_THAT(failed("add DARK 1").toStdString(), StartsWith(setup().database.toStdString()));
-    disk.repair();
-    expect({"positions 2"});
-    done({"add DARK 1"});
-    expect({"positions 3"});
 }
 
 } // namespace
