@@ -1,5 +1,7 @@
 #include "till/console/Interactive.h"
 
+#include "till/database/DatabaseFile.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTextStream>
@@ -98,7 +100,7 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
     if (terminal) {
         completed = &commands;
         rl_attempted_completion_function = complete;
-        QDir().mkpath(QFileInfo(historyFile).path());
+        makePrivateFolder(QFileInfo(historyFile).path());
         read_history(history.constData());
         std::puts("The till. 'help' lists the commands, 'quit' leaves.");
     }

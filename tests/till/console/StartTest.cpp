@@ -22,13 +22,6 @@ protected:
             EXPECT_EQ(std::count(failed.err.begin(), failed.err.end(), '\n'), 1) << failed.err;
         }
     }
-
-    //! A database with a receipt; its bytes.
-    QByteArray made() const
-    {
-        EXPECT_EQ(run({"--db", database()}, "open\nadd CHIPS\n").status, 0);
-        return contents(database());
-    }
 };
 
 TEST_F(Start, MissingPlugin_IsNamed)
@@ -72,71 +65,12 @@ TEST_F(Start, MissingScript_IsNamed)
     EXPECT_EQ(failed.err, "till: /nowhere/s.till: No such file or directory\n");
 }
 
-TEST_F(Start, DatabaseOfAnotherVersion_IsRefusedAndLeft)
-{
-    QByteArray bytes = made();
-    bytes[63] = 99; // the last byte of the version, as the file format has it
-    write("till.sqlite", bytes);
-    fails({"--db", database()}, database(), "version");
-    EXPECT_EQ(contents(database()), bytes);
-}
-
-TEST_F(Start, DamagedDatabase_IsRefusedAndLeft)
-{
-    QByteArray bytes = made();
-    bytes.replace(4096, 4096, QByteArray(4096, '\x55'));
-    write("till.sqlite", bytes);
-    fails({"--db", database()}, database(), "damaged");
-    EXPECT_EQ(contents(database()), bytes);
-}
-
 TEST_F(Start, OtherFile_IsRefusedAndLeft)
 {
     const QString other = write("letter.txt", "Dear shop,\n" + QByteArray(2000, '.'));
     const QByteArray before = contents(other);
     fails({"--db", other}, other, "not a database of the till");
     EXPECT_EQ(contents(other), before);
-}
-
-TEST_F(Start, ReadOnlyPlace_IsRefused)
-{
-    // Nobody, not even root, makes files there.
-    fails({"--db", "/proc/till.sqlite"}, "/proc/till.sqlite", "cannot be");
-}
-
-TEST_F(Start, SecondTillOnOneFile_IsRefusedAndTheFirstGoesOn)
-{
-    QProcess first;
-    start(first, {"--db", database()});
-    first.write("open\nadd CHIPS\nsay ready\n");
-    QByteArray said;
-    while (!said.contains("ready") && first.waitForReadyRead(60'000))
-        said += first.readAllStandardOutput();
-    ASSERT_TRUE(said.contains("ready"));
-
-    fails({"--db", database()}, database(), "another till has this database open");
-
-    first.write("add BAG\nexpect total 164.90\n");
-    first.closeWriteChannel();
-    ASSERT_TRUE(first.waitForFinished(60'000));
-    EXPECT_EQ(first.exitCode(), 0);
-    EXPECT_EQ(run({"--db", database()}, "expect total 164.90\n").status, 0);
-}
-
-TEST_F(Start, KilledTill_IsTakenUpByTheNext)
-{
-    QProcess killed;
-    start(killed, {"--db", database()});
-    killed.write("open\nadd CAN3\nadd BEER 2\nsay ready\n");
-    QByteArray said;
-    while (!said.contains("ready") && killed.waitForReadyRead(60'000))
-        said += killed.readAllStandardOutput();
-    killed.kill();
-    ASSERT_TRUE(killed.waitForFinished(60'000));
-
-    const RunResult next = run({"--db", database()}, "expect goods 2 in 1 2\nqty 2 3\n");
-    EXPECT_EQ(next.status, 0) << next.out;
-    EXPECT_THAT(next.out, HasSubstr("Чек № 1 · открыт"));
 }
 
 TEST_F(Start, Trace_ThatCannotBeMade_IsNamed)

@@ -1,0 +1,136 @@
+#include "tests/till/console/ProgramFixture.h"
+
+#include <QtCore/QFile>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlQuery>
+
+// What the program does with its database beside selling.
+
+namespace {
+
+using testing::HasSubstr;
+
+class Upkeep : public ProgramTest
+{
+protected:
+    RunResult check() const { return run({"--db", database(), "check"}); }
+
+    void query(const QString &sql) const
+    {
+        {
+            QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "test");
+            connection.setDatabaseName(database());
+            EXPECT_TRUE(connection.open());
+            EXPECT_TRUE(QSqlQuery(connection).exec(sql));
+        }
+        QSqlDatabase::removeDatabase("test");
+    }
+
+    //! Leaves a receipt that was paid and an open one.
+    void sell() const
+    {
+        EXPECT_EQ(
+            run({"--db", database()}, "open\nadd BAG\npay\nopen\nadd CAN3\nadd BEER 2\n").status,
+            0);
+    }
+};
+
+TEST_F(Upkeep, CheckOfAWholeDatabase_IsWell)
+{
+    sell();
+    const RunResult checked = check();
+    EXPECT_EQ(checked.status, 0);
+    EXPECT_EQ(checked.out, "file            whole\n"
+                           "receipts        2 whole, 0 damaged, 0 set apart\n");
+    EXPECT_EQ(checked.err, "");
+}
+
+TEST_F(Upkeep, CheckWithoutADatabase_IsAFileThatCannotBeUsed)
+{
+    const RunResult checked = check();
+    EXPECT_EQ(checked.status, 3);
+    EXPECT_THAT(checked.err, HasSubstr("no such file"));
+}
+
+TEST_F(Upkeep, DamagedReceipt_IsRefusedThenSetApartAndAnotherOpened)
+{
+    sell();
+    query("UPDATE positions SET price = -100 WHERE receipt = 2 AND place = 1");
+    const RunResult refused = run({"--db", database()}, "show\n");
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_EQ(refused.err,
+              "till: " + database().toStdString()
+                  + ": receipt 2: position 2 is not as it was stored; \"till set-apart "
+                    "2\" sets this receipt apart, so that another can be opened\n");
+    EXPECT_EQ(check().status, 1);
+    EXPECT_THAT(check().out, HasSubstr("\nreceipt 2       damaged: position 2 is not as it was"));
+
+    const RunResult apart = run({"--db", database(), "set-apart", "2"});
+    EXPECT_EQ(apart.status, 0) << apart.err;
+    EXPECT_EQ(run({"--db", database()}, "expect state none\nopen\nadd CHIPS\n").status, 0);
+    EXPECT_EQ(check().status, 0);
+    EXPECT_THAT(check().out, HasSubstr("\nreceipt 2       set apart: position 2 is not as it was"));
+}
+
+TEST_F(Upkeep, LinesOfAReceiptWhosePluginDataAreDamaged_AreShownWhenItIsSetApart)
+{
+    sell();
+    query("UPDATE pluginData SET value = x'00' WHERE receipt = 2");
+    const RunResult apart = run({"--db", database(), "set-apart", "2"});
+    EXPECT_EQ(apart.status, 0);
+    EXPECT_THAT(apart.out, HasSubstr("CAN3"));
+    EXPECT_THAT(apart.out, HasSubstr("280.00"));
+}
+
+TEST_F(Upkeep, SetApartOfWhatIsNoReceiptToSetApart_IsRefused)
+{
+    sell();
+    EXPECT_EQ(run({"--db", database(), "set-apart", "two"}).status, 2);
+    EXPECT_EQ(run({"--db", database(), "set-apart", "9"}).status, 1);
+    EXPECT_EQ(run({"--db", database(), "set-apart", "1"}).status, 1);
+    EXPECT_EQ(run({"set-apart"}).status, 2);
+    EXPECT_EQ(run({"backup"}).status, 2);
+    EXPECT_EQ(run({"backup", "a", "b"}).status, 2);
+    EXPECT_EQ(run({"check", "a"}).status, 2);
+}
+
+TEST_F(Upkeep, BackUpAndCheckBesideATill_DoNotDisturbIt)
+{
+    QProcess till;
+    start(till, {"--db", database()});
+    till.write("open\nadd CHIPS\nsay ready\n");
+    QByteArray said;
+    while (!said.contains("ready") && till.waitForReadyRead(patience))
+        said += till.readAllStandardOutput();
+    EXPECT_EQ(check().status, 0);
+    EXPECT_EQ(run({"--db", database(), "backup", path("copy.sqlite")}).status, 0);
+    EXPECT_EQ(run({"--db", database(), "backup", path("copy.sqlite")}).status, 3);
+    till.write("add BAG\nexpect total 164.90\n");
+    till.closeWriteChannel();
+    ASSERT_TRUE(till.waitForFinished(patience));
+    EXPECT_EQ(till.exitCode(), 0);
+    EXPECT_EQ(run({"--db", path("copy.sqlite")}, "expect total 129.90\n").status, 0);
+}
+
+TEST_F(Upkeep, DatabaseOfTheFormatBefore_IsTakenOverAndThatIsTold)
+{
+    ASSERT_TRUE(QFile::copy(QStringLiteral(SCHEMA1_DATABASE), database()));
+    QFile::setPermissions(database(), QFile::ReadOwner | QFile::WriteOwner);
+    const RunResult first = run({"--db", database()}, "expect total 386\n");
+    EXPECT_EQ(first.status, 0);
+    EXPECT_EQ(first.err, "");
+    EXPECT_THAT(first.out, HasSubstr(database().toStdString() + ".schema1\n"));
+    EXPECT_THAT(run({"--db", database()}).out, Not(HasSubstr("schema1")));
+}
+
+TEST_F(Upkeep, FolderThatTheTillMakes_IsItsOwnersAlone)
+{
+    constexpr QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup
+                                          | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    const QString folder = path("shop/first");
+    EXPECT_EQ(run({"--db", folder + "/till.sqlite"}, "open\n").status, 0);
+    for (const QString &made : {folder, path("shop")})
+        EXPECT_EQ(QFile::permissions(made) & others, QFile::Permissions()) << made.toStdString();
+}
+
+} // namespace

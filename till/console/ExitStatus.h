@@ -1,0 +1,16 @@
+#ifndef TILL_CONSOLE_EXITSTATUS_H
+#define TILL_CONSOLE_EXITSTATUS_H
+
+namespace till {
+
+//! Exit statuses, as docs/till.md lists them.
+enum ExitStatus : int {
+    AllWell = 0,
+    CommandFailed = 1, //!< a command or an expectation did not end well, or damage was found
+    UsageError = 2,    //!< the program's own arguments are wrong
+    StartFailed = 3,   //!< the catalogue, the database, the plugin or another file cannot be used
+};
+
+} // namespace till
+
+#endif // TILL_CONSOLE_EXITSTATUS_H

@@ -1,0 +1,121 @@
+#include "till/console/Options.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QMap>
+#include <QtCore/QStandardPaths>
+
+#include <unistd.h>
+
+namespace till {
+
+namespace {
+
+//! Reads the settings of --set; what is wrong with the first that is no KEY=VALUE.
+QString readSettings(const QStringList &assignments, QMap<QString, QString> &settings)
+{
+    for (const QString &assignment : assignments) {
+        const qsizetype equals = assignment.indexOf('=');
+        if (equals <= 0)
+            return "--set: \"" + assignment + "\" is not KEY=VALUE";
+        settings.insert(assignment.left(equals), assignment.mid(equals + 1));
+    }
+    return {};
+}
+
+bool wantsColour(const QString &when)
+{
+    return when == "always" || (when == "auto" && isatty(STDOUT_FILENO) != 0);
+}
+
+//! What is wrong with \a words after the command \a mode; empty when nothing is.
+QString wordsFault(const QString &mode, const QStringList &words)
+{
+    static const QMap<QString, QString> wanted{
+        {"", {}},      {"play", "which file?"},      {"demo", {}},
+        {"info", {}},  {"backup", "to which file?"}, {"set-apart", "which receipt?"},
+        {"check", {}},
+    };
+    const auto found = wanted.constFind(mode);
+    if (found == wanted.cend())
+        return "no command \"" + mode + "\"; try --help";
+    if (!found->isEmpty() && words.isEmpty())
+        return mode + ": " + *found;
+    const qsizetype most = mode == "play" ? words.size() : found->isEmpty() ? 0 : 1;
+    return words.size() > most ? "\"" + words[most] + "\" is one word too many" : QString();
+}
+
+} // namespace
+
+QString delivered(const QString &relative)
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../" + relative);
+}
+
+QString defaultDatabase()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/till.sqlite";
+}
+
+void describeOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        "A small cash register that runs whole receipts through the packaging plugin.\n\n"
+        "  till                  open the register: type commands ('help' lists them)\n"
+        "  till play FILE...     play scripts of the same commands, each on a database of its own\n"
+        "  till demo             play the sample shop's receipts\n"
+        "  till info             show the plugin: metadata, triggers, events\n"
+        "  till check            check the database and every receipt in it\n"
+        "  till backup FILE      copy the database, also while a till has it open\n"
+        "  till set-apart NUMBER set a damaged receipt apart, so that another can be opened\n\n"
+        "Exit status: 0 all well, 1 a command or an expectation failed or a check found damage,\n"
+        "2 wrong usage, 3 a file (catalogue, database, plugin, settings, trace) cannot be used.");
+    parser.addPositionalArgument(
+        "command", "one of these; none opens the register",
+        "[play FILE... | demo | info | check | backup FILE | set-apart NUMBER]");
+    parser.addOptions({
+        {"db", "Keep receipts in FILE (:memory: for nowhere).", "FILE", defaultDatabase()},
+        {"catalogue", "Take the articles from the CSV FILE.", "FILE",
+         delivered("share/packagingcontrol/catalogue.csv")},
+        {"plugin", "Load the plugin FILE.", "FILE",
+         delivered(QStringLiteral(TILL_PLUGIN_DIR "/PackagingControl.so"))},
+        {"no-plugin", "Work without a plugin."},
+        {"config", "Read settings from the INI FILE.", "FILE"},
+        {"set", "Set a setting, such as PackagingControl:allowSaleEmptyTara=false.", "KEY=VALUE"},
+        {"lang", "Language of messages: " + Translator::languages().join(", ") + ".", "LANGUAGE",
+         "ru"},
+        {"trace", "Write what happens to FILE as lines of JSON (- for standard output).", "FILE"},
+        {"colour", "Colours: auto, always or never.", "WHEN", "auto"},
+        {"quiet", "Print progress only, not the receipts' course."},
+    });
+    parser.addOption({{"h", "help"}, "Show this help."});
+    parser.addVersionOption();
+}
+
+QString readOptions(const QCommandLineParser &parser, Options &options)
+{
+    const QStringList words = parser.positionalArguments();
+    options.mode = words.value(0);
+    options.words = words.mid(1);
+    if (const QString fault = wordsFault(options.mode, options.words); !fault.isEmpty())
+        return fault;
+    options.language = parser.value("lang");
+    if (!Translator::isKnown(options.language))
+        return "--lang: \"" + options.language
+               + "\" is none of: " + Translator::languages().join(", ");
+    if (!QStringList{"auto", "always", "never"}.contains(parser.value("colour")))
+        return "--colour: \"" + parser.value("colour") + "\" is none of: auto, always, never";
+    options.style.colour = wantsColour(parser.value("colour"));
+    options.trace = parser.value("trace");
+    options.quiet = parser.isSet("quiet");
+    options.ownDatabase = parser.isSet("db");
+    options.setup = {parser.value("db"),
+                     parser.value("catalogue"),
+                     parser.isSet("no-plugin") ? QString() : parser.value("plugin"),
+                     parser.value("config"),
+                     {}};
+    return readSettings(parser.values("set"), options.setup.settings);
+}
+
+} // namespace till

@@ -1,0 +1,39 @@
+#ifndef TILL_CONSOLE_OPTIONS_H
+#define TILL_CONSOLE_OPTIONS_H
+
+#include "till/register/CashDesk.h"
+#include "till/view/ReceiptView.h"
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+class QCommandLineParser;
+
+namespace till {
+
+//! What the command line says.
+struct Options
+{
+    Setup setup;
+    Style style;
+    QString language;
+    QString trace;
+    QString mode;             //!< a command of the program's own; empty to open the register
+    QStringList words;        //!< that follow it
+    bool ownDatabase = false; //!< --db was given: scripts play on it too
+    bool quiet = false;
+};
+
+//! Where files of the delivery are, beside the folder of the program.
+QString delivered(const QString &relative);
+QString defaultDatabase();
+
+//! Tells \a parser the options and the help.
+void describeOptions(QCommandLineParser &parser);
+
+//! Fills \a options from the command line. Empty text or what is wrong with it.
+QString readOptions(const QCommandLineParser &parser, Options &options);
+
+} // namespace till
+
+#endif // TILL_CONSOLE_OPTIONS_H
