@@ -34,7 +34,6 @@ public:
     virtual void setPluginData(const QString &pluginId, const QString &key,
                                const QVariant &value) = 0;
 
-    // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~AbstractDocument();
 };
 

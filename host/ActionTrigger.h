@@ -8,8 +8,8 @@
 #include <functional>
 
 /*!
- * A callback that the host runs before or after it performs an action. A value type; a copy holds
- * the plugin's code, so that none may be left when the plugin is unloaded.
+ * A callback that the host runs before or after it performs an action. A value type; not to be
+ * called once the plugin's object is gone.
  */
 class HOST_EXPORT ActionTrigger
 {

@@ -49,7 +49,6 @@ public:
      */
     virtual void notify(const Event &event);
 
-    // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~ActivityNotifier();
 
 private:

@@ -25,7 +25,6 @@ public:
      */
     virtual bool getBool(const QString &key, bool defaultValue) const;
 
-    // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~Config();
 
     //! Sets \a key to \a value, replacing an earlier one.

@@ -21,7 +21,6 @@ public:
     virtual bool showQuestion(const tr::Tr &question, int kind, const tr::Tr &confirm,
                               const tr::Tr &cancel, int flags);
 
-    // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~Dialog();
 };
 

@@ -19,7 +19,6 @@ public:
      */
     virtual bool stornoPosition(const control::Action &action);
 
-    // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~DocumentLogic();
 };
 

@@ -17,7 +17,6 @@ public:
     //! Recomputes \a document after many changes at once. Without a host program: nothing.
     virtual void updateDocument(const QSharedPointer<AbstractDocument> &document);
 
-    // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~LoyaltySystemLayer();
 };
 

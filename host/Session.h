@@ -15,7 +15,6 @@ public:
     //! The session's current modifiers. Never null; owned by the session.
     virtual ModifiersContainer *getModifiers();
 
-    // The destructor comes last, so that the operations are counted from the table's first slot.
     virtual ~Session();
 
 private:
