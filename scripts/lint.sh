@@ -38,6 +38,13 @@ batches '*' | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p "$build" --quiet \
     --checks=-bugprone-suspicious-include \
     --extra-arg=-Xclang --extra-arg=-analyzer-opt-analyze-headers
 
+# Batches hide what a source forgot to include, so each is looked at alone too.
+alone=build/lint-alone
+CXX=clang++ cmake -S . -B "$alone" -G Ninja -DCMAKE_BUILD_TYPE=Debug >/dev/null
+echo "each alone: $((${#plugin[@]} + ${#others[@]})) sources"
+printf '%s\0' "${plugin[@]}" "${others[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p "$alone" --quiet \
+    --checks=-*,bugprone-suspicious-include
+
 echo "clazy: ${#plugin[@]} sources"
 batches '*/plugin/*' | CLAZY_CHECKS=level1 xargs -0 -n 1 -P "$(nproc)" clazy-standalone -p "$build" \
     --header-filter='/(plugin|registry|events|triggers)/[^/]*\.(h|cpp)$' \

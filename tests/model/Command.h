@@ -38,6 +38,9 @@ enum class Reply : std::uint8_t {
     Pretend, //!< does nothing and says that it did
 };
 
+//! The host gives up when the plugin's requests lead to requests without an end.
+inline constexpr int deepestRequest = 6;
+
 //! What else happens while the plugin waits for the answer to a request or a question.
 enum class Meanwhile : std::uint8_t { Nothing, Storno, Quantity, Publish, Suspend, Reopen, Switch };
 inline constexpr int meanwhileCount = 7;

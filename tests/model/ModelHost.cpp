@@ -5,13 +5,6 @@
 
 namespace model {
 
-namespace {
-
-// The host gives up when the plugin's requests lead to requests without an end.
-constexpr int deepest = 6;
-
-} // namespace
-
 ModelHost::ModelHost(std::uint64_t salt, bool allowSaleEmptyTara)
     : m_salt(salt)
     , m_allowSaleEmptyTara(allowSaleEmptyTara)
@@ -58,7 +51,7 @@ bool ModelHost::request(int actionType, int posnum)
     meanwhile();
     ++m_requests;
     bool isDone = false;
-    if (m_depth < deepest && (reply == Reply::Obey || reply == Reply::Deny)) {
+    if (m_depth < deepestRequest && (reply == Reply::Obey || reply == Reply::Deny)) {
         ++m_depth;
         isDone = perform(actionType, posnum, actionType == 5 ? 252 : 21, true) == Continue;
         --m_depth;

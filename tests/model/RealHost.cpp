@@ -8,13 +8,6 @@
 
 namespace model {
 
-namespace {
-
-// The host gives up when the plugin's requests lead to requests without an end.
-constexpr int deepest = 6;
-
-} // namespace
-
 Event about(int code, const QSharedPointer<RealPosition> &position)
 {
     Event event(static_cast<EActivityListener::Event>(code));
@@ -112,7 +105,7 @@ bool RealHost::request(control::EActionType type, int posnum)
     meanwhile();
     ++m_requests;
     bool isDone = false;
-    if (m_depth < deepest && (reply == Reply::Obey || reply == Reply::Deny)) {
+    if (m_depth < deepestRequest && (reply == Reply::Obey || reply == Reply::Deny)) {
         ++m_depth;
         isDone = perform(onPosition(type, posnum),
                          type == control::ApplyModifiers ? EActivityListener::eventModifierApplied2

@@ -181,7 +181,7 @@ TEST_F(Init, MissingNotifier_IsMadeOnDemandAndDelivers)
     EXPECT_EQ(plugin.taraList.size(), 1);
 }
 
-class FailingNotifier : public ActivityNotifier
+class RefusingNotifier : public ActivityNotifier
 {
 public:
     void subscribe(BaseActivityListener *, const QSet<int> &) override
@@ -192,8 +192,8 @@ public:
 
 TEST_F(Init, HostThrows_LetsTheExceptionThrough)
 {
-    FailingNotifier failing;
-    const Installed<ActivityNotifier> installed(&failing);
+    RefusingNotifier refusing;
+    const Installed<ActivityNotifier> installed(&refusing);
 
     EXPECT_THROW(plugin.init(), std::runtime_error);
 }

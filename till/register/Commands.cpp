@@ -30,11 +30,6 @@ QVariantList toVariants(const QList<Value> &values)
     return list;
 }
 
-QString number(int posnum)
-{
-    return QString::number(posnum);
-}
-
 //! Of a command that would leave \a count in a position, and so exceed a limit.
 Outcome aboveLimit(double count)
 {
@@ -103,7 +98,7 @@ Outcome Register::execute(const command::Split &split)
         left -= part;
     }
     if (toText(left).startsWith(QLatin1Char('-')))
-        return Outcome::mistake(messages::tillPartsTooGreat(), {number(split.posnum)});
+        return Outcome::mistake(messages::tillPartsTooGreat(), {QString::number(split.posnum)});
     const control::Action action = onPosition(control::SplitPositions, split.posnum);
     action.setArgument(argument::parts, toVariants(split.parts));
     return perform(action);
@@ -120,11 +115,11 @@ Outcome Register::execute(const command::Unite &unite)
         if (const Outcome check = checkPosition(posnum); !check)
             return check;
         if (seen.contains(posnum))
-            return Outcome::mistake(messages::tillPositionTwice(), {number(posnum)});
+            return Outcome::mistake(messages::tillPositionTwice(), {QString::number(posnum)});
         seen.insert(posnum);
         if (!(m_receipt->line(posnum)->article() == m_receipt->line(posnums[0])->article()))
             return Outcome::mistake(messages::tillOtherArticles(),
-                                    {number(posnums[0]), number(posnum)});
+                                    {QString::number(posnums[0]), QString::number(posnum)});
         count += m_receipt->line(posnum)->getCquant();
     }
     if (!countFault(count).isEmpty())
@@ -201,9 +196,9 @@ Outcome Register::checkPosition(int posnum) const
     if (!isInHand())
         return Outcome::mistake(messages::tillNoReceipt());
     if (!m_receipt->line(posnum))
-        return Outcome::mistake(messages::tillNoPosition(), {number(posnum)});
+        return Outcome::mistake(messages::tillNoPosition(), {QString::number(posnum)});
     if (!m_receipt->getPositionByPosnum(posnum))
-        return Outcome::mistake(messages::tillPositionStornoed(), {number(posnum)});
+        return Outcome::mistake(messages::tillPositionStornoed(), {QString::number(posnum)});
     return Outcome::done();
 }
 

@@ -19,7 +19,7 @@ void PrintTo(const Mistake &mistake, std::ostream *out)
     *out << '"' << mistake.line << '"';
 }
 
-std::string nameOf(const testing::TestParamInfo<Mistake> &info)
+std::string nameOfMistake(const testing::TestParamInfo<Mistake> &info)
 {
     return info.param.name;
 }
@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"Pay", "pay", noReceipt}, Mistake{"PayMoney", "pay 5", noReceipt},
         Mistake{"Cancel", "cancel", noReceipt}, Mistake{"Show", "show", "no receipt was opened"},
         Mistake{"OpenWhat", "open sales", "\"sales\" is none of: sale, return"}),
-    nameOf);
+    nameOfMistake);
 
 //! In a receipt of a can, beer in it, crisps, and a stornoed opener.
 class WithReceipt : public TillTest, public testing::WithParamInterface<Mistake>
@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"HelpCommand", "help ad", "no command \"ad\"; try 'help'"},
         Mistake{"SubtotalWords", "subtotal now", "usage: subtotal"},
         Mistake{"SetTooFewWords", "set KEY", "usage: set KEY VALUE"}),
-    nameOf);
+    nameOfMistake);
 
 INSTANTIATE_TEST_SUITE_P(
     Receipt, WithReceipt,
@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"UniteTwice", "unite 2 2", "position 2 is named twice"},
         Mistake{"UniteOthers", "unite 2 3", "positions 2 and 3 are of different articles"},
         Mistake{"SoftCheckTwice", "softcheck S1", "the receipt has soft-check S1 already"}),
-    nameOf);
+    nameOfMistake);
 
 constexpr const char *tooMany = "the quantity must not be above 999999.999";
 
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Limits, WithReceipt,
                          testing::Values(Mistake{"Add", "add CHIPS 1000000", tooMany},
                                          Mistake{"Qty", "qty 3 1000000", tooMany},
                                          Mistake{"QtyLongest", "qty 3 999999999", tooMany}),
-                         nameOf);
+                         nameOfMistake);
 
 class Twice : public TillTest
 {
