@@ -1,11 +1,23 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests. Arguments go to ctest: ./test.sh -R Receipt
+#
+# What is tried at random is the same every time. TEST_SEED=N ./test.sh tries something else, and
+# TEST_EFFORT=10 ./test.sh ten times as much.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 # shellcheck source=scripts/dependencies.sh
 . scripts/dependencies.sh
+# shellcheck source=scripts/figures.sh
+. scripts/figures.sh
 
 need_packages "${build_packages[@]}" "${test_packages[@]}"
+export TEST_SEED=${TEST_SEED:-20240607}
 cmake --preset dev
 cmake --build --preset dev
-ctest --preset dev -j "$(nproc)" "$@"
+
+rm -f build/dev/Testing/Temporary/LastTest.log
+built=$SECONDS status=0
+ctest --preset dev -j "$(nproc)" "$@" || status=$?
+printf '\n%s; built in %s s, tested in %s s; seed %s\n' \
+    "$(tests_told build/dev)" "$built" $((SECONDS - built)) "$TEST_SEED"
+exit "$status"

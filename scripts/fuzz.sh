@@ -54,7 +54,7 @@ for target in "${targets[@]}"; do
     read -r name runs length <<<"$target"
     mkdir -p "$build/new/$name"
     # shellcheck disable=SC2046
-    "$build/bin/fuzz_$name" -runs=$((runs * factor)) -max_len="$length" -timeout=20 -seed=1 \
+    "$build/bin/fuzz_$name" -runs=$((runs * factor)) -max_len="$length" -timeout=20 -seed="$((${TEST_SEED:-1} % 4294967295))" \
         -print_final_stats=1 -artifact_prefix="$findings/$name-" $(words "$name") \
         "$build/new/$name" "fuzz/corpus/$name" >"$log/$name.log" 2>&1 &
     pids+=($!)

@@ -6,61 +6,52 @@ namespace model {
 
 void ModelHost::carryOut(const Command &command)
 {
-    const PositionPtr position = live(command.which);
     switch (command.verb) {
     case Verb::Open:
-        m_receipts[m_inHand] = newReceipt(command.shape == 0);
-        m_rules->setDocument(inHand());
-        break;
+        return takeUp(newReceipt(command.shape == 0));
     case Verb::Add:
-        add(command);
-        break;
+        return add(command);
     case Verb::Quantity:
     case Verb::Modify:
-        if (position)
-            m_wasRefused =
-                changeCount(position, command.quantity, command.verb == Verb::Quantity) != Continue;
-        break;
     case Verb::Storno:
-        if (position)
-            perform(132, position->posnum, 21, false);
-        break;
+        return changePosition(command);
     case Verb::Split:
-        split(command);
-        break;
+        return split(command);
     case Verb::Unite:
-        unite(command);
-        break;
+        return unite(command);
     case Verb::Subtotal:
-        pay(133);
-        break;
+        return pay(133);
     case Verb::Pay:
-        pay(144);
-        break;
+        return pay(144);
     case Verb::SoftCheck:
     case Verb::Order:
-        attach(command);
-        break;
+        return attach(command);
     case Verb::Setting:
         m_allowSaleEmptyTara = command.yes;
-        restart();
-        break;
+        return restart();
     case Verb::Restart:
-        restart();
-        break;
+        return restart();
     case Verb::Reopen:
-        m_rules->setDocument(inHand());
-        break;
+        return m_rules->setDocument(inHand());
     case Verb::Switch:
-        turnToOther();
-        break;
+        return turnToOther();
     case Verb::Forget:
-        m_rules->setDocument(nullptr);
-        break;
+        return m_rules->setDocument(nullptr);
     case Verb::Publish:
-        publish(command);
-        break;
+        return publish(command);
     }
+}
+
+void ModelHost::changePosition(const Command &command)
+{
+    const PositionPtr position = live(command.which);
+    if (!position)
+        return;
+    if (command.verb == Verb::Storno)
+        perform(132, position->posnum, 21, false);
+    else
+        m_wasRefused =
+            changeCount(position, command.quantity, command.verb == Verb::Quantity) != Continue;
 }
 
 void ModelHost::add(const Command &command)
@@ -140,8 +131,7 @@ void ModelHost::pay(int actionType)
     if (actionType != 144)
         return;
     m_wasClosed = true;
-    m_receipts[m_inHand] = newReceipt(true);
-    m_rules->setDocument(inHand());
+    takeUp(newReceipt(true));
 }
 
 void ModelHost::attach(const Command &command)
@@ -166,9 +156,13 @@ void ModelHost::publish(const Command &command)
 void ModelHost::turnToOther()
 {
     m_inHand = 1 - m_inHand;
-    if (!m_receipts[m_inHand])
-        m_receipts[m_inHand] = newReceipt(true);
-    m_rules->setDocument(inHand());
+    takeUp(inHand() ? inHand() : newReceipt(true));
+}
+
+void ModelHost::takeUp(const ReceiptPtr &receipt)
+{
+    m_receipts[m_inHand] = receipt;
+    m_rules->setDocument(receipt);
 }
 
 void ModelHost::restart()

@@ -22,6 +22,17 @@ public:
 
     void run(const Command &command);
 
+    //! What commands change while receipt, rules and settings stay the same.
+    struct Moment
+    {
+        int identifiers;
+        Receipt receipt;
+        std::vector<std::shared_ptr<Tara>> taras;
+        std::vector<std::shared_ptr<Goods>> goods;
+    };
+    Moment moment() const;
+    void returnTo(const Moment &moment);
+
     //! What was said and asked since the journal was cleared.
     std::string &journal() { return World::journal; }
     const Rules &rules() const { return *m_rules; }
@@ -52,12 +63,14 @@ private:
 
     void carryOut(const Command &command);
     void add(const Command &command);
+    void changePosition(const Command &command);
     void split(const Command &command);
     void unite(const Command &command);
     void publish(const Command &command);
     void pay(int actionType);
     void attach(const Command &command);
     void turnToOther();
+    void takeUp(const ReceiptPtr &receipt);
     void restart();
 
     bool request(int actionType, int posnum);

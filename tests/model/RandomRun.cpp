@@ -2,6 +2,7 @@
 
 #include "tests/model/Difference.h"
 #include "tests/model/Generate.h"
+#include "tests/support/Chance.h"
 
 #include <sstream>
 
@@ -13,7 +14,7 @@ std::string reportOf(const rc::detail::TestResult &result, std::uint64_t seed)
 {
     std::ostringstream out;
     rc::detail::printResultMessage(result, out);
-    out << "\nto find it again: RC_PARAMS=\"seed=" << seed << "\"\n";
+    out << "\nto find it again: " << repeatedBy(seed) << '\n';
     return out.str();
 }
 
@@ -36,11 +37,6 @@ std::string compareAtRandom(const RealHost::MakePlugin &makePlugin, std::uint64_
             return reportOf(result, params.seed);
     }
     return {};
-}
-
-std::uint64_t configuredSeed()
-{
-    return rc::detail::configuration().testParams.seed;
 }
 
 } // namespace model

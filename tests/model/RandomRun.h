@@ -23,9 +23,6 @@ struct Tally
 std::string compareAtRandom(const RealHost::MakePlugin &makePlugin, std::uint64_t seed, long wanted,
                             Tally &tally);
 
-//! What chance starts from in this run: what RC_PARAMS says, or another number every time.
-std::uint64_t configuredSeed();
-
 } // namespace model
 
 #endif // TESTS_MODEL_RANDOMRUN_H

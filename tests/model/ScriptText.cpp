@@ -1,9 +1,7 @@
 #include "tests/model/Command.h"
 
 #include "tests/model/ModelHost.h"
-
-#include <algorithm>
-#include <charconv>
+#include "tests/model/TillLimits.h"
 
 namespace model {
 
@@ -11,86 +9,6 @@ namespace model {
 // which questions are asked.
 
 namespace {
-
-constexpr double greatestQuantity = 999999.999; // of a position of the till
-
-//! Whether the till takes such a quantity.
-bool isTyped(double quantity)
-{
-    return quantity >= 0 && quantity <= greatestQuantity
-           && static_cast<double>(static_cast<long long>(quantity * 1000 + 0.5)) / 1000 == quantity;
-}
-
-bool isTyped(const Command &command)
-{
-    switch (command.verb) {
-    case Verb::Add:
-        return command.quantity > 0 && isTyped(command.quantity);
-    case Verb::Quantity:
-        return isTyped(command.quantity);
-    case Verb::Split:
-        return std::all_of(command.parts.begin(), command.parts.end(),
-                           [](double part) { return part > 0 && isTyped(part); });
-    default:
-        return true;
-    }
-}
-
-std::string typed(double quantity)
-{
-    char text[64];
-    const auto end =
-        std::to_chars(text, text + sizeof text, quantity, std::chars_format::fixed).ptr;
-    return {text, end};
-}
-
-const Article &articleOf(const Command &command)
-{
-    return articles.at(static_cast<std::size_t>(command.which) % articles.size());
-}
-
-//! Whether a catalogue of the till can have \a article.
-bool isCatalogued(const Article &article)
-{
-    constexpr int tara = 1;
-    constexpr int lastMode = 2;
-    return article.taraMode <= lastMode && isTyped(article.capacity) && isTyped(article.pack)
-           && (article.taraMode != tara || article.capacity > 0);
-}
-
-//! Whether the position has as much as the parts: the till looks at thousandths.
-bool hasParts(const Position &position, const std::vector<double> &parts)
-{
-    double left = position.count;
-    for (const double part : parts)
-        left -= part;
-    return left * 1000 > -0.5;
-}
-
-bool canUnite(const std::vector<PositionPtr> &lines)
-{
-    double count = 0;
-    for (const PositionPtr &line : lines)
-        count += line->count;
-    const auto isAlike = [&](const PositionPtr &line) {
-        return line->article == lines.front()->article;
-    };
-    return lines.size() > 1 && count <= greatestQuantity
-           && std::all_of(lines.begin(), lines.end(), isAlike);
-}
-
-//! Whether the till can do with \a lines what the model does.
-bool takes(const Command &command, const std::vector<PositionPtr> &lines)
-{
-    if (command.verb == Verb::Add)
-        return isCatalogued(articleOf(command));
-    if (lines.empty())
-        return true;
-    if (command.verb == Verb::Split)
-        return lines.size() == 1 && !command.parts.empty()
-               && hasParts(*lines.front(), command.parts);
-    return command.verb != Verb::Unite || canUnite(lines);
-}
 
 //! How a command ends at the till.
 enum class End { Done, Refused, Mistake };
@@ -107,7 +25,7 @@ public:
     void write(const Command &command)
     {
         const auto lines = m_host.picked(command);
-        m_isTaken = isTyped(command) && takes(command, lines);
+        m_isTaken = tillTakes(command, lines);
         m_wasEmpty = m_host.receipt().isEmpty();
         m_hadOrder = m_host.receipt().hasOrder;
         m_host.run(command);
@@ -121,6 +39,12 @@ public:
         followState(command);
     }
 
+    void end()
+    {
+        if (!m_hasSaid)
+            note("nothing of this can be typed at a till");
+    }
+
 private:
     static bool needsPosition(const Command &command)
     {
@@ -130,7 +54,11 @@ private:
     }
 
     void note(const std::string &text) { m_out << "# " << text << '\n'; }
-    void say(const std::string &line) { m_out << line << '\n'; }
+    void say(const std::string &line)
+    {
+        m_out << line << '\n';
+        m_hasSaid = true;
+    }
     void say(const std::string &line, End end);
     void sayOrNote(const std::string &line, End end);
 
@@ -138,6 +66,9 @@ private:
     void writeReplies(const Command &command);
     void writeMeanwhile(const Command &command);
     void writeCommand(const Command &command);
+    void writeOnPositions(const Command &command);
+    void writeOnReceipt(const Command &command);
+    void writeOnRegister(const Command &command);
     void writeArticle(const Command &command);
     void writeEvent(const Command &command);
     void writeGate(const Command &command, const std::string &verb);
@@ -150,6 +81,7 @@ private:
     bool m_isTaken = true; //!< the till can do what the model did
     bool m_wasEmpty = true;
     bool m_hadOrder = false;
+    bool m_hasSaid = false;      //!< there is something to type
     bool m_isAtSubtotal = false; //!< the till, where it pays without asking the plugin again
     int m_numbers = 0;
 };
@@ -198,97 +130,79 @@ void Writer::writeMeanwhile(const Command &command)
 {
     if (command.meanwhile == Meanwhile::Nothing || m_host.requests() <= command.meanwhileAt)
         return;
-    const std::string when =
-        "meanwhile, at request " + std::to_string(command.meanwhileAt + 1) + ", ";
-    const std::string which =
+    const std::string position =
         "live position number " + std::to_string(command.meanwhileWhich) + " (counted round) ";
-    switch (command.meanwhile) {
-    case Meanwhile::Nothing:
-        break;
-    case Meanwhile::Storno:
-        note(when + which + "is stornoed");
-        break;
-    case Meanwhile::Quantity:
-        note(when + which + "becomes " + toText(command.meanwhileQuantity) + " pieces");
-        break;
-    case Meanwhile::Publish:
-        note(when + which + "is reported as changed");
-        break;
-    case Meanwhile::Suspend:
-        note(when + "the plugin is given no receipt");
-        break;
-    case Meanwhile::Reopen:
-        note(when + "the plugin is given the receipt in hand once more");
-        break;
-    case Meanwhile::Switch:
-        note(when + "the register turns to the other one of its two receipts");
-        break;
-    }
+    const std::string texts[]{
+        "",
+        position + "is stornoed",
+        position + "becomes " + toText(command.meanwhileQuantity) + " pieces",
+        position + "is reported as changed",
+        "the plugin is given no receipt",
+        "the plugin is given the receipt in hand once more",
+        "the register turns to the other one of its two receipts",
+    };
+    note("meanwhile, at request " + std::to_string(command.meanwhileAt + 1) + ", "
+         + texts[static_cast<int>(command.meanwhile)]);
 }
 
 void Writer::writeCommand(const Command &command)
 {
+    if (needsPosition(command))
+        return writeOnPositions(command);
+    writeOnReceipt(command);
+    writeOnRegister(command);
+}
+
+void Writer::writeOnPositions(const Command &command)
+{
+    const End end = m_host.wasRefused() ? End::Refused : End::Done;
+    if (command.verb == Verb::Quantity)
+        return sayOrNote("qty" + m_positions + ' ' + typed(command.quantity), end);
+    if (command.verb == Verb::Modify)
+        return note("modifiers other than the quantity are applied to position" + m_positions);
+    if (command.verb == Verb::Storno)
+        return say("answer yes\nstorno" + m_positions);
+    if (command.shape != 0)
+        note("the plugin is told of it in form " + std::to_string(command.shape));
+    if (command.verb == Verb::Unite)
+        return sayOrNote("unite" + m_positions, end);
     std::string parts;
     for (const double part : command.parts)
         parts += ' ' + typed(part);
-    if (command.shape != 0 && (command.verb == Verb::Split || command.verb == Verb::Unite))
-        note("the plugin is told of it in form " + std::to_string(command.shape));
-    const End end = m_host.wasRefused() ? End::Refused : End::Done;
-    switch (command.verb) {
-    case Verb::Open:
-        say("answer yes\ncancel");
-        say(command.shape == 0 ? "open" : "open return");
-        break;
-    case Verb::Add:
+    sayOrNote("split" + m_positions + parts, end);
+}
+
+void Writer::writeOnReceipt(const Command &command)
+{
+    if (command.verb == Verb::Open)
+        say(command.shape == 0 ? "answer yes\ncancel\nopen" : "answer yes\ncancel\nopen return");
+    if (command.verb == Verb::Add)
         writeArticle(command);
-        break;
-    case Verb::Quantity:
-        sayOrNote("qty" + m_positions + ' ' + typed(command.quantity), end);
-        break;
-    case Verb::Modify:
-        note("modifiers other than the quantity are applied to position" + m_positions);
-        break;
-    case Verb::Storno:
-        say("answer yes\nstorno" + m_positions);
-        break;
-    case Verb::Split:
-        sayOrNote("split" + m_positions + parts, end);
-        break;
-    case Verb::Unite:
-        sayOrNote("unite" + m_positions, end);
-        break;
-    case Verb::Subtotal:
+    if (command.verb == Verb::Subtotal)
         writeGate(command, "subtotal");
-        break;
-    case Verb::Pay:
+    if (command.verb == Verb::Pay)
         writePay(command);
-        break;
-    case Verb::SoftCheck:
+    if (command.verb == Verb::SoftCheck)
         say("softcheck " + std::to_string(++m_numbers));
-        break;
-    case Verb::Order:
+    if (command.verb == Verb::Order)
         say("order " + std::to_string(++m_numbers), m_hadOrder ? End::Mistake : End::Done);
-        break;
-    case Verb::Setting:
+}
+
+void Writer::writeOnRegister(const Command &command)
+{
+    if (command.verb == Verb::Setting)
         say(std::string("set PackagingControl:allowSaleEmptyTara ")
             + (command.yes ? "true" : "false"));
-        break;
-    case Verb::Restart:
+    if (command.verb == Verb::Restart)
         say("restart");
-        break;
-    case Verb::Reopen:
+    if (command.verb == Verb::Reopen)
         note("the plugin is given the receipt in hand once more");
-        break;
-    case Verb::Switch:
+    if (command.verb == Verb::Switch)
         note("the register turns to the other one of its two receipts");
-        break;
-    case Verb::Forget:
+    if (command.verb == Verb::Forget)
         note("the plugin is given no receipt");
-        break;
-    case Verb::Publish:
+    if (command.verb == Verb::Publish)
         writeEvent(command);
-        break;
-    }
 }
 
 void Writer::writeArticle(const Command &command)
@@ -371,6 +285,8 @@ std::ostream &operator<<(std::ostream &out, const Script &script)
     Writer writer(out, script);
     for (const Command &command : script.commands)
         writer.write(command);
+    if (!script.commands.empty())
+        writer.end();
     return out;
 }
 

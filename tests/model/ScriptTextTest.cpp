@@ -129,12 +129,20 @@ TEST(ScriptText, AcceptedPayment_OpensTheNextReceipt)
 
 TEST(ScriptText, QuantityThatTheTillDoesNotTake_IsMarked)
 {
-    EXPECT_EQ(written({command(Verb::Add, Beer, -1)}),
-              "# the till takes no such command: add BEER -1\n");
-    EXPECT_EQ(written({command(Verb::Add, Beer, 0)}),
-              "# the till takes no such command: add BEER 0\n");
-    EXPECT_EQ(written({command(Verb::Add, Beer, 0.0625)}),
-              "# the till takes no such command: add BEER 0.0625\n");
+    EXPECT_EQ(written({command(Verb::Restart), command(Verb::Add, Beer, -1)}),
+              "restart\n# the till takes no such command: add BEER -1\n");
+    EXPECT_EQ(written({command(Verb::Restart), command(Verb::Add, Beer, 0)}),
+              "restart\n# the till takes no such command: add BEER 0\n");
+    EXPECT_EQ(written({command(Verb::Restart), command(Verb::Add, Beer, 0.0625)}),
+              "restart\n# the till takes no such command: add BEER 0.0625\n");
+}
+
+TEST(ScriptText, ScriptOfWhichNothingCanBeTyped_SaysSo)
+{
+    EXPECT_EQ(written({command(Verb::Add, Beer, -1), command(Verb::Forget)}),
+              "# the till takes no such command: add BEER -1\n"
+              "# the plugin is given no receipt\n"
+              "# nothing of this can be typed at a till\n");
 }
 
 TEST(ScriptText, GreatestQuantityOfTheTill_IsNotMarked)
@@ -161,8 +169,8 @@ TEST(ScriptText, ArticleThatTheTillLacks_ComesWithItsRow)
 
 TEST(ScriptText, ArticleThatNoCatalogueOfTheTillHas_IsMarked)
 {
-    EXPECT_EQ(written({command(Verb::Add, Riddle)}),
-              "# what no catalogue of the till has: RIDDLE;RIDDLE;1,00;1;no number;1;\n"
+    EXPECT_EQ(written({command(Verb::Restart), command(Verb::Add, Riddle)}),
+              "restart\n# what no catalogue of the till has: RIDDLE;RIDDLE;1,00;1;no number;1;\n"
               "# the till takes no such command: add RIDDLE 1\n");
 }
 

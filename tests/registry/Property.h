@@ -1,19 +1,19 @@
 #ifndef TESTS_REGISTRY_PROPERTY_H
 #define TESTS_REGISTRY_PROPERTY_H
 
+#include "tests/support/Chance.h"
+
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
 #include <QtCore/QLoggingCategory>
 
-#include <algorithm>
 #include <sstream>
 #include <utility>
 
 /*!
- * Checks \a property, which takes generated arguments or uses `RC_ASSERT`, on at least 2000 cases.
- * A failure shows the smallest case found and a number; RC_PARAMS="seed=..." with it runs the same
- * again.
+ * Checks \a property, which takes generated arguments or uses `RC_ASSERT`, on 1000 cases. A failure
+ * shows the smallest case found, and what to type to find it again.
  */
 template <typename Testable>
 void checkProperty(Testable &&property)
@@ -22,7 +22,8 @@ void checkProperty(Testable &&property)
     QLoggingCategory::setFilterRules(QStringLiteral("packaging=false"));
     const auto *test = testing::UnitTest::GetInstance()->current_test_info();
     auto params = rc::detail::configuration().testParams;
-    params.maxSuccess = std::max(params.maxSuccess, 2000);
+    params.seed = testSeed();
+    params.maxSuccess = 1000 * testEffort();
 
     const auto result =
         rc::detail::checkTestable(std::forward<Testable>(property),
@@ -31,8 +32,7 @@ void checkProperty(Testable &&property)
     if (!result.template is<rc::detail::SuccessResult>()) {
         std::ostringstream message;
         rc::detail::printResultMessage(result, message);
-        FAIL() << message.str() << "\nTo run it again: RC_PARAMS=\"seed=" << params.seed
-               << " max_size=" << params.maxSize << "\"";
+        FAIL() << message.str() << "\nTo find it again: " << repeatedBy(params.seed);
     }
 }
 

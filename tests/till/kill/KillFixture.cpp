@@ -1,5 +1,7 @@
 #include "tests/till/kill/KillFixture.h"
 
+#include "tests/support/Chance.h"
+
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -66,16 +68,8 @@ std::ostream &operator<<(std::ostream &out, const Tally &tally)
 }
 
 KilledTill::KilledTill()
-    : m_seed(setting("TILL_KILL_SEED", 20240607))
-    , m_cashier(static_cast<quint32>(m_seed))
+    : m_cashier(static_cast<quint32>(testSeed()))
 {
-}
-
-int KilledTill::setting(const char *variable, int preset)
-{
-    bool isSet = false;
-    const int value = qEnvironmentVariableIntValue(variable, &isSet);
-    return isSet ? value : preset;
 }
 
 QStringList KilledTill::arguments(const QString &database)

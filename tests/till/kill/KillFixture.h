@@ -22,6 +22,8 @@ struct Tally
 
     int during() const { return stored + notStored; }
     int all() const { return starting + between + during(); }
+    //! There were kills of every kind that can prove something.
+    bool isTelling() const { return during() > 20 && stored > 0 && notStored > 0 && restored > 5; }
 };
 
 std::ostream &operator<<(std::ostream &out, const Tally &tally);
@@ -45,12 +47,8 @@ protected:
     //! Every receipt of the database is as the traces told it.
     void checkEveryReceipt() const;
 
-    int seed() const { return m_seed; }
     const Tally &tally() const { return m_tally; }
     qsizetype receipts() const { return m_trace.finished().size() + 1; }
-
-    //! A whole number that can be set from outside.
-    static int setting(const char *variable, int preset);
 
 private:
     using Clock = TillProcess::Clock;
@@ -68,7 +66,6 @@ private:
     Clock::duration usualTime() const;
     Clock::duration partOf(Clock::duration usual);
 
-    const int m_seed;
     Cashier m_cashier;
     TraceReader m_trace;
     QByteArrayList m_sent;     //!< commands that this till was sent

@@ -1,3 +1,4 @@
+#include "tests/support/Chance.h"
 #include "tests/till/kill/KillFixture.h"
 
 #include <iostream>
@@ -8,30 +9,28 @@ namespace {
 
 TEST_F(KilledTill, WhilePlayingRandomReceipts_KeepsEveryAcknowledgedCommandWhole)
 {
-    const int kills = setting("TILL_KILLS", 300);
-    std::cout << kills << " kills, seed " << seed()
-              << " (set TILL_KILLS and TILL_KILL_SEED for others)" << std::endl;
+    // When a kill finds the till at what is up to the machine: there are more of them until they
+    // have proved something, within reason.
+    const int kills = 60 * testEffort();
+    const int most = 20 * kills;
     measure();
-    for (int round = 0; round < kills && !HasFailure(); ++round) {
-        SCOPED_TRACE(testing::Message() << "seed " << seed() << " round " << round);
+    while ((tally().all() < kills || !tally().isTelling()) && tally().all() < most
+           && !HasFailure()) {
+        SCOPED_TRACE(testing::Message() << "seed " << testSeed() << " round " << tally().all());
         playAndKill();
         checkStored();
     }
     checkEveryReceipt();
-    std::cout << tally() << "receipts: " << receipts() << std::endl;
-    // Otherwise the kills would have proved little.
-    EXPECT_EQ(tally().all(), kills);
-    EXPECT_GT(tally().during(), kills / 3);
-    EXPECT_GT(tally().stored, 0);
-    EXPECT_GT(tally().notStored, 0);
-    EXPECT_GT(tally().restored, kills / 10);
+    std::cout << tally().all() << " kills, seed " << testSeed() << '\n'
+              << tally() << "receipts: " << receipts() << std::endl;
+    EXPECT_TRUE(tally().isTelling());
 }
 
 TEST_F(KilledTill, WhileItMakesItsDatabase_CanBeStartedAgain)
 {
     measure();
     for (int round = 0; round < 40 && !HasFailure(); ++round) {
-        SCOPED_TRACE(testing::Message() << "seed " << seed() << " round " << round);
+        SCOPED_TRACE(testing::Message() << "seed " << testSeed() << " round " << round);
         const QString name = QStringLiteral("%1.db").arg(round);
         killWhileItMakes(name);
         checkUsable(name);

@@ -1,7 +1,9 @@
 #include "tests/till/storage/StorageWriterPlan.h"
+#include "tests/till/support/FailingDisk.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDataStream>
+#include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
 
 #include <cstdio>
@@ -9,8 +11,8 @@
 // A till that does nothing but save, to be killed.
 //   storage_writer open FILE     opens the database; says "opened" or why not
 //   storage_writer foreign FILE  saves a value of a type that nobody else knows
-//   storage_writer steps FILE    takes step after step and prints the number of each saved receipt
-//                                and step, until it is killed
+//   storage_writer steps FILE N  takes step after step and prints the number of each saved receipt
+//                                and step, until it is killed in front of its N-th call of the disk
 
 struct KnownToTheWriter
 {
@@ -78,10 +80,12 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3)
-        return fail("usage: storage_writer open|foreign|steps FILE");
+    const int size = static_cast<int>(arguments.size());
+    if (size != (size > 1 && arguments[1] == "steps" ? 4 : 3))
+        return fail("usage: storage_writer open|foreign|steps FILE [N]");
+    FailingDisk disk(QFileInfo(arguments[2]).absolutePath());
     if (arguments[1] == "steps")
-        say("ready");
+        disk.killProcessAt(arguments[3].toInt());
     QString error;
     const auto storage = Storage::open(arguments[2], &error);
     if (!storage)

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdarg>
 #include <limits>
 #include <mutex>
@@ -22,6 +23,7 @@ struct State
     std::string fullSuffix;
     bool syncsFail = false;
     bool isReadOnly = false;
+    int callsLeft = 0; //!< until the process is killed; 0: it is not
     qint64 written = 0;
     std::set<std::string> unsynced;
 };
@@ -47,6 +49,13 @@ bool isOnDisk(const char *path)
     return state && (std::string(path) + '/').starts_with(state->directory);
 }
 
+//! Something is asked of the disk.
+void count()
+{
+    if (state->callsLeft > 0 && --state->callsLeft == 0)
+        kill(getpid(), SIGKILL);
+}
+
 //! How many of \a size bytes can be written to \a file; -1, with errno set, for none.
 ssize_t admit(const std::string &file, size_t size)
 {
@@ -67,6 +76,7 @@ ssize_t writeAt(int descriptor, const void *bytes, size_t size, off64_t offset)
 {
     const std::string file = fileOf(descriptor);
     if (!file.empty()) {
+        count();
         const ssize_t admitted = admit(file, size);
         if (admitted < 0)
             return admitted;
@@ -78,6 +88,8 @@ ssize_t writeAt(int descriptor, const void *bytes, size_t size, off64_t offset)
 int synchronise(long call, int descriptor)
 {
     const std::string file = fileOf(descriptor);
+    if (!file.empty())
+        count();
     if (!file.empty() && state->syncsFail) {
         errno = EIO;
         return -1;
@@ -90,6 +102,8 @@ int synchronise(long call, int descriptor)
 int openFile(const char *path, int flags, mode_t mode)
 {
     const bool writes = (flags & O_ACCMODE) != O_RDONLY;
+    if (isOnDisk(path))
+        count();
     if (isOnDisk(path) && state->isReadOnly && writes) {
         errno = EROFS;
         return -1;
@@ -149,6 +163,8 @@ EXPORTED int open(const char *path, int flags, ...)
 
 EXPORTED int unlink(const char *path) noexcept
 {
+    if (isOnDisk(path))
+        count();
     if (isOnDisk(path) && state->isReadOnly) {
         errno = EROFS;
         return -1;
@@ -196,6 +212,11 @@ void FailingDisk::failSyncs()
 void FailingDisk::makeReadOnly()
 {
     state->isReadOnly = true;
+}
+
+void FailingDisk::killProcessAt(int count)
+{
+    state->callsLeft = count;
 }
 
 void FailingDisk::repair()

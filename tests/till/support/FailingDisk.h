@@ -21,6 +21,8 @@ public:
     void failSyncs();
     //! Nothing can be made, removed or opened for writing.
     void makeReadOnly();
+    //! Kills this process in front of its \a count-th call of the disk from now on, 1 the next.
+    void killProcessAt(int count);
     //! The disk works again.
     void repair();
 
