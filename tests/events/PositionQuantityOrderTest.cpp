@@ -1,112 +1,15 @@
+#include "tests/events/JournalingHost.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TestPlugin.h"
 
-#include "host/ActionArguments.h"
-#include "host/ActionQueueController.h"
-#include "host/Quantity.h"
-
-#include <log4qt/appenderskeleton.h>
-#include <log4qt/logger.h>
-#include <log4qt/loggingevent.h>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <functional>
 
 // What the host is asked when goods change with their tara, and in which order: one journal of the
 // position's lookup, the log, the session and the action queue.
 
 namespace {
-
-using Journal = QStringList;
-
-class JournalingDocument : public Document
-{
-public:
-    explicit JournalingDocument(Journal &journal)
-        : m_journal(journal)
-    {
-    }
-
-    QSharedPointer<GoodsItem> getPositionByPosnum(int posnum) const override
-    {
-        m_journal << QString("look up %1").arg(posnum);
-        return Document::getPositionByPosnum(posnum);
-    }
-
-private:
-    Journal &m_journal;
-};
-
-class JournalingSession : public Session
-{
-public:
-    explicit JournalingSession(Journal &journal)
-        : m_journal(journal)
-    {
-    }
-
-    ModifiersContainer *getModifiers() override
-    {
-        m_journal << "modifiers";
-        return Session::getModifiers();
-    }
-
-    //! As `getModifiers`, without an entry.
-    ModifiersContainer &current() { return *Session::getModifiers(); }
-
-private:
-    Journal &m_journal;
-};
-
-class JournalingQueue : public ActionQueueController
-{
-public:
-    explicit JournalingQueue(Journal &journal)
-        : m_journal(journal)
-    {
-    }
-
-    int runAction(const control::Action &action) override
-    {
-        m_journal << QString("run %1").arg(action.getType());
-        actions << action;
-        if (whenRun)
-            whenRun();
-        return answer;
-    }
-
-    int answer = EContext::Continue;
-    QList<control::Action> actions;
-    std::function<void()> whenRun;
-
-private:
-    Journal &m_journal;
-};
-
-class JournalingAppender : public Log4Qt::AppenderSkeleton
-{
-public:
-    JournalingAppender(Journal &journal, std::function<QString()> group)
-        : m_journal(journal)
-        , m_group(std::move(group))
-    {
-    }
-
-    bool requiresLayout() const override { return false; }
-
-protected:
-    void append(const Log4Qt::LoggingEvent &event) override
-    {
-        m_journal << event.level().toString() + ' ' + event.message() + " [" + m_group() + ']';
-    }
-
-private:
-    Journal &m_journal;
-    std::function<QString()> m_group;
-};
 
 //! Position 3 holds 5 of goods, in the group "g"; log lines show the group as it then is.
 class PositionQuantityOrder : public testing::Test

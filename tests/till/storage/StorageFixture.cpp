@@ -1,40 +1,27 @@
 #include "tests/till/storage/StorageFixture.h"
 
 #include "tests/support/Printers.h"
+#include "tests/till/support/ApplicationEnvironment.h"
+#include "till/receipt/Limits.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
 
+#include <limits>
+
 namespace till {
 
 namespace {
-
-//! Qt SQL loads its driver through the application object.
-class Application : public testing::Environment
-{
-public:
-    void SetUp() override
-    {
-        static int argc = 1;
-        static char name[] = "till_storage_test";
-        static char *argv[] = {name, nullptr};
-        m_application = std::make_unique<QCoreApplication>(argc, argv);
-    }
-    void TearDown() override { m_application.reset(); }
-
-private:
-    std::unique_ptr<QCoreApplication> m_application;
-};
 
 void failOnMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     ADD_FAILURE() << "Qt says: " << text.toStdString();
 }
 
-testing::Environment *const application = testing::AddGlobalTestEnvironment(new Application);
+testing::Environment *const application =
+    testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
 
 } // namespace
 
@@ -165,6 +152,34 @@ ReceiptRecord StorageTest::leaveUnfinished(int count) const
 {
     ReceiptRecord record = receiptOf(count);
     save(*opened(), record);
+    return record;
+}
+
+LineRecord oddLine()
+{
+    const ArticleData article{QString::fromUtf8("Ж-1'\"%1"),
+                              QString::fromUtf8("Пиво «Тёмное» \U0001F37A\n; DROP TABLE x"),
+                              greatestSum,
+                              -7,
+                              0.1 + 0.2,
+                              0.001,
+                              QString::fromUtf8("л")};
+    return {std::numeric_limits<int>::max() - 1, article, 1.0 / 3.0, -1e9, "{group}", true};
+}
+
+ReceiptRecord withEverything()
+{
+    ReceiptRecord record{0,
+                         Document::Return,
+                         ReceiptState::Subtotal,
+                         "order 5",
+                         {"10", "", "9", "9"},
+                         std::numeric_limits<int>::max(),
+                         {lineOf(3), oddLine(), lineOf(1, -2.5)},
+                         {}};
+    record.pluginData["PackagingControl"]["taraInfo"] = QVariantList{QVariantMap{{"posnum", 1}}};
+    record.pluginData["PackagingControl"][""] = 5;
+    record.pluginData["another"]["taraInfo"] = "text";
     return record;
 }
 

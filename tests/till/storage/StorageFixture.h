@@ -61,6 +61,10 @@ private:
 
 //! A position of a plain article.
 LineRecord lineOf(int posnum, double count = 1.0);
+//! A position with something unusual in every field.
+LineRecord oddLine();
+//! A receipt that uses every field.
+ReceiptRecord withEverything();
 
 } // namespace till
 

@@ -1,6 +1,6 @@
 #include "tests/till/support/TillFixture.h"
 
-#include <QtCore/QCoreApplication>
+#include "tests/till/support/ApplicationEnvironment.h"
 
 #include <cstring>
 
@@ -8,24 +8,8 @@ namespace till {
 
 namespace {
 
-//! Qt SQL loads its driver through the application object.
-class Application : public testing::Environment
-{
-public:
-    void SetUp() override
-    {
-        static int argc = 1;
-        static char name[] = "till_command_test";
-        static char *argv[] = {name, nullptr};
-        m_application = std::make_unique<QCoreApplication>(argc, argv);
-    }
-    void TearDown() override { m_application.reset(); }
-
-private:
-    std::unique_ptr<QCoreApplication> m_application;
-};
-
-testing::Environment *const application = testing::AddGlobalTestEnvironment(new Application);
+testing::Environment *const application =
+    testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
 
 //! The plugin's own log lines go to Qt too; all else is a fault.
 void failOnMessage(QtMsgType, const QMessageLogContext &context, const QString &text)
