@@ -7,10 +7,7 @@
 namespace packaging {
 
 //! The position that \a event is about, or null when it carries none or something else.
-inline QSharedPointer<GoodsItem> eventPosition(const Event &event)
-{
-    return event.value(QStringLiteral("position"), QVariant()).value<QSharedPointer<GoodsItem>>();
-}
+GoodsItemPtr eventPosition(const Event &event);
 
 } // namespace packaging
 

@@ -14,16 +14,17 @@ build=build/coverage
 cmake --preset coverage >/dev/null
 cmake --build --preset coverage >"$build/build.log" 2>&1 || { cat "$build/build.log" >&2; exit 1; }
 
-# The installed tree is built anew by its own tests, which tells nothing more about these lines; and
-# no exception can pass through a plugin that was compiled without them.
+# The installed tree is built anew by its own tests, which tells nothing more about these lines.
 find "$build" -name '*.gcda' -delete
-ctest --preset coverage -j "$(nproc)" -E '^Install\.|MemoryRunsOut|HostException|ThatThrows' --quiet --output-log "$build/tests.log" \
+ctest --preset coverage -j "$(nproc)" -E '^Install\.' --quiet --output-log "$build/tests.log" \
     || { tail -n 100 "$build/tests.log" >&2; exit 1; }
 
-# The plugin's modules are read from the plugin's own objects: a header that a test includes is
-# compiled with exceptions there.
+# The plugin's modules are read from the plugin's own objects, not from the tests that include their
+# headers. The branches that count are those of the code: each call has one of the compiler's besides,
+# for an exception that passes.
 plugin=$(find "$build" -type d -name PackagingControlObjects.dir)
 gcovr --root . --json "$build/plugin.json" --gcov-ignore-parse-errors \
+    --exclude-throw-branches --exclude-unreachable-branches \
     --filter 'plugin/' --filter 'registry/' --filter 'events/' --filter 'triggers/' "$plugin"
 gcovr --root . --json "$build/all.json" --gcov-ignore-parse-errors \
     --filter 'host/' --filter 'till/' "$build"
