@@ -54,7 +54,9 @@ bool PackagingControl::stornoAllEmptyTara(const control::Action &)
         MockFactory<DocumentLogic>::create()->stornoPosition(storno);
         if (document != receipt) // the host has switched receipts
             return false;
-        if (receipt->getPositionByPosnum(tara->posnum) || receipt->getPositionList().isEmpty())
+        if (receipt->getPositionByPosnum(tara->posnum))
+            return false;
+        if (receipt->getPositionList().isEmpty())
             return false;
     }
     return true;
