@@ -2,12 +2,10 @@
 
 namespace till {
 
-QString countFault(double count)
+bool isCount(double count)
 {
     constexpr double halfAThousandth = 0.0005; // counts are kept to three decimals
-    if (count < greatestCount + halfAThousandth)
-        return {};
-    return "the quantity must not be above " + toText(greatestCount);
+    return count < greatestCount + halfAThousandth;
 }
 
 } // namespace till

@@ -10,8 +10,8 @@ constexpr double greatestCount = 999'999.999;
 //! The greatest sum of a receipt: what a cashier can type, far from where sums would overflow.
 constexpr Kopecks greatestSum = 99'999'999'999'999;
 
-//! Why \a count pieces cannot stand in one position; empty when they can.
-QString countFault(double count);
+//! Whether \a count pieces can stand in one position. What is not a number cannot.
+bool isCount(double count);
 
 } // namespace till
 

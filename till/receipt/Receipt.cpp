@@ -96,16 +96,11 @@ Kopecks Receipt::sumWithout(const Position *omitted) const
     return sum;
 }
 
-QString Receipt::limitFault(const ArticleData &article, double count,
-                            const Position *replaced) const
+bool Receipt::hasPlaceFor(const ArticleData &article, double count, const Position *replaced) const
 {
-    if (const QString fault = countFault(count); !fault.isEmpty())
-        return fault;
     const double sum =
         static_cast<double>(article.price) * count + static_cast<double>(sumWithout(replaced));
-    if (sum > static_cast<double>(greatestSum))
-        return "the sum of the receipt must not be above " + toText(greatestSum);
-    return {};
+    return isCount(count) && sum <= static_cast<double>(greatestSum);
 }
 
 void Receipt::setDocumentSwitch(bool on)

@@ -37,11 +37,11 @@ public:
     QSharedPointer<Position> line(int posnum) const;
 
     /*!
-     * Why \a count pieces of \a article cannot stand in the receipt, in place of \a replaced when
-     * it is not null; empty when they can.
+     * Whether \a count pieces of \a article can stand in the receipt, in place of \a replaced when
+     * it is not null.
      */
-    QString limitFault(const ArticleData &article, double count,
-                       const Position *replaced = nullptr) const;
+    bool hasPlaceFor(const ArticleData &article, double count,
+                     const Position *replaced = nullptr) const;
 
     //! Appends \a count pieces of \a article under the next free number.
     QSharedPointer<Position> add(const QSharedPointer<Article> &article, double count);

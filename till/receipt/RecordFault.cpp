@@ -13,13 +13,7 @@ namespace {
 //! More than a catalogue can say of one piece, in base units.
 constexpr double greatestPack = 1e9;
 
-// Of what is no number no comparison holds.
-
-bool isCount(double count)
-{
-    return std::abs(count) < greatestCount + 0.0005; // counts are kept to three decimals
-}
-
+//! What is not a number is none either.
 bool isBase(double base)
 {
     return std::abs(base) <= greatestCount * greatestPack;
@@ -30,7 +24,7 @@ QString lineFault(const LineRecord &line)
     const ArticleData &article = line.article;
     if (article.price < 0 || article.price > greatestSum)
         return QStringLiteral("a price out of range");
-    if (!isCount(line.count) || !isBase(line.base))
+    if (!isCount(std::abs(line.count)) || !isBase(line.base))
         return QStringLiteral("a quantity out of range");
     if (!(article.pack > 0.0 && article.pack <= greatestPack))
         return QStringLiteral("a pack out of range");

@@ -33,7 +33,7 @@ QVariantList toVariants(const QList<Value> &values)
 //! Of a command that would leave \a count in a position, and so exceed a limit.
 Outcome aboveLimit(double count)
 {
-    if (!countFault(count).isEmpty())
+    if (!isCount(count))
         return Outcome::mistake(messages::tillCountTooGreat(), {toText(greatestCount)});
     return Outcome::mistake(messages::tillSumTooGreat(), {toText(greatestSum)});
 }
@@ -57,7 +57,7 @@ Outcome Register::execute(const command::Add &add)
         return Outcome::mistake(messages::tillNoArticle(), {add.article});
     if (add.count <= 0)
         return Outcome::mistake(messages::tillCountTooSmall());
-    if (!m_receipt->limitFault(article->data, add.count).isEmpty())
+    if (!m_receipt->hasPlaceFor(article->data, add.count))
         return aboveLimit(add.count);
     return perform(control::Action(
         control::AddPosition, {{argument::article, add.article}, {argument::count, add.count}}));
@@ -70,7 +70,7 @@ Outcome Register::execute(const command::ChangeCount &change)
     if (change.count < 0)
         return Outcome::mistake(messages::tillCountNegative());
     const auto line = m_receipt->line(change.posnum);
-    if (!m_receipt->limitFault(line->article(), change.count, line.get()).isEmpty())
+    if (!m_receipt->hasPlaceFor(line->article(), change.count, line.get()))
         return aboveLimit(change.count);
     const double base = change.count * line->article().pack;
     m_services.modifiers().set(modifiers::Quantity,
@@ -122,7 +122,7 @@ Outcome Register::execute(const command::Unite &unite)
                                     {QString::number(posnums[0]), QString::number(posnum)});
         count += m_receipt->line(posnum)->getCquant();
     }
-    if (!countFault(count).isEmpty())
+    if (!isCount(count))
         return aboveLimit(count);
     return perform(
         control::Action(control::UnitePositions, {{argument::positions, toVariants(posnums)}}));
@@ -188,7 +188,7 @@ Outcome Register::execute(const command::Cancel &)
         return Outcome::mistake(messages::tillNoReceipt());
     if (!ask(messages::tillCancelReceipt(), messages::tillYes(), messages::tillNo()))
         return keep(EContext::Cancel);
-    return keep(run(control::Action(control::CancelReceipt, {})));
+    return perform(control::Action(control::CancelReceipt, {}));
 }
 
 Outcome Register::checkPosition(int posnum) const
