@@ -64,10 +64,15 @@ Finding listType()
                    QStringLiteral("GoodsItemPtrList is no QList<QSharedPointer<GoodsItem>>")}});
 }
 
+template <class T, class = void>
+constexpr bool isGadget = false;
+template <class T>
+constexpr bool isGadget<T, std::void_t<decltype(T::staticMetaObject)>> = true;
+
 Finding quantityType()
 {
     const QMetaType type = QMetaType::fromType<Quantity>();
-    return judge({{type.flags().testFlag(QMetaType::IsGadget), QStringLiteral("no Q_GADGET")},
+    return judge({{isGadget<Quantity>, QStringLiteral("no Q_GADGET")},
                   {type.isEqualityComparable(), QStringLiteral("quantities cannot be compared")}});
 }
 
