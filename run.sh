@@ -13,7 +13,15 @@ need_packages "${build_packages[@]}"
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 [ -d "$top/build/release" ] || echo "Building (about a minute the first time) ..." >&2
-if ! (cd "$top" && cmake --preset release && cmake --build --preset release) >"$log" 2>&1; then
+# How far it is, where somebody waits for it.
+progress() {
+    local line
+    while read -r line; do
+        [[ ! -t 2 || ! $line =~ ^\[[0-9]+/[0-9]+\] ]] || printf '\r%s ' "${BASH_REMATCH[0]}" >&2
+    done
+    [ ! -t 2 ] || printf '\r\033[K' >&2
+}
+if ! (cd "$top" && cmake --preset release && cmake --build --preset release) 2>&1 | tee "$log" | progress; then
     cat "$log" >&2
     exit 1
 fi

@@ -2,7 +2,7 @@
 # Builds everything and runs all tests. Arguments go to ctest: ./test.sh -R Receipt
 #
 # What is tried at random is the same every time. TEST_SEED=N ./test.sh tries something else, and
-# TEST_EFFORT=10 ./test.sh ten times as much.
+# TEST_EFFORT=10 ./test.sh ten times as much. CXX=g++ ./test.sh builds with GCC instead of Clang.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 # shellcheck source=scripts/dependencies.sh
@@ -12,7 +12,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 need_packages "${build_packages[@]}" "${test_packages[@]}"
 export TEST_SEED=${TEST_SEED:-20240607}
-cmake --preset dev
+configure_dev
 cmake --build --preset dev
 
 rm -f build/dev/Testing/Temporary/LastTest.log

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs the tests on a build that counts lines and branches, and fails where too few of them ran:
+# Runs the tests on a build with GCC that counts lines and branches, and fails where too few of them ran:
 # all of the plugin's modules, and 95 % of the lines of the host library and of the till.
 # scripts/coverage.sh --html also writes the pages build/coverage-html/index.html.
 set -euo pipefail
@@ -11,13 +11,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}"
 build=build/coverage
-cmake --preset coverage >/dev/null
+CXX=g++ cmake --preset coverage >/dev/null
 cmake --build --preset coverage >"$build/build.log" 2>&1 || { cat "$build/build.log" >&2; exit 1; }
 
 # The installed tree is built anew by its own tests, which tells nothing more about these lines.
 find "$build" -name '*.gcda' -delete
 ctest --preset coverage -j "$(nproc)" -E '^Install\.' --quiet --output-log "$build/tests.log" \
     || { tail -n 100 "$build/tests.log" >&2; exit 1; }
+figure "Tests (GCC)" "$(tests_told "$build")"
 
 # The plugin's modules are read from the plugin's own objects, not from the tests that include their
 # headers. The branches that count are those of the code: each call has one of the compiler's besides,

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Plays README's two commands in a bare root of another Debian, and says what it saw.
+# Plays README's two commands in a bare root of another Debian, the tests with GCC too, and says what it
+# saw.
 #
 #   scripts/other-debian.sh trixie          makes the root anew
 #   scripts/other-debian.sh trixie --again  uses the one that is there, with its packages
@@ -49,9 +50,9 @@ as_root git -c safe.directory='*' clone -q --no-hardlinks . "$root/root/project"
 
 inside sh -c '. /etc/os-release && echo "$PRETTY_NAME"'
 failed=0
-for command in ./run.sh ./test.sh; do
+for command in ./run.sh ./test.sh "CXX=g++ ./test.sh"; do
     began=$SECONDS
-    name=$log/$(basename "$command" .sh).log
+    name=$log/${command//[^a-z]/}.log
     if inside sh -c "cd /root/project && $command" >"$name" 2>&1; then
         echo "$command: passed in $((SECONDS - began)) s: $(tail -n 1 "$name")"
     else

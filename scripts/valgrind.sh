@@ -11,7 +11,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}"
 mkdir -p build
 log=build/valgrind.log
-if ! { cmake --preset dev && cmake --build --preset dev --target plugin_session; } >"$log" 2>&1; then
+if ! { configure_dev && cmake --build --preset dev --target plugin_session; } >"$log" 2>&1; then
     cat "$log" >&2
     exit 1
 fi

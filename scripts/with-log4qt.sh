@@ -54,6 +54,7 @@ targets=()
 
 rm -rf "$build/build"
 cmake -S . -B "$build/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DBUILD_TESTING=ON \
+    -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 \
     -DCMAKE_PREFIX_PATH="$prefix" | tee "$build/configure.log" | grep 'Log4Qt' || true
 if ! grep -q "Log4Qt found in $prefix/" "$build/configure.log"; then
     echo "There is no package of Log4Qt in $prefix." >&2

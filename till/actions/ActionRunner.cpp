@@ -156,7 +156,7 @@ EContext::Result ActionRunner::applyModifiers(const control::Action &action, Ori
     const auto position = m_receipt->line(posnum);
     const double base = quantity.value<Quantity>().amount();
     const ArticleData &article = position->article();
-    if (!m_receipt->limitFault(article, base / article.pack, position.get()).isEmpty())
+    if (!m_receipt->hasPlaceFor(article, base / article.pack, position.get()))
         return EContext::Error;
     position->setBase(base);
     m_receipt->setState(ReceiptState::Open);
