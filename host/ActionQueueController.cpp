@@ -17,3 +17,5 @@ int ActionQueueController::runAction(const control::Action &action)
     Q_UNUSED(action)
     return EContext::Cancel;
 }
+
+#include "moc_ActionQueueController.cpp"

@@ -6,3 +6,5 @@ BaseActivityListener::BaseActivityListener(QObject *parent)
 }
 
 BaseActivityListener::~BaseActivityListener() = default;
+
+#include "moc_BaseActivityListener.cpp"

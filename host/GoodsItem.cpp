@@ -55,3 +55,5 @@ void GoodsItem::setGroupId(const QString &groupId)
 {
     m_groupId = groupId;
 }
+
+#include "moc_GoodsItem.cpp"

@@ -20,3 +20,5 @@ bool Quantity::operator==(const Quantity &other) const
 {
     return m_amount == other.m_amount && m_mode == other.m_mode;
 }
+
+#include "moc_Quantity.cpp"

@@ -139,3 +139,6 @@ Logger *LogManager::logger(const QString &name)
 }
 
 } // namespace Log4Qt
+
+#include "log4qt/moc_appender.cpp"
+#include "log4qt/moc_appenderskeleton.cpp"

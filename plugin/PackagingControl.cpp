@@ -111,3 +111,5 @@ QSharedPointer<GoodsItem> PackagingControl::findPosition(int posnum) const
 {
     return document ? document->getPositionByPosnum(posnum) : nullptr;
 }
+
+#include "moc_PackagingControl.cpp"

@@ -58,7 +58,7 @@ foreach(folder ${folders})
             set(path "${CMAKE_MATCH_1}")
             folder_of("${path}" target)
             # A header of ours is named from the project's top, so that it can be seen here.
-            if(include MATCHES "\"" AND NOT target AND NOT path MATCHES "\\.moc$")
+            if(include MATCHES "\"" AND NOT target AND NOT path MATCHES "\\.moc$|^moc_.*\\.cpp$")
                 list(APPEND faults "${source}: ${path} is not named from the project's top")
             elseif(target AND NOT target IN_LIST known_by_${folder})
                 list(APPEND faults "${source} includes ${path}")
