@@ -174,7 +174,8 @@ EContext::Result ActionRunner::storno(const control::Action &action)
     if (!m_receipt->getPositionByPosnum(arguments.positionNumber()))
         return EContext::Error;
     if (!arguments.withoutDialog()
-        && !m_program.ask(messages::tillStornoPosition(), messages::tillYes(), messages::tillNo()))
+        && !m_program.ask(
+            {messages::tillStornoPosition(), messages::tillYes(), messages::tillNo()}))
         return EContext::Cancel;
     return remove(arguments.positionNumber());
 }

@@ -19,6 +19,14 @@ namespace till {
 
 namespace {
 
+//! What is asked and shown outlives the call that brings it. A plugin's text may lie in memory that
+//! does not (`QString::fromRawData`), so it is copied here, where it enters.
+tr::Tr entered(const tr::Tr &text)
+{
+    const auto copied = [](const QString &part) { return QString(part.constData(), part.size()); };
+    return {copied(text.key()), copied(text.text())};
+}
+
 class Queue : public ActionQueueController
 {
 public:
@@ -63,7 +71,7 @@ public:
     {
         Q_UNUSED(kind)
         Q_UNUSED(flags)
-        return m_program.ask(question, confirm, cancel);
+        return m_program.ask({entered(question), entered(confirm), entered(cancel)});
     }
 
 private:
@@ -152,7 +160,7 @@ public:
 
     void handleEvent(const Event &event) override
     {
-        m_program.show(event.value("errorText", {}).value<tr::Tr>());
+        m_program.show(entered(event.value("errorText", {}).value<tr::Tr>()));
     }
 
 private:

@@ -5,7 +5,7 @@
 #include "host/Action.h"
 #include "host/Config.h"
 #include "host/Session.h"
-#include "host/Tr.h"
+#include "till/actions/Front.h"
 #include "till/course/Notes.h"
 
 #include <memory>
@@ -16,16 +16,12 @@ class LoyaltySystemLayer;
 
 namespace till {
 
-//! What the host's services ask of the register behind them.
-class HostProgram
+//! What the host's services ask of the register behind them: they take it for their front, too.
+class HostProgram : public Front
 {
 public:
     //! Carries \a action out now, nested in what runs already; an `EContext::Result`.
     virtual int runQueued(const control::Action &action) = 0;
-    //! Asks the cashier. True when \a confirm is taken.
-    virtual bool ask(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel) = 0;
-    //! Shows a message to the cashier.
-    virtual void show(const tr::Tr &message) = 0;
 
 protected:
     ~HostProgram() = default;

@@ -17,6 +17,14 @@ struct Message
     bool operator==(const Message &) const = default;
 };
 
+//! A question to the cashier, with the two choices.
+struct Question
+{
+    tr::Tr text;
+    tr::Tr confirm; //!< the choice that says yes
+    tr::Tr cancel;
+};
+
 } // namespace till
 
 #endif // TILL_LANGUAGE_MESSAGE_H

@@ -72,16 +72,6 @@ void CashDesk::switchOff()
         m_loader.unload();
 }
 
-void CashDesk::setFront(Register::Asker asker, Register::Shower shower)
-{
-    m_asker = std::move(asker);
-    m_shower = std::move(shower);
-    if (m_register) {
-        m_register->setAsker(m_asker);
-        m_register->setShower(m_shower);
-    }
-}
-
 QString CashDesk::readSettings()
 {
     m_settings.emplace();
@@ -129,9 +119,7 @@ QString CashDesk::startRegister()
 {
     m_notes.add("start", {{"database", m_setup.database}, {"plugin", m_setup.plugin}});
     m_register = std::make_unique<Register>(Register::Parts{
-        *m_catalogue, *m_storage, m_plugin ? &*m_plugin : nullptr, *m_settings, m_notes});
-    m_register->setAsker(m_asker);
-    m_register->setShower(m_shower);
+        *m_catalogue, *m_storage, m_plugin ? &*m_plugin : nullptr, *m_settings, m_notes, &m_front});
     return m_register->start();
 }
 

@@ -69,8 +69,8 @@ public:
     //! The copy that was made of a database of the format before; empty when there was none.
     QString copyBefore() const { return m_storage ? m_storage->copyBefore() : QString(); }
 
-    //! Who answers questions and shows messages; kept over restarts.
-    void setFront(Register::Asker asker, Register::Shower shower);
+    //! Where a front is installed that answers questions and shows messages, over restarts.
+    FrontPlace &front() { return m_front; }
 
 private:
     //! Does \a step unless the till is busy.
@@ -85,8 +85,7 @@ private:
 
     Setup m_setup;
     Notes &m_notes;
-    Register::Asker m_asker;
-    Register::Shower m_shower;
+    FrontPlace m_front;
     std::optional<Config> m_settings; //!< made anew at each start
     std::optional<Catalogue> m_catalogue;
     std::unique_ptr<Storage> m_storage;

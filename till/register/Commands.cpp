@@ -186,7 +186,7 @@ Outcome Register::execute(const command::Cancel &)
 {
     if (!isInHand())
         return Outcome::mistake(messages::tillNoReceipt());
-    if (!ask(messages::tillCancelReceipt(), messages::tillYes(), messages::tillNo()))
+    if (!ask({messages::tillCancelReceipt(), messages::tillYes(), messages::tillNo()}))
         return keep(EContext::Cancel);
     return perform(control::Action(control::CancelReceipt, {}));
 }

@@ -8,25 +8,11 @@
 
 namespace till {
 
-namespace {
-
-QString copied(const QString &text)
-{
-    return QString(text.constData(), text.size());
-}
-
-//! A copy that shares nothing: a plugin's text may lie in its image, which a restart takes away.
-tr::Tr copied(const tr::Tr &message)
-{
-    return {copied(message.key()), copied(message.text())};
-}
-
-} // namespace
-
 Register::Register(const Parts &parts)
     : m_catalogue(parts.catalogue)
     , m_storage(parts.storage)
     , m_plugin(parts.plugin)
+    , m_front(parts.front)
     , m_notes(parts.notes)
     , m_receiptNotes(parts.notes)
     , m_services(*this, parts.notes, parts.settings)
@@ -97,20 +83,21 @@ int Register::runQueued(const control::Action &action)
     return m_runner.run(action, ActionRunner::Origin::Program);
 }
 
-bool Register::ask(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel)
+bool Register::ask(const Question &question)
 {
-    m_notes.add("question", {{"key", question.key()}, {"text", question.text()}});
-    const bool answer = m_asker && m_asker(copied(question), copied(confirm), copied(cancel));
-    m_notes.add("answer", {{"key", answer ? confirm.key() : cancel.key()}, {"confirmed", answer}});
+    m_notes.add("question", {{"key", question.text.key()}, {"text", question.text.text()}});
+    const bool answer = m_front && m_front->ask(question);
+    const tr::Tr &taken = answer ? question.confirm : question.cancel;
+    m_notes.add("answer", {{"key", taken.key()}, {"confirmed", answer}});
     return answer;
 }
 
 void Register::show(const tr::Tr &message)
 {
-    m_shown = copied(message);
+    m_shown = message;
     m_notes.add("message", {{"key", message.key()}, {"text", message.text()}});
-    if (m_shower)
-        m_shower(m_shown);
+    if (m_front)
+        m_front->show(message);
 }
 
 bool Register::isInHand() const

@@ -26,30 +26,21 @@ namespace till {
 class Register final : private HostProgram
 {
 public:
-    //! What a register is made of. All must outlive it; `plugin` may be null.
+    //! What a register is made of. All must outlive it.
     struct Parts
     {
         const Catalogue &catalogue;
         Storage &storage;
-        const LoadedPlugin *plugin;
+        const LoadedPlugin *plugin; //!< may be null
         Config &settings;
         Notes &notes;
+        Front *front = nullptr; //!< without one every question is answered no
     };
-
-    //! Answers questions in the cashier's place. True takes the confirming choice. The texts are
-    //! copies that outlive the plugin.
-    using Asker =
-        std::function<bool(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel)>;
-    //! Shows a message to the cashier; a copy as well.
-    using Shower = std::function<void(const tr::Tr &message)>;
 
     //! Puts the host's services in place. They are the process's, so that one register can be on.
     explicit Register(const Parts &parts);
     ~Register();
     Q_DISABLE_COPY_MOVE(Register)
-
-    void setAsker(Asker asker) { m_asker = std::move(asker); }
-    void setShower(Shower shower) { m_shower = std::move(shower); }
 
     /*!
      * Initialises the plugin and takes up the receipt that was in hand when the register ended, if
@@ -76,7 +67,7 @@ public:
 
 private:
     int runQueued(const control::Action &action) override;
-    bool ask(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel) override;
+    bool ask(const Question &question) override;
     void show(const tr::Tr &message) override;
 
     Outcome execute(const command::Open &open);
@@ -110,12 +101,11 @@ private:
     const Catalogue &m_catalogue;
     Storage &m_storage;
     const LoadedPlugin *m_plugin;
+    Front *m_front;
     Notes &m_notes;
     ReceiptNotes m_receiptNotes;
     HostServices m_services;
     ActionRunner m_runner;
-    Asker m_asker;
-    Shower m_shower;
     QSharedPointer<Receipt> m_receipt;
     Journal m_journal; //!< of the command that is under way
     tr::Tr m_shown;    //!< the last message of that command

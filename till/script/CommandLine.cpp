@@ -35,7 +35,7 @@ const QList<CommandLine::Row> &CommandLine::ownRows()
          &CommandLine::queueAnswer,
          true,
          true},
-        {{"show", "", "show the receipt", 0, 0}, &CommandLine::show, true},
+        {{"show", "", "show the receipt", 0, 0}, &CommandLine::showReceipt, true},
         {{"articles", "[TEXT]", "list the catalogue, or the articles that contain a text", 0, 1},
          &CommandLine::articles,
          true},
@@ -65,25 +65,21 @@ const QList<CommandLine::Row> &CommandLine::ownRows()
 }
 
 CommandLine::CommandLine(CashDesk &desk, Notes &notes, const Translator &translator, Style style,
-                         Front front)
+                         Person person)
     : m_desk(desk)
     , m_notes(notes)
     , m_translator(translator)
     , m_view(translator, style)
-    , m_front(std::move(front))
+    , m_person(std::move(person))
+    , m_answers(*this,
+                [this](const Question &question, bool answer) { printAnswered(question, answer); })
+    , m_installed(desk.front(), m_answers)
 {
     m_notes.listen(this, [this](const QJsonObject &note) { hear(note); });
-    m_desk.setFront([this](const tr::Tr &question, const tr::Tr &confirm,
-                           const tr::Tr &cancel) { return answer(question, confirm, cancel); },
-                    [this](const tr::Tr &message) {
-                        m_heard.messages.append(message);
-                        print(m_view.renderMessage(message));
-                    });
 }
 
 CommandLine::~CommandLine()
 {
-    m_desk.setFront({}, {});
     m_notes.forget(this);
 }
 
@@ -148,23 +144,29 @@ QString CommandLine::leftOver() const
 {
     if (!m_unanswered.isEmpty())
         return "no answer was given to: " + m_unanswered.join(", ");
-    if (!m_answers.isEmpty())
-        return QString("%1 answer(s) were given that nobody asked for").arg(m_answers.size());
+    if (m_answers.waiting() > 0)
+        return QString("%1 answer(s) were given that nobody asked for").arg(m_answers.waiting());
     return {};
 }
 
-bool CommandLine::answer(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel)
+bool CommandLine::ask(const Question &question)
 {
-    m_heard.questions.append(question);
-    const QString text = m_view.renderQuestion(question, confirm, cancel);
-    if (m_answers.isEmpty() && m_front.ask)
-        return m_front.ask(text);
-    const bool isAnswered = !m_answers.isEmpty();
-    const bool answer = isAnswered && m_answers.takeFirst();
-    if (!isAnswered)
-        m_unanswered.append(question.key());
-    print(text + "  → " + m_translator.text(answer ? confirm : cancel));
-    return answer;
+    if (m_person.ask)
+        return m_person.ask(m_view.renderQuestion(question));
+    m_unanswered.append(question.text.key());
+    printAnswered(question, false);
+    return false;
+}
+
+void CommandLine::show(const tr::Tr &message)
+{
+    print(m_view.renderMessage(message));
+}
+
+void CommandLine::printAnswered(const Question &question, bool answer) const
+{
+    const tr::Tr &taken = answer ? question.confirm : question.cancel;
+    print(m_view.renderQuestion(question) + "  → " + m_translator.text(taken));
 }
 
 void CommandLine::hear(const QJsonObject &note)
@@ -172,8 +174,13 @@ void CommandLine::hear(const QJsonObject &note)
     static const QStringList touching{"action", "takeup"};
     const QString kind = note.value("kind").toString();
     m_hasTouchedReceipt = m_hasTouchedReceipt || touching.contains(kind);
+    const QString text = note.value("text").toString();
     if (kind == QLatin1String("log"))
-        m_heard.log.append(note.value("text").toString());
+        m_heard.log.append(text);
+    if (kind == QLatin1String("message"))
+        m_heard.messages.append({note.value("key").toString(), text});
+    if (kind == QLatin1String("question"))
+        m_heard.questions.append({note.value("key").toString(), text});
 }
 
 QString CommandLine::renderReceipt() const

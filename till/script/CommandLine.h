@@ -5,6 +5,7 @@
 #include "till/register/CashDesk.h"
 #include "till/register/Outcome.h"
 #include "till/script/Expectations.h"
+#include "till/script/PreparedAnswers.h"
 #include "till/script/Usage.h"
 #include "till/view/ReceiptView.h"
 
@@ -19,20 +20,20 @@ namespace till {
  * separated by spaces, quoted where they hold spaces. Empty lines and lines that begin with "#" do
  * nothing.
  */
-class CommandLine
+class CommandLine final : private Front
 {
 public:
     //! How commands reach a person.
-    struct Front
+    struct Person
     {
         std::function<void(const QString &text)> print; //!< shows whole lines
         //! Asks a person; empty where nobody can be asked. True takes the confirming choice.
         std::function<bool(const QString &question)> ask;
     };
 
-    //! All must outlive this object.
+    //! Installs itself as the front of \a desk. All must outlive this object.
     CommandLine(CashDesk &desk, Notes &notes, const Translator &translator, Style style,
-                Front front);
+                Person person);
     ~CommandLine();
     Q_DISABLE_COPY_MOVE(CommandLine)
 
@@ -72,11 +73,13 @@ private:
     Outcome runWords(const QStringList &words, const QString &text);
     Outcome carryOut(const QStringList &words, const QString &text);
     Outcome runOwn(const QStringList &words);
-    bool answer(const tr::Tr &question, const tr::Tr &confirm, const tr::Tr &cancel);
+    bool ask(const Question &question) override;
+    void show(const tr::Tr &message) override;
+    void printAnswered(const Question &question, bool answer) const;
     void hear(const QJsonObject &note);
 
     Outcome queueAnswer(const QStringList &words);
-    Outcome show(const QStringList &words);
+    Outcome showReceipt(const QStringList &words);
     Outcome articles(const QStringList &words);
     Outcome log(const QStringList &words);
     Outcome say(const QStringList &words);
@@ -87,16 +90,17 @@ private:
     Outcome quit(const QStringList &words);
 
     Register &cashRegister() { return m_desk.cashRegister(); }
-    void print(const QString &text) const { m_front.print(text); }
+    void print(const QString &text) const { m_person.print(text); }
 
     CashDesk &m_desk;
     Notes &m_notes;
     const Translator &m_translator;
     ReceiptView m_view;
-    Front m_front;
+    Person m_person;
     Heard m_heard; //!< since the last command that is no "expect", "answer" or "show"
-    QList<bool> m_answers;
-    QStringList m_unanswered;
+    PreparedAnswers m_answers;
+    QStringList m_unanswered; //!< keys of the questions that nobody was there to answer
+    const InstalledFront m_installed;
     bool m_hasTouchedReceipt = false;
     bool m_hasQuit = false;
 };

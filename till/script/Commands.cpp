@@ -19,7 +19,7 @@ Outcome CommandLine::queueAnswer(const QStringList &words)
     return Outcome::done();
 }
 
-Outcome CommandLine::show(const QStringList &words)
+Outcome CommandLine::showReceipt(const QStringList &words)
 {
     Q_UNUSED(words)
     if (!cashRegister().receipt())

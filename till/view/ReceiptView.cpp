@@ -166,14 +166,13 @@ QString ReceiptView::render(const Receipt &receipt, const TaraState &taras,
     return Rendering(text, m_style).text();
 }
 
-QString ReceiptView::renderQuestion(const tr::Tr &question, const tr::Tr &confirm,
-                                    const tr::Tr &cancel) const
+QString ReceiptView::renderQuestion(const Question &question) const
 {
     TextPage page(m_style);
-    writeBehind(page, QStringLiteral("? "), m_translator.text(question), Paint::Bold);
-    const QString choices =
-        QStringLiteral("[%1] [%2]")
-            .arg(printable(m_translator.text(confirm)), printable(m_translator.text(cancel)));
+    writeBehind(page, QStringLiteral("? "), m_translator.text(question.text), Paint::Bold);
+    const QString choices = QStringLiteral("[%1] [%2]")
+                                .arg(printable(m_translator.text(question.confirm)),
+                                     printable(m_translator.text(question.cancel)));
     page.write(gap() + choices);
     return page.text();
 }

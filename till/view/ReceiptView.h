@@ -28,8 +28,7 @@ public:
     QString render(const Receipt &receipt, const TaraState &taras, TaraControl control) const;
 
     //! A question and below it the two choices.
-    QString renderQuestion(const tr::Tr &question, const tr::Tr &confirm,
-                           const tr::Tr &cancel) const;
+    QString renderQuestion(const Question &question) const;
 
     //! A message or a refusal.
     QString renderMessage(const tr::Tr &message) const;

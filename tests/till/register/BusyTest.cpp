@@ -3,6 +3,7 @@
 #include "host/ActionQueueController.h"
 #include "host/EContext.h"
 #include "host/Singleton.h"
+#include "tests/till/support/TestFront.h"
 #include "tests/till/support/TillFixture.h"
 
 // A question, a message or a note may run an event loop, and so bring the next command in the
@@ -37,12 +38,10 @@ protected:
     //! Every question is answered with a yes, once \a attempt was made.
     void whenAsked(const std::function<void()> &attempt)
     {
-        till->setFront(
-            [attempt](const tr::Tr &, const tr::Tr &, const tr::Tr &) {
-                attempt();
-                return true;
-            },
-            {});
+        front.asked = [attempt](const Question &) {
+            attempt();
+            return true;
+        };
     }
 
     void expectBusy(const Outcome &outcome)
@@ -66,6 +65,8 @@ protected:
     }
 
     int attempts = 0;
+    TestFront front;
+    const InstalledFront installed{till->front(), front};
 };
 
 TEST_F(Busy, CommandWithinAQuestion_IsRefused)
@@ -105,7 +106,7 @@ TEST_F(Busy, LineWithinAQuestion_IsRefused)
 
 TEST_F(Busy, CommandWithinAMessage_IsRefused)
 {
-    till->setFront({}, [this](const tr::Tr &) { tryEveryCommand(); });
+    front.shown = [this](const tr::Tr &) { tryEveryCommand(); };
     EXPECT_EQ(carryOut(command::Pay{1}).reason.key(), QString("tillNotEnoughMoney"));
     EXPECT_EQ(attempts, everyCommand().size());
     expect({"positions 2", "state subtotal"});

@@ -22,7 +22,7 @@ protected:
             return answer;
         };
         commands = std::make_unique<CommandLine>(*till, notes, *translator, Style(),
-                                                 CommandLine::Front{[](const QString &) {}, ask});
+                                                 CommandLine::Person{[](const QString &) {}, ask});
     }
 
     QStringList asked;

@@ -62,7 +62,7 @@ void TillTest::start(const till::Setup &setup, const QString &language)
     ASSERT_EQ(error.toStdString(), "");
     const auto print = [this](const QString &text) { printed.append(text); };
     commands = std::make_unique<CommandLine>(*till, notes, *translator, Style(),
-                                             CommandLine::Front{print, {}});
+                                             CommandLine::Person{print, {}});
 }
 
 void TillTest::done(const QStringList &lines)

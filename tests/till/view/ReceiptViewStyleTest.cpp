@@ -63,7 +63,7 @@ TEST_F(ReceiptViewStyle, EscapesInEveryText_AreKeptFromTheTerminal)
     const tr::Tr hostile(escape, escape);
 
     EXPECT_FALSE(shown().contains('\x1b'));
-    EXPECT_FALSE(view().renderQuestion(hostile, hostile, hostile).contains('\x1b'));
+    EXPECT_FALSE(view().renderQuestion({hostile, hostile, hostile}).contains('\x1b'));
 }
 
 tr::Tr emptyTara()
@@ -74,8 +74,8 @@ tr::Tr emptyTara()
 
 TEST_F(ReceiptViewStyle, Question_ShowsItsLinesAndTheChoices)
 {
-    const QString question = view().renderQuestion(emptyTara(), {"dialogChoiceOk", "ОК"},
-                                                   {"dialogChoiceCancel", "Отмена"});
+    const QString question = view().renderQuestion(
+        {emptyTara(), {"dialogChoiceOk", "ОК"}, {"dialogChoiceCancel", "Отмена"}});
 
     EXPECT_EQ(question, "? В чеке есть пустая тара.\n"
                         "  Сторнировать тару и перейти к оплате?\n"
@@ -85,8 +85,8 @@ TEST_F(ReceiptViewStyle, Question_ShowsItsLinesAndTheChoices)
 TEST_F(ReceiptViewStyle, QuestionInEnglish_ShowsItsLinesAndTheChoices)
 {
     language = "en";
-    const QString question = view().renderQuestion(emptyTara(), {"dialogChoiceOk", "ОК"},
-                                                   {"dialogChoiceCancel", "Отмена"});
+    const QString question = view().renderQuestion(
+        {emptyTara(), {"dialogChoiceOk", "ОК"}, {"dialogChoiceCancel", "Отмена"}});
 
     EXPECT_EQ(question, "? There is empty tara in the receipt.\n"
                         "  Storno the tara and go on to payment?\n"

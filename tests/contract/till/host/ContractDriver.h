@@ -16,7 +16,7 @@
 namespace till {
 
 //! The till, driven by the kit. One receipt, of a shop that sells what the kit asks for.
-class KitDriver : public contract::Driver
+class KitDriver : public contract::Driver, private Front
 {
 public:
     void start(bool allowSaleEmptyTara) override
@@ -39,12 +39,7 @@ public:
         m_plugin.listener = qobject_cast<BaseActivityListener *>(plugin);
         m_plugin.watcher = static_cast<DocumentWatcher *>(plugin->qt_metacast("DocumentWatcher"));
         m_register.emplace(
-            Register::Parts{*m_catalogue, *m_storage, &m_plugin, m_settings, m_notes});
-        m_register->setAsker([this](const tr::Tr &, const tr::Tr &, const tr::Tr &) {
-            ++m_questions;
-            return m_confirms;
-        });
-        m_register->setShower([this](const tr::Tr &message) { m_message = message.text(); });
+            Register::Parts{*m_catalogue, *m_storage, &m_plugin, m_settings, m_notes, this});
         return m_register->start().isEmpty();
     }
 
@@ -92,6 +87,13 @@ public:
     }
 
 private:
+    bool ask(const Question &) override
+    {
+        ++m_questions;
+        return m_confirms;
+    }
+    void show(const tr::Tr &message) override { m_message = message.text(); }
+
     int add(const QString &code, double quantity)
     {
         const qsizetype before = m_register->receipt()->getPositionList().size();
