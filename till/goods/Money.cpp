@@ -2,7 +2,33 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <cmath>
+
 namespace till {
+
+namespace {
+
+//! What quantities of three decimals may be off after some sums and packs, in thousandths.
+constexpr double computed = 1e-5;
+//! Sums below are exact in thousandths of a kopeck: as whole numbers, and nearly so as a double.
+constexpr double greatestExact = 1e15;
+
+//! \a thousandths of kopecks in whole kopecks.
+Kopecks rounded(qint64 thousandths)
+{
+    return (thousandths + (thousandths < 0 ? -500 : 500)) / 1000;
+}
+
+} // namespace
+
+Kopecks sumOf(Kopecks price, double quantity)
+{
+    const double sum = static_cast<double>(price) * quantity;
+    const double thousandths = std::round(quantity * 1000.0);
+    if (std::abs(sum) < greatestExact && std::abs(quantity * 1000.0 - thousandths) < computed)
+        return rounded(price * static_cast<qint64>(thousandths));
+    return std::llround(sum);
+}
 
 QString toText(Kopecks amount)
 {

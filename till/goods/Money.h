@@ -3,7 +3,6 @@
 
 #include <QtCore/QString>
 
-#include <cmath>
 #include <optional>
 
 namespace till {
@@ -11,14 +10,9 @@ namespace till {
 //! An amount of money in whole kopecks.
 using Kopecks = qint64;
 
-//! Price of \a quantity pieces at \a price each, rounded to the nearest kopeck, halves away from 0.
-inline Kopecks sumOf(Kopecks price, double quantity)
-{
-    // Three decimals of quantity make whole thousandths of a kopeck: only these tell halves
-    // exactly.
-    const double thousandths = std::round(static_cast<double>(price) * quantity * 1000.0);
-    return std::llround(thousandths / 1000.0);
-}
+//! Price of \a quantity pieces at \a price each, rounded once to the nearest kopeck, halves away
+//! from 0. A quantity of three decimals is taken for exactly that, however it was computed.
+Kopecks sumOf(Kopecks price, double quantity);
 
 //! \a amount in roubles with two decimals and a point: 123450 is "1234.50".
 QString toText(Kopecks amount);

@@ -99,6 +99,10 @@ INSTANTIATE_TEST_SUITE_P(
         SumRow{"another half that binary numbers put below", 2990, 1.15, 3439},
         SumRow{"half of a negative quantity goes away from 0", 1, -0.5, -1},
         SumRow{"negative half that binary numbers put above", 2990, -1.15, -3439},
+        SumRow{"rounded once: less than half of a kopeck", 1, 0.49986, 0},
+        SumRow{"rounded once: more than half of a kopeck", 1, 0.50014, 1},
+        SumRow{"a tenth that sums of binary numbers miss", 5, 1.0 - 0.9, 1},
+        SumRow{"a tenth that sums of binary numbers pass", 5, 0.3 - 0.2 - 1e-17, 1},
         SumRow{"a third", 10000, 1.0 / 3.0, 3333}, SumRow{"two thirds", 10000, 2.0 / 3.0, 6667},
         SumRow{"large amounts", 99'999'999'999'999, 10.0, 999'999'999'999'990}));
 
