@@ -62,14 +62,6 @@ void remember(const QString &line, const QByteArray &historyFile)
         write_history(historyFile.constData());
 }
 
-//! Prints the receipt unless it looks as it was \a shown last.
-void showChanged(const QString &receipt, QString &shown)
-{
-    if (receipt != shown)
-        std::fputs(receipt.toUtf8().constData(), stdout);
-    shown = receipt;
-}
-
 } // namespace
 
 bool isTerminal()
@@ -77,9 +69,8 @@ bool isTerminal()
     return isatty(STDIN_FILENO) != 0;
 }
 
-bool askOnTerminal(const QString &question)
+bool askOnTerminal()
 {
-    std::fputs(question.toUtf8().constData(), stdout);
     for (;;) {
         const std::optional<QString> typed = readTyped("yes/no> ");
         if (!typed)
@@ -102,7 +93,7 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         rl_attempted_completion_function = complete;
         makePrivateFolder(QFileInfo(historyFile).path());
         read_history(history.constData());
-        std::puts("The till. 'help' lists the commands, 'quit' leaves.");
+        show("The till. 'help' lists the commands, 'quit' leaves.");
     }
     bool allDone = true;
     QString shown = terminal ? commands.renderReceipt() : QString();
@@ -116,8 +107,12 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         if (const QString text = commands.textOf(outcome); !text.isEmpty())
             show(text);
         allDone = allDone && (terminal || outcome);
-        if (terminal && commands.hasTouchedReceipt())
-            showChanged(commands.renderReceipt(), shown);
+        if (!terminal || !commands.hasTouchedReceipt())
+            continue;
+        const QString receipt = commands.renderReceipt();
+        if (!receipt.isEmpty() && receipt != shown)
+            show(receipt);
+        shown = receipt;
     }
     return allDone;
 }

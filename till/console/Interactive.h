@@ -15,8 +15,8 @@ namespace till {
 bool runInteractive(CommandLine &commands, const QString &historyFile,
                     const std::function<void(const QString &text)> &show);
 
-//! Asks \a question on the terminal until it is answered; no when the input ends.
-bool askOnTerminal(const QString &question);
+//! Asks on the terminal until there is an answer; no when the input ends.
+bool askOnTerminal();
 
 //! Whether there is a person at standard input.
 bool isTerminal();

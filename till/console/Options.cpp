@@ -3,6 +3,7 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QMap>
 #include <QtCore/QStandardPaths>
 
@@ -11,6 +12,16 @@
 namespace till {
 
 namespace {
+
+//! What is wrong with a word that says nothing: "" would else mean that there is none.
+QString emptyFault(const QCommandLineParser &parser, const QStringList &words)
+{
+    for (const QString name : {"db", "catalogue", "plugin", "config", "trace"}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return "--" + name + ": no file is named";
+    }
+    return words.contains(QString()) ? QStringLiteral("a word is empty") : QString();
+}
 
 //! Reads the settings of --set; what is wrong with the first that is no KEY=VALUE.
 QString readSettings(const QStringList &assignments, QMap<QString, QString> &settings)
@@ -58,6 +69,21 @@ QString defaultDatabase()
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/till.sqlite";
 }
 
+QString historyFile()
+{
+    return QFileInfo(defaultDatabase()).path() + "/history";
+}
+
+QStringList filesInUse(const Options &options)
+{
+    QStringList files = options.words
+                        + QStringList{options.setup.catalogue, options.setup.plugin,
+                                      options.setup.settingsFile, historyFile()};
+    for (const char *const companion : {"", "-wal", "-shm", "-lock"})
+        files.append(options.setup.database + companion);
+    return files;
+}
+
 void describeOptions(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
@@ -96,6 +122,8 @@ void describeOptions(QCommandLineParser &parser)
 QString readOptions(const QCommandLineParser &parser, Options &options)
 {
     const QStringList words = parser.positionalArguments();
+    if (const QString fault = emptyFault(parser, words); !fault.isEmpty())
+        return fault;
     options.mode = words.value(0);
     options.words = words.mid(1);
     if (const QString fault = wordsFault(options.mode, options.words); !fault.isEmpty())

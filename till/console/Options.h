@@ -27,6 +27,11 @@ struct Options
 //! Where files of the delivery are, beside the folder of the program.
 QString delivered(const QString &relative);
 QString defaultDatabase();
+//! What was typed on terminals, beside the default database.
+QString historyFile();
+
+//! The files that a run with \a options reads or writes, but for its trace.
+QStringList filesInUse(const Options &options);
 
 //! Tells \a parser the options and the help.
 void describeOptions(QCommandLineParser &parser);

@@ -2,6 +2,8 @@
 #include "till/console/Info.h"
 #include "till/console/Interactive.h"
 #include "till/console/Options.h"
+#include "till/console/Output.h"
+#include "till/console/TraceFile.h"
 #include "till/console/Upkeep.h"
 #include "till/course/Trace.h"
 #include "till/database/DatabaseFile.h"
@@ -12,25 +14,16 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLoggingCategory>
-#include <QtCore/QTemporaryDir>
 
-#include <cstdio>
+#include <csignal>
 
 using namespace till;
 
 namespace {
 
-void print(const QString &text)
-{
-    std::fputs(text.toUtf8().constData(), stdout);
-    if (!text.endsWith('\n'))
-        std::fputc('\n', stdout);
-    std::fflush(stdout);
-}
-
 int fail(ExitStatus status, const QString &text)
 {
-    std::fprintf(stderr, "till: %s\n", text.toUtf8().constData());
+    Output::error(text);
     return status;
 }
 
@@ -58,9 +51,8 @@ QString playScript(const QString &path, const Options &options, Notes &notes,
         return error;
     }
     Setup setup = options.setup;
-    const QTemporaryDir scratch;
     if (!options.ownDatabase)
-        setup.database = scratch.filePath("till.sqlite");
+        setup.database = ":memory:"; // nothing is left behind, however the program ends
     CashDesk desk(setup, notes);
     if (const QString error = desk.start(); !error.isEmpty()) {
         startFailed = true;
@@ -68,7 +60,7 @@ QString playScript(const QString &path, const Options &options, Notes &notes,
     }
     const auto show = [&](const QString &text) {
         if (!options.quiet)
-            print(text);
+            Output(options.style.colour).print(text);
     };
     tellCopy(desk, show);
     CommandLine commands(desk, notes, translator, options.style, {show, {}});
@@ -79,7 +71,7 @@ int play(const Options &options, Notes &notes, const Translator &translator)
 {
     const auto progress = [&](const QString &text) {
         if (options.trace != "-")
-            print(text);
+            Output().print(text);
     };
     qsizetype number = 0;
     for (const QString &file : options.words) {
@@ -102,7 +94,7 @@ int info(const Options &options)
     const QString error = describePlugin(options.setup, text);
     if (!error.isEmpty())
         return fail(StartFailed, error);
-    print(text);
+    Output().print(text);
     return AllWell;
 }
 
@@ -130,19 +122,22 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
         return fail(StartFailed, error);
     // A person is always talked to; a reader of the trace finds nothing else beside it.
     const bool quiet = options.quiet && !isTerminal();
-    const auto show = [quiet](const QString &text) {
+    const Output output(options.style.colour);
+    const auto show = [&](const QString &text) {
         if (!quiet)
-            print(text);
+            output.print(text);
     };
     tellCopy(desk, show);
-    CommandLine commands(
-        desk, notes, translator, options.style,
-        {show, isTerminal() ? askOnTerminal : std::function<bool(const QString &)>()});
+    const auto ask = [&](const QString &question) {
+        output.print(question);
+        return askOnTerminal();
+    };
+    CommandLine commands(desk, notes, translator, options.style,
+                         {show, isTerminal() ? ask : std::function<bool(const QString &)>()});
     const QString receipt = commands.renderReceipt();
     if (!receipt.isEmpty())
         show(receipt);
-    const QString history = QFileInfo(defaultDatabase()).path() + "/history";
-    return runInteractive(commands, history, show) ? AllWell : CommandFailed;
+    return runInteractive(commands, historyFile(), show) ? AllWell : CommandFailed;
 }
 
 int upkeep(const Options &options, const Translator &translator)
@@ -156,7 +151,7 @@ int upkeep(const Options &options, const Translator &translator)
             : setApartStored(database, word, ReceiptView(translator, options.style));
     if (result.isError)
         return fail(result.status, result.text);
-    print(result.text);
+    Output(options.style.colour).print(result.text);
     return result.status;
 }
 
@@ -172,29 +167,9 @@ int run(const Options &options, Notes &notes)
     return openRegister(options, notes, translator);
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+//! What the options ask for, with a trace if they do.
+int runTraced(Options &options)
 {
-    QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName("till");
-    QCoreApplication::setApplicationVersion(TILL_VERSION);
-    // The plugin's lines are shown by the till's own commands; QT_LOGGING_RULES can have them
-    // anyway.
-    QLoggingCategory::setFilterRules("packaging=false");
-
-    QCommandLineParser parser;
-    describeOptions(parser);
-    if (!parser.parse(QCoreApplication::arguments()))
-        return fail(UsageError, withoutPeriod(parser.errorText()) + "; try --help");
-    if (parser.isSet("version"))
-        parser.showVersion();
-    if (parser.isSet("help"))
-        parser.showHelp(AllWell);
-    Options options;
-    if (const QString error = readOptions(parser, options); !error.isEmpty())
-        return fail(UsageError, error);
-
     if (options.mode == "demo") {
         options.words = demoScripts();
         if (options.words.isEmpty())
@@ -203,6 +178,9 @@ int main(int argc, char *argv[])
     Notes notes;
     std::unique_ptr<Trace> trace;
     if (!options.trace.isEmpty()) {
+        if (const QString fault = traceFileFault(options.trace, filesInUse(options));
+            options.trace != "-" && !fault.isEmpty())
+            return fail(UsageError, fault);
         QString error;
         trace = Trace::start(notes, options.trace, &error);
         if (!trace)
@@ -212,5 +190,42 @@ int main(int argc, char *argv[])
     const int status = run(options, notes);
     if (status == AllWell && trace && !trace->error().isEmpty())
         return fail(StartFailed, trace->error());
+    return status;
+}
+
+//! What the arguments ask for.
+int runArguments(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describeOptions(parser);
+    if (!parser.parse(arguments))
+        return fail(UsageError, withoutPeriod(parser.errorText()) + "; try --help");
+    if (parser.isSet("version") || parser.isSet("help")) {
+        Output().print(parser.isSet("help") ? parser.helpText()
+                                            : QStringLiteral("till " TILL_VERSION));
+        return AllWell;
+    }
+    Options options;
+    if (const QString error = readOptions(parser, options); !error.isEmpty())
+        return fail(UsageError, error);
+    return runTraced(options);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    std::signal(SIGXFSZ, SIG_IGN); // the write that is too long fails instead, and is told
+    Output::installMessageHandler();
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName("till");
+    QCoreApplication::setApplicationVersion(TILL_VERSION);
+    // The plugin's lines are shown by the till's own commands; QT_LOGGING_RULES can have them
+    // anyway.
+    QLoggingCategory::setFilterRules("packaging=false");
+
+    const int status = runArguments(QCoreApplication::arguments());
+    if (status == AllWell && !Output::fault().isEmpty())
+        return fail(StartFailed, Output::fault());
     return status;
 }

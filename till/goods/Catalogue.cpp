@@ -44,7 +44,7 @@ public:
         article.taraMode = taraMode();
         article.taraCapacity = taraCapacity(article.taraMode);
         article.pack = pack();
-        article.unit = text(Unit).simplified();
+        article.unit = unit();
         return article;
     }
 
@@ -82,6 +82,7 @@ private:
             refuseColumn(Code, QStringLiteral("an article needs a code"));
         if (std::any_of(code.cbegin(), code.cend(), [](QChar c) { return c.isSpace(); }))
             refuseText(Code, QStringLiteral("has a space in it"));
+        checkPrintable(Code, code);
         return code;
     }
 
@@ -90,7 +91,26 @@ private:
         const QString name = text(Name).simplified();
         if (name.isEmpty())
             refuseColumn(Name, QStringLiteral("an article needs a name"));
+        checkPrintable(Name, name);
         return name;
+    }
+
+    QString unit() const
+    {
+        const QString unit = text(Unit).simplified();
+        checkPrintable(Unit, unit);
+        return unit;
+    }
+
+    //! What steers terminals and printers is not for people to read.
+    void checkPrintable(Column column, const QString &value) const
+    {
+        const auto control = std::find_if(value.cbegin(), value.cend(), [](QChar sign) {
+            return sign.category() == QChar::Other_Control;
+        });
+        if (control != value.cend())
+            refuseColumn(column, QStringLiteral("has the control character U+%1 in it")
+                                     .arg(int(control->unicode()), 4, 16, QLatin1Char('0')));
     }
 
     Kopecks price() const

@@ -137,7 +137,8 @@ Outcome CommandLine::runOwn(const QStringList &words)
 
 QString CommandLine::textOf(const Outcome &outcome) const
 {
-    return outcome.isRefusal() ? QStringLiteral("refused") : outcome.text(m_translator);
+    return outcome.isRefusal() ? QStringLiteral("refused")
+                               : forTerminal(outcome.text(m_translator));
 }
 
 QString CommandLine::leftOver() const
@@ -160,13 +161,14 @@ bool CommandLine::ask(const Question &question)
 
 void CommandLine::show(const tr::Tr &message)
 {
-    print(m_view.renderMessage(message));
+    m_person.print(m_view.renderMessage(message));
 }
 
 void CommandLine::printAnswered(const Question &question, bool answer) const
 {
     const tr::Tr &taken = answer ? question.confirm : question.cancel;
-    print(m_view.renderQuestion(question) + "  → " + m_translator.text(taken));
+    m_person.print(m_view.renderQuestion(question) + "  → "
+                   + forTerminal(m_translator.text(taken)));
 }
 
 void CommandLine::hear(const QJsonObject &note)

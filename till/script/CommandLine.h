@@ -7,6 +7,7 @@
 #include "till/script/Expectations.h"
 #include "till/script/PreparedAnswers.h"
 #include "till/script/Usage.h"
+#include "till/view/DisplayText.h"
 #include "till/view/ReceiptView.h"
 
 #include <QtCore/QStringList>
@@ -90,7 +91,8 @@ private:
     Outcome quit(const QStringList &words);
 
     Register &cashRegister() { return m_desk.cashRegister(); }
-    void print(const QString &text) const { m_person.print(text); }
+    //! Prints what is no page of the view: nothing in it may steer a terminal.
+    void print(const QString &text) const { m_person.print(forTerminal(text)); }
 
     CashDesk &m_desk;
     Notes &m_notes;

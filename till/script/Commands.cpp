@@ -24,7 +24,7 @@ Outcome CommandLine::showReceipt(const QStringList &words)
     Q_UNUSED(words)
     if (!cashRegister().receipt())
         return Outcome::mistake("no receipt was opened");
-    print(renderReceipt());
+    m_person.print(renderReceipt());
     return Outcome::done();
 }
 

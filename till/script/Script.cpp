@@ -56,7 +56,7 @@ QString Script::play(CommandLine &commands,
 {
     for (qsizetype i = 0; i < m_lines.size() && !commands.hasQuit(); ++i) {
         if (const QString shown = shownCommand(m_lines[i]); !shown.isEmpty())
-            echo(shown);
+            echo(forTerminal(shown));
         if (const Outcome outcome = commands.run(m_lines[i]); !outcome)
             return place(i) + m_lines[i].trimmed() + ": " + why(commands, outcome);
     }

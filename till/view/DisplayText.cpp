@@ -1,6 +1,7 @@
 #include "till/view/DisplayText.h"
 
 #include <QtCore/QList>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -77,6 +78,16 @@ QString printable(const QString &text)
             kept += QChar::fromUcs4(sign);
     }
     return kept;
+}
+
+QString forTerminal(const QString &text, bool ownColours)
+{
+    static const QString steering = QStringLiteral(
+        "(?!\\n)[\\p{Cc}\\p{Zl}\\p{Zp}\\x{200e}\\x{200f}\\x{202a}-\\x{202e}\\x{2066}-\\x{2069}]");
+    static const QRegularExpression any(steering);
+    static const QRegularExpression foreign(
+        QStringLiteral("\\e\\[(?:[0129]|3[1236])m(*SKIP)(*FAIL)|") + steering);
+    return QString(text).replace(ownColours ? foreign : any, QStringLiteral(" "));
 }
 
 QString elided(const QString &text, int width)

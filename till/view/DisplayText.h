@@ -12,6 +12,12 @@ int displayWidth(const QString &text);
 //! breaks, tabs and escapes become spaces, invisible format characters go away.
 QString printable(const QString &text);
 
+/*!
+ * \a text as it may reach a terminal: line breaks stay, other control characters and those that
+ * turn the direction of writing become spaces. With \a ownColours the codes of `TextPage` stay too.
+ */
+QString forTerminal(const QString &text, bool ownColours = false);
+
 //! \a text, or as much of its beginning as fits \a width columns with an ellipsis at the end.
 QString elided(const QString &text, int width);
 

@@ -4,7 +4,7 @@
 
 namespace {
 
-class Document : public ProgramTest
+class Page : public ProgramTest
 {
 protected:
     const QString page = QString::fromUtf8(contents(QStringLiteral(DOCS_DIR "/till.md")));
@@ -22,7 +22,7 @@ protected:
     }
 };
 
-TEST_F(Document, EachCommand_IsThere)
+TEST_F(Page, EachCommand_IsThere)
 {
     const QStringList lines = linesOf("help\n");
     EXPECT_GT(lines.size(), 20);
@@ -32,7 +32,7 @@ TEST_F(Document, EachCommand_IsThere)
     }
 }
 
-TEST_F(Document, EachExpectation_IsThere)
+TEST_F(Page, EachExpectation_IsThere)
 {
     int expectations = 0;
     const QStringList lines = linesOf("help expect\n");
@@ -47,7 +47,7 @@ TEST_F(Document, EachExpectation_IsThere)
         EXPECT_TRUE(hasRow("expect " + end + " COMMAND..."));
 }
 
-TEST_F(Document, EachOption_IsThere)
+TEST_F(Page, EachOption_IsThere)
 {
     const QStringList lines = QString::fromStdString(run({"--help"}).out).split('\n');
     int options = 0;
@@ -62,7 +62,7 @@ TEST_F(Document, EachOption_IsThere)
     EXPECT_GE(options, 10);
 }
 
-TEST_F(Document, Example_Holds)
+TEST_F(Page, Example_Holds)
 {
     const QString script = page.section("    # A bottle", 1).section("## Options", 0, 0);
     EXPECT_FALSE(script.isEmpty());

@@ -171,6 +171,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Wrong{"Word", {"demo", "x"}, "\"x\" is one word too many"},
                     Wrong{"Lang", {"--lang", "de"}, "\"de\" is none of: ru, en"},
                     Wrong{"Colour", {"--colour", "red"}, "\"red\" is none of: auto, always, never"},
+                    Wrong{"NoPluginNamed", {"--plugin", ""}, "--plugin: no file is named"},
+                    Wrong{"NoSettings", {"--config", ""}, "--config: no file is named"},
+                    Wrong{"NoTrace", {"--trace", ""}, "--trace: no file is named"},
+                    Wrong{"NoDatabase", {"--db="}, "--db: no file is named"},
+                    Wrong{"NoCatalogue", {"--catalogue", ""}, "--catalogue: no file is named"},
+                    Wrong{"NoScript", {"play", ""}, "a word is empty"},
                     Wrong{"Set", {"--set", "key"}, "\"key\" is not KEY=VALUE"}),
     [](const auto &row) { return std::string(row.param.name); });
 

@@ -1,0 +1,53 @@
+#include "till/console/Output.h"
+
+#include "till/view/DisplayText.h"
+
+#include <QtCore/qlogging.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace till {
+
+namespace {
+
+int outputError = 0; // the first errno of standard output
+
+void write(const QString &text, std::FILE *file)
+{
+    QByteArray bytes = text.toUtf8();
+    if (!bytes.endsWith('\n'))
+        bytes.append('\n');
+    std::fwrite(bytes.constData(), 1, bytes.size(), file); // a NUL cuts nothing
+}
+
+} // namespace
+
+void Output::print(const QString &text) const
+{
+    write(forTerminal(text, m_hasColours), stdout);
+    if (std::fflush(stdout) != 0 && outputError == 0)
+        outputError = errno;
+}
+
+void Output::error(const QString &text)
+{
+    write(forTerminal("till: " + text), stderr);
+}
+
+void Output::installMessageHandler()
+{
+    qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+            write(forTerminal(qFormatLogMessage(type, context, text)), stderr);
+        });
+}
+
+QString Output::fault()
+{
+    return outputError == 0 ? QString()
+                            : "standard output: " + QString::fromLocal8Bit(strerror(outputError));
+}
+
+} // namespace till

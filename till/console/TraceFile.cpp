@@ -1,0 +1,63 @@
+#include "till/console/TraceFile.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+#include <sys/stat.h>
+
+namespace till {
+
+namespace {
+
+//! Where a file that is not there yet would be made.
+QString placeOf(const QString &path)
+{
+    constexpr int mostLinks = 40; // as the kernel follows
+    QFileInfo file(path);
+    for (int i = 0; i < mostLinks && file.isSymLink(); ++i)
+        file.setFile(file.symLinkTarget());
+    return QDir(file.absolutePath()).canonicalPath() + '/' + file.fileName();
+}
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    struct stat first = {};
+    struct stat second = {};
+    const bool exists = stat(QFile::encodeName(one).constData(), &first) == 0;
+    if (exists != (stat(QFile::encodeName(other).constData(), &second) == 0))
+        return false;
+    return exists ? first.st_dev == second.st_dev && first.st_ino == second.st_ino
+                  : placeOf(one) == placeOf(other);
+}
+
+//! Whether something is at \a path that a trace would destroy: not a pipe or a device like a
+//! printer.
+bool isOtherFile(const QString &path)
+{
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return false;
+    if (!S_ISREG(status.st_mode))
+        return S_ISBLK(status.st_mode);
+    QFile file(path);
+    if (status.st_size == 0 || !file.open(QIODevice::ReadOnly))
+        return false; // nothing to lose, or opening it tells why not
+    const QJsonObject first = QJsonDocument::fromJson(file.readLine(65536)).object();
+    return first.value("line") != 1 || !first.value("kind").isString();
+}
+
+} // namespace
+
+QString traceFileFault(const QString &path, const QStringList &inUse)
+{
+    for (const QString &file : inUse) {
+        if (!file.isEmpty() && isSameFile(path, file))
+            return "--trace: " + path + " is a file that the till uses: " + file;
+    }
+    return isOtherFile(path) ? "--trace: " + path + " is there already and is no trace" : QString();
+}
+
+} // namespace till
