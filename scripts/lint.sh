@@ -10,7 +10,8 @@ build=build/lint
 # The linters read the sources and what moc makes of them; nothing has to be compiled. They read
 # batches of sources, as most of their time goes into Qt's headers.
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=6 >/dev/null
+    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=6 \
+    -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
 cmake --build "$build" --target autogen >/dev/null
 
 # batches FILTER: the batches of the modules in build/lint whose paths match.
@@ -40,7 +41,9 @@ batches '*' | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p "$build" --quiet \
 
 # Batches hide what a source forgot to include, so each is looked at alone too.
 alone=build/lint-alone
-CXX=clang++ cmake -S . -B "$alone" -G Ninja -DCMAKE_BUILD_TYPE=Debug >/dev/null
+CXX=clang++ cmake -S . -B "$alone" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
+    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
+cmake --build "$alone" --target autogen >/dev/null
 echo "each alone: $((${#plugin[@]} + ${#others[@]})) sources"
 printf '%s\0' "${plugin[@]}" "${others[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p "$alone" --quiet \
     --checks=-*,misc-definitions-in-headers
