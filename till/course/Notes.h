@@ -1,10 +1,9 @@
 #ifndef TILL_COURSE_NOTES_H
 #define TILL_COURSE_NOTES_H
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QMultiMap>
+#include "till/course/Observers.h"
 
-#include <functional>
+#include <QtCore/QJsonObject>
 
 namespace till {
 
@@ -17,21 +16,26 @@ namespace till {
 class Notes
 {
 public:
-    using Listener = std::function<void(const QJsonObject &note)>;
+    using Observer = Observers<const QJsonObject &>::Observer;
 
-    //! From now on \a listener hears every note, until \a owner is forgotten. It must not add
-    //! notes.
-    void listen(const void *owner, Listener listener) { m_listeners.insert(owner, listener); }
-    void forget(const void *owner) { m_listeners.remove(owner); }
+    //! What an observer hears.
+    enum class Of {
+        Course,         //!< what happens
+        CourseAndStates //!< also what it led to: positions, plugin data, the receipt; they cost
+    };
 
-    //! Tells a note of \a kind.
+    //! From now on \a observer hears every note of what it asks for. It must not add notes.
+    [[nodiscard]] Subscription subscribe(Observer observer, Of of = Of::Course);
+
+    //! Tells a note of \a kind of what happens.
     void add(const char *kind, QJsonObject fields);
+    //! Tells one of a state. It is not worth putting together unless `wantsStates()`.
+    void addState(const char *kind, QJsonObject fields);
+
+    //! Whether anyone wants states.
+    bool wantsStates() const { return !m_ofStates.isEmpty(); }
 
     int depth() const { return m_depth; }
-
-    //! Whether the costly notes are wanted too: positions and plugin data, as the trace has them.
-    bool wantsStates() const { return m_wantsStates; }
-    void setWantsStates(bool wants) { m_wantsStates = wants; }
 
     //! While it lives, notes are one level deeper.
     class Nesting
@@ -50,9 +54,12 @@ public:
     };
 
 private:
-    QMultiMap<const void *, Listener> m_listeners;
+    void tell(const Observers<const QJsonObject &> &observers, const char *kind,
+              QJsonObject &fields) const;
+
+    Observers<const QJsonObject &> m_ofCourse;
+    Observers<const QJsonObject &> m_ofStates;
     int m_depth = 0;
-    bool m_wantsStates = false;
 };
 
 } // namespace till

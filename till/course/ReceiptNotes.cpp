@@ -64,7 +64,7 @@ void ReceiptNotes::tell(const Position &position)
         return;
     const LineRecord line = position.record();
     m_told.insert(line.posnum, line);
-    m_notes.add("position", describe(line, position.sum()));
+    m_notes.addState("position", describe(line, position.sum()));
 }
 
 void ReceiptNotes::tellChanged(const Receipt &receipt)
@@ -82,8 +82,8 @@ void ReceiptNotes::tellChanged(const Receipt &receipt)
 void ReceiptNotes::tellData(const QString &plugin, const QString &key, const QVariant &value)
 {
     if (m_notes.wantsStates())
-        m_notes.add("data",
-                    {{"plugin", plugin}, {"key", key}, {"value", QJsonValue::fromVariant(value)}});
+        m_notes.addState(
+            "data", {{"plugin", plugin}, {"key", key}, {"value", QJsonValue::fromVariant(value)}});
 }
 
 void ReceiptNotes::tellReceipt(const Receipt &receipt)
@@ -91,7 +91,7 @@ void ReceiptNotes::tellReceipt(const Receipt &receipt)
     if (!m_notes.wantsStates())
         return;
     tellChanged(receipt);
-    m_notes.add("receipt", describe(receipt));
+    m_notes.addState("receipt", describe(receipt));
 }
 
 } // namespace till

@@ -7,14 +7,9 @@
 
 namespace till {
 
-Trace::Trace(Notes &notes)
-    : m_notes(notes)
-{
-}
-
 std::unique_ptr<Trace> Trace::start(Notes &notes, const QString &path, QString *error)
 {
-    std::unique_ptr<Trace> trace(new Trace(notes));
+    std::unique_ptr<Trace> trace(new Trace);
     trace->m_file.setFileName(path);
     const bool opened = path == QLatin1String("-")
                             ? trace->m_file.open(stdout, QIODevice::WriteOnly)
@@ -23,15 +18,9 @@ std::unique_ptr<Trace> Trace::start(Notes &notes, const QString &path, QString *
         *error = path + ": " + trace->m_file.errorString();
         return nullptr;
     }
-    notes.setWantsStates(true);
-    notes.listen(trace.get(), [t = trace.get()](const QJsonObject &note) { t->write(note); });
+    trace->m_subscription = notes.subscribe(
+        [t = trace.get()](const QJsonObject &note) { t->write(note); }, Notes::Of::CourseAndStates);
     return trace;
-}
-
-Trace::~Trace()
-{
-    m_notes.setWantsStates(false);
-    m_notes.forget(this);
 }
 
 namespace {

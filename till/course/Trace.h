@@ -13,27 +13,26 @@ namespace till {
 class Trace
 {
 public:
+    Q_DISABLE_COPY_MOVE(Trace)
+
     /*!
      * Starts tracing \a notes to the file \a path, which is emptied first, or to standard output
-     * for "-". Null and \a error set when the file cannot be written. \a notes must outlive the
-     * trace.
+     * for "-". Null and \a error set when the file cannot be written. Any number of traces can
+     * be on at a time; one that starts in the middle of a receipt has all of it from the next
+     * take-up on.
      */
     static std::unique_ptr<Trace> start(Notes &notes, const QString &path, QString *error);
-    ~Trace();
-
     //! Why a line could not be written, with the path; empty as long as all were.
     QString error() const { return m_error; }
 
-    Q_DISABLE_COPY_MOVE(Trace)
-
 private:
-    explicit Trace(Notes &notes);
+    Trace() = default;
     void write(QJsonObject note);
 
-    Notes &m_notes;
     QFile m_file;
     QString m_error;
     qint64 m_lines = 0;
+    Subscription m_subscription;
 };
 
 } // namespace till

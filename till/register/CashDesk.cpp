@@ -17,6 +17,7 @@ CashDesk::CashDesk(Setup setup, Notes &notes)
 CashDesk::~CashDesk()
 {
     m_isSwitching = true;
+    m_receiptObservers = {};
     switchOff();
 }
 
@@ -67,9 +68,12 @@ QString CashDesk::switchOn()
 
 void CashDesk::switchOff()
 {
+    const bool wasOn = isOn();
     m_register.reset();
     if (std::exchange(m_plugin, std::nullopt))
         m_loader.unload();
+    if (wasOn)
+        m_receiptObservers.tell();
 }
 
 QString CashDesk::readSettings()
@@ -120,6 +124,7 @@ QString CashDesk::startRegister()
     m_notes.add("start", {{"database", m_setup.database}, {"plugin", m_setup.plugin}});
     m_register = std::make_unique<Register>(Register::Parts{
         *m_catalogue, *m_storage, m_plugin ? &*m_plugin : nullptr, *m_settings, m_notes, &m_front});
+    m_receiptSeen = m_register->onReceiptChanged([this] { m_receiptObservers.tell(); });
     return m_register->start();
 }
 

@@ -72,6 +72,12 @@ public:
     //! Where a front is installed that answers questions and shows messages, over restarts.
     FrontPlace &front() { return m_front; }
 
+    //! As `Register::onReceiptChanged()`, over restarts; also told when the till was switched off.
+    [[nodiscard]] Subscription onReceiptChanged(std::function<void()> observer)
+    {
+        return m_receiptObservers.subscribe(std::move(observer));
+    }
+
 private:
     //! Does \a step unless the till is busy.
     QString whenIdle(const std::function<QString()> &step);
@@ -86,12 +92,14 @@ private:
     Setup m_setup;
     Notes &m_notes;
     FrontPlace m_front;
+    Observers<> m_receiptObservers;
     std::optional<Config> m_settings; //!< made anew at each start
     std::optional<Catalogue> m_catalogue;
     std::unique_ptr<Storage> m_storage;
     PluginLoader m_loader;
     std::optional<LoadedPlugin> m_plugin;
     std::unique_ptr<Register> m_register;
+    Subscription m_receiptSeen; //!< the register's
     bool m_isSwitching = false;
 };
 

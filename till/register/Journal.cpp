@@ -5,14 +5,8 @@
 namespace till {
 
 Journal::Journal(Notes &notes)
-    : m_notes(notes)
+    : m_subscription(notes.subscribe([this](const QJsonObject &note) { collect(note); }))
 {
-    m_notes.listen(this, [this](const QJsonObject &note) { collect(note); });
-}
-
-Journal::~Journal()
-{
-    m_notes.forget(this);
 }
 
 void Journal::collect(const QJsonObject &note)
@@ -20,8 +14,8 @@ void Journal::collect(const QJsonObject &note)
     static const QStringList kept{"action", "trigger", "result", "question", "answer", "message"};
     const QString kind = note.value("kind").toString();
     if (kept.contains(kind))
-        m_entries.append(
-            {m_notes.depth(), kind, QJsonDocument(note).toJson(QJsonDocument::Compact)});
+        m_entries.append({note.value("depth").toInt(), kind,
+                          QJsonDocument(note).toJson(QJsonDocument::Compact)});
 }
 
 } // namespace till

@@ -10,9 +10,7 @@ namespace till {
 class Journal
 {
 public:
-    //! \a notes must outlive this object.
     explicit Journal(Notes &notes);
-    ~Journal();
     Q_DISABLE_COPY_MOVE(Journal)
 
     //! A command begins. What was noted before it belongs to none, and is forgotten.
@@ -23,8 +21,8 @@ public:
 private:
     void collect(const QJsonObject &note);
 
-    Notes &m_notes;
     QList<JournalEntry> m_entries;
+    Subscription m_subscription;
 };
 
 } // namespace till

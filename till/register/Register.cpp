@@ -4,9 +4,32 @@
 #include "host/DocumentWatcher.h"
 #include "till/language/TillMessages.h"
 
-#include <QtCore/QScopedValueRollback>
-
 namespace till {
+
+//! While it lives something is under way. When all is done it is told whether it was with the
+//! receipt.
+class Register::UnderWay
+{
+public:
+    explicit UnderWay(Register &cashRegister)
+        : m_register(cashRegister)
+        , m_isOutermost(!std::exchange(cashRegister.m_isBusy, true))
+    {
+    }
+    ~UnderWay()
+    {
+        if (!m_isOutermost)
+            return;
+        if (std::exchange(m_register.m_isReceiptTouched, false))
+            m_register.m_receiptObservers.tell();
+        m_register.m_isBusy = false;
+    }
+    Q_DISABLE_COPY_MOVE(UnderWay)
+
+private:
+    Register &m_register;
+    const bool m_isOutermost;
+};
 
 Register::Register(const Parts &parts)
     : m_catalogue(parts.catalogue)
@@ -34,7 +57,7 @@ QString Register::start()
 {
     if (!m_services.areInPlace())
         return QStringLiteral("another register is on in this process");
-    const QScopedValueRollback<bool> underWay(m_isBusy, true);
+    const UnderWay underWay(*this);
     if (m_plugin) {
         if (const auto error = m_plugin->initialise())
             return error->text();
@@ -53,7 +76,7 @@ Outcome Register::carryOut(const Command &command)
 {
     if (m_isBusy)
         return Outcome::busy();
-    const QScopedValueRollback<bool> underWay(m_isBusy, true);
+    const UnderWay underWay(*this);
     m_journal.begin();
     m_shown = {};
     return tellCommand(m_notes, toText(command), [&] {
@@ -79,7 +102,8 @@ TaraControl Register::taraControl() const
 
 int Register::runQueued(const control::Action &action)
 {
-    const QScopedValueRollback<bool> underWay(m_isBusy, true); // a plugin may ask at any time
+    const UnderWay underWay(*this); // a plugin may ask at any time
+    m_isReceiptTouched = true;
     return m_runner.run(action, ActionRunner::Origin::Program);
 }
 
@@ -115,6 +139,7 @@ Outcome Register::refuse(const tr::Tr &message)
 
 EContext::Result Register::run(const control::Action &action)
 {
+    m_isReceiptTouched = true;
     return m_runner.run(action, ActionRunner::Origin::Cashier);
 }
 
@@ -170,6 +195,7 @@ QString Register::reload(qint64 id)
 
 void Register::takeUp(const QSharedPointer<Receipt> &receipt)
 {
+    m_isReceiptTouched = true;
     m_receipt = receipt;
     m_runner.setReceipt(receipt);
     m_receiptNotes.tellTakenUp(receipt.get());

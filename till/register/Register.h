@@ -65,7 +65,19 @@ public:
     TaraState taraState() const;
     TaraControl taraControl() const;
 
+    /*!
+     * From now on \a observer is told when the receipt may have changed, or which one it is: once
+     * at the end of a command and of what a plugin did outside one. It may look at everything;
+     * commands are refused still.
+     */
+    [[nodiscard]] Subscription onReceiptChanged(std::function<void()> observer)
+    {
+        return m_receiptObservers.subscribe(std::move(observer));
+    }
+
 private:
+    class UnderWay;
+
     int runQueued(const control::Action &action) override;
     bool ask(const Question &question) override;
     void show(const tr::Tr &message) override;
@@ -109,6 +121,8 @@ private:
     QSharedPointer<Receipt> m_receipt;
     Journal m_journal; //!< of the command that is under way
     tr::Tr m_shown;    //!< the last message of that command
+    Observers<> m_receiptObservers;
+    bool m_isReceiptTouched = false; //!< and nobody was told yet
     bool m_isPluginReady = false;
     bool m_isBusy = false;
 };

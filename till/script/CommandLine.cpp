@@ -74,13 +74,9 @@ CommandLine::CommandLine(CashDesk &desk, Notes &notes, const Translator &transla
     , m_answers(*this,
                 [this](const Question &question, bool answer) { printAnswered(question, answer); })
     , m_installed(desk.front(), m_answers)
+    , m_notesHeard(notes.subscribe([this](const QJsonObject &note) { hear(note); }))
+    , m_receiptSeen(desk.onReceiptChanged([this] { m_hasTouchedReceipt = true; }))
 {
-    m_notes.listen(this, [this](const QJsonObject &note) { hear(note); });
-}
-
-CommandLine::~CommandLine()
-{
-    m_notes.forget(this);
 }
 
 Outcome CommandLine::run(const QString &line)
@@ -173,9 +169,7 @@ void CommandLine::printAnswered(const Question &question, bool answer) const
 
 void CommandLine::hear(const QJsonObject &note)
 {
-    static const QStringList touching{"action", "takeup"};
     const QString kind = note.value("kind").toString();
-    m_hasTouchedReceipt = m_hasTouchedReceipt || touching.contains(kind);
     const QString text = note.value("text").toString();
     if (kind == QLatin1String("log"))
         m_heard.log.append(text);

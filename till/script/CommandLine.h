@@ -35,7 +35,6 @@ public:
     //! Installs itself as the front of \a desk. All must outlive this object.
     CommandLine(CashDesk &desk, Notes &notes, const Translator &translator, Style style,
                 Person person);
-    ~CommandLine();
     Q_DISABLE_COPY_MOVE(CommandLine)
 
     //! Carries out one line. What there is to see is printed; the outcome is the caller's to show.
@@ -103,6 +102,8 @@ private:
     PreparedAnswers m_answers;
     QStringList m_unanswered; //!< keys of the questions that nobody was there to answer
     const InstalledFront m_installed;
+    Subscription m_notesHeard;
+    Subscription m_receiptSeen;
     bool m_hasTouchedReceipt = false;
     bool m_hasQuit = false;
 };

@@ -115,9 +115,9 @@ TEST_F(Busy, CommandWithinAMessage_IsRefused)
 TEST_F(Busy, CommandWithinANote_IsRefused)
 {
     whenAsked([] {});
-    notes.listen(&attempts, [this](const QJsonObject &) { tryEveryCommand(); });
+    auto attempting = notes.subscribe([this](const QJsonObject &) { tryEveryCommand(); });
     EXPECT_TRUE(carryOut(command::Storno{1}));
-    notes.forget(&attempts);
+    attempting.reset();
     expectNothingElse();
 }
 

@@ -29,10 +29,10 @@ void PrintTo(const Outcome &outcome, std::ostream *out)
 }
 
 TillTest::TillTest()
-    : m_handlerBefore(qInstallMessageHandler(failOnMessage))
+    : hearing(notes.subscribe([this](const QJsonObject &note) { heard.append(note); },
+                              Notes::Of::CourseAndStates))
+    , m_handlerBefore(qInstallMessageHandler(failOnMessage))
 {
-    notes.listen(this, [this](const QJsonObject &note) { heard.append(note); });
-    notes.setWantsStates(true);
     start();
 }
 

@@ -59,6 +59,7 @@ protected:
     Notes notes;
     QStringList printed;
     QList<QJsonObject> heard;
+    const Subscription hearing;
     std::unique_ptr<Translator> translator;
     std::unique_ptr<CashDesk> till;
     std::unique_ptr<CommandLine> commands;
