@@ -62,14 +62,27 @@ QString reasonOf(const QSqlError &error)
 
 } // namespace
 
-Database::Database(const QString &path)
+Database::Database(const QString &path, Access access)
     : m_path(path)
+    , m_access(access)
 {
     static std::atomic<int> connections = 0;
     m_connection = QStringLiteral("till-%1").arg(++connections);
 }
 
 Database::~Database()
+{
+    disconnect();
+    // SQLite makes a log for a reader, who may not take it away. One who may does so as the last to
+    // leave, when nobody else is at the database.
+    if (m_access == Access::Reading && hasEmptyLog(m_path)) {
+        if (connectAs(QString()))
+            valueOf(QStringLiteral("PRAGMA user_version"));
+        disconnect();
+    }
+}
+
+void Database::disconnect()
 {
     // Qt complains of a connection that is removed while something refers to it.
     m_statements.clear();
@@ -80,7 +93,7 @@ Database::~Database()
 
 std::unique_ptr<Database> Database::open(const QString &path, Access access, QString *error)
 {
-    std::unique_ptr<Database> database(new Database(path));
+    std::unique_ptr<Database> database(new Database(path, access));
     const bool ready = database->prepare(access) && database->connectToFile(access);
     *error = database->error();
     return ready ? std::move(database) : nullptr;
@@ -136,16 +149,20 @@ bool Database::connectToFile(Access access)
 {
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
         return fail(QStringLiteral("Qt's driver for SQLite is not installed"));
-    m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
-    if (access == Access::Reading)
-        m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
-    // An absolute path, for SQLite reads "file:..." as a URI.
-    m_database.setDatabaseName(m_path == inMemory() ? m_path
-                                                    : QFileInfo(m_path).absoluteFilePath());
-    if (!m_database.open())
+    if (!connectAs(access == Access::Reading ? QStringLiteral("QSQLITE_OPEN_READONLY") : QString()))
         return failWith(m_database.lastError());
     return waitForOthers(true) && execute(QStringLiteral("PRAGMA synchronous = FULL"))
            && execute(QStringLiteral("PRAGMA foreign_keys = ON"));
+}
+
+bool Database::connectAs(const QString &options)
+{
+    m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
+    m_database.setConnectOptions(options);
+    // An absolute path, for SQLite reads "file:..." as a URI.
+    m_database.setDatabaseName(m_path == inMemory() ? m_path
+                                                    : QFileInfo(m_path).absoluteFilePath());
+    return m_database.open();
 }
 
 bool Database::waitForOthers(bool waits)

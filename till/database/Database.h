@@ -23,7 +23,8 @@ public:
     //! What a connection is for.
     enum class Access {
         Till,    //!< the one that writes: nobody else can have it meanwhile, but others may read
-        Reading, //!< beside a till, or without one; nothing is ever written to the file
+        Reading, //!< beside a till, or without one; nothing is ever written to the file, and no
+                 //!< empty log is left beside it
     };
 
     /*!
@@ -85,16 +86,19 @@ public:
     bool copyTo(const QString &path);
 
 private:
-    explicit Database(const QString &path);
+    Database(const QString &path, Access access);
 
     bool prepare(Access access);
     bool claim();
     bool checkLeftOpen();
     bool connectToFile(Access access);
+    bool connectAs(const QString &options);
+    void disconnect();
     bool waitForOthers(bool waits);
     bool failWith(const QSqlError &error);
 
     QString m_path;
+    Access m_access;
     QString m_connection;
     QString m_error;
     DatabaseLock m_lock;

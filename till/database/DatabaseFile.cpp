@@ -53,6 +53,12 @@ bool synchronise(const QByteArray &path, int flags)
     return done;
 }
 
+//! The log beside the database.
+QFileInfo logOf(const QString &path)
+{
+    return QFileInfo(realPath(path) + QStringLiteral("-wal"));
+}
+
 } // namespace
 
 QString inMemory()
@@ -90,7 +96,12 @@ QString readingFault(const QString &path)
 
 bool hasLog(const QString &path)
 {
-    return QFileInfo(realPath(path) + QStringLiteral("-wal")).size() > 0;
+    return logOf(path).size() > 0;
+}
+
+bool hasEmptyLog(const QString &path)
+{
+    return logOf(path).exists() && !hasLog(path);
 }
 
 bool makePrivateFile(const QString &path)

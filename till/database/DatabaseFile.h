@@ -16,6 +16,8 @@ QString readingFault(const QString &path);
 
 //! Whether the log beside the file holds what the file itself may lack, as after a kill.
 bool hasLog(const QString &path);
+//! Whether there is a log beside the file, with nothing in it.
+bool hasEmptyLog(const QString &path);
 
 //! Makes an empty file that its owner alone may read and write, whatever the umask. False when
 //! there is one already or none can be made; `errno` says which.

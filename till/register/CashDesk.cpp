@@ -31,7 +31,7 @@ QString CashDesk::whenIdle(const std::function<QString()> &step)
 
 QString CashDesk::start()
 {
-    return whenIdle([this] { return switchOn(); });
+    return whenIdle([this] { return isOn() ? QStringLiteral("the till is on") : switchOn(); });
 }
 
 QString CashDesk::stop()

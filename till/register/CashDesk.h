@@ -41,8 +41,9 @@ public:
 
     /*!
      * Switches the till on: reads the settings, for the first time also the catalogue, and opens
-     * the database; loads the plugin and takes up the receipt that was in hand. Returns an empty
-     * text or what is missing, with its place; then the till stays off.
+     * the database; loads the plugin and takes up the receipt that was current. Returns an empty
+     * text or what is missing, with its place; then the till stays off. One that is on stays as it
+     * is, and its start says so.
      */
     QString start();
 

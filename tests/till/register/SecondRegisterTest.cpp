@@ -40,6 +40,16 @@ TEST_F(SecondRegister, Attempt_LeavesTheFirstAtWork)
     expect({"question tillStornoPosition", "positions 0"});
 }
 
+TEST_F(SecondRegister, StartOfATillThatIsOn_SaysSoAndLeavesItAtWork)
+{
+    done({"open", "add CAN3"});
+    const Register *const before = &till->cashRegister();
+    EXPECT_EQ(till->start(), QString("the till is on"));
+    EXPECT_EQ(&till->cashRegister(), before);
+    done({"add BEER 2"});
+    expect({"goods 2 in 1 2"});
+}
+
 TEST_F(SecondRegister, Start_WorksOnceTheFirstIsOff)
 {
     other.start();

@@ -115,6 +115,39 @@ TEST_F(StorageReaders, BackUpAfterAKill_HasTheLastCommandWhichTheFileAloneLacks)
     EXPECT_EQ(unfinished(*opened(killed())), record);
 }
 
+TEST_F(StorageReaders, CheckAndBackUpOfAClosedDatabase_LeaveNothingBesideIt)
+{
+    leaveUnfinished(2);
+    EXPECT_TRUE(checked(path()).isGood());
+    EXPECT_EQ(backUp(path(), path("copy.db")), QString());
+    EXPECT_TRUE(checked(path("copy.db")).isGood());
+    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList({"copy.db", "till.db"}));
+}
+
+TEST_F(StorageReaders, CheckAfterAKill_LeavesTheLogAsItIs)
+{
+    leaveKilled(2);
+    const QByteArray log = contents(killed() + "-wal");
+    const QByteArray file = contents(killed());
+    EXPECT_TRUE(checked(killed()).isGood());
+    EXPECT_EQ(contents(killed() + "-wal"), log);
+    EXPECT_EQ(contents(killed()), file);
+}
+
+TEST_F(StorageReaders, CheckBesideATillWithAnEmptyLog_LeavesTheTillItsLog)
+{
+    const auto storage = opened();
+    ReceiptRecord record = receiptOf(1);
+    record.state = ReceiptState::Closed;
+    save(*storage, record);
+    ASSERT_EQ(QFileInfo(path("till.db-wal")).size(), 0);
+    EXPECT_TRUE(checked(path()).isGood());
+    EXPECT_TRUE(QFileInfo::exists(path("till.db-wal")));
+    record = receiptOf(3);
+    save(*storage, record);
+    EXPECT_EQ(unfinished(*storage), record);
+}
+
 TEST_F(StorageReaders, BackUpOntoAFile_IsRefusedAndTheFileStays)
 {
     leaveUnfinished(1);
