@@ -59,18 +59,17 @@ class RunningTill
 public:
     explicit RunningTill(const QString &path)
     {
-        QString error;
-        m_storage = till::Storage::open(path, &error);
-        if (!m_storage)
-            giveUp(error);
+        auto opened = till::Storage::open(path);
+        if (!opened)
+            giveUp(opened.error().text());
+        m_storage = std::move(*opened);
         const auto loaded = m_loader.load(QStringLiteral(BENCH_PLUGIN));
         if (const auto *fault = std::get_if<till::PluginError>(&loaded))
             giveUp(fault->text());
         m_plugin = std::get<till::LoadedPlugin>(loaded);
         m_register.emplace(
             till::Register::Parts{catalogue(), *m_storage, &*m_plugin, m_settings, m_notes});
-        error = m_register->start();
-        if (!error.isEmpty())
+        if (const QString error = m_register->start(); !error.isEmpty())
             giveUp(error);
     }
 
@@ -115,10 +114,10 @@ till::Table::Row rowOf(till::Database &database, const till::Table &table, const
 //! journal before.
 CommandRows lastRows(RunningTill &till, const QString &path, qsizetype place, qsizetype earlier)
 {
-    QString error;
-    const auto database = till::Database::open(path, till::Database::Access::Reading, &error);
-    if (!database)
-        giveUp(error);
+    const auto opened = till::Database::open(path, till::Database::Access::Reading);
+    if (!opened)
+        giveUp(opened.error().text());
+    const auto &database = *opened;
     const QString receipt = QString::number(till.receipt());
     CommandRows rows{rowOf(*database, till::receiptsTable(), QStringLiteral("id = ") + receipt),
                      rowOf(*database, till::positionsTable(),
@@ -141,9 +140,9 @@ public:
         : m_posnum(n - 1)
     {
         const QString origin = m_directory.filePath(QStringLiteral("origin"));
-        QString error;
         till::ReceiptRecord receipt = makeReceipt(n);
-        error = till::Storage::open(origin, &error)->save(receipt, {});
+        if (const auto saved = (*till::Storage::open(origin))->save(receipt, {}); !saved)
+            giveUp(saved.error().text());
         for (const QString &copy : {recordedPath(), tillPath(), byHandPath()})
             QFile::copy(origin, copy);
         recordRows();

@@ -8,9 +8,9 @@ namespace till {
 
 namespace {
 
-UpkeepResult failed(ExitStatus status, const QString &error)
+UpkeepResult failed(ExitStatus status, const Fault &fault)
 {
-    return {status, error, true};
+    return {status, fault.text(), true};
 }
 
 QString row(const QString &what, const QString &finding)
@@ -33,21 +33,19 @@ QString summary(const CheckReport &report)
 //! The lines of the receipt, for whoever has to enter them anew.
 QString linesOf(const Storage &storage, qint64 id, const ReceiptView &view)
 {
-    QString error;
-    const auto record = storage.lines(id, &error);
-    if (!record)
-        return error.isEmpty() ? QString() : error + '\n';
-    return view.render(Receipt(*record), {}, TaraControl::Absent);
+    const auto read = storage.lines(id);
+    if (!read)
+        return read.error().text() + '\n';
+    return *read ? view.render(Receipt(**read), {}, TaraControl::Absent) : QString();
 }
 
 } // namespace
 
 UpkeepResult checkStored(const QString &database)
 {
-    QString error;
-    const auto report = checkDatabase(database, &error);
+    const auto report = checkDatabase(database);
     if (!report)
-        return failed(StartFailed, error);
+        return failed(StartFailed, report.error());
     QString text = row("file", report->fileFault.isEmpty() ? "whole" : report->fileFault)
                    + row("receipts", summary(*report));
     for (const OddReceipt &receipt : report->odd)
@@ -58,9 +56,9 @@ UpkeepResult checkStored(const QString &database)
 
 UpkeepResult backUpStored(const QString &database, const QString &file)
 {
-    const QString error = backUp(database, file);
-    return error.isEmpty() ? UpkeepResult{AllWell, file + ": a whole copy of " + database}
-                           : failed(StartFailed, error);
+    const Result<> backedUp = backUp(database, file);
+    return backedUp ? UpkeepResult{AllWell, file + ": a whole copy of " + database}
+                    : failed(StartFailed, backedUp.error());
 }
 
 UpkeepResult setApartStored(const QString &database, const QString &number, const ReceiptView &view)
@@ -68,14 +66,13 @@ UpkeepResult setApartStored(const QString &database, const QString &number, cons
     bool isNumber = false;
     const qint64 id = number.toLongLong(&isNumber);
     if (!isNumber)
-        return failed(UsageError, "set-apart: \"" + number + "\" is no number of a receipt");
-    QString error;
-    const auto storage = Storage::open(database, &error);
-    if (!storage)
-        return failed(StartFailed, error);
-    error = storage->setApart(id);
-    if (!error.isEmpty())
-        return failed(CommandFailed, error);
+        return failed(UsageError, {"set-apart", '"' + number + "\" is no number of a receipt"});
+    const auto opened = Storage::open(database);
+    if (!opened)
+        return failed(StartFailed, opened.error());
+    const auto &storage = *opened;
+    if (const Result<> apart = storage->setApart(id); !apart)
+        return failed(CommandFailed, apart.error());
     return {AllWell, "receipt " + QString::number(id) + " is set apart and stays as it is\n"
                          + linesOf(*storage, id, view)};
 }

@@ -91,17 +91,17 @@ void Database::disconnect()
     QSqlDatabase::removeDatabase(m_connection);
 }
 
-std::unique_ptr<Database> Database::open(const QString &path, Access access, QString *error)
+Result<std::unique_ptr<Database>> Database::open(const QString &path, Access access)
 {
     std::unique_ptr<Database> database(new Database(path, access));
-    const bool ready = database->prepare(access) && database->connectToFile(access);
-    *error = database->error();
-    return ready ? std::move(database) : nullptr;
+    if (!database->prepare(access) || !database->connectToFile(access))
+        return database->fault();
+    return database;
 }
 
-bool Database::fail(const QString &reason)
+bool Database::fail(const QString &reason, const QString &remedy)
 {
-    m_error = QStringLiteral("%1: %2").arg(m_path, reason);
+    m_fault = Fault{m_path, reason, remedy};
     return false;
 }
 
@@ -125,10 +125,12 @@ bool Database::prepare(Access access)
 //! Read by somebody who cannot write, for who can write brings the log into the file at the end.
 bool Database::checkLeftOpen()
 {
-    const auto reader = open(m_path, Access::Reading, &m_error);
-    if (reader && !reader->checkFile(Check::Quick))
-        m_error = reader->error();
-    return m_error.isEmpty();
+    const auto reader = open(m_path, Access::Reading);
+    if (!reader)
+        m_fault = reader.error();
+    else if (!(*reader)->checkFile(Check::Quick))
+        m_fault = (*reader)->fault();
+    return !hasFailed();
 }
 
 bool Database::claim()
@@ -195,11 +197,11 @@ bool Database::keepLog()
 
 void Database::foldLog()
 {
-    const QString error = m_error;
+    const std::optional<Fault> fault = m_fault;
     waitForOthers(false); // a reader may take long, and a cashier does not wait for one
     valueOf(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
     waitForOthers(true);
-    m_error = error;
+    m_fault = fault;
 }
 
 bool Database::copyTo(const QString &path)
@@ -284,9 +286,9 @@ bool Database::commit()
 void Database::rollBack()
 {
     // SQLite may have done so by itself, as it does on a full disk; then this fails, rightly.
-    const QString error = m_error;
+    const std::optional<Fault> fault = m_fault;
     run(QStringLiteral("ROLLBACK"));
-    m_error = error;
+    m_fault = fault;
 }
 
 } // namespace till

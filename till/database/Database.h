@@ -2,6 +2,7 @@
 #define TILL_DATABASE_DATABASE_H
 
 #include "till/database/DatabaseFile.h"
+#include "till/result/Result.h"
 
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -10,12 +11,13 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace till {
 
 /*!
- * A connection to a database file. Operations that fail say why in `error`, one line that starts
- * with the path.
+ * A connection to a database file. An operation that cannot be done leaves its fault, with the path
+ * as the place, in `fault`.
  */
 class Database
 {
@@ -29,21 +31,23 @@ public:
 
     /*!
      * Connects to the file at \a path; a till makes it, empty, when there is none, and checks one
-     * that was left with a log, as after a kill. Null, with the reason in \a error, when that
-     * cannot be done.
+     * that was left with a log, as after a kill.
      */
-    static std::unique_ptr<Database> open(const QString &path, Access access, QString *error);
+    static Result<std::unique_ptr<Database>> open(const QString &path, Access access);
     ~Database();
     Q_DISABLE_COPY_MOVE(Database)
 
     //! The path as it was given.
     QString path() const { return m_path; }
 
-    //! What went wrong last; empty when nothing did since `forgetError`.
-    QString error() const { return m_error; }
-    void forgetError() { m_error.clear(); }
-    //! Notes \a reason as the error and returns false.
-    bool fail(const QString &reason);
+    //! Whether anything went wrong since `forgetFault` or `takeFault`.
+    bool hasFailed() const { return m_fault.has_value(); }
+    //! What went wrong last; only after something did.
+    const Fault &fault() const { return *m_fault; }
+    void forgetFault() { m_fault.reset(); }
+    std::optional<Fault> takeFault() { return std::exchange(m_fault, std::nullopt); }
+    //! Notes a fault of this database and returns false.
+    bool fail(const QString &reason, const QString &remedy = {});
 
     /*!
      * Runs \a sql with \a values in place of its question marks. The statement is prepared once and
@@ -51,17 +55,17 @@ public:
      */
     QSqlQuery *run(const QString &sql, const QVariantList &values = {});
     //! True while \a rows, a result of `run`, has one more row; false at the end and when reading
-    //! failed, which `error` tells apart.
+    //! failed, which `hasFailed` tells apart.
     bool next(QSqlQuery &rows);
 
     //! Runs \a sql once; nothing of it is kept.
     bool execute(const QString &sql);
-    //! The first value of the first row; invalid when there is none, with the error noted.
+    //! The first value of the first row; invalid when there is none, with the fault noted.
     QVariant valueOf(const QString &sql);
 
     bool begin();
     bool commit();
-    //! Undoes what was done since `begin`; the error stays as it was.
+    //! Undoes what was done since `begin`; the fault stays as it was.
     void rollBack();
 
     //! Keeps what is committed in a log until it is folded in, so that a commit costs one wait for
@@ -76,7 +80,7 @@ public:
         Quick, //!< all but whether indices agree with their tables
         Whole,
     };
-    //! SQLite's own check of the file. False, with the error noted, when it finds a fault.
+    //! SQLite's own check of the file. False, with the fault noted, when it finds one.
     bool checkFile(Check check);
 
     /*!
@@ -100,7 +104,7 @@ private:
     QString m_path;
     Access m_access;
     QString m_connection;
-    QString m_error;
+    std::optional<Fault> m_fault;
     DatabaseLock m_lock;
     QSqlDatabase m_database;
     std::map<QString, QSqlQuery> m_statements;

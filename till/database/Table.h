@@ -25,7 +25,7 @@ public:
     //! whole numbers, numbers, texts, bytes.
     QByteArray digest(const QVariantList &values) const;
 
-    //! Writes a row with its \a digest, in place of the one with its key. False with the error
+    //! Writes a row with its \a digest, in place of the one with its key. False with the fault
     //! noted.
     bool write(Database &database, const QVariantList &values, const QByteArray &digest) const;
 

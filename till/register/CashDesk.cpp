@@ -102,10 +102,13 @@ QString CashDesk::readCatalogue()
 
 QString CashDesk::openDatabase()
 {
-    QString error;
-    if (!m_storage)
-        m_storage = Storage::open(m_setup.database, &error);
-    return error;
+    if (m_storage)
+        return {};
+    auto opened = Storage::open(m_setup.database);
+    if (!opened)
+        return opened.error().text();
+    m_storage = std::move(*opened);
+    return {};
 }
 
 QString CashDesk::loadPlugin()

@@ -63,13 +63,14 @@ QString Register::start()
             return error->text();
         m_isPluginReady = true;
     }
-    QString error;
-    std::optional<ReceiptRecord> record = m_storage.unfinishedReceipt(&error);
-    if (error.isEmpty() && record) {
+    auto read = m_storage.unfinishedReceipt();
+    if (!read)
+        return read.error().text();
+    if (std::optional<ReceiptRecord> &record = *read) {
         record->state = ReceiptState::Open; // what asks before subtotal is to ask again
         takeUp(QSharedPointer<Receipt>::create(*record));
     }
-    return error;
+    return {};
 }
 
 Outcome Register::carryOut(const Command &command)
@@ -151,11 +152,11 @@ Outcome Register::perform(const control::Action &action)
 Outcome Register::keep(EContext::Result result)
 {
     const qint64 storedId = m_receipt->id();
-    if (const QString error = store(); !error.isEmpty()) {
-        const QString reloadError = reload(storedId);
-        return {Outcome::Failed,
-                {messages::tillNotStored(), {}},
-                reloadError.isEmpty() ? error : error + "; " + reloadError};
+    if (const Result<> stored = store(); !stored) {
+        QStringList details{stored.error().text()};
+        if (const Result<> reloaded = reload(storedId); !reloaded)
+            details.append(reloaded.error().text());
+        return {Outcome::Failed, {messages::tillNotStored(), {}}, details.join("; ")};
     }
     m_receiptNotes.tellReceipt(*m_receipt);
     return outcomeOf(result);
@@ -172,25 +173,26 @@ Outcome Register::outcomeOf(EContext::Result result) const
             {}};
 }
 
-QString Register::store()
+Result<> Register::store()
 {
     ReceiptRecord record = m_receipt->record();
-    const QString error = m_storage.save(record, m_journal.take());
-    if (error.isEmpty())
+    Result<> saved = m_storage.save(record, m_journal.take());
+    if (saved)
         m_receipt->setId(record.id);
-    return error;
+    return saved;
 }
 
-QString Register::reload(qint64 id)
+Result<> Register::reload(qint64 id)
 {
     if (id == 0) { // the receipt itself could not be stored
         takeUp(nullptr);
         return {};
     }
-    QString error;
-    const std::optional<ReceiptRecord> record = m_storage.receipt(id, &error);
-    takeUp(record ? QSharedPointer<Receipt>::create(*record) : nullptr);
-    return error;
+    const auto read = m_storage.receipt(id);
+    takeUp(read && *read ? QSharedPointer<Receipt>::create(**read) : nullptr);
+    if (!read)
+        return read.error();
+    return {};
 }
 
 void Register::takeUp(const QSharedPointer<Receipt> &receipt)

@@ -105,8 +105,8 @@ private:
     Outcome checkPosition(int posnum) const;
     //! Ends a command that the register itself refuses: the cashier is shown why.
     Outcome refuse(const tr::Tr &message);
-    QString store();
-    QString reload(qint64 id);
+    Result<> store();
+    Result<> reload(qint64 id);
     void takeUp(const QSharedPointer<Receipt> &receipt);
     void watch(Receipt &receipt);
 

@@ -28,7 +28,7 @@ public:
         readSoftChecks();
         readValues();
         checkWhole();
-        return m_database.error().isEmpty() ? std::optional(m_read) : std::nullopt;
+        return m_database.hasFailed() ? std::nullopt : std::optional(m_read);
     }
 
 private:
@@ -129,18 +129,17 @@ private:
     RowsDigest m_rows;
 };
 
-void failFor(Database &database, qint64 id, const QString &fault)
+void failFor(Database &database, qint64 id, const QString &fault, const QString &remedy = {})
 {
-    database.fail(QStringLiteral("receipt %1: %2").arg(id).arg(fault));
+    database.fail(QStringLiteral("receipt %1: %2").arg(id).arg(fault), remedy);
 }
 
 //! Says of a receipt that does not hold how to go on without it.
 void failWithWayOn(Database &database, qint64 id, const QString &fault)
 {
-    failFor(database, id,
-            QStringLiteral("%1; \"till set-apart %2\" sets this receipt apart, so that another can "
-                           "be opened")
-                .arg(fault)
+    failFor(database, id, fault,
+            QStringLiteral(
+                "\"till set-apart %1\" sets this receipt apart, so that another can be opened")
                 .arg(id));
 }
 
@@ -166,7 +165,7 @@ bool isUnfinished(const ReadReceipt &read)
     return read.record.state == ReceiptState::Open || read.record.state == ReceiptState::Subtotal;
 }
 
-//! Puts the values of plugins into the record; the error is noted for one that cannot be had.
+//! Puts the values of plugins into the record; the fault is noted of one that cannot be had.
 std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read)
 {
     ReceiptRecord record = read.record;
@@ -188,7 +187,7 @@ std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &r
 std::optional<ReadReceipt> readIfUnfinished(Database &database, qint64 id)
 {
     const auto read = readRows(database, id);
-    if (!read && database.error().isEmpty())
+    if (!read && !database.hasFailed())
         failWithWayOn(database, id, QStringLiteral("its header is missing"));
     if (!read || (read->isHeaderWhole && !isUnfinished(*read)))
         return std::nullopt;
@@ -239,9 +238,9 @@ std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database)
     const qint64 next = numberOf(
         database, QStringLiteral("SELECT id FROM receipts WHERE state < 2 AND id NOT IN (SELECT "
                                  "receipt FROM setApart) ORDER BY id DESC LIMIT 1"));
-    if (!found && database.error().isEmpty() && next != 0)
+    if (!found && !database.hasFailed() && next != 0)
         found = readIfUnfinished(database, next);
-    return found && database.error().isEmpty() ? withValues(database, *found) : std::nullopt;
+    return found && !database.hasFailed() ? withValues(database, *found) : std::nullopt;
 }
 
 QString reasonToSetApart(Database &database, qint64 id)
@@ -250,13 +249,12 @@ QString reasonToSetApart(Database &database, qint64 id)
         database.fail(QStringLiteral("there is no receipt %1").arg(id));
     else if (isSetApart(database, id))
         failFor(database, id, QStringLiteral("it is set apart already"));
-    if (!database.error().isEmpty())
+    if (database.hasFailed())
         return {};
     const auto read = readRows(database, id);
-    const QString unreadable = database.error();
-    database.forgetError();
+    const std::optional<Fault> unreadable = database.takeFault();
     if (!read)
-        return unreadable.isEmpty() ? QStringLiteral("its header is missing") : unreadable;
+        return unreadable ? unreadable->text() : QStringLiteral("its header is missing");
     const QString fault = read->anyFault();
     if (fault.isEmpty() && !isUnfinished(*read))
         failFor(database, id, QStringLiteral("it is finished and whole"));

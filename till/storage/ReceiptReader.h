@@ -33,7 +33,7 @@ struct ReadReceipt
     QString anyFault() const { return fault.isEmpty() ? valueFault : fault; }
 };
 
-// Nothing is returned for what is not there, and, with the error noted, for what cannot be read.
+// Nothing is returned for what is not there, and, with the fault noted, for what cannot be read.
 
 //! The receipt, which need not hold.
 std::optional<ReadReceipt> readRows(Database &database, qint64 id);
@@ -45,12 +45,12 @@ std::optional<ReceiptRecord> readLines(Database &database, qint64 id);
 
 /*!
  * The newest receipt that was neither closed nor cancelled, nor set apart; it must hold. So must
- * the header of the newest of all, lest an unfinished one be taken for finished. The error says how
+ * the header of the newest of all, lest an unfinished one be taken for finished. The fault says how
  * to go on.
  */
 std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database);
 
-//! Why the receipt may be set apart; an error is noted when it may not.
+//! Why the receipt may be set apart; a fault is noted when it may not.
 QString reasonToSetApart(Database &database, qint64 id);
 
 //! The highest number that was ever given to a receipt; 0 when none was.

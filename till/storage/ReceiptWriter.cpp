@@ -97,7 +97,7 @@ private:
         if (record.id == 0) {
             record.id = highestNumber(m_database) + 1;
             m_next.opened = QDateTime::currentMSecsSinceEpoch();
-            return m_database.error().isEmpty();
+            return !m_database.hasFailed();
         }
         return record.id == m_last.record.id || removeRows();
     }

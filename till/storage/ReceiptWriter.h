@@ -26,7 +26,7 @@ struct StoredReceipt
     Kopecks total = 0;    //!< of these
 };
 
-// Both work within a transaction of the caller's, and return false with the error noted.
+// Both work within a transaction of the caller's, and return false with the fault noted.
 
 /*!
  * Writes what \a next has and \a last has not, and takes out what only \a last has. Gives the

@@ -15,7 +15,7 @@ const Table &positionsTable();
 const Table &softChecksTable();
 const Table &pluginDataTable();
 
-// All return false with the error noted.
+// All return false with the fault noted.
 
 /*!
  * Makes \a database one of this till: an empty one gets the tables, one of the till before them is

@@ -9,6 +9,18 @@
 
 namespace till {
 
+namespace {
+
+Result<std::optional<ReceiptRecord>> unlessFailed(const Database &database,
+                                                  std::optional<ReceiptRecord> record)
+{
+    if (database.hasFailed())
+        return database.fault();
+    return record;
+}
+
+} // namespace
+
 Storage::Storage(std::unique_ptr<Database> database)
     : m_database(std::move(database))
     , m_last(std::make_unique<StoredReceipt>())
@@ -17,17 +29,15 @@ Storage::Storage(std::unique_ptr<Database> database)
 
 Storage::~Storage() = default;
 
-std::unique_ptr<Storage> Storage::open(const QString &path, QString *error)
+Result<std::unique_ptr<Storage>> Storage::open(const QString &path)
 {
-    auto database = Database::open(path, Database::Access::Till, error);
-    QString copy;
+    auto database = Database::open(path, Database::Access::Till);
     if (!database)
-        return nullptr;
-    if (!prepareSchema(*database, &copy)) {
-        *error = database->error();
-        return nullptr;
-    }
-    std::unique_ptr<Storage> storage(new Storage(std::move(database)));
+        return database.error();
+    QString copy;
+    if (!prepareSchema(**database, &copy))
+        return (*database)->fault();
+    std::unique_ptr<Storage> storage(new Storage(std::move(*database)));
     storage->m_copyBefore = copy;
     return storage;
 }
@@ -37,9 +47,9 @@ QString Storage::path() const
     return m_database->path();
 }
 
-QString Storage::save(ReceiptRecord &record, const QList<JournalEntry> &journal)
+Result<> Storage::save(ReceiptRecord &record, const QList<JournalEntry> &journal)
 {
-    m_database->forgetError();
+    m_database->forgetFault();
     const bool isLast = record.id != 0 && record.id == m_last->record.id;
     StoredReceipt next;
     next.record = record;
@@ -48,7 +58,7 @@ QString Storage::save(ReceiptRecord &record, const QList<JournalEntry> &journal)
                       && writeJournal(*m_database, next.record.id, journal) && m_database->commit();
     if (!done) {
         m_database->rollBack();
-        return m_database->error();
+        return m_database->fault();
     }
     const bool hasEnded = m_last->ended == 0 && next.ended != 0;
     record.id = next.record.id;
@@ -58,49 +68,44 @@ QString Storage::save(ReceiptRecord &record, const QList<JournalEntry> &journal)
     return {};
 }
 
-std::optional<ReceiptRecord> Storage::unfinishedReceipt(QString *error) const
+Result<std::optional<ReceiptRecord>> Storage::unfinishedReceipt() const
 {
-    m_database->forgetError();
-    auto record = readUnfinishedReceipt(*m_database);
-    *error = m_database->error();
-    return record;
+    m_database->forgetFault();
+    return unlessFailed(*m_database, readUnfinishedReceipt(*m_database));
 }
 
-std::optional<ReceiptRecord> Storage::receipt(qint64 id, QString *error) const
+Result<std::optional<ReceiptRecord>> Storage::receipt(qint64 id) const
 {
-    m_database->forgetError();
-    auto record = readReceipt(*m_database, id);
-    *error = m_database->error();
-    return record;
+    m_database->forgetFault();
+    return unlessFailed(*m_database, readReceipt(*m_database, id));
 }
 
-std::optional<ReceiptRecord> Storage::lines(qint64 id, QString *error) const
+Result<std::optional<ReceiptRecord>> Storage::lines(qint64 id) const
 {
-    m_database->forgetError();
-    auto record = readLines(*m_database, id);
-    *error = m_database->error();
-    return record;
+    m_database->forgetFault();
+    return unlessFailed(*m_database, readLines(*m_database, id));
 }
 
-QString Storage::setApart(qint64 id)
+Result<> Storage::setApart(qint64 id)
 {
-    m_database->forgetError();
+    m_database->forgetFault();
     const QString reason = reasonToSetApart(*m_database, id);
-    if (m_database->error().isEmpty() && m_database->begin()) {
-        const bool done =
-            m_database->run(
-                QStringLiteral("INSERT INTO setApart (receipt, time, reason) VALUES (?, ?, ?)"),
-                {id, QDateTime::currentMSecsSinceEpoch(), reason})
-            && m_database->commit();
-        if (!done)
-            m_database->rollBack();
-    }
-    return m_database->error();
+    if (m_database->hasFailed() || !m_database->begin())
+        return m_database->fault();
+    const bool done =
+        m_database->run(
+            QStringLiteral("INSERT INTO setApart (receipt, time, reason) VALUES (?, ?, ?)"),
+            {id, QDateTime::currentMSecsSinceEpoch(), reason})
+        && m_database->commit();
+    if (done)
+        return {};
+    m_database->rollBack();
+    return m_database->fault();
 }
 
 QList<JournalEntry> Storage::journal(qint64 receiptId) const
 {
-    m_database->forgetError();
+    m_database->forgetFault();
     return readJournal(*m_database, receiptId);
 }
 

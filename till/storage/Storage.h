@@ -2,6 +2,7 @@
 #define TILL_STORAGE_STORAGE_H
 
 #include "till/receipt/ReceiptRecord.h"
+#include "till/result/Result.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
@@ -33,19 +34,18 @@ struct JournalEntry
  * Each receipt is stored with a digest over all that belongs to it, and nothing of one that does
  * not hold is ever given out as if it did.
  *
- * Errors come as one line of text that starts with the path.
+ * The place of a fault is the path as it was given.
  */
 class Storage
 {
 public:
     /*!
      * Opens the database at \a path, or makes it when there is no file; ":memory:" is one that goes
-     * with the object. Null, and the reason in \a error, when that cannot be done: the file is in
-     * use, damaged, another program's or another version's, or cannot be written. Such a file is
-     * left as it was. One of the format before is brought to today's: see `copyBefore`. A file that
-     * was left by a killed till is checked as a whole.
+     * with the object. A file that is in use, damaged, another program's or another version's, or
+     * cannot be written is left as it was. One of the format before is brought to today's: see
+     * `copyBefore`. A file that was left by a killed till is checked as a whole.
      */
-    static std::unique_ptr<Storage> open(const QString &path, QString *error);
+    static Result<std::unique_ptr<Storage>> open(const QString &path);
     ~Storage();
     Q_DISABLE_COPY_MOVE(Storage)
 
@@ -54,35 +54,30 @@ public:
     QString copyBefore() const { return m_copyBefore; }
 
     /*!
-     * The newest receipt that was neither closed nor cancelled, nor set apart. Nothing when there
-     * is none, with \a error empty, or when it cannot be read or does not hold, with \a error
-     * saying why and how to go on. Plugin data of types that a plugin brought along can be read
-     * once it has registered them.
+     * The newest receipt that was neither closed nor cancelled, nor set apart; nothing when there
+     * is none. The fault of one that does not hold says how to go on without it. Plugin data of
+     * types that a plugin brought along can be read once it has registered them.
      */
-    std::optional<ReceiptRecord> unfinishedReceipt(QString *error) const;
+    Result<std::optional<ReceiptRecord>> unfinishedReceipt() const;
 
     /*!
      * Stores \a record in place of what was stored under its number, and appends \a journal to the
      * receipt's journal, all or nothing; when it returns, this is on the disk. A record without a
      * number gets one. Only what differs from the last save is written.
      *
-     * Returns an empty text; or the error, and then nothing is stored, \a record is unchanged, and
-     * a later save may succeed.
+     * With a fault nothing is stored, \a record is unchanged, and a later save may succeed.
      */
-    QString save(ReceiptRecord &record, const QList<JournalEntry> &journal);
+    Result<> save(ReceiptRecord &record, const QList<JournalEntry> &journal);
 
-    //! The receipt with that number; nothing, with \a error empty, when there is none; nothing,
-    //! with the reason, when it cannot be read or does not hold.
-    std::optional<ReceiptRecord> receipt(qint64 id, QString *error) const;
+    //! The receipt with that number; nothing when there is none.
+    Result<std::optional<ReceiptRecord>> receipt(qint64 id) const;
 
     //! The same without the plugin data, which then need not hold.
-    std::optional<ReceiptRecord> lines(qint64 id, QString *error) const;
+    Result<std::optional<ReceiptRecord>> lines(qint64 id) const;
 
-    /*!
-     * Sets the receipt apart: it stays as it is, and is never taken up again. Empty text; or why it
-     * cannot be done, as for an unknown number or a finished receipt that holds.
-     */
-    QString setApart(qint64 id);
+    //! Sets the receipt apart: it stays as it is, and is never taken up again. A fault of an
+    //! unknown number and of a finished receipt that holds.
+    Result<> setApart(qint64 id);
 
     //! What was done to that receipt, oldest first; empty for an unknown number.
     QList<JournalEntry> journal(qint64 receiptId) const;

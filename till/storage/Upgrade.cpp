@@ -81,7 +81,7 @@ bool movePositions(Database &database, AllContents &all)
             return false;
         countLine(values, contents);
     }
-    return database.error().isEmpty();
+    return !database.hasFailed();
 }
 
 bool moveSoftChecks(Database &database, AllContents &all)
@@ -93,7 +93,7 @@ bool moveSoftChecks(Database &database, AllContents &all)
         if (!moveRow(database, softChecksTable(), values, all[values[0].toLongLong()]))
             return false;
     }
-    return database.error().isEmpty();
+    return !database.hasFailed();
 }
 
 //! The digest that the first format kept of a value.
@@ -116,7 +116,7 @@ bool movePluginData(Database &database, AllContents &all)
         if (!isMoved)
             return false;
     }
-    return database.error().isEmpty();
+    return !database.hasFailed();
 }
 
 bool moveHeaders(Database &database, const AllContents &all)
@@ -132,7 +132,7 @@ bool moveHeaders(Database &database, const AllContents &all)
         if (!receiptsTable().write(database, values, receiptsTable().digest(values)))
             return false;
     }
-    return database.error().isEmpty();
+    return !database.hasFailed();
 }
 
 bool moveAll(Database &database)

@@ -10,7 +10,7 @@ class Database;
 /*!
  * Brings a database of the first format to today's, whose tables \a makeTables makes: first a copy
  * beside it, FILE.schema1, whose path is put into \a copy, then all in one transaction. Values of
- * plugins that are damaged stay damaged. False with the error noted; then the file is as it was and
+ * plugins that are damaged stay damaged. False with the fault noted; then the file is as it was and
  * there is no copy.
  */
 bool upgradeFromSchema1(Database &database, bool (*makeTables)(Database &), QString *copy);

@@ -13,12 +13,10 @@ namespace till {
 
 namespace {
 
-//! The error that was noted, without the path, which the report has no need of; none is left.
-QString takeError(Database &database)
+//! The reason of the fault that was noted, which is forgotten; empty when there is none.
+QString takeReason(Database &database)
 {
-    const QString error = database.error();
-    database.forgetError();
-    return error.mid(database.path().size() + 2);
+    return database.takeFault().value_or(Fault()).reason;
 }
 
 QList<qint64> numbers(Database &database)
@@ -49,8 +47,8 @@ QString faultOf(Database &database, qint64 id)
     const auto read = readRows(database, id);
     if (read)
         return read->anyFault();
-    const QString error = takeError(database);
-    return error.isEmpty() ? QStringLiteral("its header is missing") : error;
+    const QString reason = takeReason(database);
+    return reason.isEmpty() ? QStringLiteral("its header is missing") : reason;
 }
 
 void checkReceipts(Database &database, CheckReport &report)
@@ -76,33 +74,33 @@ bool CheckReport::isGood() const
                           [](const OddReceipt &receipt) { return receipt.isSetApart; });
 }
 
-std::optional<CheckReport> checkDatabase(const QString &path, QString *error)
+Result<CheckReport> checkDatabase(const QString &path)
 {
-    const auto database = Database::open(path, Database::Access::Reading, error);
-    if (!database)
-        return std::nullopt;
-    if (!isReadable(*database)) {
-        *error = database->error();
-        return std::nullopt;
-    }
+    const auto opened = Database::open(path, Database::Access::Reading);
+    if (!opened)
+        return opened.error();
+    const auto &database = *opened;
+    if (!isReadable(*database))
+        return database->fault();
     CheckReport report;
     database->execute(QStringLiteral("BEGIN")); // all is read as of one moment
     const bool isWhole = database->checkFile(Database::Check::Whole) && isComplete(*database);
-    report.fileFault = takeError(*database);
+    report.fileFault = takeReason(*database);
     checkReceipts(*database, report);
     if (isWhole) // else what follows from the damage
-        report.fileFault = takeError(*database);
+        report.fileFault = takeReason(*database);
     database->rollBack();
     return report;
 }
 
-QString backUp(const QString &path, const QString &target)
+Result<> backUp(const QString &path, const QString &target)
 {
-    QString error;
-    const auto database = Database::open(path, Database::Access::Reading, &error);
+    const auto database = Database::open(path, Database::Access::Reading);
     if (!database)
-        return error;
-    return isOurs(*database) && database->copyTo(target) ? QString() : database->error();
+        return database.error();
+    if (!isOurs(**database) || !(*database)->copyTo(target))
+        return (*database)->fault();
+    return {};
 }
 
 } // namespace till

@@ -2,11 +2,10 @@
 #define TILL_STORAGE_UPKEEP_H
 
 #include "till/receipt/ReceiptRecord.h"
+#include "till/result/Result.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
-
-#include <optional>
 
 namespace till {
 
@@ -32,13 +31,13 @@ struct CheckReport
     bool isGood() const;
 };
 
-//! Checks the file, and every receipt in it against its digest and the till's limits. Nothing, and
-//! the reason in \a error, when \a path cannot be opened or is not of today's format.
-std::optional<CheckReport> checkDatabase(const QString &path, QString *error);
+//! Checks the file, and every receipt in it against its digest and the till's limits. The
+//! fault is that \a path cannot be opened or is not of today's format.
+Result<CheckReport> checkDatabase(const QString &path);
 
 //! Writes a whole copy of the database, with the log of a till that is on or was killed, to
-//! \a target, where there must be nothing yet. Empty text or an error.
-QString backUp(const QString &path, const QString &target);
+//! \a target, where there must be nothing yet.
+Result<> backUp(const QString &path, const QString &target);
 
 } // namespace till
 

@@ -62,9 +62,7 @@ ToldReceipt ToldReceipt::asTakenUp() const
 
 ToldReceipt ToldReceipt::stored(const Storage &storage, qint64 id)
 {
-    QString error;
-    const auto record = storage.receipt(id, &error);
-    EXPECT_EQ(error, QString());
+    const auto record = must(storage.receipt(id));
     if (!record)
         return {};
     ToldReceipt receipt{*record, {}, {}};

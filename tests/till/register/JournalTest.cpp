@@ -14,9 +14,7 @@ protected:
     {
         commands.reset();
         till.reset();
-        QString error;
-        const auto storage = Storage::open(setup().database, &error);
-        EXPECT_EQ(error.toStdString(), "");
+        const auto storage = must(Storage::open(setup().database));
         QStringList kinds;
         const QList<JournalEntry> entries = storage->journal(1);
         for (const JournalEntry &entry : entries)

@@ -51,8 +51,7 @@ protected:
     Triggers()
     {
         till->stop();
-        QString error;
-        storage = Storage::open(":memory:", &error);
+        storage = must(Storage::open(":memory:"));
         m_register = std::make_unique<Register>(
             Register::Parts{till->catalogue(), *storage, &loaded, settings, notes});
         EXPECT_TRUE(m_register->carryOut(command::Open{}));

@@ -43,8 +43,8 @@ protected:
     void failToSave(Storage &storage)
     {
         disk.leaveRoomFor(GetParam());
-        const QString error = storage.save(bigger, {{0, "add", "{}"}});
-        EXPECT_EQ(error, path() + ": the disk is full (database or disk is full)");
+        EXPECT_EQ(faultText(storage.save(bigger, {{0, "add", "{}"}})),
+                  path() + ": the disk is full (database or disk is full)");
     }
 
     ReceiptRecord stored;
@@ -142,7 +142,7 @@ TEST_F(StorageDisk, LogThatCannotBeSynced_FailsTheSave)
     const ReceiptRecord before = record;
     record.order = "5";
     disk.failSyncs();
-    EXPECT_THAT(storage->save(record, {}).toStdString(), HasSubstr("disk I/O error"));
+    EXPECT_THAT(faultText(storage->save(record, {})).toStdString(), HasSubstr("disk I/O error"));
     EXPECT_EQ(unfinished(*storage), before);
 }
 

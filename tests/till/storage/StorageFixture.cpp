@@ -74,9 +74,7 @@ QString StorageTest::path(const QString &name) const
 
 std::unique_ptr<Storage> StorageTest::opened(const QString &path)
 {
-    QString error;
-    auto storage = Storage::open(path, &error);
-    EXPECT_EQ(error, QString());
+    auto storage = must(Storage::open(path));
     if (!storage)
         throw std::runtime_error("the database did not open");
     return storage;
@@ -84,22 +82,19 @@ std::unique_ptr<Storage> StorageTest::opened(const QString &path)
 
 QString StorageTest::refusalOf(const QString &path)
 {
-    QString error;
-    EXPECT_EQ(Storage::open(path, &error), nullptr);
-    return error;
+    const auto opened = Storage::open(path);
+    EXPECT_FALSE(opened);
+    return faultText(opened);
 }
 
 void StorageTest::save(Storage &storage, ReceiptRecord &record, const QList<JournalEntry> &journal)
 {
-    ASSERT_EQ(storage.save(record, journal), QString());
+    ASSERT_EQ(faultText(storage.save(record, journal)), QString());
 }
 
 std::optional<ReceiptRecord> StorageTest::unfinished(const Storage &storage)
 {
-    QString error;
-    auto record = storage.unfinishedReceipt(&error);
-    EXPECT_EQ(error, QString());
-    return record;
+    return must(storage.unfinishedReceipt());
 }
 
 QStringList StorageTest::query(const QString &path, const QString &sql)

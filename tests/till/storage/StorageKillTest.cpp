@@ -73,10 +73,7 @@ private:
 
     static std::optional<ReceiptRecord> receipt(const Storage &storage, qint64 id)
     {
-        QString error;
-        auto record = storage.receipt(id, &error);
-        EXPECT_EQ(error, QString());
-        return record;
+        return must(storage.receipt(id));
     }
 
     static QList<JournalEntry> journalUntil(int step)

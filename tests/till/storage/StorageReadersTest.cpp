@@ -38,13 +38,7 @@ protected:
 
     QString killed() const { return path("killed-till.db"); }
 
-    static CheckReport checked(const QString &path)
-    {
-        QString error;
-        const auto report = checkDatabase(path, &error);
-        EXPECT_EQ(error, QString());
-        return report.value_or(CheckReport());
-    }
+    static CheckReport checked(const QString &path) { return must(checkDatabase(path)); }
 };
 
 TEST_F(StorageReaders, BesideATill_SeeWhatItSavedAndDoNotStopIt)
@@ -98,7 +92,7 @@ TEST_F(StorageReaders, BackUpWhileATillIsOn_IsWhole)
     ReceiptRecord record = receiptOf(3);
     record.pluginData["plugin"]["key"] = QVariantList{1, 2.5};
     save(*storage, record, {{0, "open", "{}"}});
-    EXPECT_EQ(backUp(path(), path("copy.db")), QString());
+    EXPECT_EQ(faultText(backUp(path(), path("copy.db"))), QString());
     const auto copy = opened(path("copy.db"));
     EXPECT_EQ(unfinished(*copy), record);
     EXPECT_EQ(copy->journal(record.id).size(), 1);
@@ -109,7 +103,7 @@ TEST_F(StorageReaders, BackUpAfterAKill_HasTheLastCommandWhichTheFileAloneLacks)
 {
     const ReceiptRecord record = leaveKilled(5);
     EXPECT_TRUE(QFile::copy(killed(), path("alone.db")));
-    EXPECT_EQ(backUp(killed(), path("copy.db")), QString());
+    EXPECT_EQ(faultText(backUp(killed(), path("copy.db"))), QString());
     EXPECT_EQ(unfinished(*opened(path("copy.db"))), record);
     EXPECT_EQ(unfinished(*opened(path("alone.db")))->lines.size(), 1);
     EXPECT_EQ(unfinished(*opened(killed())), record);
@@ -119,7 +113,7 @@ TEST_F(StorageReaders, CheckAndBackUpOfAClosedDatabase_LeaveNothingBesideIt)
 {
     leaveUnfinished(2);
     EXPECT_TRUE(checked(path()).isGood());
-    EXPECT_EQ(backUp(path(), path("copy.db")), QString());
+    EXPECT_EQ(faultText(backUp(path(), path("copy.db"))), QString());
     EXPECT_TRUE(checked(path("copy.db")).isGood());
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList({"copy.db", "till.db"}));
 }
@@ -152,17 +146,20 @@ TEST_F(StorageReaders, BackUpOntoAFile_IsRefusedAndTheFileStays)
 {
     leaveUnfinished(1);
     overwrite(path("copy.db"), "mine");
-    EXPECT_THAT(backUp(path(), path("copy.db")).toStdString(), HasSubstr("something already"));
+    EXPECT_THAT(faultText(backUp(path(), path("copy.db"))).toStdString(),
+                HasSubstr("something already"));
     EXPECT_EQ(contents(path("copy.db")), "mine");
 }
 
 TEST_F(StorageReaders, BackUpThatCannotBeMade_SaysWhyAndLeavesNothing)
 {
     leaveUnfinished(1);
-    EXPECT_THAT(backUp(path(), path("no/copy.db")).toStdString(), HasSubstr("No such file"));
-    EXPECT_THAT(backUp(path("none.db"), path("copy.db")).toStdString(), HasSubstr("no such file"));
+    EXPECT_THAT(faultText(backUp(path(), path("no/copy.db"))).toStdString(),
+                HasSubstr("No such file"));
+    EXPECT_THAT(faultText(backUp(path("none.db"), path("copy.db"))).toStdString(),
+                HasSubstr("no such file"));
     overwrite(path("text"), "Dear shop,");
-    EXPECT_NE(backUp(path("text"), path("copy.db")), QString());
+    EXPECT_NE(faultText(backUp(path("text"), path("copy.db"))), QString());
     EXPECT_EQ(QDir(directory.path()).entryList({"copy*"}), QStringList());
 }
 
@@ -191,7 +188,7 @@ TEST_F(StorageReaders, CheckOfDamage_NamesEachReceipt)
     query("UPDATE positions SET price = -100 WHERE receipt = 2");
     query("DELETE FROM receipts WHERE id = 3");
     query("UPDATE receipts SET orderNumber = 'x' WHERE id = 4");
-    EXPECT_EQ(opened()->setApart(4), QString());
+    EXPECT_EQ(faultText(opened()->setApart(4)), QString());
     const CheckReport report = checked(path());
     EXPECT_EQ(report.whole, 1);
     ASSERT_EQ(report.odd.size(), 3);
@@ -207,7 +204,7 @@ TEST_F(StorageReaders, CheckOfWhatWasSetApart_IsGood)
 {
     leaveUnfinished(1);
     query("UPDATE positions SET price = -100");
-    EXPECT_EQ(opened()->setApart(1), QString());
+    EXPECT_EQ(faultText(opened()->setApart(1)), QString());
     EXPECT_TRUE(checked(path()).isGood());
 }
 
@@ -257,7 +254,7 @@ TEST_P(Umask, Files_AreTheOwnersAlone)
     const auto storage = opened();
     ReceiptRecord record = receiptOf(1);
     save(*storage, record);
-    EXPECT_EQ(backUp(path(), path("copy.db")), QString());
+    EXPECT_EQ(faultText(backUp(path(), path("copy.db"))), QString());
     for (const QString file : {"till.db", "till.db-wal", "till.db-shm", "till.db-lock", "copy.db"})
         EXPECT_EQ(mode(file), 0600) << file.toStdString();
 }

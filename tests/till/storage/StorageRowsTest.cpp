@@ -63,11 +63,10 @@ protected:
     //! The receipt is refused, by its number, with \a what.
     void isRefused(const std::string &what = {})
     {
-        QString error;
-        EXPECT_EQ(storage->unfinishedReceipt(&error), std::nullopt);
-        EXPECT_THAT(error.toStdString(), StartsWith(path().toStdString() + ": receipt 2: "));
-        EXPECT_THAT(error.toStdString(), HasSubstr(what));
-        EXPECT_THAT(error.toStdString(), HasSubstr("till set-apart 2"));
+        const std::string fault = faultText(storage->unfinishedReceipt()).toStdString();
+        EXPECT_THAT(fault, StartsWith(path().toStdString() + ": receipt 2: "));
+        EXPECT_THAT(fault, HasSubstr(what));
+        EXPECT_THAT(fault, HasSubstr("till set-apart 2"));
     }
 
     ReceiptRecord record;

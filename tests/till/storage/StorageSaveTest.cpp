@@ -42,7 +42,8 @@ TEST_F(StorageSave, UnknownNumber_IsRefused)
     const auto storage = opened();
     ReceiptRecord record;
     record.id = 7;
-    EXPECT_EQ(storage->save(record, {{0, "open", "{}"}}), path() + ": there is no receipt 7");
+    EXPECT_EQ(faultText(storage->save(record, {{0, "open", "{}"}})),
+              path() + ": there is no receipt 7");
     EXPECT_EQ(storage->journal(7), QList<JournalEntry>());
 }
 
@@ -56,7 +57,7 @@ TEST_F(StorageSave, QuantityThatIsNoNumber_IsRefusedAndNothingStored)
     record.lines[0].count = 9.0;
     record.lines[1].count = std::numeric_limits<double>::quiet_NaN();
 
-    EXPECT_EQ(storage->save(record, {{0, "change", "{}"}}),
+    EXPECT_EQ(faultText(storage->save(record, {{0, "change", "{}"}})),
               path() + ": position 2 has a quantity out of range, which cannot be stored");
     EXPECT_EQ(unfinished(*storage), before);
     EXPECT_TRUE(storage->journal(record.id).isEmpty());
@@ -67,7 +68,7 @@ TEST_F(StorageSave, RefusedFirstSave_LeavesTheRecordWithoutANumber)
     const auto storage = opened();
     ReceiptRecord record = receiptOf(1);
     record.lines[0].base = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_NE(storage->save(record, {}), QString());
+    EXPECT_NE(faultText(storage->save(record, {})), QString());
     EXPECT_EQ(record.id, 0);
 }
 
@@ -79,7 +80,7 @@ TEST_F(StorageSave, AfterARefusedSave_TheNextStoresWhatDiffersFromTheStored)
         save(*storage, record);
         record.lines[0].count = 9.0;
         record.lines[1].count = std::numeric_limits<double>::quiet_NaN();
-        EXPECT_NE(storage->save(record, {}), QString());
+        EXPECT_NE(faultText(storage->save(record, {})), QString());
         record.lines[1].count = 3.0;
         save(*storage, record);
     }
@@ -101,9 +102,8 @@ TEST_F(StorageSave, TwoAlikeReceiptsInTurn_BothAreKept)
         save(*storage, second);
     }
     const auto storage = opened();
-    QString error;
-    EXPECT_EQ(storage->receipt(first.id, &error), first);
-    EXPECT_EQ(storage->receipt(second.id, &error), second);
+    EXPECT_EQ(must(storage->receipt(first.id)), first);
+    EXPECT_EQ(must(storage->receipt(second.id)), second);
 }
 
 TEST_F(StorageSave, Journal_ComesBackInOrder)
@@ -135,11 +135,9 @@ TEST_F(StorageSave, JournalOfUnknownReceipt_IsEmpty)
     EXPECT_TRUE(opened()->journal(3).isEmpty());
 }
 
-TEST_F(StorageSave, UnknownReceipt_IsNothingWithoutAnError)
+TEST_F(StorageSave, UnknownReceipt_IsNothingAndNoFault)
 {
-    QString error = "old";
-    EXPECT_FALSE(opened()->receipt(3, &error));
-    EXPECT_EQ(error, QString());
+    EXPECT_EQ(must(opened()->receipt(3)), std::nullopt);
 }
 
 TEST_F(StorageSave, NewDatabase_HasNoUnfinishedReceipt)
@@ -164,8 +162,7 @@ TEST_P(FinishedReceipts, Reopened_AreKept)
     ReceiptRecord record = leaveUnfinished(1);
     record.state = GetParam();
     save(*opened(), record);
-    QString error;
-    EXPECT_EQ(opened()->receipt(record.id, &error), record);
+    EXPECT_EQ(must(opened()->receipt(record.id)), record);
 }
 
 INSTANTIATE_TEST_SUITE_P(States, FinishedReceipts,

@@ -24,7 +24,7 @@ TEST_F(StorageSetApart, Damaged_StaysAsItIsAndAnotherIsOpened)
     const QStringList before = query(rows);
     {
         const auto storage = opened();
-        EXPECT_EQ(storage->setApart(2), QString());
+        EXPECT_EQ(faultText(storage->setApart(2)), QString());
         EXPECT_EQ(unfinished(*storage), std::nullopt);
     }
     EXPECT_EQ(query(rows), before);
@@ -39,7 +39,7 @@ TEST_F(StorageSetApart, Damaged_StaysAsItIsAndAnotherIsOpened)
 TEST_F(StorageSetApart, WithoutAHeader_ItsNumberIsNotGivenAgain)
 {
     query("DELETE FROM receipts WHERE id = 2");
-    EXPECT_EQ(opened()->setApart(2), QString());
+    EXPECT_EQ(faultText(opened()->setApart(2)), QString());
     EXPECT_EQ(leaveUnfinished(1).id, 3);
 }
 
@@ -55,11 +55,11 @@ TEST_F(StorageSetApart, DamagedLinesOfAFinishedReceipt_StopNobody)
 TEST_F(StorageSetApart, WhatHolds_IsSetApartOnlyWhileUnfinished)
 {
     const auto storage = opened();
-    EXPECT_EQ(storage->setApart(1), path() + ": receipt 1: it is finished and whole");
-    EXPECT_EQ(storage->setApart(3), path() + ": there is no receipt 3");
-    EXPECT_EQ(storage->setApart(0), path() + ": there is no receipt 0");
-    EXPECT_EQ(storage->setApart(2), QString());
-    EXPECT_EQ(storage->setApart(2), path() + ": receipt 2: it is set apart already");
+    EXPECT_EQ(faultText(storage->setApart(1)), path() + ": receipt 1: it is finished and whole");
+    EXPECT_EQ(faultText(storage->setApart(3)), path() + ": there is no receipt 3");
+    EXPECT_EQ(faultText(storage->setApart(0)), path() + ": there is no receipt 0");
+    EXPECT_EQ(faultText(storage->setApart(2)), QString());
+    EXPECT_EQ(faultText(storage->setApart(2)), path() + ": receipt 2: it is set apart already");
     EXPECT_EQ(unfinished(*storage), std::nullopt);
 }
 

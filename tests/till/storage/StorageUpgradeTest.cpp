@@ -30,10 +30,7 @@ protected:
 
     static std::optional<ReceiptRecord> receipt(const Storage &storage, qint64 id)
     {
-        QString error;
-        auto record = storage.receipt(id, &error);
-        EXPECT_EQ(error, QString());
-        return record;
+        return must(storage.receipt(id));
     }
 };
 
@@ -118,12 +115,11 @@ TEST_F(StorageUpgrade, CommandsOnlyInTheLog_AreThereToo)
 TEST_F(StorageUpgrade, DamagedPluginData_StayDamaged)
 {
     query("UPDATE pluginData SET value = x'00' WHERE receipt = 3 AND key = 'taraInfo'");
-    QString error;
     const auto storage = opened();
-    EXPECT_EQ(storage->unfinishedReceipt(&error), std::nullopt);
-    EXPECT_THAT(error.toStdString(), HasSubstr("receipt 3: the data of plugin \"PackagingControl\" "
-                                               "under \"taraInfo\" are damaged"));
-    EXPECT_EQ(storage->lines(3, &error)->lines.size(), 4);
+    EXPECT_THAT(faultText(storage->unfinishedReceipt()).toStdString(),
+                HasSubstr("receipt 3: the data of plugin \"PackagingControl\" "
+                          "under \"taraInfo\" are damaged"));
+    EXPECT_EQ(must(storage->lines(3))->lines.size(), 4);
 }
 
 //! What no till can have stored, which the first format took.
@@ -137,12 +133,11 @@ TEST_P(OutOfRange, IsRefusedAndSetApart)
     const auto [change, fault] = GetParam();
     query(QStringLiteral("UPDATE %1 WHERE receipt = 3 AND place = 1").arg(change));
     const auto storage = opened();
-    QString error;
-    EXPECT_EQ(storage->unfinishedReceipt(&error), std::nullopt);
-    EXPECT_EQ(error, path() + ": receipt 3: " + fault
-                         + "; \"till set-apart 3\" sets this receipt apart, so that another can be "
-                           "opened");
-    EXPECT_EQ(storage->setApart(3), QString());
+    EXPECT_EQ(faultText(storage->unfinishedReceipt()),
+              path() + ": receipt 3: " + fault
+                  + "; \"till set-apart 3\" sets this receipt apart, so that another can be "
+                    "opened");
+    EXPECT_EQ(faultText(storage->setApart(3)), QString());
     EXPECT_EQ(unfinished(*storage), std::nullopt);
 }
 
@@ -189,14 +184,13 @@ TEST_F(StorageUpgrade, MissingTable_IsRefusedAndNothingChanged)
 
 TEST_F(StorageUpgrade, Check_AsksForTheRegisterFirst)
 {
-    QString error;
-    EXPECT_FALSE(checkDatabase(path(), &error));
-    EXPECT_EQ(error, path() + ": its format is not today's yet: open the register once");
+    EXPECT_EQ(faultText(checkDatabase(path())),
+              path() + ": its format is not today's yet: open the register once");
 }
 
 TEST_F(StorageUpgrade, BackUpBefore_IsACopyOfTheFormer)
 {
-    EXPECT_EQ(backUp(path(), path("copy.db")), QString());
+    EXPECT_EQ(faultText(backUp(path(), path("copy.db"))), QString());
     EXPECT_EQ(query(path("copy.db"), "PRAGMA user_version"), QStringList{"1"});
     EXPECT_EQ(unfinished(*opened(path("copy.db")))->id, 3);
 }

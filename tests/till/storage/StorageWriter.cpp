@@ -51,27 +51,27 @@ int saveForeign(Storage &storage)
 {
     ReceiptRecord record;
     record.pluginData["plugin"]["key"] = QVariant::fromValue(KnownToTheWriter{7});
-    const QString error = storage.save(record, {});
-    return error.isEmpty() ? (say("saved"), 0) : fail(error);
+    const Result<> saved = storage.save(record, {});
+    return saved ? (say("saved"), 0) : fail(saved.error().text());
 }
 
 //! Goes on where the last one was killed.
 int takeSteps(Storage &storage)
 {
-    QString error;
-    const auto unfinished = storage.unfinishedReceipt(&error);
-    qint64 id = unfinished ? unfinished->id : 0;
-    int step = unfinished ? unfinished->nextPosnum - 1 : 0;
-    while (error.isEmpty()) {
+    const auto read = storage.unfinishedReceipt();
+    if (!read)
+        return fail(read.error().text());
+    qint64 id = *read ? (*read)->id : 0;
+    int step = *read ? (*read)->nextPosnum - 1 : 0;
+    for (;;) {
         if (step == StepsOfAReceipt)
             id = step = 0;
         ReceiptRecord record = plannedReceipt(id, ++step);
-        error = storage.save(record, plannedJournal(step));
+        if (const Result<> saved = storage.save(record, plannedJournal(step)); !saved)
+            return fail(saved.error().text());
         id = record.id;
-        if (error.isEmpty())
-            say(QStringLiteral("%1 %2").arg(id).arg(step));
+        say(QStringLiteral("%1 %2").arg(id).arg(step));
     }
-    return fail(error);
 }
 
 } // namespace
@@ -86,14 +86,13 @@ int main(int argc, char **argv)
     FailingDisk disk(QFileInfo(arguments[2]).absolutePath());
     if (arguments[1] == "steps")
         disk.killProcessAt(arguments[3].toInt());
-    QString error;
-    const auto storage = Storage::open(arguments[2], &error);
+    const auto storage = Storage::open(arguments[2]);
     if (!storage)
-        return fail(error);
+        return fail(storage.error().text());
     if (arguments[1] == "steps")
-        return takeSteps(*storage);
+        return takeSteps(**storage);
     if (arguments[1] == "foreign")
-        return saveForeign(*storage);
+        return saveForeign(**storage);
     say("opened");
     return 0;
 }

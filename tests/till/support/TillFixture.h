@@ -1,6 +1,7 @@
 #ifndef TESTS_TILL_SUPPORT_TILLFIXTURE_H
 #define TESTS_TILL_SUPPORT_TILLFIXTURE_H
 
+#include "tests/till/support/Results.h"
 #include "till/course/Notes.h"
 #include "till/register/CashDesk.h"
 #include "till/script/CommandLine.h"

@@ -21,8 +21,7 @@ class KitDriver : public contract::Driver, private Front
 public:
     void start(bool allowSaleEmptyTara) override
     {
-        QString error;
-        m_storage = Storage::open(QStringLiteral(":memory:"), &error);
+        m_storage = std::move(*Storage::open(QStringLiteral(":memory:")));
         m_settings.set(QStringLiteral("PackagingControl:allowSaleEmptyTara"), allowSaleEmptyTara);
         QFile file(m_folder.filePath(QStringLiteral("catalogue.csv")));
         if (file.open(QIODevice::WriteOnly))
@@ -81,9 +80,8 @@ public:
     QSharedPointer<AbstractDocument> storeAndLoad() override
     {
         m_register->carryOut(command::Subtotal{}); // every command stores the receipt
-        QString error;
-        const auto record = m_storage->unfinishedReceipt(&error);
-        return record ? QSharedPointer<Receipt>::create(*record) : nullptr;
+        const auto read = m_storage->unfinishedReceipt();
+        return read && *read ? QSharedPointer<Receipt>::create(**read) : nullptr;
     }
 
 private:

@@ -1,0 +1,29 @@
+#ifndef TESTS_TILL_SUPPORT_RESULTS_H
+#define TESTS_TILL_SUPPORT_RESULTS_H
+
+#include "till/result/Result.h"
+
+#include <gtest/gtest.h>
+
+namespace till {
+
+//! The text of the fault; empty when there is none.
+template <typename Value>
+QString faultText(const Result<Value> &result)
+{
+    return result ? QString() : result.error().text();
+}
+
+//! What there must be; otherwise the test fails, and what it goes on with is made anew.
+template <typename Value>
+Value must(Result<Value> result)
+{
+    if (result)
+        return std::move(*result);
+    ADD_FAILURE() << result.error().text().toStdString();
+    return Value();
+}
+
+} // namespace till
+
+#endif // TESTS_TILL_SUPPORT_RESULTS_H
