@@ -14,8 +14,10 @@ endif()
 
 # Everything runs from the build tree as it does when installed.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
-set(PACKAGINGCONTROL_PLUGIN_DIR ${CMAKE_INSTALL_LIBDIR}/packagingcontrol/plugins)
+# The libraries are the project's own, so that they lie in a folder of their own.
+set(PACKAGINGCONTROL_LIBRARY_DIR ${CMAKE_INSTALL_LIBDIR}/packagingcontrol)
+set(PACKAGINGCONTROL_PLUGIN_DIR ${PACKAGINGCONTROL_LIBRARY_DIR}/plugins)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${PACKAGINGCONTROL_LIBRARY_DIR})
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wnull-dereference)
 if(PACKAGINGCONTROL_WERROR)

@@ -10,7 +10,7 @@ function(expect file what text pattern)
     endif()
 endfunction()
 
-file(GLOB libraries ${BUILD_DIR}/lib/*.so)
+file(GLOB libraries ${BUILD_DIR}/lib/packagingcontrol/*.so)
 foreach(file ${BUILD_DIR}/bin/till ${BUILD_DIR}/${PLUGIN} ${libraries})
     run(${READELF} -lW ${file})
     expect(${file} "can be loaded to one address only" "${RUN_OUTPUT}" "Elf file type is DYN")

@@ -11,7 +11,7 @@ file(RENAME ${STAGED} ${MOVED})
 
 foreach(path
         ${PLUGIN}
-        ${LIB_DIR}/libPackagingHost.so
+        ${LIB_DIR}/packagingcontrol/libPackagingHost.so
         ${LIB_DIR}/cmake/PackagingHost/PackagingHostConfig.cmake
         ${INCLUDE_DIR}/host/BasicPlugin.h)
     if(NOT EXISTS ${MOVED}/${path})
@@ -29,13 +29,13 @@ endforeach()
 
 # The stand-in for Log4Qt is the host package's, and never taken for Log4Qt.
 file(GLOB taken
-    ${MOVED}/${LIB_DIR}/cmake/*[Ll]og4[Qq]t* ${MOVED}/${LIB_DIR}/liblog4qt*)
+    ${MOVED}/${LIB_DIR}/cmake/*[Ll]og4[Qq]t* ${MOVED}/${LIB_DIR}/packagingcontrol/liblog4qt*)
 if(taken)
     message(SEND_ERROR "taken for Log4Qt: ${taken}")
 endif()
 
 # Libraries are found from where the file lies.
-file(GLOB binaries ${MOVED}/${LIB_DIR}/*.so ${MOVED}/${PLUGIN} ${MOVED}/${BIN_DIR}/*)
+file(GLOB binaries ${MOVED}/${LIB_DIR}/packagingcontrol/*.so ${MOVED}/${PLUGIN} ${MOVED}/${BIN_DIR}/*)
 foreach(binary ${binaries})
     dynamic_entries(${binary} RUNPATH runpath)
     if(NOT runpath MATCHES "^\\$ORIGIN[^:]*$")
