@@ -18,8 +18,9 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
 set(PACKAGINGCONTROL_LIBRARY_DIR ${CMAKE_INSTALL_LIBDIR}/packagingcontrol)
 set(PACKAGINGCONTROL_PLUGIN_DIR ${PACKAGINGCONTROL_LIBRARY_DIR}/plugins)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${PACKAGINGCONTROL_LIBRARY_DIR})
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wnull-dereference)
+add_compile_options(-Wall -Wextra -Wpedantic -Wdate-time -Wshadow -Woverloaded-virtual -Wnull-dereference)
 if(PACKAGINGCONTROL_WERROR)
     add_compile_options(-Werror)
 endif()
@@ -33,8 +34,10 @@ else()
     # Clang leaves the sanitizers' own symbols to the program, so that libraries cannot be complete.
     add_link_options(-Wl,--no-undefined)
 
-    # What is delivered is hardened as Debian hardens its packages.
+    # What is delivered is hardened as Debian hardens its packages, and names no folder of its build.
     set(delivered $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+    add_compile_options("$<${delivered}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
+    add_compile_options("$<${delivered}:-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>")
     add_compile_options("$<${delivered}:-fstack-protector-strong;-Wformat;-Wformat-security>")
     if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
         add_compile_options("$<${delivered}:-fstack-clash-protection;-fcf-protection>")

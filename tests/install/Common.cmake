@@ -25,6 +25,16 @@ function(build source binary)
     run(${CMAKE_COMMAND} --build ${binary})
 endfunction()
 
+# build_alone(SOURCE BINARY): the plugin, against the installed host and with the release's flags. It has
+# debugging information too, which names all folders that are not kept out, and those that a compiler's
+# cache would write otherwise.
+function(build_alone source binary)
+    set(ENV{CCACHE_BASEDIR} /nowhere)
+    build(${source} ${binary} -DPACKAGINGCONTROL_HOST_PACKAGE=PackagingHost
+        -DCMAKE_BUILD_TYPE=Release "-DCMAKE_CXX_FLAGS=${CXX_FLAGS} -g"
+        -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0)
+endfunction()
+
 # The values of one kind of entry (NEEDED, RUNPATH) in the dynamic section of a file.
 function(dynamic_entries file kind result)
     run(${READELF} -dW ${file})

@@ -17,7 +17,7 @@ foreach(header ${own_headers})
     file(WRITE ${source}/${header} "#error The tree's own host header was read\n")
 endforeach()
 
-build(${source} ${binary} -DPACKAGINGCONTROL_HOST_PACKAGE=PackagingHost)
+build_alone(${source} ${binary})
 
 file(READ ${binary}/compile_commands.json commands)
 if(commands MATCHES "-(I|isystem )${SOURCE_DIR}(/host|/log4qt)?[ \"]")
