@@ -1,3 +1,4 @@
+#include "till/console/Commit.h"
 #include "till/console/ExitStatus.h"
 #include "till/console/Info.h"
 #include "till/console/Interactive.h"
@@ -155,6 +156,13 @@ int upkeep(const Options &options, const Translator &translator)
     return result.status;
 }
 
+QString version()
+{
+    return QString("%1 (%2, Qt %3)")
+        .arg(TILL_VERSION, *commit != 0 ? QString("commit ") + commit : "no commit known",
+             qVersion());
+}
+
 int run(const Options &options, Notes &notes)
 {
     const Translator translator(options.language);
@@ -201,8 +209,7 @@ int runArguments(const QStringList &arguments)
     if (!parser.parse(arguments))
         return fail(UsageError, withoutPeriod(parser.errorText()) + "; try --help");
     if (parser.isSet("version") || parser.isSet("help")) {
-        Output().print(parser.isSet("help") ? parser.helpText()
-                                            : QStringLiteral("till " TILL_VERSION));
+        Output().print(parser.isSet("help") ? parser.helpText() : "till " + version());
         return AllWell;
     }
     Options options;
