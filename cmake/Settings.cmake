@@ -20,6 +20,9 @@ set(PACKAGINGCONTROL_PLUGIN_DIR ${PACKAGINGCONTROL_LIBRARY_DIR}/plugins)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${PACKAGINGCONTROL_LIBRARY_DIR})
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
+# What is installed is for those who run it, unless it says "dev".
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME runtime)
+
 add_compile_options(-Wall -Wextra -Wpedantic -Wdate-time -Wshadow -Woverloaded-virtual -Wnull-dereference)
 if(PACKAGINGCONTROL_WERROR)
     add_compile_options(-Werror)

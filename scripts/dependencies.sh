@@ -5,6 +5,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite 
 test_packages=(clang libgtest-dev libgmock-dev librapidcheck-dev binutils locales)
 bench_packages=(libbenchmark-dev libsqlite3-dev valgrind binutils python3)
 check_packages=(clang clang-format clang-tidy clazy libclang-rt-dev shellcheck git gcovr valgrind)
+package_packages=(dpkg-dev file git lintian reuse)
 
 is_installed() {
     dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
