@@ -27,9 +27,9 @@ namespace {
 const till::Catalogue &catalogue()
 {
     static const auto loaded = till::Catalogue::load(QStringLiteral(BENCH_CATALOGUE));
-    if (const QString *error = std::get_if<QString>(&loaded))
-        giveUp(*error);
-    return std::get<till::Catalogue>(loaded);
+    if (!loaded)
+        giveUp(loaded.error().text());
+    return *loaded;
 }
 
 //! A receipt in hand of \a n positions, one half tara and one half goods, as `Records` says.
@@ -64,9 +64,9 @@ public:
             giveUp(opened.error().text());
         m_storage = std::move(*opened);
         const auto loaded = m_loader.load(QStringLiteral(BENCH_PLUGIN));
-        if (const auto *fault = std::get_if<till::PluginError>(&loaded))
-            giveUp(fault->text());
-        m_plugin = std::get<till::LoadedPlugin>(loaded);
+        if (!loaded)
+            giveUp(loaded.error().text());
+        m_plugin = *loaded;
         m_register.emplace(
             till::Register::Parts{catalogue(), *m_storage, &*m_plugin, m_settings, m_notes});
         if (const QString error = m_register->start(); !error.isEmpty())

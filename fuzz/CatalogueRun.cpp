@@ -83,18 +83,19 @@ QString readCatalogue(QByteArrayView bytes)
     if (!file.isWhole())
         return "the file could not be made";
     const auto loaded = Catalogue::load(file.path());
-    if (const auto *error = std::get_if<QString>(&loaded))
-        return error->startsWith(file.path() + ':') ? QString()
-                                                    : "an error without its place: " + *error;
+    if (!loaded)
+        return loaded.error().place.startsWith(file.path())
+                   ? QString()
+                   : "a fault without its place: " + loaded.error().text();
 
-    const auto &catalogue = std::get<Catalogue>(loaded);
+    const auto &catalogue = *loaded;
     if (const QString fault = faultOf(catalogue); !fault.isEmpty())
         return fault;
     const MemoryFile copy(toCsv(articlesOf(catalogue)));
     const auto again = Catalogue::load(copy.path());
-    if (const auto *error = std::get_if<QString>(&again))
-        return "what was read is refused when it is written: " + *error;
-    return articlesOf(std::get<Catalogue>(again)) == articlesOf(catalogue)
+    if (!again)
+        return "what was read is refused when it is written: " + again.error().text();
+    return articlesOf(*again) == articlesOf(catalogue)
                ? QString()
                : "other articles are read from what was read and written";
 }

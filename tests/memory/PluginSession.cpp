@@ -92,8 +92,7 @@ void liveOnce()
 {
     FakeHost host;
     till::PluginLoader loader;
-    const auto result = loader.load(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE));
-    if (const auto *loaded = std::get_if<till::LoadedPlugin>(&result)) {
+    if (const auto loaded = loader.load(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE))) {
         sell(host, *loaded);
         check(loader.unload(), "the plugin is unloaded");
     } else {

@@ -71,19 +71,18 @@ QString describePlugin(const Setup &setup, QString &text)
 
     PluginLoader loader;
     const auto loaded = loader.load(setup.plugin);
-    if (const PluginError *error = std::get_if<PluginError>(&loaded))
-        return error->text();
+    if (!loaded)
+        return loaded.error().text();
     SubscriptionRecorder notifier;
     Singleton<Config>::instance = &settings;
     Singleton<ActivityNotifier>::instance = &notifier;
-    const LoadedPlugin &plugin = std::get<LoadedPlugin>(loaded);
-    const std::optional<PluginError> fault = plugin.initialise();
-    if (!fault)
-        text = "plugin:   " + setup.plugin + '\n' + describe(plugin, notifier.codes());
+    const auto initialised = loaded->initialise();
+    if (initialised)
+        text = "plugin:   " + setup.plugin + '\n' + describe(*loaded, notifier.codes());
     loader.unload();
     Singleton<Config>::instance = nullptr;
     Singleton<ActivityNotifier>::instance = nullptr;
-    return fault ? fault->text() : QString();
+    return initialised ? QString() : initialised.error().text();
 }
 
 } // namespace till

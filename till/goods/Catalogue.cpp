@@ -172,15 +172,15 @@ QByteArray contents(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        throw CatalogueRefusal{QStringLiteral(": no such file")};
+        throw CatalogueRefusal{QStringLiteral("no such file")};
     if (info.isDir())
-        throw CatalogueRefusal{QStringLiteral(": a directory, not a file")};
+        throw CatalogueRefusal{QStringLiteral("a directory, not a file")};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw CatalogueRefusal{": cannot be opened: " + file.errorString()};
+        throw CatalogueRefusal{"cannot be opened: " + file.errorString()};
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw CatalogueRefusal{": cannot be read: " + file.errorString()};
+        throw CatalogueRefusal{"cannot be read: " + file.errorString()};
     return bytes.startsWith(ByteOrderMark) ? bytes.sliced(ByteOrderMark.size()) : bytes;
 }
 
@@ -215,7 +215,7 @@ QList<ArticleData> readArticles(const QByteArray &text)
     if (table.rows.isEmpty() && table.fault)
         refuseFault(*table.fault, nullptr);
     if (table.rows.isEmpty())
-        throw CatalogueRefusal{QStringLiteral(": the file is empty")};
+        throw CatalogueRefusal{QStringLiteral("the file is empty")};
 
     const CatalogueHeader header(table.rows.first());
     QList<ArticleData> articles;
@@ -235,13 +235,13 @@ QList<ArticleData> readArticles(const QByteArray &text)
     if (table.fault)
         refuseFault(*table.fault, &header);
     if (articles.isEmpty())
-        throw CatalogueRefusal{QStringLiteral(": there are no articles below the header")};
+        throw CatalogueRefusal{QStringLiteral("there are no articles below the header")};
     return articles;
 }
 
 } // namespace
 
-std::variant<Catalogue, QString> Catalogue::load(const QString &path)
+Result<Catalogue> Catalogue::load(const QString &path)
 {
     try {
         Catalogue catalogue;
@@ -250,7 +250,8 @@ std::variant<Catalogue, QString> Catalogue::load(const QString &path)
             catalogue.add(QSharedPointer<Article>::create(article));
         return catalogue;
     } catch (const CatalogueRefusal &refusal) {
-        return path + refusal.text;
+        const QString line = ':' + QString::number(refusal.line);
+        return Fault{refusal.line == 0 ? path : path + line, refusal.reason};
     }
 }
 

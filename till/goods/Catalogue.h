@@ -2,13 +2,12 @@
 #define TILL_GOODS_CATALOGUE_H
 
 #include "till/goods/Article.h"
+#include "till/result/Result.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QSharedPointer>
 #include <QtCore/QString>
-
-#include <variant>
 
 namespace till {
 
@@ -17,9 +16,9 @@ class Catalogue
 {
 public:
     /*!
-     * Reads the CSV file at \a path: the catalogue, or in plain English why there is none. One bad
-     * row is enough to take nothing of the file; the text is `FILE:LINE: column N "name": reason`
-     * for the first one, with less in front of the reason where there is no such line or column.
+     * Reads the CSV file at \a path. One bad row is enough to take nothing of the file; the text of
+     * the fault is `FILE:LINE: column N "name": reason` for the first one, with less in front of
+     * the reason where there is no such line or column.
      *
      * The file is UTF-8, with or without a byte order mark, its fields separated by comma,
      * semicolon or tab; which one, the header tells. Blank rows and white space around fields mean
@@ -37,7 +36,7 @@ public:
      *
      * Letter case in these names, "_" for a space and "е" for "ё" make no difference.
      */
-    static std::variant<Catalogue, QString> load(const QString &path);
+    static Result<Catalogue> load(const QString &path);
 
     //! The article with exactly that code, or null.
     QSharedPointer<Article> find(const QString &code) const { return m_byCode.value(code); }

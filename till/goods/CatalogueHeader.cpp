@@ -43,7 +43,7 @@ QString canonical(const QByteArray &header)
 
 void refuseRow(int line, const QString &reason)
 {
-    throw CatalogueRefusal{QStringLiteral(":%1: %2").arg(line).arg(reason)};
+    throw CatalogueRefusal{reason, line};
 }
 
 QString quoted(const QString &text)

@@ -9,10 +9,11 @@
 
 namespace till {
 
-//! Thrown while a catalogue is read, and turned into the text that `Catalogue::load` returns.
+//! Thrown while a catalogue is read, and turned into the fault that `Catalogue::load` returns.
 struct CatalogueRefusal
 {
-    QString text; //!< without the file's name
+    QString reason;
+    int line = 0; //!< 0 when it is no line's
 };
 
 //! Throws the refusal of the row at \a line.

@@ -72,7 +72,7 @@ std::optional<PluginError> damage(const QString &path)
                        QStringLiteral("only its first %1 bytes").arg(file.size())};
 }
 
-PluginLoader::MetadataResult readRecord(const QPluginLoader &library, const QString &path)
+Result<PluginMetadata, PluginError> readRecord(const QPluginLoader &library, const QString &path)
 {
     const QJsonObject record = library.metaData();
     if (record.isEmpty())
@@ -119,8 +119,8 @@ PluginError wrongObject(const QString &path, const LoadedPlugin &loaded)
             found};
 }
 
-PluginLoader::Result instantiate(QPluginLoader &library, const QString &path,
-                                 const PluginMetadata &metadata)
+Result<LoadedPlugin, PluginError> instantiate(QPluginLoader &library, const QString &path,
+                                              const PluginMetadata &metadata)
 {
     if (!library.load())
         return PluginError{PluginError::NotLoadable, path,
@@ -144,16 +144,17 @@ std::unique_ptr<QPluginLoader> open(const QString &path)
 
 } // namespace
 
-QString PluginError::text() const
+Fault PluginError::fault() const
 {
-    return QStringLiteral("Cannot load the plugin %1: expected %2, found %3")
-        .arg(path, expected, found);
+    return {
+        path,
+        QStringLiteral("cannot be loaded as a plugin: expected %1, found %2").arg(expected, found)};
 }
 
-std::optional<PluginError> LoadedPlugin::initialise() const
+Result<void, PluginError> LoadedPlugin::initialise() const
 {
     if (plugin->init())
-        return std::nullopt;
+        return {};
     return PluginError{PluginError::NotReady, metadata.path,
                        QStringLiteral("a plugin that init() makes ready"),
                        QStringLiteral("one whose init() answers false")};
@@ -162,7 +163,7 @@ std::optional<PluginError> LoadedPlugin::initialise() const
 PluginLoader::PluginLoader() = default;
 PluginLoader::~PluginLoader() = default;
 
-PluginLoader::MetadataResult PluginLoader::readMetadata(const QString &path)
+Result<PluginMetadata, PluginError> PluginLoader::readMetadata(const QString &path)
 {
     const QFileInfo file(path);
     if (auto error = missingFile(file))
@@ -172,17 +173,17 @@ PluginLoader::MetadataResult PluginLoader::readMetadata(const QString &path)
     return readRecord(*open(file.absoluteFilePath()), file.absoluteFilePath());
 }
 
-PluginLoader::Result PluginLoader::load(const QString &path)
+Result<LoadedPlugin, PluginError> PluginLoader::load(const QString &path)
 {
     m_library.reset();
-    const MetadataResult checked = readMetadata(path);
-    if (const auto *error = std::get_if<PluginError>(&checked))
-        return *error;
+    const auto checked = readMetadata(path);
+    if (!checked)
+        return checked.error();
     // An absolute path, or Qt looks for the file in its own folders.
     const QString file = QFileInfo(path).absoluteFilePath();
     auto library = open(file);
-    Result result = instantiate(*library, file, std::get<PluginMetadata>(checked));
-    if (std::holds_alternative<LoadedPlugin>(result))
+    auto result = instantiate(*library, file, *checked);
+    if (result)
         m_library = std::move(library);
     return result;
 }

@@ -1,12 +1,12 @@
 #ifndef TILL_PLUGINS_PLUGINLOADER_H
 #define TILL_PLUGINS_PLUGINLOADER_H
 
+#include "till/result/Result.h"
+
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
 #include <memory>
-#include <optional>
-#include <variant>
 
 class BaseActivityListener;
 class BasicPlugin;
@@ -31,7 +31,7 @@ struct PluginMetadata
 //! Why a plugin file was not taken.
 struct PluginError
 {
-    enum Fault {
+    enum Kind {
         NoSuchFile,     //!< nothing at that path, or no regular file, or one that may not be read
         NotALibrary,    //!< no shared library of this machine
         Truncated,      //!< a shared library whose end is missing
@@ -42,13 +42,14 @@ struct PluginError
         NotReady,       //!< its `init()` answered false
     };
 
-    Fault fault;
+    Kind kind;
     QString path;     //!< absolute
     QString expected; //!< what the till needs
     QString found;    //!< what is there instead
 
-    //! One line for a person: path, expected and found.
-    QString text() const;
+    //! For a person: path, expected and found.
+    Fault fault() const;
+    QString text() const { return fault().text(); }
 };
 
 //! A plugin's object, by each part of it that a host talks to. All belong to the plugin.
@@ -58,10 +59,10 @@ struct LoadedPlugin
     QObject *object = nullptr;
     BasicPlugin *plugin = nullptr;            //!< life cycle and triggers
     BaseActivityListener *listener = nullptr; //!< receives events
-    DocumentWatcher *watcher = nullptr;       //!< is told of the document in hand
+    DocumentWatcher *watcher = nullptr;       //!< is told of the current document
 
-    //! Initialises the plugin; the error when it answers that it is not ready. To be called once.
-    std::optional<PluginError> initialise() const;
+    //! Initialises the plugin, which may answer that it is not ready. To be called once.
+    Result<void, PluginError> initialise() const;
 };
 
 /*!
@@ -78,18 +79,15 @@ public:
     ~PluginLoader();
     Q_DISABLE_COPY_MOVE(PluginLoader)
 
-    using MetadataResult = std::variant<PluginMetadata, PluginError>;
-    using Result = std::variant<LoadedPlugin, PluginError>;
-
     //! Reads and checks what the file \a path says of itself. Loads nothing.
-    static MetadataResult readMetadata(const QString &path);
+    static Result<PluginMetadata, PluginError> readMetadata(const QString &path);
 
     /*!
      * Loads the file \a path and creates its object, or finds the one that an earlier load of this
      * file created. With an error no object is left. A plugin that this loader loaded before is
      * left loaded and no longer reached by `unload`.
      */
-    Result load(const QString &path);
+    Result<LoadedPlugin, PluginError> load(const QString &path);
 
     /*!
      * Deletes the plugin's object, which nobody may use any more; its code stays in the process.

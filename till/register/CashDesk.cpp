@@ -94,9 +94,9 @@ QString CashDesk::readCatalogue()
     if (m_catalogue)
         return {};
     auto loaded = Catalogue::load(m_setup.catalogue);
-    if (const QString *error = std::get_if<QString>(&loaded))
-        return *error;
-    m_catalogue = std::get<Catalogue>(std::move(loaded));
+    if (!loaded)
+        return loaded.error().text();
+    m_catalogue = std::move(*loaded);
     return {};
 }
 
@@ -116,9 +116,9 @@ QString CashDesk::loadPlugin()
     if (m_setup.plugin.isEmpty())
         return {};
     const auto loaded = m_loader.load(m_setup.plugin);
-    if (const PluginError *error = std::get_if<PluginError>(&loaded))
-        return error->text();
-    m_plugin = std::get<LoadedPlugin>(loaded);
+    if (!loaded)
+        return loaded.error().text();
+    m_plugin = *loaded;
     return {};
 }
 

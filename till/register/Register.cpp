@@ -59,8 +59,8 @@ QString Register::start()
         return QStringLiteral("another register is on in this process");
     const UnderWay underWay(*this);
     if (m_plugin) {
-        if (const auto error = m_plugin->initialise())
-            return error->text();
+        if (const auto initialised = m_plugin->initialise(); !initialised)
+            return initialised.error().text();
         m_isPluginReady = true;
     }
     auto read = m_storage.unfinishedReceipt();

@@ -26,14 +26,14 @@ struct Fault
 };
 
 //! What an operation gives, or the fault for which it gives nothing. True when it was done.
-template <typename Value = void>
-class [[nodiscard]] Result : public tl::expected<Value, Fault>
+template <typename Value = void, typename Error = Fault>
+class [[nodiscard]] Result : public tl::expected<Value, Error>
 {
 public:
-    using tl::expected<Value, Fault>::expected;
+    using tl::expected<Value, Error>::expected;
     Result() = default;
-    Result(Fault fault)
-        : tl::expected<Value, Fault>(tl::make_unexpected(std::move(fault)))
+    Result(Error error)
+        : tl::expected<Value, Error>(tl::make_unexpected(std::move(error)))
     {
     }
 };

@@ -1,6 +1,7 @@
 #ifndef TESTS_TILL_GOODS_CATALOGUEFILE_H
 #define TESTS_TILL_GOODS_CATALOGUEFILE_H
 
+#include "tests/till/support/Results.h"
 #include "till/goods/Catalogue.h"
 
 #include <QtCore/QFile>
@@ -30,10 +31,10 @@ public:
     QList<till::ArticleData> articles(const QByteArray &text) const
     {
         const auto loaded = load(text);
-        if (const auto *error = std::get_if<QString>(&loaded))
-            return {{"refused", *error, 0, 0, 0.0, 0.0, ""}};
+        if (!loaded)
+            return {{"refused", loaded.error().text(), 0, 0, 0.0, 0.0, ""}};
         QList<till::ArticleData> all;
-        const auto articles = std::get<till::Catalogue>(loaded).articles();
+        const auto articles = loaded->articles();
         for (const auto &article : articles)
             all.append(article->data);
         return all;
@@ -42,16 +43,14 @@ public:
     //! What is said of a file with that text, its name shortened to FILE; empty when it is taken.
     QString error(const QByteArray &text) const
     {
-        const auto loaded = load(text);
-        const auto *error = std::get_if<QString>(&loaded);
-        return error ? QString(*error).replace(path(), "FILE") : QString();
+        return till::faultText(load(text)).replace(path(), "FILE");
     }
 
-    std::variant<till::Catalogue, QString> load(const QByteArray &text) const
+    till::Result<till::Catalogue> load(const QByteArray &text) const
     {
         QFile file(path());
         if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            return "the test cannot write: " + file.errorString();
+            return till::Fault{"the test cannot write", file.errorString()};
         file.close();
         return till::Catalogue::load(path());
     }

@@ -22,9 +22,9 @@ protected:
 
 TEST_F(CatalogueContents, FindByCode_GivesThatArticle)
 {
-    const auto catalogue = std::get<Catalogue>(file.load(Head
-                                                         + "A,Chips,1,0,0,1,pc\n"
-                                                           "B,Fish,2,0,0,1,pc\n"));
+    const auto catalogue = must(file.load(Head
+                                          + "A,Chips,1,0,0,1,pc\n"
+                                            "B,Fish,2,0,0,1,pc\n"));
 
     ASSERT_TRUE(catalogue.find("B"));
     EXPECT_EQ(catalogue.find("B")->data.name, "Fish");
@@ -33,7 +33,7 @@ TEST_F(CatalogueContents, FindByCode_GivesThatArticle)
 
 TEST_F(CatalogueContents, FindOfUnknownCode_GivesNull)
 {
-    const auto catalogue = std::get<Catalogue>(file.load(Head + "A,Chips,1,0,0,1,pc\n"));
+    const auto catalogue = must(file.load(Head + "A,Chips,1,0,0,1,pc\n"));
 
     EXPECT_FALSE(catalogue.find("B"));
     EXPECT_FALSE(catalogue.find("a"));
@@ -55,7 +55,7 @@ TEST_F(CatalogueContents, Articles_StandInTheOrderOfTheFile)
 
 TEST_F(CatalogueContents, Article_TellsTheHostItsTaraModeAndCapacity)
 {
-    const auto catalogue = std::get<Catalogue>(file.load(Head + "A,Bottle,1,1,1.5,1,pc\n"));
+    const auto catalogue = must(file.load(Head + "A,Bottle,1,1,1.5,1,pc\n"));
 
     EXPECT_EQ(catalogue.find("A")->getTaraMode(), Tmc::Tara);
     EXPECT_EQ(catalogue.find("A")->getTaraCapacity(), QVariant(1.5));
@@ -223,19 +223,18 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CataloguePath, OfNoFile_IsAnError)
 {
-    EXPECT_EQ(std::get<QString>(Catalogue::load("/nowhere/goods.csv")),
-              "/nowhere/goods.csv: no such file");
+    EXPECT_EQ(faultText(Catalogue::load("/nowhere/goods.csv")), "/nowhere/goods.csv: no such file");
 }
 
 TEST(CataloguePath, OfADirectory_IsAnError)
 {
-    EXPECT_EQ(std::get<QString>(Catalogue::load("/")), "/: a directory, not a file");
+    EXPECT_EQ(faultText(Catalogue::load("/")), "/: a directory, not a file");
 }
 
 TEST(CataloguePath, OfAFileThatCannotBeRead_IsAnError)
 {
     // The first page of a process's memory is never mapped: this file opens and fails to read.
-    const auto error = std::get<QString>(Catalogue::load("/proc/self/mem"));
+    const auto error = faultText(Catalogue::load("/proc/self/mem"));
 
     EXPECT_TRUE(error.startsWith("/proc/self/mem: cannot be read: ")) << error.toStdString();
 }
@@ -243,7 +242,7 @@ TEST(CataloguePath, OfAFileThatCannotBeRead_IsAnError)
 TEST(CataloguePath, OfAFileThatCannotBeOpened_IsAnError)
 {
     // Writing is all that anyone may do to this one, whoever asks.
-    const auto error = std::get<QString>(Catalogue::load("/proc/self/clear_refs"));
+    const auto error = faultText(Catalogue::load("/proc/self/clear_refs"));
 
     EXPECT_TRUE(error.startsWith("/proc/self/clear_refs: cannot be ")) << error.toStdString();
 }
@@ -253,10 +252,7 @@ class SampleCatalogue : public testing::Test
 protected:
     void SetUp() override
     {
-        auto loaded = Catalogue::load(TILL_SHARE_DIR "/catalogue.csv");
-        const auto *error = std::get_if<QString>(&loaded);
-        ASSERT_FALSE(error) << error->toStdString();
-        articles = std::get<Catalogue>(loaded).articles();
+        articles = must(Catalogue::load(TILL_SHARE_DIR "/catalogue.csv")).articles();
     }
 
     template <typename Predicate>

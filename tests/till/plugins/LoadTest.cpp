@@ -6,6 +6,7 @@
 #include "host/Document.h"
 #include "host/DocumentWatcher.h"
 #include "host/Event.h"
+#include "tests/till/support/Results.h"
 
 #include <gtest/gtest.h>
 
@@ -16,24 +17,14 @@
 #include <QtCore/QPointer>
 
 using till::LoadedPlugin;
-using till::PluginError;
 using till::PluginLoader;
-using till::PluginMetadata;
 
 namespace {
 
 class Load : public testing::Test
 {
 protected:
-    LoadedPlugin loaded()
-    {
-        const PluginLoader::Result result = loader.load(path);
-        if (const auto *const error = std::get_if<PluginError>(&result)) {
-            ADD_FAILURE() << error->text().toStdString();
-            return {};
-        }
-        return std::get<LoadedPlugin>(result);
-    }
+    LoadedPlugin loaded() { return till::must(loader.load(path)); }
 
     static bool isMapped()
     {
@@ -47,10 +38,9 @@ protected:
 
 TEST_F(Load, ReadMetadata_NamesInterfaceAndClassAndLoadsNothing)
 {
-    const PluginLoader::MetadataResult result = PluginLoader::readMetadata(path);
+    const auto metadata = PluginLoader::readMetadata(path);
 
-    const auto *const metadata = std::get_if<PluginMetadata>(&result);
-    ASSERT_NE(metadata, nullptr);
+    ASSERT_TRUE(metadata);
     EXPECT_EQ(metadata->interfaceId, QString("PackagingControl"));
     EXPECT_EQ(metadata->className, QString("PackagingControl"));
     EXPECT_EQ(metadata->record.value("IID").toString(), QString("PackagingControl"));
@@ -73,10 +63,10 @@ TEST_F(Load, RelativePath_IsTakenFromTheCurrentFolder)
     const QString before = QDir::currentPath();
     QDir::setCurrent(QFileInfo(path).path());
 
-    const PluginLoader::Result result = loader.load("PackagingControl.so");
+    const auto result = loader.load("PackagingControl.so");
 
     QDir::setCurrent(before);
-    EXPECT_TRUE(std::holds_alternative<LoadedPlugin>(result));
+    EXPECT_TRUE(result);
     EXPECT_TRUE(loader.unload());
 }
 
@@ -85,10 +75,10 @@ TEST_F(Load, SecondLoader_FindsTheSameObject)
     PluginLoader second;
     const LoadedPlugin first = loaded();
 
-    const PluginLoader::Result result = second.load(path);
+    const auto result = second.load(path);
 
-    ASSERT_TRUE(std::holds_alternative<LoadedPlugin>(result));
-    EXPECT_EQ(std::get<LoadedPlugin>(result).object, first.object);
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->object, first.object);
     second.unload();
     loader.unload();
 }
@@ -107,7 +97,7 @@ TEST_F(Load, UnloadWhileAnotherLoaderHoldsTheFile_KeepsTheObject)
 {
     PluginLoader second;
     const QPointer<QObject> object = loaded().object;
-    second.load(path);
+    EXPECT_TRUE(second.load(path));
 
     EXPECT_FALSE(loader.unload());
 

@@ -8,15 +8,15 @@
 namespace till {
 
 //! The text of the fault; empty when there is none.
-template <typename Value>
-QString faultText(const Result<Value> &result)
+template <typename Value, typename Error>
+QString faultText(const Result<Value, Error> &result)
 {
     return result ? QString() : result.error().text();
 }
 
 //! What there must be; otherwise the test fails, and what it goes on with is made anew.
-template <typename Value>
-Value must(Result<Value> result)
+template <typename Value, typename Error>
+Value must(Result<Value, Error> result)
 {
     if (result)
         return std::move(*result);

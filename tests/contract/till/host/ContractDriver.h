@@ -28,7 +28,7 @@ public:
             file.write("code;name;price;tara mode;tara capacity;pack;unit\n"
                        "5;t;1;1;5;1;l\n2;t;1;1;2;1;l\n1.5;t;1;1;1.5;1;l\nG;g;1;2;;1;l\n");
         file.close();
-        m_catalogue = std::get<Catalogue>(Catalogue::load(file.fileName()));
+        m_catalogue = *Catalogue::load(file.fileName());
     }
 
     bool attach(QObject *plugin) override
