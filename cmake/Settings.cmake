@@ -27,6 +27,8 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wdate-time -Wshadow -Woverloaded-v
 if(PACKAGINGCONTROL_WERROR)
     add_compile_options(-Werror)
 endif()
+# Debian 12's valgrind does not read the version that Clang writes by itself.
+add_compile_options($<$<CXX_COMPILER_ID:Clang>:-fdebug-default-version=4>)
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 add_link_options(-Wl,--as-needed)
 if(PACKAGINGCONTROL_SANITIZE)
