@@ -156,8 +156,10 @@ EContext::Result ActionRunner::applyModifiers(const control::Action &action, Ori
     const auto position = m_receipt->line(posnum);
     const double base = quantity.value<Quantity>().amount();
     const ArticleData &article = position->article();
-    if (!m_receipt->hasPlaceFor(article, base / article.pack, position.get()))
+    if (!m_receipt->hasPlaceFor(article, base / article.pack, position.get())) {
+        m_program.show(messages::tillCannotFollow());
         return EContext::Error;
+    }
     position->setBase(base);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();

@@ -1,5 +1,6 @@
 #include "till/console/Interactive.h"
 
+#include "till/console/Output.h"
 #include "till/database/DatabaseFile.h"
 
 #include <QtCore/QDir>
@@ -69,10 +70,11 @@ bool isTerminal()
     return isatty(STDIN_FILENO) != 0;
 }
 
-bool askOnTerminal()
+bool askOnTerminal(const Translator &translator)
 {
+    const QByteArray prompt = translator.text(told("till", "yes/no> ")).toUtf8();
     for (;;) {
-        const std::optional<QString> typed = readTyped("yes/no> ");
+        const std::optional<QString> typed = readTyped(prompt.constData());
         if (!typed)
             return false;
         const QString answer = typed->trimmed().toLower();
@@ -83,7 +85,7 @@ bool askOnTerminal()
     }
 }
 
-bool runInteractive(CommandLine &commands, const QString &historyFile,
+bool runInteractive(CommandLine &commands, const Translator &translator, const QString &historyFile,
                     const std::function<void(const QString &text)> &show)
 {
     const bool terminal = isTerminal();
@@ -93,18 +95,27 @@ bool runInteractive(CommandLine &commands, const QString &historyFile,
         rl_attempted_completion_function = complete;
         makePrivateFolder(QFileInfo(historyFile).path());
         read_history(history.constData());
-        show("The till. 'help' lists the commands, 'quit' leaves.");
+        show(translator.text(told("till", "The till. 'help' lists the commands, 'quit' leaves.")));
     }
+    const QByteArray prompt = translator.text(told("till", "till> ")).toUtf8();
     bool allDone = true;
+    qsizetype number = 0;
     QString shown = terminal ? commands.renderReceipt() : QString();
     while (!commands.hasQuit()) {
-        const std::optional<QString> line = terminal ? readTyped("till> ") : readPiped();
+        const std::optional<QString> line = terminal ? readTyped(prompt.constData()) : readPiped();
         if (!line)
             break;
         if (terminal && !line->trimmed().isEmpty())
             remember(*line, history);
         const Outcome outcome = commands.run(*line);
-        if (const QString text = commands.textOf(outcome); !text.isEmpty())
+        ++number;
+        const QString text = commands.hasShown(outcome) ? translator.text(told("till", "refused"))
+                                                        : commands.textOf(outcome);
+        if (!outcome && !terminal)
+            Output::error(translator.text(
+                told("till", "standard input:%1: %2: %3")
+                    .with({QString::number(number), line->trimmed(), commands.textOf(outcome)})));
+        else if (!text.isEmpty())
             show(text);
         allDone = allDone && (terminal || outcome);
         if (!terminal || !commands.hasTouchedReceipt())

@@ -30,7 +30,10 @@ QString readSettings(const QStringList &assignments, QMap<QString, QString> &set
         const qsizetype equals = assignment.indexOf('=');
         if (equals <= 0)
             return "--set: \"" + assignment + "\" is not KEY=VALUE";
-        settings.insert(assignment.left(equals), assignment.mid(equals + 1));
+        const QString key = assignment.left(equals);
+        if (const auto fault = settingFault(key, assignment.mid(equals + 1)))
+            return "--set: " + Translator("en").text(*fault);
+        settings.insert(key, assignment.mid(equals + 1));
     }
     return {};
 }

@@ -34,12 +34,13 @@ QString withoutPeriod(const QString &text)
 }
 
 //! Tells that the database was brought to today's format, if it was.
-void tellCopy(const CashDesk &desk, const std::function<void(const QString &text)> &show)
+void tellCopy(const CashDesk &desk, const Translator &translator,
+              const std::function<void(const QString &text)> &show)
 {
     if (!desk.copyBefore().isEmpty())
-        show(desk.setup().database
-             + ": brought to the format of this till; as it was before, it is in "
-             + desk.copyBefore());
+        show(translator.text(
+            told("till", "%1: brought to the format of this till; as it was before, it is in %2")
+                .with({desk.setup().database, desk.copyBefore()})));
 }
 
 //! Plays one script. Empty text or what went wrong.
@@ -63,7 +64,7 @@ QString playScript(const QString &path, const Options &options, Notes &notes,
         if (!options.quiet)
             Output(options.style.colour).print(text);
     };
-    tellCopy(desk, show);
+    tellCopy(desk, translator, show);
     CommandLine commands(desk, notes, translator, options.style, {show, {}});
     return script.play(commands, [&](const QString &line) { show("> " + line); });
 }
@@ -128,17 +129,17 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
         if (!quiet)
             output.print(text);
     };
-    tellCopy(desk, show);
+    tellCopy(desk, translator, show);
     const auto ask = [&](const QString &question) {
         output.print(question);
-        return askOnTerminal();
+        return askOnTerminal(translator);
     };
     CommandLine commands(desk, notes, translator, options.style,
                          {show, isTerminal() ? ask : std::function<bool(const QString &)>()});
     const QString receipt = commands.renderReceipt();
     if (!receipt.isEmpty())
         show(receipt);
-    return runInteractive(commands, historyFile(), show) ? AllWell : CommandFailed;
+    return runInteractive(commands, translator, historyFile(), show) ? AllWell : CommandFailed;
 }
 
 int upkeep(const Options &options, const Translator &translator)

@@ -13,6 +13,7 @@
     MESSAGE(tillStornoPosition, "Сторнировать позицию?")                                           \
     MESSAGE(tillCancelReceipt, "Отменить чек?")                                                    \
     MESSAGE(tillNotEnoughMoney, "Недостаточно денег для оплаты")                                   \
+    MESSAGE(tillCannotFollow, "Товар в таре не изменён: предел количества или суммы")              \
     MESSAGE(tillReceiptEmpty, "В чеке нет позиций")                                                \
     MESSAGE(tillYes, "Да")                                                                         \
     MESSAGE(tillNo, "Нет")                                                                         \

@@ -2,27 +2,17 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSettings>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTranslator>
 
 namespace till {
 
 namespace {
 
-//! The texts of the languages other than Russian, one file each.
+//! The texts of each language, one file each.
 QDir languageFiles()
 {
-    return QDir(QStringLiteral(":/till/language"), QStringLiteral("*.ini"), QDir::Name,
-                QDir::Files);
-}
-
-QHash<QString, QString> readTexts(const QString &path)
-{
-    const QSettings file(path, QSettings::IniFormat);
-    const QStringList keys = file.allKeys();
-    QHash<QString, QString> texts;
-    for (const QString &key : keys)
-        texts.insert(key, file.value(key).toString());
-    return texts;
+    return QDir(QStringLiteral(":/till/language"), QStringLiteral("*.qm"), QDir::Name, QDir::Files);
 }
 
 QString russian()
@@ -30,33 +20,59 @@ QString russian()
     return QStringLiteral("ru");
 }
 
+std::shared_ptr<const QTranslator> textsOf(const QString &language)
+{
+    static QHash<QString, std::shared_ptr<const QTranslator>> read;
+    auto &texts = read[language];
+    if (!texts) {
+        const auto file = std::make_shared<QTranslator>();
+        [[maybe_unused]] const bool isRead =
+            file->load(languageFiles().filePath(language + QStringLiteral(".qm")));
+        Q_ASSERT(isRead);
+        texts = file;
+    }
+    return texts;
+}
+
 } // namespace
 
 Translator::Translator(const QString &language)
+    : m_texts(textsOf(isKnown(language) ? language : russian()))
 {
-    if (language != russian() && isKnown(language))
-        m_texts = readTexts(languageFiles().filePath(language + QStringLiteral(".ini")));
 }
 
 QString Translator::text(const tr::Tr &message) const
 {
-    return m_texts.value(message.key(), message.text());
+    const bool hasKey = !message.key().isEmpty();
+    const QString text = m_texts->translate(hasKey ? "messages" : "till",
+                                            (hasKey ? message.key() : message.text()).toUtf8());
+    return text.isEmpty() ? message.text() : text;
 }
 
 QString Translator::text(const Message &message) const
 {
-    QString filled = text(message.pattern);
-    for (const QString &value : message.values)
-        filled = filled.arg(value);
-    return filled;
+    static const QRegularExpression place(QStringLiteral("%(L?)([1-9])"));
+    const QString pattern = text(message.pattern);
+    QString filled;
+    qsizetype read = 0;
+    for (auto places = place.globalMatch(pattern); places.hasNext();) {
+        const QRegularExpressionMatch found = places.next();
+        const QString value = message.values.value(found.capturedView(2).toInt() - 1);
+        filled += pattern.mid(read, found.capturedStart() - read);
+        filled += found.capturedLength(1) == 0 ? value : text(tr::Tr(QString(), value));
+        read = found.capturedEnd();
+    }
+    return filled + pattern.mid(read);
 }
 
 QStringList Translator::languages()
 {
     QStringList languages{russian()};
     const QStringList files = languageFiles().entryList();
-    for (const QString &file : files)
-        languages.append(QFileInfo(file).completeBaseName());
+    for (const QString &file : files) {
+        if (const QString language = QFileInfo(file).completeBaseName(); language != russian())
+            languages.append(language);
+    }
     return languages;
 }
 

@@ -3,9 +3,14 @@
 
 #include "till/language/Message.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+
+#include <memory>
+
+QT_BEGIN_NAMESPACE
+class QTranslator;
+QT_END_NAMESPACE
 
 namespace till {
 
@@ -13,11 +18,11 @@ namespace till {
 class Translator
 {
 public:
-    //! Russian, or one of the other `languages()`. An unknown language gives Russian.
+    //! One of the `languages()`. An unknown language gives Russian.
     explicit Translator(const QString &language = QStringLiteral("ru"));
 
-    //! The text of \a message in this language. In Russian, and where the language has no text
-    //! under the message's key, the message's own text as it stands.
+    //! The text of \a message in this language: found by its key, without one by its English text.
+    //! Where the language has none, the message's own text as it stands.
     QString text(const tr::Tr &message) const;
     //! The same, with its values in it.
     QString text(const Message &message) const;
@@ -28,7 +33,7 @@ public:
     static bool isKnown(const QString &language);
 
 private:
-    QHash<QString, QString> m_texts; //!< by message key; none in Russian
+    std::shared_ptr<const QTranslator> m_texts;
 };
 
 } // namespace till

@@ -5,6 +5,7 @@
 #include "till/goods/Catalogue.h"
 #include "till/plugins/PluginLoader.h"
 #include "till/register/Register.h"
+#include "till/register/SettingsFile.h"
 #include "till/storage/Storage.h"
 
 #include <QtCore/QMap>
@@ -67,6 +68,8 @@ public:
 
     const Catalogue &catalogue() const { return *m_catalogue; }
     const Setup &setup() const { return m_setup; }
+    //! The settings that plugins are given, "KEY=VALUE"; only after a start.
+    QStringList settings() const { return settingsInForce(*m_settings); }
     //! The copy that was made of a database of the format before; empty when there was none.
     QString copyBefore() const { return m_storage ? m_storage->copyBefore() : QString(); }
 

@@ -172,13 +172,21 @@ Outcome Register::execute(const command::Pay &pay)
     const Kopecks due = m_receipt->total();
     const Kopecks tendered = pay.tendered.value_or(due);
     if (result == EContext::Continue && tendered < due)
-        return refuse(messages::tillNotEnoughMoney());
+        return refuseShort(due - tendered);
     if (result == EContext::Continue)
         result = run(control::Action(control::CloseReceipt, {{"tendered", tendered}}));
     // Both actions are one command: they are stored together, so that no end comes between them.
     Outcome outcome = keep(result);
     if (outcome && pay.tendered)
         outcome.change = tendered - due;
+    return outcome;
+}
+
+Outcome Register::refuseShort(Kopecks missing)
+{
+    Outcome outcome = refuse(messages::tillNotEnoughMoney());
+    if (outcome.kind != Outcome::Failed)
+        outcome.change = -missing;
     return outcome;
 }
 

@@ -27,6 +27,8 @@ Outcome Outcome::busy()
 QString Outcome::text(const Translator &translator) const
 {
     QStringList parts{translator.text(reason), detail};
+    if (change && *change < 0)
+        parts.append(translator.text(told("till", "%1 missing").with({toText(-*change)})));
     parts.removeAll(QString());
     return parts.join(": ");
 }

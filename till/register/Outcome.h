@@ -26,16 +26,24 @@ struct Outcome
 
     Kind kind = Done;
     Message reason; //!< what to tell the cashier; of a plugin what it told, which may be nothing
-    QString detail; //!< what no message can say: of a file, a line, its words; in English
-    std::optional<Kopecks> change = {}; //!< to give back, when money was named to pay with
+    QString detail; //!< what is wrong with a file; in English
+    //! To give back, when money was named to pay with; below 0 when it was not enough: what is
+    //! missing.
+    std::optional<Kopecks> change = {};
 
     static Outcome done(const QString &detail = {}) { return {Done, {}, detail}; }
     static Outcome refused(const tr::Tr &reason) { return {RefusedByRegister, {reason, {}}, {}}; }
     static Outcome mistake(const tr::Tr &reason, const QStringList &values = {})
     {
-        return {Mistake, {reason, values}, {}};
+        return mistake(Message{reason, values});
     }
-    static Outcome mistake(const QString &detail) { return {Mistake, {}, detail}; }
+    //! The words in \a reason are cut where they are long.
+    static Outcome mistake(Message reason)
+    {
+        for (QString &value : reason.values)
+            value = brief(value);
+        return {Mistake, reason, {}};
+    }
     static Outcome failed(const QString &detail) { return {Failed, {}, detail}; }
     //! Of what comes while a command is under way: from within a question, a message or a note.
     static Outcome busy();

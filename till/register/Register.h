@@ -105,6 +105,8 @@ private:
     Outcome checkPosition(int posnum) const;
     //! Ends a command that the register itself refuses: the cashier is shown why.
     Outcome refuse(const tr::Tr &message);
+    //! The same for a payment of which so much is missing.
+    Outcome refuseShort(Kopecks missing);
     Result<> store();
     Result<> reload(qint64 id);
     void takeUp(const QSharedPointer<Receipt> &receipt);

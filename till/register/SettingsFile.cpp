@@ -1,34 +1,114 @@
 #include "till/register/SettingsFile.h"
 
 #include "host/Config.h"
+#include "till/language/Nearest.h"
+#include "till/language/Translator.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QSettings>
-#include <QtCore/QStringList>
-#include <QtCore/QTemporaryFile>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStringDecoder>
+
+#include <utility>
 
 namespace till {
+
+namespace {
+
+bool isBoolean(const QString &value)
+{
+    static const QStringList words{"true", "yes", "on", "1", "false", "no", "off", "0"};
+    return words.contains(value.toLower());
+}
+
+//! \a line without its comment and the space around it.
+QString bare(const QString &line)
+{
+    static const QRegularExpression comment(QStringLiteral("(^|\\s)[;#].*"));
+    return QString(line).remove(comment).trimmed();
+}
+
+QString unquoted(const QString &value)
+{
+    const bool isQuoted = value.size() > 1 && value.startsWith('"') && value.endsWith('"');
+    return isQuoted ? value.mid(1, value.size() - 2).trimmed() : value;
+}
+
+using Settings = QList<std::pair<QString, QString>>;
+
+//! Reads one line, under the heading of \a section; what is wrong with it.
+std::optional<Message> readLine(const QString &line, QString &section, Settings &settings)
+{
+    if (line.isEmpty())
+        return std::nullopt;
+    if (line.startsWith('[')) {
+        if (!line.endsWith(']'))
+            return told("till", "a section is not closed with \"]\"");
+        section = line.mid(1, line.size() - 2).trimmed();
+        return std::nullopt;
+    }
+    const qsizetype equals = line.indexOf('=');
+    if (equals <= 0)
+        return told("till", "neither [SECTION] nor KEY=VALUE");
+    if (section.isEmpty())
+        return told("till", "there is no [SECTION] above it");
+    const QString key = section + ':' + line.left(equals).trimmed();
+    settings.append({key, unquoted(line.mid(equals + 1).trimmed())});
+    return settingFault(key, settings.last().second);
+}
+
+} // namespace
+
+QStringList knownSettings()
+{
+    return {QStringLiteral("PackagingControl:allowSaleEmptyTara")};
+}
+
+std::optional<Message> settingFault(const QString &key, const QString &value)
+{
+    if (knownSettings().contains(key))
+        return isBoolean(value.trimmed())
+                   ? std::nullopt
+                   : std::optional(told("till", "%1: \"%2\" is neither true nor false")
+                                       .with({key, brief(value)}));
+    const QString meant = nearest(key, knownSettings());
+    return meant.isEmpty()
+               ? told("till", "no setting \"%1\"").with({brief(key)})
+               : told("till", "no setting \"%1\"; did you mean '%2'?").with({brief(key), meant});
+}
+
+QStringList settingsInForce(const Config &config)
+{
+    QStringList settings = knownSettings();
+    for (QString &setting : settings)
+        setting += config.getBool(setting, true) ? "=true" : "=false";
+    return settings;
+}
 
 QString readSettingsFile(const QString &path, Config &config)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("%1: %2").arg(path, file.errorString());
-    const QByteArray text = file.readAll();
+    const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return QStringLiteral("%1: %2").arg(path, file.errorString());
-    // QSettings remembers what it read from a path, and takes a broken file for a good one when it
-    // meets it again. So it reads a copy, whose path is new.
-    QTemporaryFile copy;
-    if (!copy.open() || copy.write(text) != text.size() || !copy.flush())
-        return QStringLiteral("%1: cannot be copied: %2").arg(path, copy.errorString());
+    QStringDecoder decoder(QStringDecoder::Utf8); // takes a byte order mark
+    const QString text = decoder.decode(bytes);
+    if (decoder.hasError())
+        return path + ": not UTF-8 text";
 
-    const QSettings settings(copy.fileName(), QSettings::IniFormat);
-    const QStringList keys = settings.allKeys(); // only this parses the sections
-    if (settings.status() != QSettings::NoError)
-        return QStringLiteral("%1: not a settings file").arg(path);
-    for (const QString &key : keys)
-        config.set(QString(key).replace(QLatin1Char('/'), QLatin1Char(':')), settings.value(key));
+    QString section;
+    Settings settings;
+    const QStringList lines = text.split('\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (const auto fault = readLine(bare(lines[i]), section, settings))
+            return QStringLiteral("%1:%2: %3")
+                .arg(path)
+                .arg(i + 1)
+                .arg(Translator(QStringLiteral("en")).text(*fault));
+    }
+    for (const auto &[key, value] : std::as_const(settings))
+        config.set(key, value);
     return {};
 }
 

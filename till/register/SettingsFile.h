@@ -1,18 +1,34 @@
 #ifndef TILL_REGISTER_SETTINGSFILE_H
 #define TILL_REGISTER_SETTINGSFILE_H
 
+#include "till/language/Message.h"
+
 #include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
 
 class Config;
 
 namespace till {
 
+//! Keys of the settings that there are. Each is a boolean, true by default.
+QStringList knownSettings();
+
+//! What is wrong with setting \a key to \a value: there is no such setting, or that is no boolean.
+std::optional<Message> settingFault(const QString &key, const QString &value);
+
+//! The settings as \a config has them, "KEY=true" or "KEY=false".
+QStringList settingsInForce(const Config &config);
+
 /*!
  * Adds the settings of the INI file \a path to \a config: section "PackagingControl" and key
  * "allowSaleEmptyTara" become "PackagingControl:allowSaleEmptyTara". Settings made before stay
- * unless the file sets them anew.
+ * unless the file sets them anew. The file is UTF-8, with or without a byte order mark; what
+ * follows a ";" or a "#" at the beginning of a line or behind a space is a comment.
  *
- * Returns an empty text, or what is wrong, with the path in it; then nothing of the file is taken.
+ * Returns an empty text, or what is wrong in English, with the path and the line in it; then
+ * nothing of the file is taken.
  */
 QString readSettingsFile(const QString &path, Config &config);
 

@@ -4,6 +4,7 @@
 #include "till/script/RegisterWords.h"
 #include "till/script/Words.h"
 
+#include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
 
 #include <utility>
@@ -12,9 +13,20 @@ namespace till {
 
 namespace {
 
+//! \a words with those that are commands spelled as the tables have them.
+QStringList canonical(QStringList words)
+{
+    static const QMap<QString, QString> alike{{"exit", "quit"}, {"q", "quit"}, {"?", "help"}};
+    words[0] = words[0].toLower();
+    words[0] = alike.value(words[0], words[0]);
+    if (words[0] == "expect" && words.size() > 1)
+        words[1] = words[1].toLower();
+    return words;
+}
+
 Outcome tillIsOff()
 {
-    return Outcome::failed("the till is off; 'restart' switches it on");
+    return {Outcome::Failed, told("till", "the till is off; 'restart' switches it on"), {}};
 }
 
 } // namespace
@@ -31,35 +43,51 @@ struct CommandLine::Row
 const QList<CommandLine::Row> &CommandLine::ownRows()
 {
     static const QList<Row> table{
-        {{"answer", "yes|no...", "answer the next questions in advance", 1, Usage::any},
+        {{"answer", verbatim("yes|no..."), told("till", "answer the next questions in advance"), 1,
+          Usage::any},
          &CommandLine::queueAnswer,
          true,
          true},
-        {{"show", "", "show the receipt", 0, 0}, &CommandLine::showReceipt, true},
-        {{"articles", "[TEXT]", "list the catalogue, or the articles that contain a text", 0, 1},
+        {{"show", {}, told("till", "show the receipt"), 0, 0}, &CommandLine::showReceipt, true},
+        {{"articles", told("till", "[TEXT]"),
+          told("till", "list the catalogue, or the articles that contain a text"), 0, 1},
          &CommandLine::articles,
          true},
-        {{"log", "", "show what the plugin logged for the last command", 0, 0},
+        {{"log", {}, told("till", "show what the plugin logged for the last command"), 0, 0},
          &CommandLine::log,
          true,
          true},
-        {{"say", "TEXT...", "print a text", 0, Usage::any}, &CommandLine::say, true, true},
-        {{"set", "KEY VALUE", "change a setting; the till is switched off and on for it", 2, 2},
+        {{"say", told("till", "TEXT..."), told("till", "print a text"), 0, Usage::any},
+         &CommandLine::say,
+         true,
+         true},
+        {{"set", told("till", "[KEY VALUE]"),
+          told("till", "change a setting, for which the till is switched off and on; or list all"),
+          0, 2},
          &CommandLine::set,
          false,
          true},
-        {{"restart", "", "switch the till off and on; the receipt in hand is taken up again", 0, 0},
+        {{"restart",
+          {},
+          told("till", "switch the till off and on; the receipt in hand is taken up again"),
+          0,
+          0},
          &CommandLine::restart,
          false,
          true},
-        {{"expect", "WHAT...", "check what happened or what is; see 'help expect'", 1, Usage::any},
+        {{"expect", told("till", "WHAT..."),
+          told("till", "check what happened or what is; see 'help expect'"), 1, Usage::any},
          &CommandLine::expect,
          true},
-        {{"help", "[COMMAND]", "list the commands, or explain one", 0, 1},
+        {{"help", told("till", "[COMMAND]"), told("till", "list the commands, or explain one"), 0,
+          1},
          &CommandLine::help,
          true,
          true},
-        {{"quit", "", "leave; the receipt in hand is kept", 0, 0}, &CommandLine::quit, true, true},
+        {{"quit", {}, told("till", "leave; the receipt in hand is kept"), 0, 0},
+         &CommandLine::quit,
+         true,
+         true},
     };
     return table;
 }
@@ -86,14 +114,15 @@ Outcome CommandLine::run(const QString &line)
     m_hasTouchedReceipt = false;
     const std::optional<QStringList> words = splitWords(line);
     if (!words)
-        return Outcome::mistake("a quote is not closed");
+        return Outcome::mistake(told("till", "a quote is not closed"));
     if (words->isEmpty())
         return Outcome::done();
     return runWords(*words, line.trimmed());
 }
 
-Outcome CommandLine::runWords(const QStringList &words, const QString &text)
+Outcome CommandLine::runWords(const QStringList &typed, const QString &text)
 {
+    const QStringList words = canonical(typed);
     if (rowCalled(words[0], registerWords()))
         return carryOut(words, text);
     // What is expected of a command is told as that command.
@@ -112,7 +141,7 @@ Outcome CommandLine::carryOut(const QStringList &words, const QString &text)
     if (!m_desk.isOn())
         return tellCommand(m_notes, text, tillIsOff);
     const Outcome outcome = cashRegister().carryOut(*command);
-    if (outcome.change)
+    if (outcome && outcome.change)
         print("  " + m_translator.text(messages::tillChange()).arg(toText(*outcome.change)));
     return outcome;
 }
@@ -121,9 +150,9 @@ Outcome CommandLine::runOwn(const QStringList &words)
 {
     const Row *const row = rowCalled(words[0], ownRows());
     if (!row)
-        return Outcome::mistake("no command \"" + words[0] + "\"; try 'help'");
+        return unknownCommand(words[0], commandNames());
     if (!row->usage.allows(words.mid(1)))
-        return Outcome::mistake("usage: " + row->usage.text());
+        return wrongWords(row->usage);
     if (!m_desk.isOn() && !row->worksOff)
         return tillIsOff();
     if (!row->isWatching)
@@ -133,16 +162,40 @@ Outcome CommandLine::runOwn(const QStringList &words)
 
 QString CommandLine::textOf(const Outcome &outcome) const
 {
-    return outcome.isRefusal() ? QStringLiteral("refused")
-                               : forTerminal(outcome.text(m_translator));
+    const QString why = (outcome.kind == Outcome::Declined ? m_translator.text(whyDeclined())
+                                                           : outcome.text(m_translator))
+                            .replace('\n', ' ');
+    if (!outcome.isRefusal())
+        return forTerminal(why);
+    return forTerminal(m_translator.text(why.isEmpty() ? told("till", "refused")
+                                                       : told("till", "refused: %1").with({why})));
+}
+
+bool CommandLine::hasShown(const Outcome &outcome) const
+{
+    return outcome.isRefusal() && !outcome.change
+           && m_heard.messages.contains(outcome.reason.pattern);
+}
+
+Message CommandLine::whyDeclined() const
+{
+    if (m_heard.questions.isEmpty())
+        return {};
+    const QString question = m_translator.text(m_heard.questions.constLast()).replace('\n', ' ');
+    return m_heard.lacksAnswer
+               ? told("till", "nobody answered \"%1\"; 'answer yes' before it would take it")
+                     .with({question})
+               : told("till", "\"%1\" was answered no").with({question});
 }
 
 QString CommandLine::leftOver() const
 {
     if (!m_unanswered.isEmpty())
-        return "no answer was given to: " + m_unanswered.join(", ");
+        return m_translator.text(
+            told("till", "no answer was given to: %1").with({m_unanswered.join(", ")}));
     if (m_answers.waiting() > 0)
-        return QString("%1 answer(s) were given that nobody asked for").arg(m_answers.waiting());
+        return m_translator.text(told("till", "%1 answer(s) were given that nobody asked for")
+                                     .with({QString::number(m_answers.waiting())}));
     return {};
 }
 
@@ -151,6 +204,7 @@ bool CommandLine::ask(const Question &question)
     if (m_person.ask)
         return m_person.ask(m_view.renderQuestion(question));
     m_unanswered.append(question.text.key());
+    m_heard.lacksAnswer = true;
     printAnswered(question, false);
     return false;
 }
@@ -198,30 +252,38 @@ QList<Usage> CommandLine::usages()
     return usages;
 }
 
+QStringList CommandLine::commandNames()
+{
+    QStringList names;
+    const QList<Usage> all = usages();
+    for (const Usage &usage : all)
+        names.append(usage.name);
+    return names;
+}
+
 Outcome CommandLine::help(const QStringList &words)
 {
-    const QString name = words.value(0);
+    const QString name = words.isEmpty() ? QString() : canonical(words)[0];
     bool isKnown = name.isEmpty();
     const QList<Usage> all = usages();
     for (const Usage &usage : all) {
+        const QString help = m_translator.text(usage.help);
         if (name.isEmpty())
-            print(QString("  %1 %2").arg(usage.name + ' ' + usage.words, -28).arg(usage.help));
+            print(QString("  %1 %2").arg(usage.text(m_translator), -28).arg(help));
         else if (usage.name == name)
-            print(usage.text() + "\n  " + usage.help);
+            print(usage.text(m_translator) + "\n  " + help);
         isKnown = isKnown || usage.name == name;
     }
     if (name == "expect")
-        print(Expectations::help());
-    return isKnown ? Outcome::done() : Outcome::mistake("no command \"" + name + "\"; try 'help'");
+        print(Expectations::help(m_translator));
+    return isKnown ? Outcome::done() : unknownCommand(name, commandNames());
 }
 
 QStringList CommandLine::completions(const QStringList &words) const
 {
     QStringList candidates;
     if (words.size() <= 1 || words[0] == "help") {
-        const QList<Usage> all = usages();
-        for (const Usage &usage : all)
-            candidates.append(usage.name);
+        candidates = commandNames();
     } else if (words[0] == "add") {
         const auto all = m_desk.catalogue().articles();
         for (const auto &article : all)

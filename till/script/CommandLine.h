@@ -53,9 +53,11 @@ public:
     //! Whether the last line did anything that may have changed the receipt, or which one it is.
     bool hasTouchedReceipt() const { return m_hasTouchedReceipt; }
 
-    //! What there is to say of an \a outcome, in the language of the cashier. The reason of a
-    //! refusal was shown as a message already: of it only that it is one.
+    //! What there is to say of the \a outcome of the last line, in the language of the cashier and
+    //! in one line.
     QString textOf(const Outcome &outcome) const;
+    //! Whether the reason of the \a outcome was shown as a message already.
+    bool hasShown(const Outcome &outcome) const;
 
     //! The receipt as a person sees it; empty when none was opened.
     QString renderReceipt() const;
@@ -68,9 +70,11 @@ private:
     static const QList<Row> &ownRows();
     //! How each command is typed, the register's before the script's own.
     static QList<Usage> usages();
+    static QStringList commandNames();
+    Message whyDeclined() const;
 
-    //! Carries out the command \a words; \a text is how it is told where no register tells it.
-    Outcome runWords(const QStringList &words, const QString &text);
+    //! Carries out the command \a typed; \a text is how it is told where no register tells it.
+    Outcome runWords(const QStringList &typed, const QString &text);
     Outcome carryOut(const QStringList &words, const QString &text);
     Outcome runOwn(const QStringList &words);
     bool ask(const Question &question) override;

@@ -11,11 +11,11 @@ namespace till {
 Outcome CommandLine::queueAnswer(const QStringList &words)
 {
     for (const QString &word : words) {
-        if (word != "yes" && word != "no")
+        if (const QString answer = word.toLower(); answer != "yes" && answer != "no")
             return notOneOf(word, {"yes", "no"});
     }
     for (const QString &word : words)
-        m_answers.append(word == "yes");
+        m_answers.append(word.toLower() == "yes");
     return Outcome::done();
 }
 
@@ -23,7 +23,7 @@ Outcome CommandLine::showReceipt(const QStringList &words)
 {
     Q_UNUSED(words)
     if (!cashRegister().receipt())
-        return Outcome::mistake("no receipt was opened");
+        return Outcome::mistake(told("till", "no receipt was opened"));
     m_person.print(renderReceipt());
     return Outcome::done();
 }
@@ -35,6 +35,9 @@ Outcome CommandLine::articles(const QStringList &words)
         const ArticleData &data = article->data;
         print(QString("%1 %2 %3").arg(data.code, -10).arg(toText(data.price), 10).arg(data.name));
     }
+    if (found.isEmpty())
+        print(m_translator.text(
+            told("till", "No article contains \"%1\"").with({brief(words.value(0))})));
     return Outcome::done();
 }
 
@@ -54,6 +57,14 @@ Outcome CommandLine::say(const QStringList &words)
 
 Outcome CommandLine::set(const QStringList &words)
 {
+    if (words.isEmpty()) {
+        print(m_desk.settings().join('\n'));
+        return Outcome::done();
+    }
+    if (words.size() == 1)
+        return wrongWords({"set", told("till", "[KEY VALUE]"), {}, 0, 0});
+    if (const auto fault = settingFault(words[0], words[1]))
+        return Outcome::mistake(*fault);
     const QString error = m_desk.set(words[0], words[1]);
     return error.isEmpty() ? Outcome::done() : Outcome::failed(error);
 }
@@ -68,10 +79,11 @@ Outcome CommandLine::restart(const QStringList &words)
 
 Outcome CommandLine::expect(const QStringList &words)
 {
-    return Expectations(m_desk, m_heard, m_translator,
-                        [this](const QStringList &expected) {
-                            return runWords(expected, expected.join(QLatin1Char(' ')));
-                        })
+    return Expectations(
+               m_desk, m_heard, [this](const Outcome &outcome) { return textOf(outcome); },
+               [this](const QStringList &expected) {
+                   return runWords(expected, expected.join(QLatin1Char(' ')));
+               })
         .check(words);
 }
 

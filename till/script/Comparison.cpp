@@ -6,7 +6,9 @@ namespace till {
 
 Outcome differs(const QString &what, const QString &expected, const QString &found)
 {
-    return Outcome::mistake(what + ": expected " + expected + ", found " + found);
+    return {Outcome::Mistake,
+            told("till", "%1: expected %2, found %3").with({what, expected, found}),
+            {}};
 }
 
 Outcome compare(const QString &what, const QString &expected, const QString &found)

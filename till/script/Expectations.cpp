@@ -1,5 +1,6 @@
 #include "till/script/Expectations.h"
 
+#include "till/language/Nearest.h"
 #include "till/script/Comparison.h"
 #include "till/script/Usage.h"
 #include "till/script/Words.h"
@@ -59,6 +60,16 @@ Outcome checkPart(const Position &position, const QString &part, const QString &
     return notOneOf(part, {"quantity", "base", "sum", "article", "stornoed", "live"});
 }
 
+Outcome unknownExpectation(const QString &word, const QStringList &known)
+{
+    const QString meant = nearest(word, known);
+    if (meant.isEmpty())
+        return Outcome::mistake(
+            told("till", "\"%1\" cannot be expected; try 'help expect'").with({word}));
+    return Outcome::mistake(
+        told("till", "\"%1\" cannot be expected; did you mean '%2'?").with({word, meant}));
+}
+
 //! How a command ended, in the word by which "expect" is told so; a failure cannot be expected.
 QString endOf(const Outcome &outcome)
 {
@@ -67,9 +78,14 @@ QString endOf(const Outcome &outcome)
     return words[outcome.kind];
 }
 
+QStringList ends()
+{
+    return {"accepted", "refused", "mistake"};
+}
+
 bool isEnd(const QString &word)
 {
-    return QStringList{"accepted", "refused", "mistake"}.contains(word);
+    return ends().contains(word);
 }
 
 //! What the goods hold in the tara at \a posnum.
@@ -92,40 +108,60 @@ double unplaced(const GoodsUse &goods, const Position *position)
 const QList<Expectations::Row> &Expectations::rows()
 {
     static const QList<Row> table{
-        {{"position", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...",
-          "a position, and what is in it", 2, Usage::any},
+        {{"position",
+          told("till", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE..."),
+          told("till", "a position, and what is in it"), 2, Usage::any},
          &Expectations::position},
-        {{"positions", "COUNT", "how many positions are not stornoed", 1, 1},
+        {{"positions", told("till", "COUNT"), told("till", "how many positions are not stornoed"),
+          1, 1},
          &Expectations::positions},
-        {{"tara", "N none|capacity C|free F...", "what is noted of a tara position", 2, Usage::any},
+        {{"tara", told("till", "N none|capacity C|free F..."),
+          told("till", "what is noted of a tara position"), 2, Usage::any},
          &Expectations::tara},
-        {{"goods", "N none|in TARA AMOUNT...|unplaced AMOUNT...",
-          "where the goods of a position are", 2, Usage::any},
+        {{"goods", told("till", "N none|in TARA AMOUNT...|unplaced AMOUNT..."),
+          told("till", "where the goods of a position are"), 2, Usage::any},
          &Expectations::goods},
-        {{"records", "TARAS GOODS", "how many records there are of each kind", 2, 2},
+        {{"records", told("till", "TARAS GOODS"),
+          told("till", "how many records there are of each kind"), 2, 2},
          &Expectations::records},
-        {{"total", "MONEY", "the sum of the receipt", 1, 1}, &Expectations::total},
-        {{"message", "none|KEY|TEXT", "a message that the last command showed", 1, Usage::any},
+        {{"total", told("till", "MONEY"), told("till", "the sum of the receipt"), 1, 1},
+         &Expectations::total},
+        {{"message", told("till", "none|KEY|TEXT"),
+          told("till", "a message that the last command showed"), 1, Usage::any},
          &Expectations::message},
-        {{"question", "none|KEY|TEXT", "a question that the last command asked", 1, Usage::any},
+        {{"question", told("till", "none|KEY|TEXT"),
+          told("till", "a question that the last command asked"), 1, Usage::any},
          &Expectations::question},
-        {{"log", "none|TEXT", "a line that the plugin logged for the last command", 1, Usage::any},
+        {{"log", told("till", "none|TEXT"),
+          told("till", "a line that the plugin logged for the last command"), 1, Usage::any},
          &Expectations::log},
-        {{"state", "none|open|subtotal|closed|cancelled", "how far the receipt is", 1, 1},
+        {{"state", verbatim("none|open|subtotal|closed|cancelled"),
+          told("till", "how far the receipt is"), 1, 1},
          &Expectations::state},
-        {{"control", "active|suspended|none", "whether the plugin watches the receipt", 1, 1},
+        {{"control", verbatim("active|suspended|none"),
+          told("till", "whether the plugin watches the receipt"), 1, 1},
          &Expectations::control},
     };
     return table;
 }
 
-QString Expectations::help()
+QString Expectations::help(const Translator &translator)
 {
-    QString text = QStringLiteral("  expect accepted|refused|mistake COMMAND...\n"
-                                  "      carry out a command that ends in that way");
+    QStringList lines{"  expect accepted|refused|mistake "
+                          + translator.text(told("till", "COMMAND...")),
+                      "      " + translator.text(told("till", "carry out a command that ends so"))};
     for (const Row &row : rows())
-        text += "\n  expect " + row.usage.text() + "\n      " + row.usage.help;
-    return text;
+        lines +=
+            {"  expect " + row.usage.text(translator), "      " + translator.text(row.usage.help)};
+    return lines.join('\n');
+}
+
+QStringList Expectations::names()
+{
+    QStringList names = ends();
+    for (const Row &row : rows())
+        names.append(row.usage.name);
+    return names;
 }
 
 bool Expectations::isOfCommand(const QStringList &words)
@@ -139,29 +175,28 @@ Outcome Expectations::check(const QStringList &words)
         return command(words[0], words.mid(1));
     const Row *const row = rowCalled(words[0], rows());
     if (!row)
-        return Outcome::mistake("\"" + words[0] + "\" cannot be expected; try 'help expect'");
+        return unknownExpectation(words[0], names());
     if (!row->usage.allows(words.mid(1)))
-        return Outcome::mistake("usage: expect " + row->usage.text());
+        return wrongWords({"expect " + row->usage.name, row->usage.words, {}, 0, 0});
     return (this->*row->check)(words.mid(1));
 }
 
 Outcome Expectations::command(const QString &end, const QStringList &words) const
 {
     if (words.isEmpty())
-        return Outcome::mistake("which command?");
+        return Outcome::mistake(told("till", "which command?"));
     if (words[0] == "expect")
-        return Outcome::mistake("an expectation cannot be expected");
+        return Outcome::mistake(told("till", "an expectation cannot be expected"));
     const Outcome outcome = m_carryOut(words);
     const QString found = endOf(outcome);
     if (found == end) {
         // A refusal was shown; a mistake was not.
-        return outcome.isRefusal() ? Outcome::done() : Outcome::done(outcome.text(m_translator));
+        return outcome.isRefusal() ? Outcome::done() : Outcome::done(m_textOf(outcome));
     }
-    const bool isToldBefore = outcome || outcome.kind == Outcome::RefusedByPlugin;
-    return differs(words.join(' '), end,
-                   isToldBefore || outcome.text().isEmpty()
-                       ? found
-                       : found + ": " + outcome.text(m_translator));
+    const QString why = m_textOf(outcome);
+    if (outcome.isRefusal())
+        return differs(words.join(' '), end, why); // which begins with what was found
+    return differs(words.join(' '), end, why.isEmpty() ? found : found + ": " + why);
 }
 
 Outcome Expectations::position(const QStringList &words) const

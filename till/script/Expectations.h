@@ -16,6 +16,7 @@ struct Heard
     QList<tr::Tr> messages;
     QList<tr::Tr> questions;
     QStringList log;
+    bool lacksAnswer = false; //!< nobody was there to answer the last question
 };
 
 //! The "expect" command: done when what is expected holds; otherwise a mistake that says what is.
@@ -25,12 +26,14 @@ public:
     //! Carries out a command that is expected to end in some way.
     using CarryOut = std::function<Outcome(const QStringList &words)>;
 
+    //! Why a command ended so, for a person.
+    using TextOf = std::function<QString(const Outcome &outcome)>;
+
     //! \a heard is what the last command made the till say. All must outlive this object.
-    Expectations(const CashDesk &desk, const Heard &heard, const Translator &translator,
-                 CarryOut carryOut)
+    Expectations(const CashDesk &desk, const Heard &heard, TextOf textOf, CarryOut carryOut)
         : m_desk(desk)
         , m_heard(heard)
-        , m_translator(translator)
+        , m_textOf(std::move(textOf))
         , m_carryOut(std::move(carryOut))
     {
     }
@@ -41,7 +44,9 @@ public:
     static bool isOfCommand(const QStringList &words);
 
     //! What can be expected, for a person.
-    static QString help();
+    static QString help(const Translator &translator);
+    //! The words that can follow "expect".
+    static QStringList names();
 
 private:
     using Checker = Outcome (Expectations::*)(const QStringList &words) const;
@@ -66,7 +71,7 @@ private:
 
     const CashDesk &m_desk;
     const Heard &m_heard;
-    const Translator &m_translator;
+    const TextOf m_textOf;
     const CarryOut m_carryOut;
 };
 

@@ -8,7 +8,7 @@ namespace {
 
 ReadCommand readOpen(const QStringList &words)
 {
-    const QString type = words.value(0, "sale");
+    const QString type = words.value(0, "sale").toLower();
     if (type != "sale" && type != "return")
         return notOneOf(type, {"sale", "return"});
     return command::Open{type == "sale" ? Document::Sale : Document::Return};
@@ -104,25 +104,31 @@ ReadCommand readCancel(const QStringList &)
 const QList<RegisterWords> &registerWords()
 {
     static const QList<RegisterWords> table{
-        {{"open", "[sale|return]", "open a receipt", 0, 1}, readOpen},
-        {{"add", "ARTICLE [QUANTITY]", "add an article as a new position; quantity 1 if none", 1,
-          2},
+        {{"open", verbatim("[sale|return]"), told("till", "open a receipt"), 0, 1}, readOpen},
+        {{"add", told("till", "ARTICLE [QUANTITY]"),
+          told("till", "add an article as a new position; quantity 1 if none"), 1, 2},
          readAdd},
-        {{"qty", "POSITION QUANTITY", "change the quantity of a position", 2, 2}, readChangeCount},
-        {{"storno", "POSITION", "storno a position, after a question", 1, 1}, readStorno},
-        {{"split", "POSITION PART...", "take parts off as new positions; the rest stays", 2,
-          Usage::any},
+        {{"qty", told("till", "POSITION QUANTITY"),
+          told("till", "change the quantity of a position"), 2, 2},
+         readChangeCount},
+        {{"storno", told("till", "POSITION"), told("till", "storno a position, after a question"),
+          1, 1},
+         readStorno},
+        {{"split", told("till", "POSITION PART..."),
+          told("till", "take parts off as new positions; the rest stays"), 2, Usage::any},
          readSplit},
-        {{"unite", "POSITION POSITION...", "put positions of one article into the first", 2,
-          Usage::any},
+        {{"unite", told("till", "POSITION POSITION..."),
+          told("till", "put positions of one article into the first"), 2, Usage::any},
          readUnite},
-        {{"order", "NUMBER", "attach an order", 1, 1}, readOrder},
-        {{"softcheck", "NUMBER", "add a soft-check", 1, 1}, readSoftCheck},
-        {{"subtotal", "", "go to subtotal", 0, 0}, readSubtotal},
-        {{"pay", "[MONEY]", "pay and close, from subtotal or at once; exactly if no money is named",
-          0, 1},
+        {{"order", told("till", "NUMBER"), told("till", "attach an order"), 1, 1}, readOrder},
+        {{"softcheck", told("till", "NUMBER"), told("till", "add a soft-check"), 1, 1},
+         readSoftCheck},
+        {{"subtotal", {}, told("till", "go to subtotal"), 0, 0}, readSubtotal},
+        {{"pay", told("till", "[MONEY]"),
+          told("till", "pay and close, from subtotal or at once; exactly if no money is named"), 0,
+          1},
          readPay},
-        {{"cancel", "", "cancel the receipt, after a question", 0, 0}, readCancel},
+        {{"cancel", {}, told("till", "cancel the receipt, after a question"), 0, 0}, readCancel},
     };
     return table;
 }
@@ -131,9 +137,9 @@ ReadCommand readCommand(const QStringList &words)
 {
     const RegisterWords *const row = rowCalled(words.value(0), registerWords());
     if (!row)
-        return Outcome::mistake("no command \"" + words.value(0) + "\"; try 'help'");
+        return unknownCommand(words.value(0), {});
     if (!row->usage.allows(words.mid(1)))
-        return Outcome::mistake("usage: " + row->usage.text());
+        return wrongWords(row->usage);
     return row->read(words.mid(1));
 }
 

@@ -13,10 +13,10 @@ QString shownCommand(const QString &line)
     static const QStringList silent{"expect", "answer", "say", "show"};
     static const QStringList ends{"accepted", "refused", "mistake"};
     const QString trimmed = line.trimmed();
-    if (trimmed.section(' ', 0, 0) == "expect" && ends.contains(trimmed.section(' ', 1, 1)))
+    const QString command = trimmed.section(' ', 0, 0).toLower();
+    if (command == "expect" && ends.contains(trimmed.section(' ', 1, 1).toLower()))
         return trimmed.section(' ', 2);
-    const bool isSilent =
-        trimmed.isEmpty() || trimmed.startsWith('#') || silent.contains(trimmed.section(' ', 0, 0));
+    const bool isSilent = trimmed.isEmpty() || trimmed.startsWith('#') || silent.contains(command);
     return isSilent ? QString() : trimmed;
 }
 
@@ -25,7 +25,7 @@ QString why(const CommandLine &commands, const Outcome &outcome)
 {
     const QString text = commands.textOf(outcome);
     const bool hasKey = outcome.isRefusal() && !outcome.reason.key().isEmpty();
-    return hasKey ? text + ": " + outcome.reason.key() : text;
+    return hasKey ? text + " (" + outcome.reason.key() + ')' : text;
 }
 
 } // namespace

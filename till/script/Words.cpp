@@ -1,20 +1,10 @@
 #include "till/script/Words.h"
 
+#include "till/language/Nearest.h"
+
 #include <QtCore/QProcess>
 
 namespace till {
-
-namespace {
-
-//! The mistake of a \a word that is not \a what, or that is missing.
-Outcome notA(const char *what, const QString &word)
-{
-    if (word.isEmpty())
-        return Outcome::mistake(QString("%1 is missing").arg(what));
-    return Outcome::mistake(QString("\"%1\" is not %2").arg(word, what));
-}
-
-} // namespace
 
 std::optional<QStringList> splitWords(const QString &line)
 {
@@ -36,22 +26,50 @@ std::optional<int> parsePosnum(const QString &word)
 
 Outcome notAPosition(const QString &word)
 {
-    return notA("a position number", word);
+    return Outcome::mistake(word.isEmpty()
+                                ? told("till", "a position number is missing")
+                                : told("till", "\"%1\" is not a position number").with({word}));
 }
 
 Outcome notANumber(const QString &word)
 {
-    return notA("a number with at most three decimals (1.5 or 1,5)", word);
+    if (word.isEmpty())
+        return Outcome::mistake(told("till", "a number is missing"));
+    return Outcome::mistake(
+        told("till", "\"%1\" is not a number with at most three decimals (1.5 or 1,5)")
+            .with({word}));
 }
 
 Outcome notMoney(const QString &word)
 {
-    return notA("an amount of money (12.50 or 12,50)", word);
+    if (word.isEmpty())
+        return Outcome::mistake(told("till", "an amount of money is missing"));
+    return Outcome::mistake(
+        told("till", "\"%1\" is not an amount of money (12.50 or 12,50)").with({word}));
 }
 
 Outcome notOneOf(const QString &word, const QStringList &allowed)
 {
-    return Outcome::mistake("\"" + word + "\" is none of: " + allowed.join(", "));
+    return Outcome::mistake(
+        told("till", "\"%1\" is none of: %2").with({word, allowed.join(QStringLiteral(", "))}));
+}
+
+Outcome unknownCommand(const QString &word, const QStringList &known)
+{
+    const QString meant = nearest(word, known);
+    if (meant.isEmpty())
+        return Outcome::mistake(told("till", "no command \"%1\"; try 'help'").with({word}));
+    return Outcome::mistake(
+        told("till", "no command \"%1\"; did you mean '%2'?").with({word, meant}));
+}
+
+Outcome wrongWords(const Usage &usage)
+{
+    if (usage.words.pattern.text().isEmpty())
+        return Outcome::mistake(told("till", "usage: %1").with({usage.name}));
+    return {Outcome::Mistake,
+            told("till", "usage: %1 %L2").with({usage.name, usage.words.pattern.text()}),
+            {}};
 }
 
 } // namespace till

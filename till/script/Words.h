@@ -2,6 +2,7 @@
 #define TILL_SCRIPT_WORDS_H
 
 #include "till/register/Outcome.h"
+#include "till/script/Usage.h"
 
 #include <QtCore/QStringList>
 
@@ -27,6 +28,10 @@ Outcome notANumber(const QString &word);
 Outcome notMoney(const QString &word);
 //! The mistake of a word that is none of \a allowed.
 Outcome notOneOf(const QString &word, const QStringList &allowed);
+//! The mistake of a word that is no command, with the one of \a known that may have been meant.
+Outcome unknownCommand(const QString &word, const QStringList &known);
+//! The mistake of too few or too many words.
+Outcome wrongWords(const Usage &usage);
 
 } // namespace till
 

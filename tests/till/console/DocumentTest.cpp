@@ -17,7 +17,7 @@ protected:
 
     QStringList linesOf(const QByteArray &command) const
     {
-        const std::string out = run({"--db", ":memory:"}, command).out;
+        const std::string out = run({"--db", ":memory:", "--lang", "en"}, command).out;
         return QString::fromStdString(out).split('\n', Qt::SkipEmptyParts);
     }
 };

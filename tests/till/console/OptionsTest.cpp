@@ -129,7 +129,7 @@ TEST_F(Options, PipedRegister_CarriesOutItsInput)
     EXPECT_THAT(good.out, HasSubstr("129.90"));
     const RunResult bad = run({"--db", database()}, "add CHOPS\nadd BAG\nshow\n");
     EXPECT_EQ(bad.status, 1);
-    EXPECT_THAT(bad.out, HasSubstr("В каталоге нет товара \"CHOPS\""));
+    EXPECT_EQ(bad.err, "till: стандартный ввод:1: add CHOPS: В каталоге нет товара \"CHOPS\"\n");
     EXPECT_THAT(bad.out, HasSubstr("164.90"));
 }
 

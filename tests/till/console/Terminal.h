@@ -27,7 +27,7 @@ public:
     //! Waits for the program's end; its exit status, or -1 for another end.
     int end();
 
-    static constexpr const char *prompt = "till> ";
+    static constexpr const char *prompt = "касса> ";
 
 private:
     //! Reads what comes next; false when nothing comes any more.

@@ -34,7 +34,7 @@ protected:
 
 TEST_F(OnTerminal, Person_IsGreetedAndPrompted)
 {
-    EXPECT_THAT(greeting, HasSubstr("'help' lists the commands, 'quit' leaves"));
+    EXPECT_THAT(greeting, HasSubstr("help — список команд, quit — выход"));
     leave();
 }
 
@@ -54,7 +54,7 @@ TEST_F(OnTerminal, Receipt_IsShownAfterEachChangeOnly)
 
 TEST_F(OnTerminal, Mistake_IsTold)
 {
-    EXPECT_THAT(enter("opn"), HasSubstr("no command \"opn\"; try 'help'"));
+    EXPECT_THAT(enter("opn"), HasSubstr("нет команды \"opn\"; может быть, open?"));
 }
 
 TEST_F(OnTerminal, Refusal_IsToldInThePluginsWords)
@@ -64,7 +64,7 @@ TEST_F(OnTerminal, Refusal_IsToldInThePluginsWords)
     enter("add BEER");
     const std::string said = enter("qty 1 2");
     EXPECT_THAT(said, HasSubstr("! Тара частично заполнена."));
-    EXPECT_THAT(said, HasSubstr("refused"));
+    EXPECT_THAT(said, HasSubstr("отказано"));
 }
 
 TEST_F(OnTerminal, Question_IsAskedUntilAnswered)
@@ -72,13 +72,13 @@ TEST_F(OnTerminal, Question_IsAskedUntilAnswered)
     enter("open");
     enter("add CHIPS");
     terminal->type("storno 1\n");
-    EXPECT_THAT(terminal->readTo("yes/no> "), HasSubstr("Сторнировать позицию?"));
+    EXPECT_THAT(terminal->readTo("да/нет> "), HasSubstr("Сторнировать позицию?"));
     terminal->type("maybe\n");
-    terminal->readTo("yes/no> ");
+    terminal->readTo("да/нет> ");
     terminal->type("нет\n");
-    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("refused"));
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("отказано"));
     terminal->type("storno 1\n");
-    terminal->readTo("yes/no> ");
+    terminal->readTo("да/нет> ");
     terminal->type("y\n");
     EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("x 1  CHIPS"));
 }

@@ -221,6 +221,7 @@ TEST_F(Commands, Restart_ForgetsASettingThatLeftTheFile)
 
 TEST_F(Commands, Help_ListsEachCommandOrExplainsOne)
 {
+    start(setup(), "en");
     done({"help"});
     EXPECT_THAT(takePrinted().toStdString(), HasSubstr("softcheck NUMBER"));
     done({"help qty"});

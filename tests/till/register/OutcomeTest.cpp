@@ -68,11 +68,11 @@ TEST_F(Outcomes, Mistake_HasItsValuesInAnyLanguage)
     EXPECT_FALSE(lastOutcome().contains("by"));
 }
 
-TEST_F(Outcomes, MistakeInTheWords_IsADetail)
+TEST_F(Outcomes, MistakeInTheWords_HasNoKey)
 {
     const Outcome outcome = ends(Outcome::Mistake, "qty one 1");
-    EXPECT_EQ(outcome.reason, Message());
-    EXPECT_EQ(outcome.detail, QString("\"one\" is not a position number"));
+    EXPECT_EQ(outcome.reason.key(), QString());
+    EXPECT_EQ(outcome.text(Translator("en")), QString("\"one\" is not a position number"));
 }
 
 TEST_F(Outcomes, Failure_HasAReasonAndTheDetailOfTheFile)

@@ -1,5 +1,4 @@
 #include "tests/support/Printers.h"
-#include "tests/support/WarningCapture.h"
 
 #include "host/Config.h"
 #include "till/register/SettingsFile.h"
@@ -39,15 +38,24 @@ TEST_F(SettingsFile, SectionAndKey_BecomeOneKey)
     EXPECT_FALSE(config.getBool(key, true));
 }
 
-TEST_F(SettingsFile, EverySection_IsRead)
+TEST_F(SettingsFile, ByteOrderMarkAndComments_MeanNothing)
 {
-    write("[One]\nfirst=true\nsecond=true\n[Two]\nfirst=true\n");
+    write("\xef\xbb\xbf# a till\r\n; its settings\r\n [ PackagingControl ] # of the plugin\r\n"
+          "\r\n  allowSaleEmptyTara = \"no\" ; not here\r\n");
 
     EXPECT_EQ(read(), QString());
-    EXPECT_TRUE(config.getBool("One:first", false));
-    EXPECT_TRUE(config.getBool("One:second", false));
-    EXPECT_TRUE(config.getBool("Two:first", false));
-    EXPECT_FALSE(config.getBool("Two:second", false));
+    EXPECT_FALSE(config.getBool(key, true));
+}
+
+TEST_F(SettingsFile, UnknownKey_IsNamedWithItsLineAndTheNearestOne)
+{
+    write("[PackagingControl]\nallowSaleEmptyTara=no\nallowSaleEmtyTara=no\n");
+    EXPECT_EQ(read(), path
+                          + ":3: no setting \"PackagingControl:allowSaleEmtyTara\"; did you mean "
+                            "'PackagingControl:allowSaleEmptyTara'?");
+    EXPECT_TRUE(config.getBool(key, true));
+    write("[Other]\nthing=no\n");
+    EXPECT_EQ(read(), path + ":2: no setting \"Other:thing\"");
 }
 
 TEST_F(SettingsFile, EmptyFile_HoldsNothing)
@@ -58,24 +66,25 @@ TEST_F(SettingsFile, EmptyFile_HoldsNothing)
     EXPECT_TRUE(config.getBool(key, true));
 }
 
-TEST_F(SettingsFile, EmptyValue_IsTheDefault)
+TEST_F(SettingsFile, ValueThatIsNoBoolean_IsNamedWithItsLine)
 {
-    const WarningCapture warnings;
-    write("[PackagingControl]\nallowSaleEmptyTara=\n");
-
-    EXPECT_EQ(read(), QString());
-    EXPECT_TRUE(config.getBool(key, true));
-    EXPECT_EQ(warnings.lines().size(), 1);
+    for (const QByteArray value : {"", "perhaps", "false, false"}) {
+        write("[PackagingControl]\nallowSaleEmptyTara=" + value + "\n");
+        EXPECT_EQ(read(), path + ":2: " + key + ": \"" + value + "\" is neither true nor false");
+        EXPECT_TRUE(config.getBool(key, true));
+    }
 }
 
-TEST_F(SettingsFile, ListOfValues_IsTheDefault)
+TEST_F(SettingsFile, WhatIsNoSetting_IsNamedWithItsLine)
 {
-    const WarningCapture warnings;
-    write("[PackagingControl]\nallowSaleEmptyTara=false, false\n");
-
-    EXPECT_EQ(read(), QString());
-    EXPECT_TRUE(config.getBool(key, true));
-    EXPECT_EQ(warnings.lines().size(), 1);
+    write("\n[PackagingControl\n");
+    EXPECT_EQ(read(), path + ":2: a section is not closed with \"]\"");
+    write("[PackagingControl]\nno equals sign\n");
+    EXPECT_EQ(read(), path + ":2: neither [SECTION] nor KEY=VALUE");
+    write("allowSaleEmptyTara=no\n");
+    EXPECT_EQ(read(), path + ":1: there is no [SECTION] above it");
+    write("# \xff\n");
+    EXPECT_EQ(read(), path + ": not UTF-8 text");
 }
 
 TEST_F(SettingsFile, SettingOfTheFile_OverrulesTheEarlierOne)
@@ -90,7 +99,7 @@ TEST_F(SettingsFile, SettingOfTheFile_OverrulesTheEarlierOne)
 TEST_F(SettingsFile, SettingNotInTheFile_Stays)
 {
     config.set(key, false);
-    write("[Other]\nsetting=true\n");
+    write("[PackagingControl]\n");
 
     EXPECT_EQ(read(), QString());
     EXPECT_FALSE(config.getBool(key, true));

@@ -54,13 +54,13 @@ TEST_F(Answers, Missing_CountsAsNoAndIsLeftOver)
 {
     refused("storno 1");
     expect({"position 1 live"});
-    EXPECT_EQ(commands->leftOver(), QString("no answer was given to: tillStornoPosition"));
+    EXPECT_EQ(commands->leftOver(), QString("нет ответа на: tillStornoPosition"));
 }
 
 TEST_F(Answers, Unused_AreLeftOver)
 {
     done({"answer yes no yes", "storno 1"});
-    EXPECT_EQ(commands->leftOver(), QString("2 answer(s) were given that nobody asked for"));
+    EXPECT_EQ(commands->leftOver(), QString("лишних ответов: 2"));
 }
 
 TEST_F(Answers, Queued_SurviveARestart)

@@ -75,7 +75,7 @@ const std::string fourDecimals = std::string("\"1.0005\"") + notANumber;
 INSTANTIATE_TEST_SUITE_P(
     Words, WithReceipt,
     testing::Values(
-        Mistake{"Command", "ad CHIPS", "no command \"ad\"; try 'help'"},
+        Mistake{"Command", "ad CHIPS", "no command \"ad\"; did you mean 'add'?"},
         Mistake{"OpenQuote", "add \"CHIPS", "a quote is not closed"},
         Mistake{"AddArticle", "add CHOPS", "no article \"CHOPS\" in the catalogue"},
         Mistake{"AddQuantity", "add CHIPS many", many.c_str()},
@@ -96,9 +96,9 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"PayMoney", "pay 5.005", "\"5.005\" is not an amount of money (12.50 or 12,50)"},
         Mistake{"PayNegative", "pay -5", "\"-5\" is not an amount of money (12.50 or 12,50)"},
         Mistake{"AnswerWord", "answer yes maybe", "\"maybe\" is none of: yes, no"},
-        Mistake{"HelpCommand", "help ad", "no command \"ad\"; try 'help'"},
+        Mistake{"HelpCommand", "help ad", "no command \"ad\"; did you mean 'add'?"},
         Mistake{"SubtotalWords", "subtotal now", "usage: subtotal"},
-        Mistake{"SetTooFewWords", "set KEY", "usage: set KEY VALUE"}),
+        Mistake{"SetTooFewWords", "set KEY", "usage: set [KEY VALUE]"}),
     nameOfMistake);
 
 INSTANTIATE_TEST_SUITE_P(

@@ -11,6 +11,8 @@ namespace {
 class ScriptRun : public TillTest
 {
 protected:
+    ScriptRun() { start(setup(), QStringLiteral("en")); }
+
     QString path() const { return directory.filePath("s.till"); }
 
     //! Plays \a bytes; what went wrong.
@@ -38,15 +40,19 @@ TEST_F(ScriptRun, GoodScript_IsPlayedToItsEnd)
 TEST_F(ScriptRun, FirstFailure_StopsWithFileAndLine)
 {
     EXPECT_EQ(play("open\n\n# nothing\nadd CHOPS\nadd CHIPS\n"),
-              path() + ":4: add CHOPS: В каталоге нет товара \"CHOPS\"");
+              path() + ":4: add CHOPS: no article \"CHOPS\" in the catalogue");
     expect({"positions 0"});
 }
 
 TEST_F(ScriptRun, RefusedCommand_Stops)
 {
-    EXPECT_EQ(play("open\n  pay  \nadd CHIPS"), path() + ":2: pay: refused: tillReceiptEmpty");
+    EXPECT_EQ(play("open\n  pay  \nadd CHIPS"),
+              path()
+                  + ":2: pay: refused: There are no positions in the receipt (tillReceiptEmpty)");
     EXPECT_EQ(play("add CAN3\nadd BEER\nqty 1 2\n"),
-              path() + ":3: qty 1 2: refused: packingControlTaraAlmostFull");
+              path()
+                  + ":3: qty 1 2: refused: The tara is partly filled. Changing the quantity is "
+                    "not allowed (packingControlTaraAlmostFull)");
 }
 
 TEST_F(ScriptRun, FailedExpectation_StopsWithBothValues)
