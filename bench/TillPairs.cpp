@@ -69,8 +69,8 @@ public:
         m_plugin = *loaded;
         m_register.emplace(
             till::Register::Parts{catalogue(), *m_storage, &*m_plugin, m_settings, m_notes});
-        if (const QString error = m_register->start(); !error.isEmpty())
-            giveUp(error);
+        if (const auto started = m_register->start(); !started)
+            giveUp(started.error().text());
     }
 
     ~RunningTill()

@@ -23,15 +23,15 @@ QString play(const till::Script &script, const QString &path, const QString &plu
 {
     till::Notes notes;
     till::CashDesk desk({":memory:", FUZZ_CATALOGUE, plugin, {}, {}}, notes);
-    if (const QString error = desk.start(); !error.isEmpty())
-        return "the till does not start: " + error;
+    if (const auto started = desk.start(); !started)
+        return "the till does not start: " + started.error().text();
     const till::Translator translator;
     till::CommandLine commands(desk, notes, translator, {}, {[](const QString &) {}, {}});
-    const QString wrong = script.play(commands, [](const QString &) {});
-    if (!wrong.isEmpty() && !wrong.startsWith(path + ':'))
-        return "an error without its place: " + wrong;
+    const auto played = script.play(commands, [](const QString &) {});
+    if (!played && !played.error().place.startsWith(path + ':'))
+        return "a fault without its place: " + played.error().text();
     if (!desk.isOn())
-        return "the till is off: " + wrong;
+        return played ? "the till is off" : "the till is off: " + played.error().text();
     if (desk.cashRegister().receipt() && commands.renderReceipt().isEmpty())
         return "a receipt that cannot be seen";
     return {};
@@ -46,9 +46,10 @@ QString playScript(QByteArrayView bytes)
     if (!file.isWhole())
         return "the file could not be made";
     till::Script script;
-    if (const QString error = script.read(file.path()); !error.isEmpty())
-        return error.startsWith(file.path() + ':') ? QString()
-                                                   : "an error without its place: " + error;
+    if (const auto read = script.read(file.path()); !read)
+        return read.error().place == file.path()
+                   ? QString()
+                   : "a fault without its place: " + read.error().text();
     return play(script, file.path(), bytes.startsWith("#-") ? QString() : FUZZ_PLUGIN);
 }
 

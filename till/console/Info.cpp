@@ -2,7 +2,6 @@
 
 #include "host/ActivityNotifier.h"
 #include "host/BasicPlugin.h"
-#include "till/register/SettingsFile.h"
 
 #include <QtCore/QJsonDocument>
 
@@ -59,30 +58,26 @@ QString describe(const LoadedPlugin &loaded, const QList<int> &codes)
 
 } // namespace
 
-QString describePlugin(const Setup &setup, QString &text)
+Result<QString> describePlugin(const Setup &setup)
 {
     Config settings;
-    if (!setup.settingsFile.isEmpty()) {
-        if (const QString error = readSettingsFile(setup.settingsFile, settings); !error.isEmpty())
-            return error;
-    }
-    for (auto entry = setup.settings.cbegin(); entry != setup.settings.cend(); ++entry)
-        settings.set(entry.key(), entry.value());
-
+    if (const Result<> read = readSettings(setup, settings); !read)
+        return read.error();
     PluginLoader loader;
     const auto loaded = loader.load(setup.plugin);
     if (!loaded)
-        return loaded.error().text();
+        return loaded.error().fault();
     SubscriptionRecorder notifier;
     Singleton<Config>::instance = &settings;
     Singleton<ActivityNotifier>::instance = &notifier;
     const auto initialised = loaded->initialise();
-    if (initialised)
-        text = "plugin:   " + setup.plugin + '\n' + describe(*loaded, notifier.codes());
+    const QString text = "plugin:   " + setup.plugin + '\n' + describe(*loaded, notifier.codes());
     loader.unload();
     Singleton<Config>::instance = nullptr;
     Singleton<ActivityNotifier>::instance = nullptr;
-    return initialised ? QString() : initialised.error().text();
+    if (!initialised)
+        return initialised.error().fault();
+    return text;
 }
 
 } // namespace till

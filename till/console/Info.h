@@ -7,9 +7,9 @@ namespace till {
 
 /*!
  * Loads the plugin of \a setup, initialises it and tells what it is: its metadata, its triggers and
- * the events to which it subscribes. Fills \a text or returns what is wrong.
+ * the events to which it subscribes.
  */
-QString describePlugin(const Setup &setup, QString &text);
+Result<QString> describePlugin(const Setup &setup);
 
 } // namespace till
 

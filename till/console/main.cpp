@@ -28,6 +28,13 @@ int fail(ExitStatus status, const QString &text)
     return status;
 }
 
+//! A fault, and how the program ends for it.
+struct Failure
+{
+    ExitStatus status;
+    Fault fault;
+};
+
 QString withoutPeriod(const QString &text)
 {
     return text.endsWith('.') ? text.chopped(1) : text;
@@ -43,30 +50,29 @@ void tellCopy(const CashDesk &desk, const Translator &translator,
                 .with({desk.setup().database, desk.copyBefore()})));
 }
 
-//! Plays one script. Empty text or what went wrong.
-QString playScript(const QString &path, const Options &options, Notes &notes,
-                   const Translator &translator, bool &startFailed)
+//! Plays one script.
+Result<void, Failure> playScript(const QString &path, const Options &options, Notes &notes,
+                                 const Translator &translator)
 {
     Script script;
-    if (const QString error = script.read(path); !error.isEmpty()) {
-        startFailed = true;
-        return error;
-    }
+    if (const Result<> read = script.read(path); !read)
+        return Failure{StartFailed, read.error()};
     Setup setup = options.setup;
     if (!options.ownDatabase)
         setup.database = ":memory:"; // nothing is left behind, however the program ends
     CashDesk desk(setup, notes);
-    if (const QString error = desk.start(); !error.isEmpty()) {
-        startFailed = true;
-        return error;
-    }
+    if (const Result<> started = desk.start(); !started)
+        return Failure{StartFailed, started.error()};
     const auto show = [&](const QString &text) {
         if (!options.quiet)
             Output(options.style.colour).print(text);
     };
     tellCopy(desk, translator, show);
     CommandLine commands(desk, notes, translator, options.style, {show, {}});
-    return script.play(commands, [&](const QString &line) { show("> " + line); });
+    const Result<> played = script.play(commands, [&](const QString &line) { show("> " + line); });
+    if (!played)
+        return Failure{CommandFailed, played.error()};
+    return {};
 }
 
 int play(const Options &options, Notes &notes, const Translator &translator)
@@ -81,10 +87,8 @@ int play(const Options &options, Notes &notes, const Translator &translator)
                      .arg(++number)
                      .arg(options.words.size())
                      .arg(QFileInfo(file).fileName()));
-        bool startFailed = false;
-        const QString error = playScript(file, options, notes, translator, startFailed);
-        if (!error.isEmpty())
-            return fail(startFailed ? StartFailed : CommandFailed, error);
+        if (const auto played = playScript(file, options, notes, translator); !played)
+            return fail(played.error().status, played.error().fault.text());
     }
     progress(QString("%1 of %1 scripts held").arg(number));
     return AllWell;
@@ -92,11 +96,10 @@ int play(const Options &options, Notes &notes, const Translator &translator)
 
 int info(const Options &options)
 {
-    QString text;
-    const QString error = describePlugin(options.setup, text);
-    if (!error.isEmpty())
-        return fail(StartFailed, error);
-    Output().print(text);
+    const Result<QString> text = describePlugin(options.setup);
+    if (!text)
+        return fail(StartFailed, text.error().text());
+    Output().print(*text);
     return AllWell;
 }
 
@@ -120,8 +123,8 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
     if (options.setup.database != ":memory:")
         makePrivateFolder(QFileInfo(options.setup.database).absolutePath());
     CashDesk desk(options.setup, notes);
-    if (const QString error = desk.start(); !error.isEmpty())
-        return fail(StartFailed, error);
+    if (const Result<> started = desk.start(); !started)
+        return fail(StartFailed, started.error().text());
     // A person is always talked to; a reader of the trace finds nothing else beside it.
     const bool quiet = options.quiet && !isTerminal();
     const Output output(options.style.colour);
@@ -190,10 +193,10 @@ int runTraced(Options &options)
         if (const QString fault = traceFileFault(options.trace, filesInUse(options));
             options.trace != "-" && !fault.isEmpty())
             return fail(UsageError, fault);
-        QString error;
-        trace = Trace::start(notes, options.trace, &error);
-        if (!trace)
-            return fail(StartFailed, error);
+        auto started = Trace::start(notes, options.trace);
+        if (!started)
+            return fail(StartFailed, started.error().text());
+        trace = std::move(*started);
         options.quiet = options.quiet || options.trace == "-";
     }
     const int status = run(options, notes);

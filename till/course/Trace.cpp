@@ -7,17 +7,15 @@
 
 namespace till {
 
-std::unique_ptr<Trace> Trace::start(Notes &notes, const QString &path, QString *error)
+Result<std::unique_ptr<Trace>> Trace::start(Notes &notes, const QString &path)
 {
     std::unique_ptr<Trace> trace(new Trace);
     trace->m_file.setFileName(path);
     const bool opened = path == QLatin1String("-")
                             ? trace->m_file.open(stdout, QIODevice::WriteOnly)
                             : trace->m_file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-    if (!opened) {
-        *error = path + ": " + trace->m_file.errorString();
-        return nullptr;
-    }
+    if (!opened)
+        return Fault{path, trace->m_file.errorString()};
     trace->m_subscription = notes.subscribe(
         [t = trace.get()](const QJsonObject &note) { t->write(note); }, Notes::Of::CourseAndStates);
     return trace;

@@ -2,6 +2,7 @@
 #define TILL_COURSE_TRACE_H
 
 #include "till/course/Notes.h"
+#include "till/result/Result.h"
 
 #include <QtCore/QFile>
 
@@ -17,11 +18,10 @@ public:
 
     /*!
      * Starts tracing \a notes to the file \a path, which is emptied first, or to standard output
-     * for "-". Null and \a error set when the file cannot be written. Any number of traces can
-     * be on at a time; one that starts in the middle of a receipt has all of it from the next
-     * take-up on.
+     * for "-". Any number of traces can be on at a time; one that starts in the middle of a
+     * receipt has all of it from the next take-up on.
      */
-    static std::unique_ptr<Trace> start(Notes &notes, const QString &path, QString *error);
+    static Result<std::unique_ptr<Trace>> start(Notes &notes, const QString &path);
     //! Why a line could not be written, with the path; empty as long as all were.
     QString error() const { return m_error; }
 

@@ -8,6 +8,16 @@
 
 namespace till {
 
+Result<> readSettings(const Setup &setup, Config &config)
+{
+    Result<> read;
+    if (!setup.settingsFile.isEmpty())
+        read = readSettingsFile(setup.settingsFile, config);
+    for (auto entry = setup.settings.cbegin(); entry != setup.settings.cend(); ++entry)
+        config.set(entry.key(), entry.value());
+    return read;
+}
+
 CashDesk::CashDesk(Setup setup, Notes &notes)
     : m_setup(std::move(setup))
     , m_notes(notes)
@@ -21,28 +31,32 @@ CashDesk::~CashDesk()
     switchOff();
 }
 
-QString CashDesk::whenIdle(const std::function<QString()> &step)
+Result<> CashDesk::whenIdle(const std::function<Result<>()> &step)
 {
     if (isBusy())
-        return Outcome::busy().text();
+        return Fault{{}, QStringLiteral("a command is under way")};
     const QScopedValueRollback<bool> switching(m_isSwitching, true);
     return step();
 }
 
-QString CashDesk::start()
+Result<> CashDesk::start()
 {
-    return whenIdle([this] { return isOn() ? QStringLiteral("the till is on") : switchOn(); });
-}
-
-QString CashDesk::stop()
-{
-    return whenIdle([this] {
-        switchOff();
-        return QString();
+    return whenIdle([this]() -> Result<> {
+        if (isOn())
+            return Fault{{}, QStringLiteral("the till is on")};
+        return switchOn();
     });
 }
 
-QString CashDesk::set(const QString &key, const QString &value)
+Result<> CashDesk::stop()
+{
+    return whenIdle([this] {
+        switchOff();
+        return Result<>();
+    });
+}
+
+Result<> CashDesk::set(const QString &key, const QString &value)
 {
     return whenIdle([&] {
         switchOff();
@@ -51,16 +65,16 @@ QString CashDesk::set(const QString &key, const QString &value)
     });
 }
 
-QString CashDesk::switchOn()
+Result<> CashDesk::switchOn()
 {
-    using Step = QString (CashDesk::*)();
+    using Step = Result<> (CashDesk::*)();
     constexpr Step steps[] = {&CashDesk::readSettings, &CashDesk::readCatalogue,
                               &CashDesk::openDatabase, &CashDesk::loadPlugin,
                               &CashDesk::startRegister};
     for (const Step step : steps) {
-        if (const QString error = (this->*step)(); !error.isEmpty()) {
+        if (Result<> done = (this->*step)(); !done) {
             switchOff();
-            return error;
+            return done;
         }
     }
     return {};
@@ -76,53 +90,45 @@ void CashDesk::switchOff()
         m_receiptObservers.tell();
 }
 
-QString CashDesk::readSettings()
+Result<> CashDesk::readSettings()
 {
-    m_settings.emplace();
-    if (!m_setup.settingsFile.isEmpty()) {
-        if (const QString error = readSettingsFile(m_setup.settingsFile, *m_settings);
-            !error.isEmpty())
-            return error;
-    }
-    for (auto entry = m_setup.settings.cbegin(); entry != m_setup.settings.cend(); ++entry)
-        m_settings->set(entry.key(), entry.value());
-    return {};
+    return till::readSettings(m_setup, m_settings.emplace());
 }
 
-QString CashDesk::readCatalogue()
+Result<> CashDesk::readCatalogue()
 {
     if (m_catalogue)
         return {};
     auto loaded = Catalogue::load(m_setup.catalogue);
     if (!loaded)
-        return loaded.error().text();
+        return loaded.error();
     m_catalogue = std::move(*loaded);
     return {};
 }
 
-QString CashDesk::openDatabase()
+Result<> CashDesk::openDatabase()
 {
     if (m_storage)
         return {};
     auto opened = Storage::open(m_setup.database);
     if (!opened)
-        return opened.error().text();
+        return opened.error();
     m_storage = std::move(*opened);
     return {};
 }
 
-QString CashDesk::loadPlugin()
+Result<> CashDesk::loadPlugin()
 {
     if (m_setup.plugin.isEmpty())
         return {};
     const auto loaded = m_loader.load(m_setup.plugin);
     if (!loaded)
-        return loaded.error().text();
+        return loaded.error().fault();
     m_plugin = *loaded;
     return {};
 }
 
-QString CashDesk::startRegister()
+Result<> CashDesk::startRegister()
 {
     m_notes.add("start", {{"database", m_setup.database}, {"plugin", m_setup.plugin}});
     m_register = std::make_unique<Register>(Register::Parts{

@@ -26,11 +26,14 @@ struct Setup
     QMap<QString, QString> settings; //!< further settings, over those of the file
 };
 
+//! Puts the settings of \a setup into \a config: those of its file, then its own.
+Result<> readSettings(const Setup &setup, Config &config);
+
 /*!
  * A register with all its parts, switched on and off as a whole: the till that a front is given.
  *
  * While it is busy, in a question say, it is not switched: start(), stop() and set() change nothing
- * and return the text of `Outcome::busy()`.
+ * and say so.
  */
 class CashDesk
 {
@@ -42,21 +45,17 @@ public:
 
     /*!
      * Switches the till on: reads the settings, for the first time also the catalogue, and opens
-     * the database; loads the plugin and takes up the receipt that was current. Returns an empty
-     * text or what is missing, with its place; then the till stays off. One that is on stays as it
-     * is, and its start says so.
+     * the database; loads the plugin and takes up the receipt that was current. When
+     * anything is missing the till stays off. One that is on stays as it is, and its start says so.
      */
-    QString start();
+    Result<> start();
 
     //! Switches the till off: the register and the plugin, which is unloaded. The receipt in hand
     //! stays in the database, which stays open for a next start, as does the catalogue.
-    QString stop();
+    Result<> stop();
 
-    /*!
-     * Changes a setting, which plugins read when they start: the till is switched off and on. Empty
-     * text or an error.
-     */
-    QString set(const QString &key, const QString &value);
+    //! Changes a setting, which plugins read when they start: the till is switched off and on.
+    Result<> set(const QString &key, const QString &value);
 
     //! The register; only while the till is on.
     Register &cashRegister() { return *m_register; }
@@ -84,14 +83,14 @@ public:
 
 private:
     //! Does \a step unless the till is busy.
-    QString whenIdle(const std::function<QString()> &step);
-    QString switchOn();
+    Result<> whenIdle(const std::function<Result<>()> &step);
+    Result<> switchOn();
     void switchOff();
-    QString readSettings();
-    QString readCatalogue();
-    QString openDatabase();
-    QString loadPlugin();
-    QString startRegister();
+    Result<> readSettings();
+    Result<> readCatalogue();
+    Result<> openDatabase();
+    Result<> loadPlugin();
+    Result<> startRegister();
 
     Setup m_setup;
     Notes &m_notes;

@@ -53,19 +53,19 @@ Register::~Register()
         m_plugin->plugin->deinit();
 }
 
-QString Register::start()
+Result<> Register::start()
 {
     if (!m_services.areInPlace())
-        return QStringLiteral("another register is on in this process");
+        return Fault{{}, QStringLiteral("another register is on in this process")};
     const UnderWay underWay(*this);
     if (m_plugin) {
         if (const auto initialised = m_plugin->initialise(); !initialised)
-            return initialised.error().text();
+            return initialised.error().fault();
         m_isPluginReady = true;
     }
     auto read = m_storage.unfinishedReceipt();
     if (!read)
-        return read.error().text();
+        return read.error();
     if (std::optional<ReceiptRecord> &record = *read) {
         record->state = ReceiptState::Open; // what asks before subtotal is to ask again
         takeUp(QSharedPointer<Receipt>::create(*record));

@@ -44,10 +44,10 @@ public:
 
     /*!
      * Initialises the plugin and takes up the receipt that was in hand when the register ended, if
-     * any. To be called once, before all else. Empty text or an error, with its place; while
-     * another register lives, that one, and nothing was done.
+     * any. To be called once, before all else. While another register lives, nothing is done but
+     * to say so.
      */
-    QString start();
+    Result<> start();
 
     /*!
      * Carries \a command out, the only way to do anything with a receipt: notes that it begins and

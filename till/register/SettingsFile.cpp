@@ -84,28 +84,26 @@ QStringList settingsInForce(const Config &config)
     return settings;
 }
 
-QString readSettingsFile(const QString &path, Config &config)
+Result<> readSettingsFile(const QString &path, Config &config)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("%1: %2").arg(path, file.errorString());
+        return Fault{path, file.errorString()};
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        return QStringLiteral("%1: %2").arg(path, file.errorString());
+        return Fault{path, file.errorString()};
     QStringDecoder decoder(QStringDecoder::Utf8); // takes a byte order mark
     const QString text = decoder.decode(bytes);
     if (decoder.hasError())
-        return path + ": not UTF-8 text";
+        return Fault{path, QStringLiteral("not UTF-8 text")};
 
     QString section;
     Settings settings;
     const QStringList lines = text.split('\n');
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (const auto fault = readLine(bare(lines[i]), section, settings))
-            return QStringLiteral("%1:%2: %3")
-                .arg(path)
-                .arg(i + 1)
-                .arg(Translator(QStringLiteral("en")).text(*fault));
+            return Fault{QStringLiteral("%1:%2").arg(path).arg(i + 1),
+                         Translator(QStringLiteral("en")).text(*fault)};
     }
     for (const auto &[key, value] : std::as_const(settings))
         config.set(key, value);

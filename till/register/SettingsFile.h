@@ -2,8 +2,8 @@
 #define TILL_REGISTER_SETTINGSFILE_H
 
 #include "till/language/Message.h"
+#include "till/result/Result.h"
 
-#include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <optional>
@@ -25,12 +25,10 @@ QStringList settingsInForce(const Config &config);
  * Adds the settings of the INI file \a path to \a config: section "PackagingControl" and key
  * "allowSaleEmptyTara" become "PackagingControl:allowSaleEmptyTara". Settings made before stay
  * unless the file sets them anew. The file is UTF-8, with or without a byte order mark; what
- * follows a ";" or a "#" at the beginning of a line or behind a space is a comment.
- *
- * Returns an empty text, or what is wrong in English, with the path and the line in it; then
+ * follows a ";" or a "#" at the beginning of a line or behind a space is a comment. With a fault
  * nothing of the file is taken.
  */
-QString readSettingsFile(const QString &path, Config &config);
+Result<> readSettingsFile(const QString &path, Config &config);
 
 } // namespace till
 

@@ -65,16 +65,17 @@ Outcome CommandLine::set(const QStringList &words)
         return wrongWords({"set", told("till", "[KEY VALUE]"), {}, 0, 0});
     if (const auto fault = settingFault(words[0], words[1]))
         return Outcome::mistake(*fault);
-    const QString error = m_desk.set(words[0], words[1]);
-    return error.isEmpty() ? Outcome::done() : Outcome::failed(error);
+    const Result<> isSet = m_desk.set(words[0], words[1]);
+    return isSet ? Outcome::done() : Outcome::failed(isSet.error().text());
 }
 
 Outcome CommandLine::restart(const QStringList &words)
 {
     Q_UNUSED(words)
-    m_desk.stop();
-    const QString error = m_desk.start();
-    return error.isEmpty() ? Outcome::done() : Outcome::failed(error);
+    Result<> restarted = m_desk.stop();
+    if (restarted)
+        restarted = m_desk.start();
+    return restarted ? Outcome::done() : Outcome::failed(restarted.error().text());
 }
 
 Outcome CommandLine::expect(const QStringList &words)

@@ -30,38 +30,39 @@ QString why(const CommandLine &commands, const Outcome &outcome)
 
 } // namespace
 
-QString Script::read(const QString &path)
+Result<> Script::read(const QString &path)
 {
     m_path = path;
     m_lines.clear();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return path + ": " + file.errorString();
+        return Fault{path, file.errorString()};
     const QByteArray bytes = file.readAll();
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder.decode(bytes);
     if (decoder.hasError())
-        return path + ": not UTF-8 text";
+        return Fault{path, "not UTF-8 text"};
     m_lines = text.split('\n');
     return {};
 }
 
 QString Script::place(qsizetype line) const
 {
-    return QString("%1:%2: ").arg(m_path).arg(line + 1);
+    return QString("%1:%2").arg(m_path).arg(line + 1);
 }
 
-QString Script::play(CommandLine &commands,
-                     const std::function<void(const QString &line)> &echo) const
+Result<> Script::play(CommandLine &commands,
+                      const std::function<void(const QString &line)> &echo) const
 {
     for (qsizetype i = 0; i < m_lines.size() && !commands.hasQuit(); ++i) {
         if (const QString shown = shownCommand(m_lines[i]); !shown.isEmpty())
             echo(forTerminal(shown));
         if (const Outcome outcome = commands.run(m_lines[i]); !outcome)
-            return place(i) + m_lines[i].trimmed() + ": " + why(commands, outcome);
+            return Fault{place(i), m_lines[i].trimmed() + ": " + why(commands, outcome)};
     }
-    const QString left = commands.leftOver();
-    return left.isEmpty() ? QString() : place(m_lines.size() - 1) + left;
+    if (const QString left = commands.leftOver(); !left.isEmpty())
+        return Fault{place(m_lines.size() - 1), left};
+    return {};
 }
 
 } // namespace till

@@ -9,19 +9,16 @@ namespace till {
 class Script
 {
 public:
-    /*!
-     * Reads the file \a path, which is UTF-8. Empty text or what is wrong, with the path and, where
-     * there is one, the line.
-     */
-    QString read(const QString &path);
+    //! Reads the file \a path, which is UTF-8.
+    Result<> read(const QString &path);
 
     /*!
-     * Carries the lines out until one does not end well, or all are done. Empty text, or
-     * `FILE:LINE: what is wrong`; an answer or a question that is left over at the end is wrong
-     * too. Each line that is carried out is told to \a echo first; expectations and comments are
-     * not.
+     * Carries the lines out until one does not end well, or all are done. The place of a fault is
+     * `FILE:LINE`; an answer or a question that is left over at the end is one too. Each line that
+     * is carried out is told to \a echo first; expectations and comments are not.
      */
-    QString play(CommandLine &commands, const std::function<void(const QString &line)> &echo) const;
+    Result<> play(CommandLine &commands,
+                  const std::function<void(const QString &line)> &echo) const;
 
 private:
     QString place(qsizetype line) const;

@@ -1,3 +1,4 @@
+#include "tests/till/support/Results.h"
 #include "till/course/Trace.h"
 
 #include <QtCore/QJsonDocument>
@@ -16,10 +17,7 @@ class TwoTraces : public testing::Test
 protected:
     std::unique_ptr<Trace> started(const QString &name)
     {
-        QString error;
-        auto trace = Trace::start(notes, directory.filePath(name), &error);
-        EXPECT_EQ(error.toStdString(), "");
-        return trace;
+        return must(Trace::start(notes, directory.filePath(name)));
     }
 
     //! The lines of a trace: their numbers and kinds.

@@ -83,11 +83,12 @@ TEST_F(Busy, SwitchingWithinAQuestion_IsRefused)
 {
     QStringList said;
     whenAsked([&] {
-        said.append({till->start(), till->stop(), till->set("A:b", "c")});
+        said.append(
+            {faultText(till->start()), faultText(till->stop()), faultText(till->set("A:b", "c"))});
         ++attempts;
     });
     EXPECT_TRUE(carryOut(command::Storno{1}));
-    EXPECT_EQ(said, QStringList(3, "Выполняется другая команда"));
+    EXPECT_EQ(said, QStringList(3, "a command is under way"));
     EXPECT_TRUE(till->isOn());
     EXPECT_FALSE(till->setup().settings.contains("A:b"));
     expectNothingElse();

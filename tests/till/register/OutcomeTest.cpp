@@ -29,7 +29,7 @@ TEST_F(Outcomes, ReasonOfThePlugin_OutlivesIt)
 {
     done({"open", "add CAN3", "add BEER"});
     const Outcome outcome = ends(Outcome::RefusedByPlugin, "qty 1 2");
-    till->stop();
+    must(till->stop());
     EXPECT_EQ(outcome.reason.key(), QString("packingControlTaraAlmostFull"));
 }
 

@@ -1,4 +1,5 @@
 #include "tests/support/Printers.h"
+#include "tests/till/support/Results.h"
 
 #include "host/Config.h"
 #include "till/register/SettingsFile.h"
@@ -22,7 +23,7 @@ protected:
         ASSERT_EQ(file.write(text), text.size());
     }
 
-    QString read() { return till::readSettingsFile(path, config); }
+    QString read() { return till::faultText(till::readSettingsFile(path, config)); }
 
     const QString key = QStringLiteral("PackagingControl:allowSaleEmptyTara");
     QTemporaryDir directory;
@@ -166,7 +167,8 @@ TEST_F(SettingsFile, MissingFile_IsAnErrorThatNamesThePath)
 
 TEST_F(SettingsFile, Directory_IsAnErrorThatNamesThePath)
 {
-    EXPECT_TRUE(till::readSettingsFile(directory.path(), config).contains(directory.path()));
+    EXPECT_TRUE(till::faultText(till::readSettingsFile(directory.path(), config))
+                    .contains(directory.path()));
 }
 
 TEST_F(SettingsFile, FileThatCannotBeRead_IsAnErrorThatNamesThePath)
@@ -174,7 +176,7 @@ TEST_F(SettingsFile, FileThatCannotBeRead_IsAnErrorThatNamesThePath)
     // Opens, but nothing is mapped at its start.
     const QString unreadable = "/proc/self/mem";
 
-    EXPECT_TRUE(till::readSettingsFile(unreadable, config).contains(unreadable));
+    EXPECT_TRUE(till::faultText(till::readSettingsFile(unreadable, config)).contains(unreadable));
 }
 
 class BrokenSettingsFile : public SettingsFile, public testing::WithParamInterface<const char *>

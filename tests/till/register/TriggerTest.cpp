@@ -50,7 +50,7 @@ class Triggers : public TillTest
 protected:
     Triggers()
     {
-        till->stop();
+        must(till->stop());
         storage = must(Storage::open(":memory:"));
         m_register = std::make_unique<Register>(
             Register::Parts{till->catalogue(), *storage, &loaded, settings, notes});

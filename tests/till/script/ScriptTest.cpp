@@ -23,9 +23,9 @@ protected:
         file.write(bytes);
         file.close();
         Script script;
-        const QString error = script.read(path());
-        EXPECT_EQ(error, QString());
-        return script.play(*commands, [this](const QString &line) { echoed.append(line); });
+        must(script.read(path()));
+        return faultText(
+            script.play(*commands, [this](const QString &line) { echoed.append(line); }));
     }
 
     QStringList echoed;
@@ -95,7 +95,7 @@ TEST_F(ScriptRun, LineEndsOfOtherSystems_AreTaken)
 class ScriptFile : public TillTest
 {
 protected:
-    QString errorOf(const QString &path) { return Script().read(path); }
+    QString errorOf(const QString &path) { return faultText(Script().read(path)); }
 };
 
 TEST_F(ScriptFile, Missing_IsSaid)

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 namespace till {
 
 //! The text of the fault; empty when there is none.
@@ -18,10 +20,9 @@ QString faultText(const Result<Value, Error> &result)
 template <typename Value, typename Error>
 Value must(Result<Value, Error> result)
 {
-    if (result)
-        return std::move(*result);
-    ADD_FAILURE() << result.error().text().toStdString();
-    return Value();
+    EXPECT_TRUE(result) << faultText(result).toStdString();
+    if constexpr (!std::is_void_v<Value>)
+        return result ? std::move(*result) : Value();
 }
 
 } // namespace till

@@ -39,7 +39,7 @@ public:
         m_plugin.watcher = static_cast<DocumentWatcher *>(plugin->qt_metacast("DocumentWatcher"));
         m_register.emplace(
             Register::Parts{*m_catalogue, *m_storage, &m_plugin, m_settings, m_notes, this});
-        return m_register->start().isEmpty();
+        return m_register->start().has_value();
     }
 
     QSharedPointer<AbstractDocument> open() override
