@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 need_packages "${build_packages[@]}" "${bench_packages[@]}"
 build=build/bench
 cmake --preset release -B "$build" -DPACKAGINGCONTROL_BENCH=ON >&2
-cmake --build "$build" --target packaging_bench >&2
+cmake --build "$build" --target packaging_bench till >&2
 
 # The order of hashes, and with it the instructions, are the same in every run.
 export QT_HASH_SEED=0
@@ -23,6 +23,8 @@ echo "Measuring times ..." >&2
 bin/packaging_bench --benchmark_min_time=0.05 --benchmark_repetitions=15 \
     --benchmark_enable_random_interleaving=true --benchmark_out=times.json \
     --benchmark_out_format=json > times.txt
+echo "Playing long receipts ..." >&2
+python3 ../../bench/receipts.py bin/till > receipts.json
 strip -o PackagingControl.stripped lib/packagingcontrol/plugins/PackagingControl.so
 
 exec python3 ../../bench/table.py "$@"

@@ -28,7 +28,7 @@ TillFile::TillFile(const QString &path)
     for (const char *sql :
          {"BEGIN IMMEDIATE",
           "INSERT OR REPLACE INTO positions VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-          "INSERT INTO pluginData VALUES (?, ?, ?, ?, ?, ?) ON CONFLICT DO UPDATE SET value = "
+          "INSERT INTO pluginData VALUES (?, ?, ?, ?, ?, ?, ?) ON CONFLICT DO UPDATE SET value = "
           "excluded.value, types = excluded.types, digest = excluded.digest",
           "INSERT INTO receipts VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?) ON CONFLICT DO UPDATE SET "
           "state = excluded.state, total = excluded.total, contents = excluded.contents, digest = "
@@ -71,8 +71,8 @@ QStringList TillFile::contents()
          {"SELECT id, type, state, orderNumber, nextPosnum, opened, ended, positions, "
           "total, hex(contents), hex(digest) FROM receipts ORDER BY id",
           "SELECT *, hex(digest) FROM positions", "SELECT *, hex(digest) FROM softChecks",
-          "SELECT receipt, plugin, key, hex(value), types, hex(digest) FROM "
-          "pluginData ORDER BY receipt, plugin, key",
+          "SELECT receipt, plugin, key, place, hex(value), types, hex(digest) FROM "
+          "pluginData ORDER BY receipt, plugin, key, place",
           "SELECT id, receipt, depth, kind, typeof(json), CAST(json AS TEXT) "
           "FROM journal ORDER BY id"}) {
         sqlite3_stmt *statement = prepare(sql);

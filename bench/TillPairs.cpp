@@ -123,7 +123,9 @@ CommandRows lastRows(RunningTill &till, const QString &path, qsizetype place, qs
                      rowOf(*database, till::positionsTable(),
                            QStringLiteral("receipt = %1 AND place = %2").arg(receipt).arg(place)),
                      rowOf(*database, till::pluginDataTable(),
-                           QStringLiteral("receipt = %1 AND key = 'taraInfo'").arg(receipt)),
+                           QStringLiteral("receipt = %1 AND key = 'taraInfo' AND place = %2")
+                               .arg(receipt)
+                               .arg(place / 2 + 1)), // every other position is tara
                      till.storage().journal(till.receipt())};
     rows.journal.remove(0, earlier);
     return rows;
@@ -140,7 +142,7 @@ public:
         : m_posnum(n - 1)
     {
         const QString origin = m_directory.filePath(QStringLiteral("origin"));
-        till::ReceiptRecord receipt = makeReceipt(n);
+        till::ReceiptUpdate receipt = wholeOf(makeReceipt(n));
         if (const auto saved = (*till::Storage::open(origin))->save(receipt, {}); !saved)
             giveUp(saved.error().text());
         for (const QString &copy : {recordedPath(), tillPath(), byHandPath()})

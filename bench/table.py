@@ -68,6 +68,11 @@ def read_sides():
     return sides
 
 
+def read_receipts():
+    with open("receipts.json", encoding="utf-8") as file:
+        return json.load(file)
+
+
 def number(value):
     return f"{value:,.0f}" if value >= 100 else f"{value:.3g}"
 
@@ -123,6 +128,20 @@ class Table:
         size = os.path.getsize(path) / 1024
         self.lines.append(row(title, f"{size:.1f} KiB", "reported", *[""] * 5))
 
+    def add_runs(self, title, measured, floor, target):
+        """The processor time of a program over that of another."""
+        first, second = Side(0, 0, measured), Side(0, 0, floor)
+        figure = first.median / second.median
+        self.lines.append(row(
+            title, f"{figure:.2f}" + ("" if figure <= target else " **missed**"),
+            f"≤ {target:.2f} CPU", "", "", f"{time(first.median)} / {time(second.median)}", "",
+            f"{first.spread:.0%} / {second.spread:.0%}"))
+
+    def add_bytes(self, title, size, target):
+        self.lines.append(row(title, f"{size / 1e6:.2f} MB"
+                              + ("" if size <= target else " **missed**"),
+                              f"≤ {target / 1e6:.2f} MB", *[""] * 5))
+
     def add_reported(self, title, room, first, last):
         """How many times as much `last` costs as `first`; no target."""
         (small, small_floor), (large, large_floor) = (
@@ -135,7 +154,7 @@ class Table:
             f"{large.median / small.median:.2f}", f"{large.spread:.0%} / {small.spread:.0%}"))
 
 
-def make_table(sides):
+def make_table(sides, receipts):
     table = Table(sides)
     for n in (10, 100, 1000):
         table.add(f"event that saves, over building and storing the tree, {n:,} records",
@@ -173,6 +192,12 @@ def make_table(sides):
                   1.5, wall=True)
     table.add_reported("growth of a command of the till from 100 to 1,000 positions", "till", 100,
                        1000)
+    for n, target in ((1000, 4), (4000, 8)):
+        table.add_runs(f"receipt of {n:,} positions, over the same without the plugin",
+                       receipts[f"plugin/{n}"], receipts[f"alone/{n}"], target)
+    table.add_runs("receipt of 1,000 positions from a pipe, over the same played",
+                   receipts["piped/1000"], receipts["plugin/1000"], 1.2)
+    table.add_bytes("trace of a receipt of 400 positions", receipts["trace"], 7.3e6 / 3)
     return "\n".join(table.lines)
 
 
@@ -194,7 +219,7 @@ def keep(table):
 
 
 def main():
-    table = make_table(read_sides())
+    table = make_table(read_sides(), read_receipts())
     print(table)
     if sys.argv[1:] == ["--keep"]:
         keep(table)

@@ -36,17 +36,25 @@ QVariantMap describeSplit(const QSharedPointer<Position> &source, const GoodsIte
             {"removed", removed}};
 }
 
+//! The pieces that \a base units in packs of \a pack are: those that were asked for, if it was
+//! pieces, for the quotient may differ from them.
+double countOf(const control::Action &action, double base, double pack)
+{
+    const QVariant asked = action.getArguments().value(argument::count);
+    const bool isAsked = asked.isValid() && asked.toDouble() * pack == base;
+    return isAsked ? asked.toDouble() : base / pack;
+}
+
 //! What is left of a position below this many pieces is nothing.
 constexpr double nothing = 0.0005;
 
 } // namespace
 
 ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &notes,
-                           ReceiptNotes &receiptNotes, BasicPlugin *plugin)
+                           BasicPlugin *plugin)
     : m_program(program)
     , m_services(services)
     , m_notes(notes)
-    , m_receiptNotes(receiptNotes)
     , m_plugin(plugin)
 {
 }
@@ -67,8 +75,6 @@ EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
             result = carryOut(action, origin);
         if (result == EContext::Continue)
             runTriggers(action, ActionTrigger::After);
-        // Plugins tie positions together without an event.
-        m_receiptNotes.tellChanged(*m_receipt);
     }
     m_services.modifiers().clearAll();
     m_notes.add("result", {{"type", action.getType()}, {"result", result}});
@@ -142,7 +148,7 @@ EContext::Result ActionRunner::add(const control::Action &action)
     const auto position = m_receipt->add(article, arguments.value(argument::count).toDouble());
     control::args::Core(action).setPositionNumber(position->getPosnum());
     m_receipt->setState(ReceiptState::Open);
-    m_receiptNotes.tell(*position);
+    m_receipt->touch();
     publish(EActivityListener::eventPositionAdded, position);
     return EContext::Continue;
 }
@@ -155,15 +161,15 @@ EContext::Result ActionRunner::applyModifiers(const control::Action &action, Ori
         return EContext::Error;
     const auto position = m_receipt->line(posnum);
     const double base = quantity.value<Quantity>().amount();
-    const ArticleData &article = position->article();
-    if (!m_receipt->hasPlaceFor(article, base / article.pack, position.get())) {
+    const double count = countOf(action, base, position->article().pack);
+    if (!m_receipt->hasPlaceFor(position->article(), count, position.get())) {
         m_program.show(messages::tillCannotFollow());
         return EContext::Error;
     }
-    position->setBase(base);
+    position->setQuantity(count, base);
+    m_receipt->note(*position);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    m_receiptNotes.tell(*position);
     publish(origin == Origin::Cashier ? EActivityListener::eventModifierApplied
                                       : EActivityListener::eventModifierApplied2,
             position);
@@ -187,9 +193,8 @@ EContext::Result ActionRunner::remove(int posnum)
     if (!m_receipt->storno(posnum))
         return EContext::Error;
     m_receipt->setState(ReceiptState::Open);
-    const auto position = m_receipt->line(posnum);
-    m_receiptNotes.tell(*position);
-    publish(EActivityListener::eventPositionStorno, position);
+    m_receipt->touch();
+    publish(EActivityListener::eventPositionStorno, m_receipt->line(posnum));
     return EContext::Continue;
 }
 
@@ -206,17 +211,17 @@ EContext::Result ActionRunner::split(const control::Action &action)
     for (const QVariant &part : parts) {
         const auto piece = m_receipt->add(article, part.toDouble());
         left -= part.toDouble();
-        m_receiptNotes.tell(*piece);
         pieces.append(piece);
     }
     const bool removed = left < nothing;
-    if (removed)
+    if (removed) {
         m_receipt->storno(posnum);
-    else
+    } else {
         source->setCount(left);
+        m_receipt->note(*source);
+    }
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    m_receiptNotes.tell(*source);
     action.setArgument("splitPositionsData", QVariantList{describeSplit(source, pieces, removed)});
     return EContext::Continue;
 }
@@ -226,18 +231,19 @@ EContext::Result ActionRunner::unite(const control::Action &action)
     const auto numbers = action.getArguments().value(argument::positions).toList();
     const auto survivor = m_receipt->line(numbers.constFirst().toInt());
     double count = survivor->getCquant();
+    double base = survivor->getBquant();
     GoodsItemPtrList deleted;
     for (const QVariant &number : numbers.mid(1)) {
         const auto position = m_receipt->line(number.toInt());
         count += position->getCquant();
+        base += position->getBquant();
         m_receipt->storno(position->getPosnum());
-        m_receiptNotes.tell(*position);
         deleted.append(position);
     }
-    survivor->setCount(count);
+    survivor->setQuantity(count, base);
+    m_receipt->note(*survivor);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
-    m_receiptNotes.tell(*survivor);
     action.setArgument("deletedPositions", QVariant::fromValue(deleted));
     action.setArgument("changedPositions", QVariant::fromValue(GoodsItemPtrList{survivor}));
     return EContext::Continue;

@@ -6,7 +6,7 @@
 #include "host/EActivityListener.h"
 #include "host/EContext.h"
 #include "till/actions/HostServices.h"
-#include "till/course/ReceiptNotes.h"
+#include "till/course/Notes.h"
 #include "till/receipt/Receipt.h"
 
 class BasicPlugin;
@@ -37,8 +37,7 @@ public:
     enum class Origin { Cashier, Program };
 
     //! All must outlive this object; \a plugin may be null.
-    ActionRunner(HostProgram &program, HostServices &services, Notes &notes,
-                 ReceiptNotes &receiptNotes, BasicPlugin *plugin);
+    ActionRunner(HostProgram &program, HostServices &services, Notes &notes, BasicPlugin *plugin);
 
     //! The receipt that actions are carried out on; null when there is none.
     void setReceipt(const QSharedPointer<Receipt> &receipt) { m_receipt = receipt; }
@@ -74,7 +73,6 @@ private:
     HostProgram &m_program;
     HostServices &m_services;
     Notes &m_notes;
-    ReceiptNotes &m_receiptNotes;
     BasicPlugin *m_plugin;
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;

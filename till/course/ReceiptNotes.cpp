@@ -24,6 +24,26 @@ QJsonObject describe(const LineRecord &line, Kopecks sum)
             {"stornoed", line.stornoed}};
 }
 
+QJsonArray describe(const QList<ListChange> &parts)
+{
+    QJsonArray described;
+    for (const ListChange &part : parts)
+        described.append(QJsonObject{{"at", part.at},
+                                     {"removed", part.removed},
+                                     {"added", QJsonArray::fromVariantList(part.added)}});
+    return described;
+}
+
+QJsonObject describe(const ValueChange &change)
+{
+    QJsonObject fields{{"plugin", change.plugin}, {"key", change.key}};
+    if (change.parts.isEmpty())
+        fields.insert("value", QJsonValue::fromVariant(change.value));
+    else
+        fields.insert("parts", describe(change.parts));
+    return fields;
+}
+
 QJsonObject describe(const Receipt &receipt)
 {
     const QSharedPointer<Order> order = receipt.getOrder();
@@ -46,52 +66,34 @@ ReceiptNotes::ReceiptNotes(Notes &notes)
 
 void ReceiptNotes::tellTakenUp(const Receipt *receipt)
 {
-    m_told.clear();
     m_notes.add("takeup", {{"id", receipt ? receipt->id() : 0}});
-    if (!receipt)
+    if (!receipt || !m_notes.wantsStates())
         return;
-    const auto data = receipt->pluginData();
-    for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
-        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
-            tellData(plugin.key(), entry.key(), entry.value());
-    }
+    const ReceiptUpdate all = wholeOf(receipt->record());
+    for (const ValueChange &value : all.values)
+        tell(value);
+    const auto lines = receipt->lines();
+    for (const auto &position : lines)
+        tell(*position);
     tellReceipt(*receipt);
 }
 
 void ReceiptNotes::tell(const Position &position)
 {
-    if (!m_notes.wantsStates())
-        return;
-    const LineRecord line = position.record();
-    m_told.insert(line.posnum, line);
-    m_notes.addState("position", describe(line, position.sum()));
+    if (m_notes.wantsStates())
+        m_notes.addState("position", describe(position.record(), position.sum()));
 }
 
-void ReceiptNotes::tellChanged(const Receipt &receipt)
-{
-    if (!m_notes.wantsStates())
-        return;
-    const auto lines = receipt.lines();
-    for (const auto &position : lines) {
-        const auto told = m_told.constFind(position->getPosnum());
-        if (told == m_told.cend() || *told != position->record())
-            tell(*position);
-    }
-}
-
-void ReceiptNotes::tellData(const QString &plugin, const QString &key, const QVariant &value)
+void ReceiptNotes::tell(const ValueChange &change)
 {
     if (m_notes.wantsStates())
-        m_notes.addState(
-            "data", {{"plugin", plugin}, {"key", key}, {"value", QJsonValue::fromVariant(value)}});
+        m_notes.addState("data", describe(change));
 }
 
 void ReceiptNotes::tellReceipt(const Receipt &receipt)
 {
-    if (!m_notes.wantsStates())
-        return;
-    tellChanged(receipt);
-    m_notes.addState("receipt", describe(receipt));
+    if (m_notes.wantsStates())
+        m_notes.addState("receipt", describe(receipt));
 }
 
 } // namespace till

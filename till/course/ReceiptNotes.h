@@ -4,8 +4,6 @@
 #include "till/course/Notes.h"
 #include "till/receipt/Receipt.h"
 
-#include <QtCore/QHash>
-
 namespace till {
 
 //! Notes how the receipt in hand stands; but for a take-up, only for those who want states.
@@ -20,16 +18,13 @@ public:
     void tellTakenUp(const Receipt *receipt);
     //! Notes \a position as it stands.
     void tell(const Position &position);
-    //! Notes those positions of \a receipt that are not as they were noted last, or never were.
-    void tellChanged(const Receipt &receipt);
-    //! Notes what a plugin stored.
-    void tellData(const QString &plugin, const QString &key, const QVariant &value);
-    //! Notes the positions that changed unnoted, then the receipt as a whole.
+    //! Notes what became of a value that a plugin stores.
+    void tell(const ValueChange &change);
+    //! Notes the receipt as a whole.
     void tellReceipt(const Receipt &receipt);
 
 private:
     Notes &m_notes;
-    QHash<int, LineRecord> m_told; //!< by position number
 };
 
 } // namespace till

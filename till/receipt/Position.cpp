@@ -10,13 +10,17 @@ Position::Position(int posnum, const QSharedPointer<Article> &article)
 
 void Position::setCount(double count)
 {
-    setCquant(count);
-    setBquant(count * article().pack);
+    setQuantity(count, count * article().pack);
 }
 
 void Position::setBase(double base)
 {
-    setCquant(base / article().pack);
+    setQuantity(base / article().pack, base);
+}
+
+void Position::setQuantity(double count, double base)
+{
+    setCquant(count);
     setBquant(base);
 }
 

@@ -20,6 +20,8 @@ public:
     void setCount(double count);
     //! Sets the base quantity; the count of pieces follows by the article's pack.
     void setBase(double base);
+    //! Sets both, of which neither can be had from the other without rounding.
+    void setQuantity(double count, double base);
 
     //! Price of the whole line.
     Kopecks sum() const;

@@ -2,7 +2,6 @@
 
 #include "till/receipt/Limits.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace till {
@@ -27,11 +26,9 @@ Receipt::Receipt(const ReceiptRecord &record)
         position->setCquant(stored.count);
         position->setBquant(stored.base);
         position->setGroupId(stored.groupId);
-        m_lines.append(position);
         if (stored.stornoed)
             position->setStornoed();
-        else
-            addPosition(position);
+        append(position);
     }
     for (auto plugin = record.pluginData.cbegin(); plugin != record.pluginData.cend(); ++plugin) {
         for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
@@ -42,38 +39,124 @@ Receipt::Receipt(const ReceiptRecord &record)
 
 ReceiptRecord Receipt::record() const
 {
-    ReceiptRecord record{m_id,         getType(),    m_state, getOrder() ? getOrder()->number : "",
-                         m_softChecks, m_nextPosnum, {},      pluginData()};
+    ReceiptRecord record{header(), {}, pluginData()};
     record.lines.reserve(m_lines.size());
-    for (const auto &position : m_lines)
-        record.lines.append(position->record());
+    for (const Line &line : m_lines)
+        record.lines.append(line.position->record());
     return record;
+}
+
+ReceiptHeader Receipt::header() const
+{
+    const QSharedPointer<Order> order = getOrder();
+    return {m_id,         getType(),   m_state, order ? order->number : QString(),
+            m_softChecks, m_nextPosnum};
+}
+
+ReceiptUpdate Receipt::update() const
+{
+    if (!m_wasStored)
+        return wholeOf(record());
+    ReceiptUpdate update{header(), false, {}, m_changedValues};
+    for (const qsizetype place : m_changedPlaces)
+        update.lines.insert(place, m_lines[place].position->record());
+    return update;
+}
+
+void Receipt::setStored(qint64 id)
+{
+    m_id = id;
+    m_wasStored = true;
+    m_changedPlaces.clear();
+    m_changedValues.clear();
+}
+
+QList<QSharedPointer<Position>> Receipt::lines() const
+{
+    QList<QSharedPointer<Position>> positions;
+    positions.reserve(m_lines.size());
+    for (const Line &line : m_lines)
+        positions.append(line.position);
+    return positions;
 }
 
 QSharedPointer<Position> Receipt::line(int posnum) const
 {
-    const auto found = std::find_if(m_lines.cbegin(), m_lines.cend(),
-                                    [posnum](const auto &p) { return p->getPosnum() == posnum; });
-    return found == m_lines.cend() ? nullptr : *found;
+    const auto place = m_places.constFind(posnum);
+    return place == m_places.cend() ? nullptr : m_lines[*place].position;
+}
+
+QSharedPointer<GoodsItem> Receipt::getPositionByPosnum(int posnum) const
+{
+    const auto position = line(posnum);
+    return position && !position->isStornoed() ? position : nullptr;
 }
 
 QSharedPointer<Position> Receipt::add(const QSharedPointer<Article> &article, double count)
 {
     const auto position = QSharedPointer<Position>::create(m_nextPosnum++, article);
     position->setCount(count);
-    m_lines.append(position);
-    addPosition(position);
-    touch();
+    append(position);
+    note(m_lines.size() - 1);
     return position;
+}
+
+void Receipt::append(const QSharedPointer<Position> &position)
+{
+    if (!position->isStornoed())
+        addPosition(position);
+    m_places.insert(position->getPosnum(), m_lines.size());
+    m_lines.append(Line{position, 0.0, 0.0, {}, false, 0});
+    count(m_lines.last());
 }
 
 bool Receipt::storno(int posnum)
 {
     if (!removePosition(posnum))
         return false;
-    line(posnum)->setStornoed();
-    touch();
+    const auto position = line(posnum);
+    position->setStornoed();
+    note(*position);
     return true;
+}
+
+bool Receipt::Line::isNoted() const
+{
+    return count == position->getCquant() && base == position->getBquant()
+           && stornoed == position->isStornoed() && groupId == position->getGroupId();
+}
+
+void Receipt::count(Line &line)
+{
+    const Position &position = *line.position;
+    const Kopecks before = line.counted;
+    line.count = position.getCquant();
+    line.base = position.getBquant();
+    line.groupId = position.getGroupId();
+    line.stornoed = position.isStornoed();
+    line.counted = line.stornoed ? 0 : position.sum();
+    m_sum += line.counted - before;
+}
+
+void Receipt::note(const Position &position)
+{
+    note(m_places.value(position.getPosnum()));
+}
+
+void Receipt::note(qsizetype place)
+{
+    count(m_lines[place]);
+    m_changedPlaces.insert(place);
+    if (m_watcher.lineNoted)
+        m_watcher.lineNoted(*m_lines[place].position);
+}
+
+void Receipt::noteUnnoted()
+{
+    for (qsizetype place = 0; place < m_lines.size(); ++place) {
+        if (!std::as_const(m_lines)[place].isNoted())
+            note(place);
+    }
 }
 
 void Receipt::touch()
@@ -83,23 +166,14 @@ void Receipt::touch()
         return;
     m_stale = false;
     ++m_recomputations;
-    m_total = sumWithout(nullptr);
-}
-
-Kopecks Receipt::sumWithout(const Position *omitted) const
-{
-    Kopecks sum = 0;
-    for (const auto &position : m_lines) {
-        if (!position->isStornoed() && position.get() != omitted)
-            sum += position->sum();
-    }
-    return sum;
+    m_total = m_sum;
 }
 
 bool Receipt::hasPlaceFor(const ArticleData &article, double count, const Position *replaced) const
 {
-    const double sum =
-        static_cast<double>(article.price) * count + static_cast<double>(sumWithout(replaced));
+    const Kopecks others =
+        replaced ? m_sum - m_lines[m_places.value(replaced->getPosnum())].counted : m_sum;
+    const double sum = static_cast<double>(article.price) * count + static_cast<double>(others);
     return isCount(count) && sum <= static_cast<double>(greatestSum);
 }
 
@@ -114,9 +188,15 @@ void Receipt::setDocumentSwitch(bool on)
 
 void Receipt::setPluginData(const QString &pluginId, const QString &key, const QVariant &value)
 {
+    std::optional<ValueChange> change = changeOf(getPluginData(pluginId, key, {}), value);
+    if (!change)
+        return;
+    change->plugin = pluginId;
+    change->key = key;
     Document::setPluginData(pluginId, key, value);
-    if (m_watcher.pluginDataSet)
-        m_watcher.pluginDataSet(pluginId, key, value);
+    m_changedValues.append(*change);
+    if (m_watcher.valueChanged)
+        m_watcher.valueChanged(*change);
 }
 
 } // namespace till

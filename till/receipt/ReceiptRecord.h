@@ -3,6 +3,7 @@
 
 #include "host/Document.h"
 #include "till/goods/Article.h"
+#include "till/receipt/ValueChange.h"
 
 #include <QtCore/QList>
 #include <QtCore/QStringList>
@@ -30,20 +31,39 @@ struct LineRecord
     bool operator==(const LineRecord &other) const = default;
 };
 
-//! A receipt as it is stored: everything that a register needs to go on with it.
-struct ReceiptRecord
+//! What is stored of a receipt beside its positions and what plugins keep in it.
+struct ReceiptHeader
 {
     qint64 id = 0; //!< number of the receipt in the database; 0 until it was stored
     int type = Document::Sale;
     ReceiptState state = ReceiptState::Open;
-    QString order;           //!< number of the attached order, empty when there is none
-    QStringList softChecks;  //!< numbers of the added soft-checks
-    int nextPosnum = 1;      //!< numbers below are never used again in this receipt
+    QString order;          //!< number of the attached order, empty when there is none
+    QStringList softChecks; //!< numbers of the added soft-checks
+    int nextPosnum = 1;     //!< numbers below are never used again in this receipt
+
+    bool operator==(const ReceiptHeader &other) const = default;
+};
+
+//! A receipt as it is stored: everything that a register needs to go on with it.
+struct ReceiptRecord : ReceiptHeader
+{
     QList<LineRecord> lines; //!< in the order of adding
     Document::PluginData pluginData;
 
     bool operator==(const ReceiptRecord &other) const = default;
 };
+
+//! What became of a receipt since it was stored last. Nothing of it is ever taken out again but
+//! elements of a plugin's lists.
+struct ReceiptUpdate : ReceiptHeader
+{
+    bool isWhole = false;              //!< all of it, in place of whatever is stored
+    QMap<qsizetype, LineRecord> lines; //!< those that changed, by their place
+    QList<ValueChange> values;         //!< in the order in which they happened
+};
+
+//! All of \a record.
+ReceiptUpdate wholeOf(const ReceiptRecord &record);
 
 } // namespace till
 

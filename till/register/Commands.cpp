@@ -75,7 +75,9 @@ Outcome Register::execute(const command::ChangeCount &change)
     const double base = change.count * line->article().pack;
     m_services.modifiers().set(modifiers::Quantity,
                                QVariant::fromValue(Quantity(base, quantModeNone)));
-    return perform(onPosition(control::ApplyModifiers, change.posnum));
+    const control::Action action = onPosition(control::ApplyModifiers, change.posnum);
+    action.setArgument(argument::count, change.count);
+    return perform(action);
 }
 
 Outcome Register::execute(const command::Storno &storno)

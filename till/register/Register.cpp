@@ -39,8 +39,7 @@ Register::Register(const Parts &parts)
     , m_notes(parts.notes)
     , m_receiptNotes(parts.notes)
     , m_services(*this, parts.notes, parts.settings)
-    , m_runner(*this, m_services, parts.notes, m_receiptNotes,
-               parts.plugin ? parts.plugin->plugin : nullptr)
+    , m_runner(*this, m_services, parts.notes, parts.plugin ? parts.plugin->plugin : nullptr)
     , m_journal(parts.notes)
 {
     m_runner.setArticles([this](const QString &code) { return m_catalogue.find(code); });
@@ -175,10 +174,11 @@ Outcome Register::outcomeOf(EContext::Result result) const
 
 Result<> Register::store()
 {
-    ReceiptRecord record = m_receipt->record();
-    Result<> saved = m_storage.save(record, m_journal.take());
+    m_receipt->noteUnnoted(); // plugins tie positions together without an event
+    ReceiptUpdate update = m_receipt->update();
+    Result<> saved = m_storage.save(update, m_journal.take());
     if (saved)
-        m_receipt->setId(record.id);
+        m_receipt->setStored(update.id);
     return saved;
 }
 
@@ -217,9 +217,8 @@ void Register::watch(Receipt &receipt)
     receipt.setWatcher({[this](bool on) {
                             m_notes.add("switch", {{"on", on}});
                         },
-                        [this](const QString &plugin, const QString &key, const QVariant &value) {
-                            m_receiptNotes.tellData(plugin, key, value);
-                        }});
+                        [this](const Position &position) { m_receiptNotes.tell(position); },
+                        [this](const ValueChange &change) { m_receiptNotes.tell(change); }});
 }
 
 } // namespace till

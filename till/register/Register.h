@@ -3,6 +3,7 @@
 
 #include "till/actions/ActionRunner.h"
 #include "till/actions/HostServices.h"
+#include "till/course/ReceiptNotes.h"
 #include "till/goods/Catalogue.h"
 #include "till/plugins/PluginLoader.h"
 #include "till/receipt/Receipt.h"

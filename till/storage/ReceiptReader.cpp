@@ -88,16 +88,17 @@ private:
 
     void readValues()
     {
-        readRowsOf(pluginDataTable(), QStringLiteral("plugin, key"), [this](const Table::Row &row) {
-            const QString plugin = row.values[1].toString();
-            const QString key = row.values[2].toString();
-            if (!row.isWhole && m_read.valueFault.isEmpty())
-                m_read.valueFault =
-                    QStringLiteral("the data of plugin \"%1\" under \"%2\" are damaged")
-                        .arg(plugin, key);
-            m_read.values.append(
-                {plugin, key, {row.values[3].toByteArray(), row.values[4].toString()}});
-        });
+        readRowsOf(pluginDataTable(), QStringLiteral("plugin, key, place"),
+                   [this](const Table::Row &row) {
+                       const QString plugin = row.values[1].toString();
+                       const QString key = row.values[2].toString();
+                       if (!row.isWhole && m_read.valueFault.isEmpty())
+                           m_read.valueFault =
+                               QStringLiteral("the data of plugin \"%1\" under \"%2\" are damaged")
+                                   .arg(plugin, key);
+                       m_read.values.append(
+                           {plugin, key, {row.values[4].toByteArray(), row.values[5].toString()}});
+                   });
     }
 
     void checkWhole()
@@ -165,6 +166,16 @@ bool isUnfinished(const ReadReceipt &read)
     return read.record.state == ReceiptState::Open || read.record.state == ReceiptState::Subtotal;
 }
 
+//! Takes a row of a value: it is the value, or one more element of the list that it is.
+void take(QVariantMap &values, const QString &key, const QVariant &value)
+{
+    const auto known = values.find(key);
+    if (known == values.end())
+        values.insert(key, value);
+    else if (known->typeId() == QMetaType::QVariantList)
+        static_cast<QVariantList *>(known->data())->append(value);
+}
+
 //! Puts the values of plugins into the record; the fault is noted of one that cannot be had.
 std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read)
 {
@@ -178,7 +189,7 @@ std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &r
                         .arg(value.plugin, value.key, reason));
             return std::nullopt;
         }
-        record.pluginData[value.plugin].insert(value.key, *decoded);
+        take(record.pluginData[value.plugin], value.key, *decoded);
     }
     return record;
 }

@@ -17,7 +17,8 @@ struct ReadReceipt
     ReceiptRecord record; //!< without the plugin data
     bool isHeaderWhole = false;
 
-    //! A value that a plugin stored, not looked into yet.
+    //! A row of a value that a plugin stored, not looked into yet: those of one value follow one
+    //! another in their order.
     struct Value
     {
         QString plugin;

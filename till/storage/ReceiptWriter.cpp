@@ -4,10 +4,11 @@
 #include "till/receipt/RecordFault.h"
 #include "till/storage/ReceiptReader.h"
 #include "till/storage/Schema.h"
-#include "till/storage/VariantBytes.h"
 
 #include <QtCore/QDateTime>
 
+#include <algorithm>
+#include <map>
 #include <utility>
 
 namespace till {
@@ -38,80 +39,68 @@ QVariantList rowOf(qint64 id, qsizetype place, const QString &softCheck)
     return {id, place, storable(softCheck)};
 }
 
-QVariantList rowOf(const StoredReceipt &receipt)
+QVariantList rowOf(const ReceiptHeader &header, const StoredReceipt &stored)
 {
-    const ReceiptRecord &record = receipt.record;
-    return {record.id,
-            record.type,
-            static_cast<int>(record.state),
-            storable(record.order),
-            record.nextPosnum,
-            receipt.opened,
-            receipt.ended,
-            receipt.positions,
-            receipt.total,
-            receipt.contents.bytes()};
+    return {header.id,
+            header.type,
+            static_cast<int>(header.state),
+            storable(header.order),
+            header.nextPosnum,
+            stored.opened,
+            stored.ended,
+            stored.positions,
+            stored.total,
+            stored.contents.bytes()};
 }
 
-bool isFinished(const ReceiptRecord &record)
+bool isFinished(const ReceiptHeader &header)
 {
-    return record.state == ReceiptState::Closed || record.state == ReceiptState::Cancelled;
-}
-
-//! Counts \a line in, or out of, what the header says of positions.
-void count(StoredReceipt &receipt, const LineRecord &line, int sign)
-{
-    if (line.stornoed)
-        return;
-    receipt.positions += sign;
-    receipt.total += sign * sumOf(line.article.price, line.count);
+    return header.state == ReceiptState::Closed || header.state == ReceiptState::Cancelled;
 }
 
 //! Writes one receipt; it knows what the database holds of it.
 class Writer
 {
 public:
-    Writer(Database &database, StoredReceipt &next, const StoredReceipt &last)
+    Writer(Database &database, ReceiptUpdate &update, StoredReceipt &stored)
         : m_database(database)
-        , m_next(next)
-        , m_last(last)
+        , m_update(update)
+        , m_stored(stored)
     {
     }
 
     bool write()
     {
-        return begin() && writeLines() && writeSoftChecks() && writeValues() && removeValues()
-               && writeHeader();
+        return begin() && writeLines() && writeSoftChecks() && writeValues() && writeHeader();
     }
 
 private:
     //! The number of the receipt, and a place without rows that are not known.
     bool begin()
     {
-        ReceiptRecord &record = m_next.record;
-        m_next.contents = m_last.contents;
-        m_next.opened = m_last.opened;
-        m_next.ended = m_last.ended;
-        m_next.positions = m_last.positions;
-        m_next.total = m_last.total;
-        if (record.id == 0) {
-            record.id = highestNumber(m_database) + 1;
-            m_next.opened = QDateTime::currentMSecsSinceEpoch();
-            return !m_database.hasFailed();
-        }
-        return record.id == m_last.record.id || removeRows();
+        if (!m_update.isWhole)
+            return (m_update.id != 0 && m_update.id == m_stored.id)
+                   || m_database.fail(
+                       QStringLiteral("receipt %1 is not the one that was stored last")
+                           .arg(m_update.id));
+        m_stored = {};
+        if (m_update.id != 0)
+            return removeRows();
+        m_update.id = m_stored.id = highestNumber(m_database) + 1;
+        m_stored.opened = QDateTime::currentMSecsSinceEpoch();
+        return !m_database.hasFailed();
     }
 
-    //! What the database holds of this receipt is not at hand: all of it is written anew.
+    //! All of the receipt is written anew.
     bool removeRows()
     {
-        const qint64 id = m_next.record.id;
+        const qint64 id = m_stored.id = m_update.id;
         QSqlQuery *const header =
             m_database.run(QStringLiteral("SELECT opened, ended FROM receipts WHERE id = ?"), {id});
         if (!header || !m_database.next(*header))
             return header && m_database.fail(QStringLiteral("there is no receipt %1").arg(id));
-        m_next.opened = header->value(0).toLongLong();
-        m_next.ended = header->value(1).toLongLong();
+        m_stored.opened = header->value(0).toLongLong();
+        m_stored.ended = header->value(1).toLongLong();
         header->finish();
         return m_database.run(QStringLiteral("DELETE FROM positions WHERE receipt = ?"), {id})
                && m_database.run(QStringLiteral("DELETE FROM softChecks WHERE receipt = ?"), {id})
@@ -120,155 +109,96 @@ private:
 
     bool writeHeader()
     {
-        if (isFinished(m_next.record) && m_next.ended == 0)
-            m_next.ended = QDateTime::currentMSecsSinceEpoch();
-        const QVariantList row = rowOf(m_next);
-        return row == rowOf(m_last)
-               || receiptsTable().write(m_database, row, receiptsTable().digest(row));
+        if (isFinished(m_update) && m_stored.ended == 0)
+            m_stored.ended = QDateTime::currentMSecsSinceEpoch();
+        const QVariantList row = rowOf(m_update, m_stored);
+        const bool isSame = row == m_stored.header;
+        m_stored.header = row;
+        return isSame || receiptsTable().write(m_database, row, receiptsTable().digest(row));
     }
 
-    bool writeRow(const Table &table, const QVariantList &row)
+    //! Writes \a row in place of the one that had \a digest, if any, and sets that.
+    bool writeRow(const Table &table, const QVariantList &row, QByteArray &digest)
     {
-        const QByteArray digest = table.digest(row);
-        m_next.contents.toggle(digest);
+        m_stored.contents.toggle(digest);
+        digest = table.digest(row);
+        m_stored.contents.toggle(digest);
         return table.write(m_database, row, digest);
-    }
-
-    //! Forgets the row that was stored; what is to come writes over it or takes it out.
-    void forget(const Table &table, const QVariantList &row)
-    {
-        m_next.contents.toggle(table.digest(row));
-    }
-
-    //! Takes out the rows from \a place on.
-    bool cut(const char *table, qsizetype place)
-    {
-        return m_database.run(
-            QStringLiteral("DELETE FROM %1 WHERE receipt = ? AND place >= ?").arg(table),
-            {m_next.record.id, place});
     }
 
     bool writeLines()
     {
-        const QList<LineRecord> &lines = m_next.record.lines;
-        const QList<LineRecord> &old = m_last.record.lines;
-        for (qsizetype place = 0; place < lines.size(); ++place) {
-            if (place < old.size() && lines[place] == old[place])
-                continue;
-            if (place < old.size())
-                forgetLine(place);
-            if (!writeLine(place))
+        for (auto line = m_update.lines.cbegin(); line != m_update.lines.cend(); ++line) {
+            if (line.key() == m_stored.lines.size())
+                m_stored.lines.append(StoredReceipt::Line());
+            if (!writeLine(line.key(), line.value()))
                 return false;
         }
-        for (qsizetype place = lines.size(); place < old.size(); ++place)
-            forgetLine(place);
-        return lines.size() >= old.size() || cut("positions", lines.size());
+        return true;
     }
 
-    void forgetLine(qsizetype place)
+    bool writeLine(qsizetype place, const LineRecord &line)
     {
-        const LineRecord &line = m_last.record.lines[place];
-        forget(positionsTable(), rowOf(m_next.record.id, place, line));
-        count(m_next, line, -1);
-    }
-
-    bool writeLine(qsizetype place)
-    {
-        const LineRecord &line = m_next.record.lines[place];
-        if (const QString fault = faultOf(line, m_next.record.nextPosnum); !fault.isEmpty())
+        if (const QString fault = faultOf(line, m_update.nextPosnum); !fault.isEmpty())
             return m_database.fail(fault + QStringLiteral(", which cannot be stored"));
-        count(m_next, line, 1);
-        return writeRow(positionsTable(), rowOf(m_next.record.id, place, line));
+        StoredReceipt::Line &stored = m_stored.lines[place];
+        count(stored, -1);
+        stored.positions = line.stornoed ? 0 : 1;
+        stored.total = line.stornoed ? 0 : sumOf(line.article.price, line.count);
+        count(stored, 1);
+        return writeRow(positionsTable(), rowOf(m_update.id, place, line), stored.digest);
+    }
+
+    //! Counts \a line in, or out of, what the header says of positions.
+    void count(const StoredReceipt::Line &line, int sign)
+    {
+        m_stored.positions += sign * line.positions;
+        m_stored.total += sign * line.total;
     }
 
     bool writeSoftChecks()
     {
-        const qint64 id = m_next.record.id;
-        const QStringList &numbers = m_next.record.softChecks;
-        const QStringList &old = m_last.record.softChecks;
+        const QStringList &numbers = m_update.softChecks;
+        const QStringList before = std::exchange(m_stored.softChecks, numbers);
         for (qsizetype place = 0; place < numbers.size(); ++place) {
-            if (place < old.size() && numbers[place] == old[place])
-                continue;
-            if (place < old.size())
-                forget(softChecksTable(), rowOf(id, place, old[place]));
-            if (!writeRow(softChecksTable(), rowOf(id, place, numbers[place])))
+            QByteArray digest;
+            if (place < before.size())
+                digest = softChecksTable().digest(rowOf(m_update.id, place, before[place]));
+            if ((place >= before.size() || numbers[place] != before[place])
+                && !writeRow(softChecksTable(), rowOf(m_update.id, place, numbers[place]), digest))
                 return false;
         }
-        for (qsizetype place = numbers.size(); place < old.size(); ++place)
-            forget(softChecksTable(), rowOf(id, place, old[place]));
-        return numbers.size() >= old.size() || cut("softChecks", numbers.size());
+        return true;
     }
 
+    //! Of what changes more than once only the last is written.
     bool writeValues()
     {
-        const auto &data = m_next.record.pluginData;
-        for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin) {
-            const QVariantMap lastData = m_last.record.pluginData.value(plugin.key());
-            const auto lastDigests = m_last.digests.value(plugin.key());
-            auto &digests = m_next.digests[plugin.key()];
-            for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry) {
-                QByteArray &digest = digests[entry.key()];
-                digest = lastDigests.value(entry.key());
-                if (!VariantBytes::areSurelySame(entry.value(), lastData.value(entry.key()))
-                    && !writeValue(plugin.key(), entry.key(), entry.value(), digest))
-                    return false;
-            }
+        std::map<std::pair<QString, QString>, ValueWriter> writers;
+        for (const ValueChange &change : m_update.values) {
+            auto &rows = m_stored.values[change.plugin][change.key];
+            const auto writer =
+                writers
+                    .try_emplace({change.plugin, change.key}, m_database, m_update.id,
+                                 change.plugin, change.key, rows, m_stored.contents)
+                    .first;
+            if (!writer->second.apply(change))
+                return false;
         }
-        return true;
-    }
-
-    //! Writes \a value unless its row has the \a digest that was stored last; then sets that.
-    bool writeValue(const QString &plugin, const QString &key, const QVariant &value,
-                    QByteArray &digest)
-    {
-        QString culprit;
-        const auto bytes = VariantBytes::of(value, &culprit);
-        if (!bytes)
-            return m_database.fail(
-                QStringLiteral("the data of plugin \"%1\" under \"%2\" hold a value of type "
-                               "\"%3\", which cannot be stored")
-                    .arg(plugin, key, culprit));
-        const QVariantList row{m_next.record.id, storable(plugin), storable(key), bytes->bytes,
-                               storable(bytes->types)};
-        const QByteArray last = std::exchange(digest, pluginDataTable().digest(row));
-        if (digest == last)
-            return true;
-        m_next.contents.toggle(last);
-        m_next.contents.toggle(digest);
-        return pluginDataTable().write(m_database, row, digest);
-    }
-
-    bool removeValues()
-    {
-        const auto &old = m_last.record.pluginData;
-        for (auto plugin = old.cbegin(); plugin != old.cend(); ++plugin) {
-            const QVariantMap kept = m_next.record.pluginData.value(plugin.key());
-            for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry) {
-                if (!kept.contains(entry.key()) && !removeValue(plugin.key(), entry.key()))
-                    return false;
-            }
-        }
-        return true;
-    }
-
-    bool removeValue(const QString &plugin, const QString &key)
-    {
-        m_next.contents.toggle(m_last.digests.value(plugin).value(key));
-        return m_database.run(
-            QStringLiteral("DELETE FROM pluginData WHERE receipt = ? AND plugin = ? AND key = ?"),
-            {m_next.record.id, storable(plugin), storable(key)});
+        return std::all_of(writers.begin(), writers.end(),
+                           [](auto &writer) { return writer.second.write(); });
     }
 
     Database &m_database;
-    StoredReceipt &m_next;
-    const StoredReceipt &m_last;
+    ReceiptUpdate &m_update;
+    StoredReceipt &m_stored;
 };
 
 } // namespace
 
-bool writeReceipt(Database &database, StoredReceipt &next, const StoredReceipt &last)
+bool writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored)
 {
-    return Writer(database, next, last).write();
+    return Writer(database, update, stored).write();
 }
 
 bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal)

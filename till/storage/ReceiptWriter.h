@@ -4,36 +4,47 @@
 #include "till/database/Table.h"
 #include "till/receipt/ReceiptRecord.h"
 #include "till/storage/Storage.h"
+#include "till/storage/ValueWriter.h"
 
-#include <QtCore/QMap>
+#include <QtCore/QList>
 
 namespace till {
 
 class Database;
 
-//! A receipt as the database holds it.
+//! What is to be known of a receipt that the database holds, to write what becomes of it.
 struct StoredReceipt
 {
-    ReceiptRecord record;
-    QMap<QString, QMap<QString, QByteArray>> digests; //!< of the plugin data, by plugin and key
+    //! A row of a position, and what of it the header counts.
+    struct Line
+    {
+        QByteArray digest;
+        qint64 positions = 0;
+        Kopecks total = 0;
+    };
 
-    // What its header has besides the record's own fields; all of it follows a change of one row
-    // without a look at the others.
-    RowsDigest contents;
+    qint64 id = 0; //!< 0: no receipt is known
     qint64 opened = 0;
     qint64 ended = 0;
+    QList<Line> lines;
+    QStringList softChecks;
+    StoredValues values;
+
+    // What its header has of all its rows; it follows a change of one without a look at the others.
+    RowsDigest contents;
     qint64 positions = 0; //!< that are not stornoed
     Kopecks total = 0;    //!< of these
+    QVariantList header;  //!< as it was written
 };
 
 // Both work within a transaction of the caller's, and return false with the fault noted.
 
 /*!
- * Writes what \a next has and \a last has not, and takes out what only \a last has. Gives the
- * record a number when it has none, and fills in all but the record. A \a last without a number
- * stands for "not known": everything is written anew.
+ * Writes what \a update has, and brings \a stored up to date, which is what the database holds of
+ * that receipt unless the update is whole. Gives the receipt a number when it has none. After an
+ * error \a stored is worth nothing.
  */
-bool writeReceipt(Database &database, StoredReceipt &next, const StoredReceipt &last);
+bool writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored);
 
 //! Appends to the receipt's journal.
 bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal);

@@ -57,10 +57,11 @@ constexpr const char *Statements[] = {
     " receipt INTEGER NOT NULL REFERENCES receipts DEFERRABLE INITIALLY DEFERRED,"
     " plugin TEXT NOT NULL,"
     " key TEXT NOT NULL,"
+    " place INTEGER NOT NULL," // the first has the value, of a list an empty one: see ValueWriter
     " value BLOB NOT NULL,"
     " types TEXT NOT NULL,"
     " digest BLOB NOT NULL,"
-    " PRIMARY KEY (receipt, plugin, key))",
+    " PRIMARY KEY (receipt, plugin, key, place)) WITHOUT ROWID",
     "CREATE TABLE journal ("
     " id INTEGER PRIMARY KEY,"
     " receipt INTEGER NOT NULL REFERENCES receipts DEFERRABLE INITIALLY DEFERRED,"
@@ -156,7 +157,8 @@ const Table &softChecksTable()
 
 const Table &pluginDataTable()
 {
-    static const Table table("pluginData", 3, {"receipt", "plugin", "key", "value", "types"});
+    static const Table table("pluginData", 4,
+                             {"receipt", "plugin", "key", "place", "value", "types"});
     return table;
 }
 

@@ -23,7 +23,7 @@ Result<std::optional<ReceiptRecord>> unlessFailed(const Database &database,
 
 Storage::Storage(std::unique_ptr<Database> database)
     : m_database(std::move(database))
-    , m_last(std::make_unique<StoredReceipt>())
+    , m_stored(std::make_unique<StoredReceipt>())
 {
 }
 
@@ -47,23 +47,20 @@ QString Storage::path() const
     return m_database->path();
 }
 
-Result<> Storage::save(ReceiptRecord &record, const QList<JournalEntry> &journal)
+Result<> Storage::save(ReceiptUpdate &update, const QList<JournalEntry> &journal)
 {
     m_database->forgetFault();
-    const bool isLast = record.id != 0 && record.id == m_last->record.id;
-    StoredReceipt next;
-    next.record = record;
-    const bool done = m_database->begin()
-                      && writeReceipt(*m_database, next, isLast ? *m_last : StoredReceipt())
-                      && writeJournal(*m_database, next.record.id, journal) && m_database->commit();
+    const qint64 id = update.id;
+    const bool wasEnded = m_stored->id == id && m_stored->ended != 0;
+    const bool done = m_database->begin() && writeReceipt(*m_database, update, *m_stored)
+                      && writeJournal(*m_database, update.id, journal) && m_database->commit();
     if (!done) {
         m_database->rollBack();
+        *m_stored = {};
+        update.id = id;
         return m_database->fault();
     }
-    const bool hasEnded = m_last->ended == 0 && next.ended != 0;
-    record.id = next.record.id;
-    *m_last = std::move(next);
-    if (hasEnded)
+    if (!wasEnded && m_stored->ended != 0)
         m_database->foldLog();
     return {};
 }

@@ -61,13 +61,14 @@ public:
     Result<std::optional<ReceiptRecord>> unfinishedReceipt() const;
 
     /*!
-     * Stores \a record in place of what was stored under its number, and appends \a journal to the
-     * receipt's journal, all or nothing; when it returns, this is on the disk. A record without a
-     * number gets one. Only what differs from the last save is written.
+     * Stores \a update, and appends \a journal to the receipt's journal, all or nothing; when it
+     * returns, this is on the disk. A receipt without a number gets one. Only what the update has
+     * is written. One that is not whole follows the last save, which was of the same receipt.
      *
-     * With a fault nothing is stored, \a record is unchanged, and a later save may succeed.
+     * With a fault nothing is stored, \a update is unchanged, and a later save of the whole receipt
+     * may succeed.
      */
-    Result<> save(ReceiptRecord &record, const QList<JournalEntry> &journal);
+    Result<> save(ReceiptUpdate &update, const QList<JournalEntry> &journal);
 
     //! The receipt with that number; nothing when there is none.
     Result<std::optional<ReceiptRecord>> receipt(qint64 id) const;
@@ -90,7 +91,7 @@ private:
 
     std::unique_ptr<Database> m_database;
     QString m_copyBefore;
-    std::unique_ptr<StoredReceipt> m_last; //!< what was saved last, to see what a save must write
+    std::unique_ptr<StoredReceipt> m_stored; //!< what was saved last
 };
 
 } // namespace till

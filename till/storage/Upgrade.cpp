@@ -107,9 +107,10 @@ bool movePluginData(Database &database, AllContents &all)
     QSqlQuery *const rows = database.run(
         QStringLiteral("SELECT receipt, plugin, key, value, types, digest FROM old_pluginData"));
     while (rows && database.next(*rows)) {
-        const QVariantList values = valuesOf(*rows, 5);
+        QVariantList values = valuesOf(*rows, 5);
         const bool isWhole = rows->value(5).toByteArray()
                              == digestBefore(values[3].toByteArray(), values[4].toString());
+        values.insert(3, 0); // a list stays in one row until it is stored anew
         const bool isMoved =
             isWhole ? moveRow(database, pluginDataTable(), values, all[values[0].toLongLong()])
                     : pluginDataTable().write(database, values, QByteArray("damaged before"));

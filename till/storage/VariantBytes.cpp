@@ -7,8 +7,6 @@
 #include <QtCore/QSequentialIterable>
 #include <QtCore/QStringList>
 
-#include <algorithm>
-#include <bit>
 #include <utility>
 
 namespace till {
@@ -99,30 +97,6 @@ private:
     }
 };
 
-bool areSame(const QString &left, const QString &right)
-{
-    return left == right && left.isNull() == right.isNull();
-}
-
-bool areSame(const QVariantList &left, const QVariantList &right)
-{
-    return left.size() == right.size()
-           && (left.constData() == right.constData()
-               || std::equal(left.cbegin(), left.cend(), right.cbegin(),
-                             VariantBytes::areSurelySame));
-}
-
-bool areSame(const QVariantMap &left, const QVariantMap &right)
-{
-    const auto isSameEntry = [](const auto &one, const auto &other) {
-        return areSame(one.first, other.first)
-               && VariantBytes::areSurelySame(one.second, other.second);
-    };
-    return left.size() == right.size()
-           && std::equal(left.constKeyValueBegin(), left.constKeyValueEnd(),
-                         right.constKeyValueBegin(), isSameEntry);
-}
-
 bool isKnown(const QString &typeName)
 {
     const QMetaType type = QMetaType::fromName(typeName.toLatin1());
@@ -147,29 +121,6 @@ std::optional<VariantBytes> VariantBytes::of(const QVariant &value, QString *cul
         return std::nullopt;
     }
     return stored;
-}
-
-bool VariantBytes::areSurelySame(const QVariant &left, const QVariant &right)
-{
-    if (left.metaType() != right.metaType() || left.isNull() != right.isNull())
-        return false;
-    switch (left.typeId()) {
-    case QMetaType::Bool:
-        return held<bool>(left) == held<bool>(right);
-    case QMetaType::Int:
-        return held<int>(left) == held<int>(right);
-    case QMetaType::Double: // by its bits: a zero has a sign, and what is no number equals itself
-        return std::bit_cast<quint64>(held<double>(left))
-               == std::bit_cast<quint64>(held<double>(right));
-    case QMetaType::QString:
-        return areSame(held<QString>(left), held<QString>(right));
-    case QMetaType::QVariantList:
-        return areSame(held<QVariantList>(left), held<QVariantList>(right));
-    case QMetaType::QVariantMap:
-        return areSame(held<QVariantMap>(left), held<QVariantMap>(right));
-    default:
-        return false;
-    }
 }
 
 std::optional<QVariant> VariantBytes::value(QString *reason) const

@@ -21,13 +21,6 @@ struct VariantBytes
      */
     static std::optional<VariantBytes> of(const QVariant &value, QString *culprit);
 
-    /*!
-     * Whether both have the same bytes, as far as can be told without making them: false where a
-     * value is of another type than a plugin's data usually are. Stricter than the variants' own
-     * comparison, to which values may be equal that differ in type, sign or being null.
-     */
-    static bool areSurelySame(const QVariant &left, const QVariant &right);
-
     //! The variant; nothing, and \a reason in words that follow "the data", when there is none.
     //! Only for bytes that are known to be whole: damaged ones may take any amount of memory.
     std::optional<QVariant> value(QString *reason) const;

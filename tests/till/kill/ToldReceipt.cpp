@@ -1,6 +1,7 @@
 #include "tests/till/kill/ToldReceipt.h"
 
 #include "tests/till/storage/StorageFixture.h"
+#include "tests/till/support/ToldValue.h"
 #include "till/actions/ActionRunner.h"
 
 #include <QtCore/QJsonArray>
@@ -39,7 +40,9 @@ void tellLine(ReceiptRecord &record, const QJsonObject &note)
 
 void tellData(ToldReceipt &receipt, const QJsonObject &note)
 {
-    receipt.data[note["plugin"].toString()].insert(note["key"].toString(), note["value"]);
+    QJsonObject &data = receipt.data[note["plugin"].toString()];
+    const QString key = note["key"].toString();
+    data.insert(key, toldValue(data[key], note));
 }
 
 QStringList toTexts(const QJsonArray &array)

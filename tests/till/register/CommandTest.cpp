@@ -61,6 +61,33 @@ TEST_F(Commands, Qty_ChangesPiecesAndBaseUnits)
     expect({"position 1 quantity 2.5 base 7.5 sum 997.50", "total 997.50"});
 }
 
+TEST_F(Commands, QtyOfAPack_KeepsTheCountThatWasTyped)
+{
+    QFile catalogue(directory.filePath("packs.csv"));
+    ASSERT_TRUE(catalogue.open(QIODevice::WriteOnly));
+    catalogue.write("code;name;price;tara mode;tara capacity;pack;unit\nP;Pack;10;0;;0,7;l\n");
+    catalogue.close();
+    till::Setup packs = setup();
+    packs.catalogue = catalogue.fileName();
+    start(packs);
+    done({"open", "add P", "qty 1 1.5"});
+    EXPECT_EQ(receipt()->line(1)->getCquant(), 1.5);
+    EXPECT_EQ(receipt()->line(1)->getBquant(), 1.5 * 0.7);
+    EXPECT_NE(1.5 * 0.7 / 0.7, 1.5);
+}
+
+TEST_F(Commands, SplitAndUnite_ComputeTheTotalOnce)
+{
+    done({"open", "add OIL 4"});
+    int before = receipt()->recomputations();
+    done({"split 1 1 1 1"});
+    EXPECT_EQ(receipt()->recomputations() - before, 1);
+    before = receipt()->recomputations();
+    done({"unite 1 2 3 4"});
+    EXPECT_EQ(receipt()->recomputations() - before, 1);
+    expect({"position 1 quantity 4"});
+}
+
 TEST_F(Commands, Storno_StrikesThePositionAfterAYes)
 {
     done({"open", "add CHIPS", "add OPENER", "answer yes", "storno 1"});

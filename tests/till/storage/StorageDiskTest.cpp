@@ -1,4 +1,5 @@
 #include "tests/till/storage/StorageFixture.h"
+#include "tests/till/storage/UpdateBetween.h"
 #include "tests/till/support/FailingDisk.h"
 
 #include <QtCore/QDir>
@@ -43,8 +44,8 @@ protected:
     void failToSave(Storage &storage)
     {
         disk.leaveRoomFor(GetParam());
-        EXPECT_EQ(faultText(storage.save(bigger, {{0, "add", "{}"}})),
-                  path() + ": the disk is full (database or disk is full)");
+        const QString error = trySave(storage, bigger, {{0, "add", "{}"}});
+        EXPECT_EQ(error, path() + ": the disk is full (database or disk is full)");
     }
 
     ReceiptRecord stored;
@@ -142,7 +143,7 @@ TEST_F(StorageDisk, LogThatCannotBeSynced_FailsTheSave)
     const ReceiptRecord before = record;
     record.order = "5";
     disk.failSyncs();
-    EXPECT_THAT(faultText(storage->save(record, {})).toStdString(), HasSubstr("disk I/O error"));
+    EXPECT_THAT(trySave(*storage, record, {}).toStdString(), HasSubstr("disk I/O error"));
     EXPECT_EQ(unfinished(*storage), before);
 }
 
@@ -187,7 +188,7 @@ TEST_F(StorageDisk, ReadOnlyPlaceWithoutADatabase_IsRefused)
     EXPECT_TRUE(QDir(directory.path()).isEmpty());
 }
 
-//! How many bytes it takes to change one position of a receipt of \a count.
+//! How many bytes it takes to change one position and one element of a receipt of \a count.
 class StorageCost : public StorageDisk
 {
 protected:
@@ -197,17 +198,22 @@ protected:
         ReceiptRecord record = receiptOf(count);
         record.pluginData["plugin"]["key"] = QVariantList(count, 1.5);
         save(*storage, record);
-        record.lines[count / 2].count = 7.0;
+        ReceiptRecord changed = record;
+        changed.lines[count / 2].count = 7.0;
+        QVariantList values(count, 1.5);
+        values[count / 2] = 2.5;
+        changed.pluginData["plugin"]["key"] = values;
+        ReceiptUpdate update = updateBetween(record, changed);
         disk.takeWritten();
-        save(*storage, record, {{0, "change", "{}"}});
+        EXPECT_EQ(faultText(storage->save(update, {{0, "change", "{}"}})), QString());
         return disk.takeWritten();
     }
 };
 
-TEST_F(StorageCost, OneChangedPosition_CostsAboutTheSameInABigReceipt)
+TEST_F(StorageCost, OneChangedPositionAndElement_CostAboutTheSameInABigReceipt)
 {
-    // A page more or two, where the tree is deeper.
-    EXPECT_LE(costOfAChange(1000), costOfAChange(10) + 2 * 4096 + 100);
+    // A page more or three, where the trees are deeper.
+    EXPECT_LE(costOfAChange(1000), costOfAChange(10) + 3 * 4096 + 100);
 }
 
 } // namespace

@@ -89,7 +89,16 @@ QString StorageTest::refusalOf(const QString &path)
 
 void StorageTest::save(Storage &storage, ReceiptRecord &record, const QList<JournalEntry> &journal)
 {
-    ASSERT_EQ(faultText(storage.save(record, journal)), QString());
+    ASSERT_EQ(trySave(storage, record, journal), QString());
+}
+
+QString StorageTest::trySave(Storage &storage, ReceiptRecord &record,
+                             const QList<JournalEntry> &journal)
+{
+    ReceiptUpdate update = wholeOf(record);
+    const QString error = faultText(storage.save(update, journal));
+    record.id = update.id;
+    return error;
 }
 
 std::optional<ReceiptRecord> StorageTest::unfinished(const Storage &storage)
@@ -164,12 +173,12 @@ LineRecord oddLine()
 
 ReceiptRecord withEverything()
 {
-    ReceiptRecord record{0,
-                         Document::Return,
-                         ReceiptState::Subtotal,
-                         "order 5",
-                         {"10", "", "9", "9"},
-                         std::numeric_limits<int>::max(),
+    ReceiptRecord record{{0,
+                          Document::Return,
+                          ReceiptState::Subtotal,
+                          "order 5",
+                          {"10", "", "9", "9"},
+                          std::numeric_limits<int>::max()},
                          {lineOf(3), oddLine(), lineOf(1, -2.5)},
                          {}};
     record.pluginData["PackagingControl"]["taraInfo"] = QVariantList{QVariantMap{{"posnum", 1}}};

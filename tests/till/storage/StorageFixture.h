@@ -34,9 +34,12 @@ protected:
     static QString refusalOf(const QString &path);
     QString refusal() const { return refusalOf(path()); }
 
-    //! Saves, which must succeed.
+    //! Saves the whole receipt, which must succeed.
     static void save(Storage &storage, ReceiptRecord &record,
                      const QList<JournalEntry> &journal = {});
+    //! The same, which may fail; the error.
+    static QString trySave(Storage &storage, ReceiptRecord &record,
+                           const QList<JournalEntry> &journal = {});
 
     //! The unfinished receipt, reading which must succeed.
     static std::optional<ReceiptRecord> unfinished(const Storage &storage);

@@ -126,11 +126,10 @@ TEST_P(FlippedBit, OfAnOpenReceipt_IsRefused)
 {
     const QString table = GetParam().table;
     const QString column = GetParam().column;
-    const QString key = table == "receipts" ? "id" : "receipt";
-    const QString row = QString("rowid = (SELECT min(rowid) FROM %1 WHERE %2 = 2)");
-    const QString where = table == "receipts" || table == "pluginData"
-                              ? row.arg(table, key)
-                              : QString("receipt = 2 AND place = 0");
+    const QString where = table == "receipts"     ? "id = 2"
+                          : column == "place"     ? "receipt = 2 AND key = 'other'"
+                          : table == "pluginData" ? "receipt = 2 AND place = 2"
+                                                  : "receipt = 2 AND place = 0";
     const QVariant value =
         run(QString("SELECT %1 FROM %2 WHERE %3").arg(column, table, where)).value(0);
     const bool isText = value.typeId() == QMetaType::QString;
@@ -168,8 +167,8 @@ INSTANTIATE_TEST_SUITE_P(
         Column{"positions", "pack"}, Column{"positions", "unit"}, Column{"positions", "count"},
         Column{"positions", "base"}, Column{"positions", "stornoed"}, Column{"positions", "digest"},
         Column{"softChecks", "number"}, Column{"softChecks", "digest"},
-        Column{"pluginData", "plugin"}, Column{"pluginData", "key"}, Column{"pluginData", "value"},
-        Column{"pluginData", "digest"}),
+        Column{"pluginData", "plugin"}, Column{"pluginData", "key"}, Column{"pluginData", "place"},
+        Column{"pluginData", "value"}, Column{"pluginData", "digest"}),
     [](const auto &test) { return std::string(test.param.table) + '_' + test.param.column; });
 
 //! What somebody may have done to rows, and what the till says to it.
@@ -216,6 +215,12 @@ INSTANTIATE_TEST_SUITE_P(
                "its rows are not those that were stored"},
         Damage{"PluginDataRemoved", "DELETE FROM pluginData WHERE key = 'other'",
                "its rows are not those that were stored"},
+        Damage{"ElementRemoved", "DELETE FROM pluginData WHERE key = 'taraInfo' AND place = 3",
+               "its rows are not those that were stored"},
+        Damage{"ElementsExchanged",
+               "UPDATE pluginData SET place = 9 WHERE place = 1; UPDATE pluginData SET place = 1 "
+               "WHERE place = 2; UPDATE pluginData SET place = 2 WHERE place = 9",
+               "the data of plugin \"plugin\" under \"taraInfo\" are damaged"},
         Damage{"HeaderRemoved", "DELETE FROM receipts WHERE id = 2", "its header is missing"},
         Damage{"PositionsExchanged",
                "UPDATE positions SET place = 9 WHERE receipt = 2 AND place = 0; UPDATE positions "
@@ -235,7 +240,8 @@ INSTANTIATE_TEST_SUITE_P(
                "position 4 is not as it was stored"},
         Damage{"SoftCheckAdded", "INSERT INTO softChecks VALUES (2, 2, '7', x'00')",
                "soft-check 7 is not as it was stored"},
-        Damage{"PluginDataAdded", "INSERT INTO pluginData VALUES (2, 'a', 'b', x'00', '', x'00')",
+        Damage{"PluginDataAdded",
+               "INSERT INTO pluginData VALUES (2, 'a', 'b', 0, x'00', '', x'00')",
                "the data of plugin \"a\" under \"b\" are damaged"},
         Damage{"PriceBelowZero", "UPDATE positions SET price = -100 WHERE receipt = 2",
                "position 1 is not as it was stored"},

@@ -42,8 +42,7 @@ TEST_F(StorageSave, UnknownNumber_IsRefused)
     const auto storage = opened();
     ReceiptRecord record;
     record.id = 7;
-    EXPECT_EQ(faultText(storage->save(record, {{0, "open", "{}"}})),
-              path() + ": there is no receipt 7");
+    EXPECT_EQ(trySave(*storage, record, {{0, "open", "{}"}}), path() + ": there is no receipt 7");
     EXPECT_EQ(storage->journal(7), QList<JournalEntry>());
 }
 
@@ -57,7 +56,7 @@ TEST_F(StorageSave, QuantityThatIsNoNumber_IsRefusedAndNothingStored)
     record.lines[0].count = 9.0;
     record.lines[1].count = std::numeric_limits<double>::quiet_NaN();
 
-    EXPECT_EQ(faultText(storage->save(record, {{0, "change", "{}"}})),
+    EXPECT_EQ(trySave(*storage, record, {{0, "change", "{}"}}),
               path() + ": position 2 has a quantity out of range, which cannot be stored");
     EXPECT_EQ(unfinished(*storage), before);
     EXPECT_TRUE(storage->journal(record.id).isEmpty());
@@ -68,7 +67,7 @@ TEST_F(StorageSave, RefusedFirstSave_LeavesTheRecordWithoutANumber)
     const auto storage = opened();
     ReceiptRecord record = receiptOf(1);
     record.lines[0].base = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_NE(faultText(storage->save(record, {})), QString());
+    EXPECT_NE(trySave(*storage, record, {}), QString());
     EXPECT_EQ(record.id, 0);
 }
 
@@ -80,7 +79,7 @@ TEST_F(StorageSave, AfterARefusedSave_TheNextStoresWhatDiffersFromTheStored)
         save(*storage, record);
         record.lines[0].count = 9.0;
         record.lines[1].count = std::numeric_limits<double>::quiet_NaN();
-        EXPECT_NE(faultText(storage->save(record, {})), QString());
+        EXPECT_NE(trySave(*storage, record, {}), QString());
         record.lines[1].count = 3.0;
         save(*storage, record);
     }

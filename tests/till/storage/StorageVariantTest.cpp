@@ -172,7 +172,7 @@ protected:
         record.order = "5";
         record.pluginData["plugin"]["key"] = value;
 
-        EXPECT_EQ(faultText(storage->save(record, {{0, "add", "{}"}})),
+        EXPECT_EQ(trySave(*storage, record, {{0, "add", "{}"}}),
                   path() + ": the data of plugin \"plugin\" under \"key\" hold a value of type \""
                       + type + "\", which cannot be stored");
         EXPECT_EQ(unfinished(*storage), before);

@@ -1,4 +1,5 @@
 #include "tests/till/storage/StorageWriterPlan.h"
+#include "tests/till/storage/UpdateBetween.h"
 #include "tests/till/support/FailingDisk.h"
 
 #include <QtCore/QCoreApplication>
@@ -51,7 +52,8 @@ int saveForeign(Storage &storage)
 {
     ReceiptRecord record;
     record.pluginData["plugin"]["key"] = QVariant::fromValue(KnownToTheWriter{7});
-    const Result<> saved = storage.save(record, {});
+    ReceiptUpdate update = wholeOf(record);
+    const Result<> saved = storage.save(update, {});
     return saved ? (say("saved"), 0) : fail(saved.error().text());
 }
 
@@ -63,13 +65,19 @@ int takeSteps(Storage &storage)
         return fail(read.error().text());
     qint64 id = *read ? (*read)->id : 0;
     int step = *read ? (*read)->nextPosnum - 1 : 0;
+    bool isKnown = false; // to this storage, which then is told what changed alone
     for (;;) {
-        if (step == StepsOfAReceipt)
+        if (step == StepsOfAReceipt) {
             id = step = 0;
-        ReceiptRecord record = plannedReceipt(id, ++step);
-        if (const Result<> saved = storage.save(record, plannedJournal(step)); !saved)
+            isKnown = false;
+        }
+        const ReceiptRecord record = plannedReceipt(id, ++step);
+        ReceiptUpdate update =
+            isKnown ? updateBetween(plannedReceipt(id, step - 1), record) : wholeOf(record);
+        if (const Result<> saved = storage.save(update, plannedJournal(step)); !saved)
             return fail(saved.error().text());
-        id = record.id;
+        id = update.id;
+        isKnown = true;
         say(QStringLiteral("%1 %2").arg(id).arg(step));
     }
 }

@@ -23,7 +23,12 @@ inline ReceiptRecord plannedReceipt(qint64 id, int step)
             {posnum, article, posnum + step / 100.0, step / 2.0, "", step > posnum});
         record.softChecks.append(QStringLiteral("%1 of %2").arg(posnum).arg(step));
     }
-    record.pluginData["plugin"]["taraInfo"] = QVariantList(step * 50, QVariantMap{{"step", step}});
+    // A list that grows and loses its first elements, and one that changes as a whole.
+    QVariantList numbers;
+    for (int number = step * 3; number < step * 9; ++number)
+        numbers.append(number);
+    record.pluginData["plugin"]["numbers"] = numbers;
+    record.pluginData["plugin"]["taraInfo"] = QVariantList(step * 5, QVariantMap{{"step", step}});
     record.pluginData["plugin"]["step"] = step;
     return record;
 }

@@ -1,5 +1,7 @@
 #include "till/storage/VariantBytes.h"
 
+#include "till/receipt/ValueChange.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -47,7 +49,7 @@ TEST(SurelySame, WhatIsMadeAnew_IsTheSame)
     const QVariantList one = alike();
     const QVariantList other = alike();
     for (qsizetype i = 0; i < one.size(); ++i)
-        EXPECT_TRUE(VariantBytes::areSurelySame(one[i], other[i])) << i;
+        EXPECT_TRUE(areSurelySame(one[i], other[i])) << i;
 }
 
 TEST(SurelySame, WhatHasOtherBytes_IsNot)
@@ -56,16 +58,16 @@ TEST(SurelySame, WhatHasOtherBytes_IsNot)
     for (qsizetype i = 0; i < values.size(); ++i) {
         for (qsizetype j = 0; j < i; ++j) {
             ASSERT_NE(bytesOf(values[i]), bytesOf(values[j])) << i << ' ' << j;
-            EXPECT_FALSE(VariantBytes::areSurelySame(values[i], values[j])) << i << ' ' << j;
+            EXPECT_FALSE(areSurelySame(values[i], values[j])) << i << ' ' << j;
         }
     }
 }
 
 TEST(SurelySame, OfATypeThatIsNotLookedInto_CannotBeTold)
 {
-    EXPECT_FALSE(VariantBytes::areSurelySame(QVariant(), QVariant()));
-    EXPECT_FALSE(VariantBytes::areSurelySame(QByteArray("a"), QByteArray("a")));
-    EXPECT_FALSE(VariantBytes::areSurelySame(QVariantList{1LL}, QVariantList{1LL}));
+    EXPECT_FALSE(areSurelySame(QVariant(), QVariant()));
+    EXPECT_FALSE(areSurelySame(QByteArray("a"), QByteArray("a")));
+    EXPECT_FALSE(areSurelySame(QVariantList{1LL}, QVariantList{1LL}));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #ifndef TESTS_TILL_SUPPORT_REBUILTRECEIPT_H
 #define TESTS_TILL_SUPPORT_REBUILTRECEIPT_H
 
+#include "tests/till/support/ToldValue.h"
 #include "till/receipt/Receipt.h"
 
 #include <QtCore/QJsonArray>
@@ -18,8 +19,7 @@ public:
         else if (kind == "position")
             m_positions.insert(note.value("position").toInt(), note);
         else if (kind == "data")
-            m_data[note.value("plugin").toString()].insert(note.value("key").toString(),
-                                                           note.value("value").toVariant());
+            tell(m_data[note.value("plugin").toString()][note.value("key").toString()], note);
         else if (kind == "receipt")
             m_receipt = note;
     }
@@ -35,7 +35,10 @@ public:
         record.nextPosnum = m_positions.isEmpty() ? 1 : m_positions.lastKey() + 1;
         for (const QJsonObject &position : m_positions)
             record.lines.append(lineOf(position));
-        record.pluginData = m_data;
+        for (auto plugin = m_data.cbegin(); plugin != m_data.cend(); ++plugin) {
+            for (auto value = plugin->cbegin(); value != plugin->cend(); ++value)
+                record.pluginData[plugin.key()].insert(value.key(), value->toVariant());
+        }
         return record;
     }
 
@@ -55,8 +58,10 @@ private:
                 number("group").toString(), number("stornoed").toBool()};
     }
 
+    static void tell(QJsonValue &value, const QJsonObject &note) { value = toldValue(value, note); }
+
     QMap<int, QJsonObject> m_positions;
-    Document::PluginData m_data;
+    QMap<QString, QMap<QString, QJsonValue>> m_data;
     QJsonObject m_receipt;
 };
 

@@ -32,7 +32,7 @@ protected:
 
 TEST_F(ReceiptView, NoPositions_ShowsThatAndNoSum)
 {
-    receipt.setId(12);
+    receipt.setStored(12);
 
     EXPECT_EQ(shown(), QString(R"(Чек № 12 · открыт
   №  Товар                                                   Кол-во  Цена  Сумма

@@ -31,7 +31,9 @@ protected:
     //! Appends a position; its number is the count of positions so far.
     int add(const till::ArticleData &article, double count)
     {
-        return receipt.add(QSharedPointer<till::Article>::create(article), count)->getPosnum();
+        const auto position = receipt.add(QSharedPointer<till::Article>::create(article), count);
+        receipt.touch();
+        return position->getPosnum();
     }
 
     //! Appends a tara position and notes it under the identifier "{number}".
@@ -51,12 +53,13 @@ protected:
     //! A receipt with every kind of line.
     void sellOfEverything()
     {
-        receipt.setId(12);
+        receipt.setStored(12);
         addTara(5.0, 2.0);
         addBeer(3.0, {{idOf(1), 3.0}});
         add(kvass(), 1.5);
         add(nuts(), 3);
         receipt.storno(3);
+        receipt.touch();
     }
 
     static QString idOf(int posnum) { return QStringLiteral("{%1}").arg(posnum); }

@@ -1,0 +1,54 @@
+"""Plays long receipts with the till at the path given, and prints what they cost as JSON.
+
+Each way of playing one is repeated, in turn with the others, and its processor time is listed in
+seconds; of a trace, its size in bytes.
+"""
+
+import json
+import os
+import subprocess
+import sys
+import tempfile
+
+REPETITIONS = 5
+
+
+def script(positions):
+    """One half tara, one half goods, each poured into the tara before it."""
+    lines = ["open"] + ["add PET1", "add BEER 1"] * (positions // 2) + ["pay"]
+    return "\n".join(lines) + "\n"
+
+
+def cpu(command, path, piped):
+    with open(path if piped else os.devnull, encoding="utf-8") as source:
+        process = subprocess.Popen(command if piped else [*command, "play", path], stdin=source,
+                                   stdout=subprocess.DEVNULL)
+        _, status, usage = os.wait4(process.pid, 0)
+    process.returncode = os.waitstatus_to_exitcode(status)
+    if process.returncode != 0:
+        sys.exit(f"{command}: exit status {process.returncode}")
+    return usage.ru_utime + usage.ru_stime
+
+
+def main():
+    till = [sys.argv[1], "--db", ":memory:", "--quiet"]
+    with tempfile.TemporaryDirectory() as folder:
+        paths = {}
+        for positions in (400, 1000, 4000):
+            paths[positions] = os.path.join(folder, f"{positions}.till")
+            with open(paths[positions], "w", encoding="utf-8") as file:
+                file.write(script(positions))
+        runs = {}
+        for _ in range(REPETITIONS):
+            for positions in (1000, 4000):
+                for name, options in (("plugin", []), ("alone", ["--no-plugin"])):
+                    runs.setdefault(f"{name}/{positions}", []).append(
+                        cpu(till + options, paths[positions], piped=False))
+            runs.setdefault("piped/1000", []).append(cpu(till, paths[1000], piped=True))
+        trace = os.path.join(folder, "trace")
+        cpu([*till, "--trace", trace], paths[400], piped=False)
+        runs["trace"] = os.path.getsize(trace)
+    print(json.dumps(runs))
+
+
+main()

@@ -1,0 +1,17 @@
+#include "till/receipt/ReceiptRecord.h"
+
+namespace till {
+
+ReceiptUpdate wholeOf(const ReceiptRecord &record)
+{
+    ReceiptUpdate update{record, true, {}, {}};
+    for (qsizetype place = 0; place < record.lines.size(); ++place)
+        update.lines.insert(update.lines.cend(), place, record.lines[place]);
+    for (auto plugin = record.pluginData.cbegin(); plugin != record.pluginData.cend(); ++plugin) {
+        for (auto entry = plugin->cbegin(); entry != plugin->cend(); ++entry)
+            update.values.append({plugin.key(), entry.key(), entry.value(), {}});
+    }
+    return update;
+}
+
+} // namespace till

@@ -1,0 +1,114 @@
+#include "till/storage/ValueWriter.h"
+
+#include "till/database/Database.h"
+#include "till/storage/Schema.h"
+#include "till/storage/VariantBytes.h"
+
+#include <algorithm>
+
+namespace till {
+
+ValueWriter::ValueWriter(Database &database, qint64 receipt, const QString &plugin,
+                         const QString &key, std::vector<StoredElement> &rows, RowsDigest &contents)
+    : m_database(database)
+    , m_receipt(receipt)
+    , m_plugin(plugin)
+    , m_key(key)
+    , m_rows(rows)
+    , m_contents(contents)
+{
+}
+
+bool ValueWriter::apply(const ValueChange &change)
+{
+    if (change.parts.isEmpty())
+        return replace(change.value);
+    return std::all_of(change.parts.cbegin(), change.parts.cend(),
+                       [this](const ListChange &part) { return replace(part); });
+}
+
+bool ValueWriter::replace(const QVariant &value)
+{
+    if (!cut(0, static_cast<qsizetype>(m_rows.size())))
+        return false;
+    const bool isList = value.typeId() == QMetaType::QVariantList;
+    append(isList ? QVariant(QVariantList()) : value);
+    if (isList)
+        appendAll(value.toList());
+    return true;
+}
+
+bool ValueWriter::replace(const ListChange &part)
+{
+    const qsizetype first = 1 + part.at; // behind the list's own row
+    const qsizetype replaced = std::min(part.removed, part.added.size());
+    for (qsizetype i = 0; i < replaced; ++i)
+        m_pending[m_rows[static_cast<size_t>(first + i)].place] = part.added[i];
+    if (!cut(first + replaced, part.removed - replaced))
+        return false;
+    appendAll(part.added.mid(replaced));
+    return true;
+}
+
+bool ValueWriter::cut(qsizetype from, qsizetype count)
+{
+    const auto begin = m_rows.begin() + from;
+    const bool done =
+        std::all_of(begin, begin + count, [this](const StoredElement &row) { return remove(row); });
+    m_rows.erase(begin, begin + count);
+    return done;
+}
+
+bool ValueWriter::remove(const StoredElement &row)
+{
+    m_pending.remove(row.place);
+    m_contents.toggle(row.digest);
+    return row.digest.isEmpty()
+           || m_database.run(QStringLiteral("DELETE FROM pluginData WHERE receipt = ? AND plugin = "
+                                            "? AND key = ? AND place = ?"),
+                             {m_receipt, storable(m_plugin), storable(m_key), row.place});
+}
+
+void ValueWriter::appendAll(const QVariantList &elements)
+{
+    for (const QVariant &element : elements)
+        append(element);
+}
+
+void ValueWriter::append(const QVariant &value)
+{
+    const qint64 place = m_rows.empty() ? 0 : m_rows.back().place + 1;
+    m_rows.push_back({place, {}});
+    m_pending.insert(place, value);
+}
+
+bool ValueWriter::write()
+{
+    for (auto value = m_pending.cbegin(); value != m_pending.cend(); ++value) {
+        const auto row = std::lower_bound(
+            m_rows.begin(), m_rows.end(), value.key(),
+            [](const StoredElement &element, qint64 place) { return element.place < place; });
+        if (!write(*row, value.value()))
+            return false;
+    }
+    return true;
+}
+
+bool ValueWriter::write(StoredElement &row, const QVariant &value)
+{
+    QString culprit;
+    const auto bytes = VariantBytes::of(value, &culprit);
+    if (!bytes)
+        return m_database.fail(
+            QStringLiteral("the data of plugin \"%1\" under \"%2\" hold a value of type \"%3\", "
+                           "which cannot be stored")
+                .arg(m_plugin, m_key, culprit));
+    const QVariantList values{m_receipt, storable(m_plugin), storable(m_key),
+                              row.place, bytes->bytes,       storable(bytes->types)};
+    m_contents.toggle(row.digest);
+    row.digest = pluginDataTable().digest(values);
+    m_contents.toggle(row.digest);
+    return pluginDataTable().write(m_database, values, row.digest);
+}
+
+} // namespace till
