@@ -1,31 +1,15 @@
 #include "till/console/Interactive.h"
 
 #include "till/console/Output.h"
-#include "till/database/DatabaseFile.h"
+#include "till/console/TypedLine.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtCore/QTextStream>
 
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <unistd.h>
-
-#include <readline/history.h>
-#include <readline/readline.h>
 
 namespace till {
 
 namespace {
-
-CommandLine *completed = nullptr; // readline's completion takes no argument of ours
-
-std::optional<QString> readTyped(const char *prompt)
-{
-    const std::unique_ptr<char, void (*)(void *)> typed(readline(prompt), std::free);
-    return typed ? std::optional(QString::fromUtf8(typed.get())) : std::nullopt;
-}
 
 std::optional<QString> readPiped()
 {
@@ -34,34 +18,98 @@ std::optional<QString> readPiped()
     return line.isNull() ? std::nullopt : std::optional(line);
 }
 
-char *nextCompletion(const char *text, int state)
+//! The lines of one run of the register.
+class Lines
 {
-    static QStringList left;
-    if (state == 0) {
-        const QString line = QString::fromUtf8(rl_line_buffer).left(rl_point);
-        QStringList words = line.split(' ', Qt::SkipEmptyParts);
-        if (words.isEmpty() || line.endsWith(' '))
-            words.append(QString::fromUtf8(text));
-        left = completed->completions(words);
+public:
+    using Show = std::function<void(const QString &text)>;
+
+    Lines(CommandLine &commands, const Translator &translator, const QString &historyFile,
+          const Show &show)
+        : m_commands(commands)
+        , m_translator(translator)
+        , m_historyFile(historyFile)
+        , m_show(show)
+    {
     }
-    return left.isEmpty() ? nullptr : strdup(left.takeFirst().toUtf8().constData());
-}
 
-char **complete(const char *text, int start, int end)
-{
-    Q_UNUSED(start)
-    Q_UNUSED(end)
-    rl_attempted_completion_over = 1; // file names are never wanted
-    return rl_completion_matches(text, nextCompletion);
-}
+    void runTyped()
+    {
+        openTerminal(m_commands, m_historyFile);
+        m_show(say(told("till", "The till. 'help' lists the commands, 'quit' leaves.")));
+        m_shown = m_commands.renderReceipt();
+        while (!m_commands.hasQuit()) {
+            const std::optional<TypedLine> line = readTyped(say(told("till", "till> ")));
+            if (!line || isLeaving(line->end))
+                return m_show(say(told("till", "The receipt in hand is kept.")));
+            if (line->end == TypedLine::Entered)
+                runTyped(line->text);
+        }
+    }
 
-//! Adds the line to the history, and to its file at once: a till may end at any moment.
-void remember(const QString &line, const QByteArray &historyFile)
-{
-    add_history(line.toUtf8().constData());
-    if (append_history(1, historyFile.constData()) != 0) // there is no file yet
-        write_history(historyFile.constData());
-}
+    //! True when every line ended well.
+    bool runPiped()
+    {
+        bool allDone = true;
+        qsizetype number = 0;
+        while (!m_commands.hasQuit()) {
+            const std::optional<QString> line = readPiped();
+            if (!line)
+                break;
+            ++number;
+            const Outcome outcome = m_commands.run(*line);
+            const QString text = m_commands.textOf(outcome);
+            allDone = allDone && outcome;
+            if (!outcome)
+                Output::error(say(told("till", "standard input:%1: %2: %3")
+                                      .with({QString::number(number), line->trimmed(), text})));
+            else if (!text.isEmpty())
+                m_show(text);
+        }
+        return allDone;
+    }
+
+private:
+    QString say(const Message &message) const { return m_translator.text(message); }
+
+    //! Whether Ctrl-C came twice on an empty line; tells the first time that it would leave.
+    bool isLeaving(TypedLine::End end)
+    {
+        const bool isSecond = m_hasDroppedNone && end == TypedLine::DroppedNone;
+        m_hasDroppedNone = end == TypedLine::DroppedNone;
+        if (m_hasDroppedNone && !isSecond)
+            m_show(say(told("till", "Ctrl-C once more leaves the till")));
+        return isSecond;
+    }
+
+    void runTyped(const QString &line)
+    {
+        if (!line.trimmed().isEmpty())
+            remember(line, m_historyFile);
+        const Outcome outcome = m_commands.run(line);
+        const QString text = m_commands.hasShown(outcome) ? say(told("till", "refused"))
+                                                          : m_commands.textOf(outcome);
+        if (!text.isEmpty())
+            m_show(text);
+        if (m_commands.hasTouchedReceipt())
+            showChangedReceipt();
+    }
+
+    void showChangedReceipt()
+    {
+        const QString receipt = m_commands.renderReceipt();
+        if (!receipt.isEmpty() && receipt != m_shown)
+            m_show(receipt);
+        m_shown = receipt;
+    }
+
+    CommandLine &m_commands;
+    const Translator &m_translator;
+    const QString m_historyFile;
+    const Show &m_show;
+    QString m_shown; //!< the receipt as it was shown last
+    bool m_hasDroppedNone = false;
+};
 
 } // namespace
 
@@ -72,12 +120,12 @@ bool isTerminal()
 
 bool askOnTerminal(const Translator &translator)
 {
-    const QByteArray prompt = translator.text(told("till", "yes/no> ")).toUtf8();
+    const QString prompt = translator.text(told("till", "yes/no> "));
     for (;;) {
-        const std::optional<QString> typed = readTyped(prompt.constData());
-        if (!typed)
+        const std::optional<TypedLine> typed = readTyped(prompt);
+        if (!typed || typed->end != TypedLine::Entered)
             return false;
-        const QString answer = typed->trimmed().toLower();
+        const QString answer = typed->text.trimmed().toLower();
         if (QStringList{"yes", "y", "да", "д"}.contains(answer))
             return true;
         if (QStringList{"no", "n", "нет", "н"}.contains(answer))
@@ -88,44 +136,11 @@ bool askOnTerminal(const Translator &translator)
 bool runInteractive(CommandLine &commands, const Translator &translator, const QString &historyFile,
                     const std::function<void(const QString &text)> &show)
 {
-    const bool terminal = isTerminal();
-    const QByteArray history = historyFile.toLocal8Bit();
-    if (terminal) {
-        completed = &commands;
-        rl_attempted_completion_function = complete;
-        makePrivateFolder(QFileInfo(historyFile).path());
-        read_history(history.constData());
-        show(translator.text(told("till", "The till. 'help' lists the commands, 'quit' leaves.")));
-    }
-    const QByteArray prompt = translator.text(told("till", "till> ")).toUtf8();
-    bool allDone = true;
-    qsizetype number = 0;
-    QString shown = terminal ? commands.renderReceipt() : QString();
-    while (!commands.hasQuit()) {
-        const std::optional<QString> line = terminal ? readTyped(prompt.constData()) : readPiped();
-        if (!line)
-            break;
-        if (terminal && !line->trimmed().isEmpty())
-            remember(*line, history);
-        const Outcome outcome = commands.run(*line);
-        ++number;
-        const QString text = commands.hasShown(outcome) ? translator.text(told("till", "refused"))
-                                                        : commands.textOf(outcome);
-        if (!outcome && !terminal)
-            Output::error(translator.text(
-                told("till", "standard input:%1: %2: %3")
-                    .with({QString::number(number), line->trimmed(), commands.textOf(outcome)})));
-        else if (!text.isEmpty())
-            show(text);
-        allDone = allDone && (terminal || outcome);
-        if (!terminal || !commands.hasTouchedReceipt())
-            continue;
-        const QString receipt = commands.renderReceipt();
-        if (!receipt.isEmpty() && receipt != shown)
-            show(receipt);
-        shown = receipt;
-    }
-    return allDone;
+    Lines lines(commands, translator, historyFile, show);
+    if (!isTerminal())
+        return lines.runPiped();
+    lines.runTyped();
+    return true;
 }
 
 } // namespace till

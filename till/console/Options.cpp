@@ -7,6 +7,9 @@
 #include <QtCore/QMap>
 #include <QtCore/QStandardPaths>
 
+#include <algorithm>
+
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace till {
@@ -40,7 +43,16 @@ QString readSettings(const QStringList &assignments, QMap<QString, QString> &set
 
 bool wantsColour(const QString &when)
 {
-    return when == "always" || (when == "auto" && isatty(STDOUT_FILENO) != 0);
+    const bool wanted = qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
+    return when == "always" || (when == "auto" && wanted && isatty(STDOUT_FILENO) != 0);
+}
+
+//! The terminal's width, as far as a receipt can follow it.
+int columnsOfOutput()
+{
+    winsize size = {};
+    const bool isKnown = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? std::clamp<int>(size.ws_col, 60, 120) : Style::columnsOfAPipe();
 }
 
 //! What is wrong with \a words after the command \a mode; empty when nothing is.
@@ -87,23 +99,22 @@ QStringList filesInUse(const Options &options)
     return files;
 }
 
-void describeOptions(QCommandLineParser &parser)
+QList<ProgramMode> programModes()
 {
-    parser.setApplicationDescription(
-        "A small cash register that runs whole receipts through the packaging plugin.\n\n"
-        "  till                  open the register: type commands ('help' lists them)\n"
-        "  till play FILE...     play scripts of the same commands, each on a database of its own\n"
-        "  till demo             play the sample shop's receipts\n"
-        "  till info             show the plugin: metadata, triggers, events\n"
-        "  till check            check the database and every receipt in it\n"
-        "  till backup FILE      copy the database, also while a till has it open\n"
-        "  till set-apart NUMBER set a damaged receipt apart, so that another can be opened\n\n"
-        "Exit status: 0 all well, 1 a command or an expectation failed or a check found damage,\n"
-        "2 wrong usage, 3 a file (catalogue, database, plugin, settings, trace) cannot be used.");
-    parser.addPositionalArgument(
-        "command", "one of these; none opens the register",
-        "[play FILE... | demo | info | check | backup FILE | set-apart NUMBER]");
-    parser.addOptions({
+    return {
+        {"till", "open the register: type commands ('help' lists them)"},
+        {"till play FILE...", "play scripts of the same commands, each on a database of its own"},
+        {"till demo", "play the sample shop's receipts"},
+        {"till info", "show the plugin: metadata, triggers, events"},
+        {"till check", "check the database and every receipt in it"},
+        {"till backup FILE", "copy the database, also while a till has it open"},
+        {"till set-apart NUMBER", "set a damaged receipt apart, so that another can be opened"},
+    };
+}
+
+QList<QCommandLineOption> programOptions()
+{
+    return {
         {"db", "Keep receipts in FILE (:memory: for nowhere).", "FILE", defaultDatabase()},
         {"catalogue", "Take the articles from the CSV FILE.", "FILE",
          delivered("share/packagingcontrol/catalogue.csv")},
@@ -115,11 +126,34 @@ void describeOptions(QCommandLineParser &parser)
         {"lang", "Language of messages: " + Translator::languages().join(", ") + ".", "LANGUAGE",
          "ru"},
         {"trace", "Write what happens to FILE as lines of JSON (- for standard output).", "FILE"},
-        {"colour", "Colours: auto, always or never.", "WHEN", "auto"},
+        {{"colour", "color"}, "Colours: auto, always or never.", "WHEN", "auto"},
         {"quiet", "Print progress only, not the receipts' course."},
-    });
-    parser.addOption({{"h", "help"}, "Show this help."});
-    parser.addVersionOption();
+        {{"h", "help"}, "Show this help."},
+        {{"v", "version"}, "Show the version."},
+    };
+}
+
+QString exitStatuses()
+{
+    return "0 all well, 1 a command or an expectation failed or a check found damage,\n"
+           "2 wrong usage, 3 a file (catalogue, database, plugin, settings, trace) cannot be used.";
+}
+
+void describeOptions(QCommandLineParser &parser)
+{
+    QString modes;
+    for (const ProgramMode &mode : programModes())
+        modes += QString("  %1 %2\n").arg(mode.usage, -21).arg(mode.help);
+    parser.setApplicationDescription(
+        "A small cash register that runs whole receipts through the packaging plugin.\n\n" + modes
+        + "\nExit status: " + exitStatuses());
+    parser.addPositionalArgument(
+        "command", "one of these; none opens the register",
+        "[play FILE... | demo | info | check | backup FILE | set-apart NUMBER]");
+    parser.addOptions(programOptions());
+    QCommandLineOption manual("manual");
+    manual.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(manual);
 }
 
 QString readOptions(const QCommandLineParser &parser, Options &options)
@@ -137,7 +171,7 @@ QString readOptions(const QCommandLineParser &parser, Options &options)
                + "\" is none of: " + Translator::languages().join(", ");
     if (!QStringList{"auto", "always", "never"}.contains(parser.value("colour")))
         return "--colour: \"" + parser.value("colour") + "\" is none of: auto, always, never";
-    options.style.colour = wantsColour(parser.value("colour"));
+    options.style = {wantsColour(parser.value("colour")), columnsOfOutput};
     options.trace = parser.value("trace");
     options.quiet = parser.isSet("quiet");
     options.ownDatabase = parser.isSet("db");

@@ -4,6 +4,8 @@
 #include "till/register/CashDesk.h"
 #include "till/view/ReceiptView.h"
 
+#include <QtCore/QCommandLineOption>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -32,6 +34,18 @@ QString historyFile();
 
 //! The files that a run with \a options reads or writes, but for its trace.
 QStringList filesInUse(const Options &options);
+
+//! A way to start the program, for a person.
+struct ProgramMode
+{
+    QString usage;
+    QString help;
+};
+
+QList<ProgramMode> programModes();
+QList<QCommandLineOption> programOptions();
+//! What the exit statuses mean.
+QString exitStatuses();
 
 //! Tells \a parser the options and the help.
 void describeOptions(QCommandLineParser &parser);

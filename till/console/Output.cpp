@@ -40,6 +40,8 @@ void Output::installMessageHandler()
 {
     qInstallMessageHandler(
         [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+            if (text.startsWith("Detected locale")) // which the till tells in its own words
+                return;
             write(forTerminal(qFormatLogMessage(type, context, text)), stderr);
         });
 }

@@ -2,6 +2,7 @@
 #include "till/console/ExitStatus.h"
 #include "till/console/Info.h"
 #include "till/console/Interactive.h"
+#include "till/console/Manual.h"
 #include "till/console/Options.h"
 #include "till/console/Output.h"
 #include "till/console/TraceFile.h"
@@ -16,11 +17,17 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QLoggingCategory>
 
+#include <clocale>
 #include <csignal>
+#include <cstring>
+
+#include <langinfo.h>
 
 using namespace till;
 
 namespace {
+
+bool hasUtf8Locale = true; // asked before Qt sets another one
 
 int fail(ExitStatus status, const QString &text)
 {
@@ -133,6 +140,9 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
             output.print(text);
     };
     tellCopy(desk, translator, show);
+    if (isTerminal() && !hasUtf8Locale)
+        show(translator.text(
+            told("till", "The locale is not UTF-8: texts are written in UTF-8 all the same")));
     const auto ask = [&](const QString &question) {
         output.print(question);
         return askOnTerminal(translator);
@@ -212,6 +222,10 @@ int runArguments(const QStringList &arguments)
     describeOptions(parser);
     if (!parser.parse(arguments))
         return fail(UsageError, withoutPeriod(parser.errorText()) + "; try --help");
+    if (parser.isSet("manual")) {
+        Output().print(manualPage());
+        return AllWell;
+    }
     if (parser.isSet("version") || parser.isSet("help")) {
         Output().print(parser.isSet("help") ? parser.helpText() : "till " + version());
         return AllWell;
@@ -226,6 +240,8 @@ int runArguments(const QStringList &arguments)
 
 int main(int argc, char *argv[])
 {
+    std::setlocale(LC_CTYPE, "");
+    hasUtf8Locale = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
     std::signal(SIGXFSZ, SIG_IGN); // the write that is too long fails instead, and is told
     Output::installMessageHandler();
     QCoreApplication application(argc, argv);

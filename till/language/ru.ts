@@ -371,5 +371,17 @@
         <source>%1: brought to the format of this till; as it was before, it is in %2</source>
         <translation>%1: переведена в формат этой кассы; прежняя копия — %2</translation>
     </message>
+    <message>
+        <source>The receipt in hand is kept.</source>
+        <translation>Открытый чек сохранён.</translation>
+    </message>
+    <message>
+        <source>Ctrl-C once more leaves the till</source>
+        <translation>ещё раз Ctrl-C — выход из кассы</translation>
+    </message>
+    <message>
+        <source>The locale is not UTF-8: texts are written in UTF-8 all the same</source>
+        <translation>Локаль не UTF-8: тексты всё равно пишутся в UTF-8</translation>
+    </message>
 </context>
 </TS>

@@ -5,7 +5,6 @@
 #include "till/script/Words.h"
 
 #include <QtCore/QMap>
-#include <QtCore/QRegularExpression>
 
 #include <utility>
 
@@ -269,7 +268,7 @@ Outcome CommandLine::help(const QStringList &words)
     for (const Usage &usage : all) {
         const QString help = m_translator.text(usage.help);
         if (name.isEmpty())
-            print(QString("  %1 %2").arg(usage.text(m_translator), -28).arg(help));
+            m_person.print(m_view.renderBehind("  " + usage.text(m_translator), help, 31));
         else if (usage.name == name)
             print(usage.text(m_translator) + "\n  " + help);
         isKnown = isKnown || usage.name == name;
@@ -277,29 +276,6 @@ Outcome CommandLine::help(const QStringList &words)
     if (name == "expect")
         print(Expectations::help(m_translator));
     return isKnown ? Outcome::done() : unknownCommand(name, commandNames());
-}
-
-QStringList CommandLine::completions(const QStringList &words) const
-{
-    QStringList candidates;
-    if (words.size() <= 1 || words[0] == "help") {
-        candidates = commandNames();
-    } else if (words[0] == "add") {
-        const auto all = m_desk.catalogue().articles();
-        for (const auto &article : all)
-            candidates.append(article->data.code);
-    } else if (words[0] == "open") {
-        candidates = {"sale", "return"};
-    } else if (words[0] == "answer") {
-        candidates = {"yes", "no"};
-    } else if (const auto receipt = m_desk.isOn() ? m_desk.cashRegister().receipt() : nullptr) {
-        const auto positions = receipt->getPositionList();
-        for (const auto &position : positions)
-            candidates.append(QString::number(position->getPosnum()));
-    }
-    return candidates.filter(QRegularExpression(
-        "^" + QRegularExpression::escape(words.isEmpty() ? QString() : words.constLast()),
-        QRegularExpression::CaseInsensitiveOption));
 }
 
 } // namespace till

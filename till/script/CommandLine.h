@@ -62,16 +62,21 @@ public:
     //! The receipt as a person sees it; empty when none was opened.
     QString renderReceipt() const;
 
-    //! Words that can stand where the last of \a words begins: commands, articles, positions.
+    //! How each command is typed, the register's before the script's own.
+    static QList<Usage> usages();
+
+    //! Words that can stand where the last of \a words begins, by the place of it.
     QStringList completions(const QStringList &words) const;
 
 private:
     struct Row;
     static const QList<Row> &ownRows();
-    //! How each command is typed, the register's before the script's own.
-    static QList<Usage> usages();
     static QStringList commandNames();
     Message whyDeclined() const;
+    QStringList candidatesFor(const QStringList &words) const;
+    QStringList secondWords(const QString &command) const;
+    QStringList articleCodes() const;
+    QStringList positionNumbers() const;
 
     //! Carries out the command \a typed; \a text is how it is told where no register tells it.
     Outcome runWords(const QStringList &typed, const QString &text);

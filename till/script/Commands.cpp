@@ -33,7 +33,9 @@ Outcome CommandLine::articles(const QStringList &words)
     const auto found = m_desk.catalogue().containing(words.value(0));
     for (const auto &article : found) {
         const ArticleData &data = article->data;
-        print(QString("%1 %2 %3").arg(data.code, -10).arg(toText(data.price), 10).arg(data.name));
+        const QString line = leftAligned(data.code, 10) + ' ' + rightAligned(toText(data.price), 10)
+                             + ' ' + data.name;
+        print(elided(line, m_view.columns()));
     }
     if (found.isEmpty())
         print(m_translator.text(

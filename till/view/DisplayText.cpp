@@ -4,36 +4,19 @@
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
-#include <array>
+
+#include <utf8proc.h>
 
 namespace till {
 
 namespace {
 
-struct Range
-{
-    char32_t first;
-    char32_t last;
-};
-
-//! The blocks whose signs take two columns.
-constexpr std::array wideBlocks{
-    Range{0x1100, 0x115f},   Range{0x2e80, 0x303e},   Range{0x3041, 0x4dbf},
-    Range{0x4e00, 0xa4cf},   Range{0xac00, 0xd7a3},   Range{0xf900, 0xfaff},
-    Range{0xfe30, 0xfe6f},   Range{0xff00, 0xff60},   Range{0xffe0, 0xffe6},
-    Range{0x1f300, 0x1f64f}, Range{0x1f900, 0x1f9ff}, Range{0x20000, 0x3fffd},
-};
-
-bool isWide(char32_t sign)
-{
-    return std::any_of(wideBlocks.begin(), wideBlocks.end(), [sign](const Range &block) {
-        return block.first <= sign && sign <= block.last;
-    });
-}
-
+//! Whether \a sign is seen only by what it does to others; but for those that join signs to one.
 bool isFormat(char32_t sign)
 {
-    return QChar::category(sign) == QChar::Other_Format;
+    constexpr char32_t joiner = 0x200d;
+    constexpr char32_t nonJoiner = 0x200c;
+    return QChar::category(sign) == QChar::Other_Format && sign != joiner && sign != nonJoiner;
 }
 
 bool isLineBreakOrControl(char32_t sign)
@@ -43,12 +26,32 @@ bool isLineBreakOrControl(char32_t sign)
            || category == QChar::Separator_Paragraph;
 }
 
-int widthOf(char32_t sign)
+//! What a person takes for one sign.
+struct Cluster
 {
-    const QChar::Category category = QChar::category(sign);
-    if (category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing || isFormat(sign))
-        return 0;
-    return isWide(sign) ? 2 : 1;
+    QString text;
+    int width = 0; //!< in columns
+};
+
+QList<Cluster> clustersOf(const QString &text)
+{
+    constexpr char32_t pictureFollows = 0xfe0f; // the sign before it is shown as an emoji
+    QList<Cluster> clusters;
+    const QList<uint> signs = text.toUcs4();
+    utf8proc_int32_t state = 0;
+    uint before = 0;
+    for (const uint sign : signs) {
+        if (clusters.isEmpty() || utf8proc_grapheme_break_stateful(before, sign, &state))
+            clusters.append(Cluster());
+        Cluster &cluster = clusters.last();
+        cluster.text += QChar::fromUcs4(sign);
+        // Signs that are joined to one picture take no more columns than one.
+        cluster.width = sign == pictureFollows && cluster.width > 0
+                            ? 2
+                            : std::min(2, cluster.width + utf8proc_charwidth(sign));
+        before = sign;
+    }
+    return clusters;
 }
 
 QString spaces(int count)
@@ -60,10 +63,10 @@ QString spaces(int count)
 
 int displayWidth(const QString &text)
 {
-    const QList<uint> signs = text.toUcs4();
+    const QList<Cluster> clusters = clustersOf(text);
     int width = 0;
-    for (const uint sign : signs)
-        width += widthOf(sign);
+    for (const Cluster &cluster : clusters)
+        width += cluster.width;
     return width;
 }
 
@@ -94,14 +97,14 @@ QString elided(const QString &text, int width)
 {
     if (displayWidth(text) <= width)
         return text;
-    const QList<uint> signs = text.toUcs4();
+    const QList<Cluster> clusters = clustersOf(text);
     QString kept;
     int left = width - 1; // the ellipsis takes one
-    for (const char32_t sign : signs) {
-        left -= widthOf(sign);
+    for (const Cluster &cluster : clusters) {
+        left -= cluster.width;
         if (left < 0)
             break;
-        kept += QChar::fromUcs4(sign);
+        kept += cluster.text;
     }
     return kept + QStringLiteral("…");
 }

@@ -5,7 +5,8 @@
 
 namespace till {
 
-//! How many columns of a terminal \a text takes: combining marks none, wide East Asian signs two.
+//! How many columns of a terminal \a text takes: combining marks none, wide East
+//! Asian signs and emoji two, also where several signs are joined to one.
 int displayWidth(const QString &text);
 
 //! \a text without control and format characters, so that data can't steer a terminal: line

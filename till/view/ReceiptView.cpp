@@ -57,14 +57,14 @@ QString aligned(const Row &row, const Widths &widths)
 }
 
 //! The columns as wide as the rows need them, and the article what that leaves of a line.
-Widths measure(const ReceiptText &text)
+Widths measure(const ReceiptText &text, int lineWidth)
 {
     Widths widths;
     widen(widths, text.captions);
     for (const ReceiptText::Line &line : text.lines)
         widen(widths, line.row);
     widths.sum = std::max(widths.sum, displayWidth(text.total));
-    widths.article = std::max(TextPage::width - widths.all(), narrowestArticle);
+    widths.article = std::max(lineWidth - widths.all(), narrowestArticle);
     return widths;
 }
 
@@ -74,9 +74,8 @@ class Rendering
 public:
     Rendering(const ReceiptText &text, Style style)
         : m_text(text)
-        , m_style(style)
         , m_page(style)
-        , m_widths(measure(text))
+        , m_widths(measure(text, m_page.width()))
     {
     }
 
@@ -116,12 +115,10 @@ private:
     void writeRow(const ReceiptText::Line &line)
     {
         const QString row = aligned(line.row, m_widths);
-        if (!line.stornoed)
-            m_page.write(gap() + row);
-        else if (m_style.colour)
-            m_page.write(gap() + m_page.painted(row, Paint::Struck));
+        if (line.stornoed)
+            m_page.write(stornoMark() + m_page.painted(row, Paint::Struck));
         else
-            m_page.write(stornoMark() + row);
+            m_page.write(gap() + row);
     }
 
     //! Notes stand below the article.
@@ -135,7 +132,6 @@ private:
     }
 
     const ReceiptText &m_text;
-    const Style m_style;
     TextPage m_page;
     const Widths m_widths;
 };
@@ -175,6 +171,19 @@ QString ReceiptView::renderQuestion(const Question &question) const
                                      printable(m_translator.text(question.cancel)));
     page.write(gap() + choices);
     return page.text();
+}
+
+QString ReceiptView::renderBehind(const QString &beginning, const QString &text, int margin) const
+{
+    TextPage page(m_style);
+    QList<Piece> words;
+    const QStringList split = printable(text).split(QLatin1Char(' '));
+    for (const QString &word : split)
+        words.append({word});
+    page.writePieces(words, margin);
+    if (displayWidth(beginning) >= margin)
+        return beginning + QLatin1Char('\n') + page.text();
+    return leftAligned(beginning, margin) + page.text().mid(margin);
 }
 
 QString ReceiptView::renderMessage(const tr::Tr &message) const

@@ -11,9 +11,9 @@ namespace till {
 /*!
  * Receipts, questions and messages as text for the cashier, in one language.
  *
- * Every line ends with a line break. Receipts fit 80 columns: what is too long is elided or goes on
- * in the next line; only numbers are shown whole, even where enormous ones make the table wider.
- * Control characters in names and texts never reach the terminal.
+ * Every line ends with a line break. Receipts fit the columns of the style, from 60 on: what is too
+ * long is elided or goes on in the next line; only numbers are shown whole, even where enormous
+ * ones make the table wider. Control characters in names and texts never reach the terminal.
  */
 class ReceiptView
 {
@@ -29,6 +29,13 @@ public:
 
     //! A question and below it the two choices.
     QString renderQuestion(const Question &question) const;
+
+    //! A line in which the words of \a text stand behind \a margin columns, and go on so in as many
+    //! more as they need; \a beginning stands before them, in a line of its own where it is longer.
+    QString renderBehind(const QString &beginning, const QString &text, int margin) const;
+
+    //! How many columns a line has.
+    int columns() const { return m_style.columns(); }
 
     //! A message or a refusal.
     QString renderMessage(const tr::Tr &message) const;

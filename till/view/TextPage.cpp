@@ -58,9 +58,9 @@ void TextPage::writePieces(const QList<Piece> &pieces, int indent)
     QString line;
     int column = 0; // behind the line's last sign
     for (const Piece &piece : pieces) {
-        const QString shown = elided(piece.text, width - indent);
+        const QString shown = elided(piece.text, m_width - indent);
         const int columns = displayWidth(shown);
-        if (!line.isEmpty() && column + 1 + columns > width) {
+        if (!line.isEmpty() && column + 1 + columns > m_width) {
             write(line);
             line.clear();
         }

@@ -9,9 +9,14 @@ namespace till {
 //! How texts are dressed up.
 struct Style
 {
+    //! How many columns a line has where there is no terminal.
+    static int columnsOfAPipe() { return 80; }
+
     //! True on a terminal: colours, and stornoed lines struck through. False in a pipe: not one
-    //! escape character, and stornoed lines begin with an "x".
+    //! escape character.
     bool colour = false;
+    //! How many columns a line has; asked for each page, as a terminal's width changes.
+    int (*columns)() = columnsOfAPipe;
 };
 
 //! What a text looks like on a terminal.
@@ -31,13 +36,14 @@ QList<Piece> separated(QList<Piece> pieces, const QString &separator);
 class TextPage
 {
 public:
-    //! Columns of a line.
-    static constexpr int width = 80;
-
     explicit TextPage(Style style)
         : m_style(style)
+        , m_width(style.columns())
     {
     }
+
+    //! Columns of a line.
+    int width() const { return m_width; }
 
     //! \a text as \a paint looks in the page's style; as it stands when there is no colour.
     QString painted(const QString &text, Paint paint) const;
@@ -54,6 +60,7 @@ public:
 
 private:
     Style m_style;
+    int m_width;
     QString m_text;
 };
 

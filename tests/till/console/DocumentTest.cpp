@@ -28,6 +28,8 @@ TEST_F(Page, EachCommand_IsThere)
     EXPECT_GT(lines.size(), 20);
     for (const QString &line : lines) {
         const QString usage = line.mid(2, 28).trimmed();
+        if (usage.isEmpty())
+            continue; // the explanation goes on
         EXPECT_TRUE(hasRow(usage)) << usage.toStdString();
     }
 }
@@ -52,7 +54,7 @@ TEST_F(Page, EachOption_IsThere)
     const QStringList lines = QString::fromStdString(run({"--help"}).out).split('\n');
     int options = 0;
     for (const QString &line : lines) {
-        const QString option = line.trimmed().section(' ', 0, 0);
+        const QString option = line.trimmed().section(' ', 0, 0).remove(',');
         if (!line.startsWith("  --"))
             continue;
         ++options;

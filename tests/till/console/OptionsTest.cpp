@@ -1,6 +1,7 @@
 #include "tests/till/console/ProgramFixture.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
 
 // The program's own arguments and exit statuses.
 
@@ -22,6 +23,46 @@ TEST_F(Options, Help_TellsModesAndStatuses)
     EXPECT_EQ(help.err, "");
     for (const char *word : {"play FILE...", "demo", "info", "--db", "--trace", "Exit status"})
         EXPECT_THAT(help.out, HasSubstr(word));
+}
+
+TEST_F(Options, Manual_HasEveryOptionModeAndCommand)
+{
+    const RunResult manual = run({"--manual"});
+    EXPECT_EQ(manual.status, 0);
+    EXPECT_EQ(manual.err, "");
+    QString page = QString::fromStdString(manual.out).replace("\\-", "-");
+    const QStringList help = QString::fromStdString(run({"--help"}).out).split('\n');
+    int entries = 0;
+    for (const QString &line : help) {
+        if (!line.startsWith("  till ") && !line.startsWith("  --"))
+            continue;
+        ++entries;
+        const QString name = line.trimmed().section(QRegularExpression("  +|[ ,]<?"), 0, 1);
+        EXPECT_TRUE(page.contains("\n.B " + name.section(' ', 0, 0))) << name.toStdString();
+    }
+    EXPECT_GE(entries, 15);
+    for (const QString command : {"open", "softcheck NUMBER", "set [KEY VALUE]", "quit"})
+        EXPECT_TRUE(page.contains("\n.B " + command)) << command.toStdString();
+}
+
+TEST_F(Options, CompletionOfBash_IsThatOfTheHelp)
+{
+    const auto completed = [](const QString &words) {
+        QProcess bash;
+        bash.start("bash",
+                   {"--norc", "-c",
+                    "compopt() { :; }; . " TILL_COMPLETION "; COMP_WORDS=(" TILL_PROGRAM " " + words
+                        + "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _till " TILL_PROGRAM
+                          "; printf '%s ' \"${COMPREPLY[@]}\""});
+        EXPECT_TRUE(bash.waitForFinished(patience));
+        EXPECT_EQ(bash.readAllStandardError().toStdString(), "");
+        return bash.readAllStandardOutput().toStdString();
+    };
+    EXPECT_EQ(completed("''"), "play demo info check backup set-apart ");
+    EXPECT_EQ(completed("s"), "set-apart ");
+    EXPECT_EQ(completed("--c"), "--catalogue --config --colour --color ");
+    EXPECT_EQ(completed("--lang ''"), "ru en ");
+    EXPECT_EQ(completed("play " + write("one.till", "")), path("one.till").toStdString() + " ");
 }
 
 TEST_F(Options, Version_IsTold)

@@ -8,19 +8,22 @@
 
 #include <poll.h>
 #include <pty.h>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
 [[noreturn]] void become(const std::string &program, const std::vector<std::string> &arguments,
-                         const std::string &home)
+                         const std::string &home, const Terminal::Variables &environment)
 {
     setenv("HOME", home.c_str(), 1);
     setenv("XDG_DATA_HOME", home.c_str(), 1);
     setenv("LC_ALL", "C.UTF-8", 1);
     setenv("TERM", "dumb", 1);
     setenv("INPUTRC", "/dev/null", 1);
+    for (const auto &[name, value] : environment)
+        setenv(name.c_str(), value.c_str(), 1);
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char *> pointers;
@@ -34,12 +37,12 @@ namespace {
 } // namespace
 
 Terminal::Terminal(const std::string &program, const std::vector<std::string> &arguments,
-                   const std::string &home)
+                   const std::string &home, const Variables &environment, int columns)
 {
-    const winsize size{50, 200, 0, 0};
+    const winsize size{50, static_cast<unsigned short>(columns), 0, 0};
     m_process = forkpty(&m_screen, nullptr, nullptr, &size);
     if (m_process == 0)
-        become(program, arguments, home);
+        become(program, arguments, home, environment);
     EXPECT_GT(m_process, 0);
 }
 
@@ -50,6 +53,12 @@ Terminal::~Terminal()
         waitpid(m_process, nullptr, 0);
     }
     close(m_screen);
+}
+
+void Terminal::resize(int columns) const
+{
+    const winsize size{50, static_cast<unsigned short>(columns), 0, 0};
+    EXPECT_EQ(ioctl(m_screen, TIOCSWINSZ, &size), 0);
 }
 
 void Terminal::type(const std::string &keys) const

@@ -2,6 +2,7 @@
 #define TESTS_TILL_CONSOLE_TERMINAL_H
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <sys/types.h>
@@ -10,14 +11,18 @@
 class Terminal
 {
 public:
+    using Variables = std::vector<std::pair<std::string, std::string>>;
+
     //! Starts \a program with \a arguments; its files are at home in \a home.
     Terminal(const std::string &program, const std::vector<std::string> &arguments,
-             const std::string &home);
+             const std::string &home, const Variables &environment = {}, int columns = 200);
     //! Kills the program if it still runs.
     ~Terminal();
     Terminal(const Terminal &) = delete;
     Terminal &operator=(const Terminal &) = delete;
 
+    //! Makes the terminal that wide.
+    void resize(int columns) const;
     //! Types \a keys, as they are.
     void type(const std::string &keys) const;
     //! Reads until \a text has come; what came up to its end. Fails the test when it does not come.

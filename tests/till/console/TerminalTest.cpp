@@ -14,9 +14,11 @@ protected:
     OnTerminal() { switchOn(); }
 
     //! A till at its first prompt, in place of the one before.
-    void switchOn(const std::vector<std::string> &options = {"--colour", "never"})
+    void switchOn(const std::vector<std::string> &options = {"--colour", "never"},
+                  const Terminal::Variables &environment = {}, int columns = 200)
     {
-        terminal.emplace(TILL_PROGRAM, options, directory.path().toStdString());
+        terminal.emplace(TILL_PROGRAM, options, directory.path().toStdString(), environment,
+                         columns);
         greeting = terminal->readTo(Terminal::prompt);
     }
 
@@ -133,8 +135,126 @@ TEST_F(OnTerminal, InterruptedReceipt_IsShownAndGoesOn)
 
 TEST_F(OnTerminal, Colours_AreForTerminals)
 {
-    switchOn({});
-    EXPECT_THAT(enter("open"), HasSubstr("\x1b["));
+    switchOn({}, {{"TERM", "xterm"}});
+    EXPECT_THAT(enter("open"), HasSubstr("\x1b[1m"));
+    switchOn({}, {{"TERM", "dumb"}});
+    EXPECT_THAT(greeting + enter("show"), Not(HasSubstr("\x1b[1m")));
+    switchOn({}, {{"TERM", "xterm"}, {"NO_COLOR", "1"}});
+    EXPECT_THAT(greeting + enter("show"), Not(HasSubstr("\x1b[1m")));
+    switchOn({"--color", "always"}, {{"NO_COLOR", "1"}});
+    EXPECT_THAT(enter("show"), HasSubstr("\x1b[1m"));
+}
+
+TEST_F(OnTerminal, StornoedLine_IsMarkedInColourToo)
+{
+    switchOn({"--color", "always"});
+    enter("open");
+    enter("add CHIPS");
+    enter("answer yes");
+    EXPECT_THAT(enter("storno 1"), HasSubstr("x \x1b[9m1  CHIPS"));
+}
+
+//! The columns of the widest line.
+qsizetype widest(const std::string &text)
+{
+    qsizetype width = 0;
+    const QStringList lines = QString::fromStdString(text).split("\r\n");
+    for (const QString &line : lines)
+        width = std::max(width, line.size());
+    return width;
+}
+
+TEST_F(OnTerminal, Width_IsTheTerminalsWithinLimits)
+{
+    struct Size
+    {
+        int terminal;
+        int receipt;
+    };
+    switchOn({"--colour", "never"}, {}, 80);
+    enter("open");
+    enter("add CAN3");
+    for (const Size size : {Size{60, 60}, {100, 100}, {40, 60}, {200, 120}}) {
+        terminal->resize(size.terminal);
+        terminal->type("show\n");
+        terminal->readTo("show\r\n");
+        EXPECT_EQ(widest(terminal->readTo("ИТОГО")), size.receipt) << size.terminal;
+    }
+}
+
+TEST_F(OnTerminal, PastedLines_AreEachACommandAndInTheHistory)
+{
+    switchOn({"--colour", "never"}, {{"TERM", "xterm"}});
+    terminal->type("\x1b[200~# a script\nopen\nadd CHIPS\nadd BAG 2\n\x1b[201~\n");
+    terminal->readTo("199.90"); // both articles: 129.90 and two bags
+    terminal->readTo(Terminal::prompt);
+    terminal->type("\x10\x10\n"); // the command before the last one
+    EXPECT_THAT(terminal->readTo("329.80"), HasSubstr("CHIPS\r\n"));
+}
+
+TEST_F(OnTerminal, PastedAnswer_IsTaken)
+{
+    switchOn({"--colour", "never"}, {{"TERM", "xterm"}});
+    terminal->type("\x1b[200~open\nadd CHIPS\nstorno 1\nyes\nsay done\x1b[201~\n");
+    terminal->readTo("x 1  CHIPS");
+    terminal->readTo("\r\ndone");
+}
+
+TEST_F(OnTerminal, CtrlC_DropsTheLine)
+{
+    terminal->type("nonsense\x03");
+    terminal->readTo(Terminal::prompt);
+    EXPECT_THAT(enter("open"), Not(HasSubstr("nonsense")));
+    terminal->type("\x03");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("ещё раз Ctrl-C"));
+    enter("add CHIPS"); // between them: the next one does not leave either
+    terminal->type("\x03");
+    terminal->readTo(Terminal::prompt);
+    terminal->type("\x03");
+    EXPECT_THAT(terminal->readTo("сохранён"), HasSubstr("Открытый чек"));
+    EXPECT_EQ(terminal->end(), 0);
+}
+
+TEST_F(OnTerminal, CtrlCAtAQuestion_AnswersNo)
+{
+    enter("open");
+    enter("add CHIPS");
+    terminal->type("storno 1\n");
+    terminal->readTo("да/нет> ");
+    terminal->type("\x03");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("отказано"));
+}
+
+TEST_F(OnTerminal, Tab_CompletesByThePlaceOfTheWord)
+{
+    enter("open");
+    terminal->type("add HON\t\t2\n"); // a quantity is none of the articles
+    EXPECT_THAT(terminal->readTo("1240.00"), HasSubstr("add HONEY \a2"));
+    terminal->readTo(Terminal::prompt);
+    terminal->type("expect cont\tact\t\n");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("expect control active"));
+    terminal->type("expect accepted qty \t3\n");
+    EXPECT_THAT(terminal->readTo("1860.00"), HasSubstr("expect accepted qty 1 3"));
+    terminal->readTo(Terminal::prompt);
+    terminal->type("set Pack\tfal\t\n");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt),
+                HasSubstr("set PackagingControl:allowSaleEmptyTara false"));
+    terminal->type("articles HON\t\n");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("articles HONEY"));
+    terminal->type("add \"HON\t 1\n");
+    EXPECT_THAT(terminal->readTo("2480.00"), HasSubstr("add \"HONEY\" "));
+}
+
+TEST_F(OnTerminal, LocaleThatIsNotUtf8_IsToldOnceAndWorks)
+{
+    switchOn({"--colour", "never"}, {{"LC_ALL", "C"}});
+    EXPECT_THAT(greeting, HasSubstr("Локаль не UTF-8"));
+    const std::string said = enter("open") + enter("add CHIPS") + enter("say Привет");
+    EXPECT_THAT(said, Not(HasSubstr("UTF-8")));
+    EXPECT_THAT(said, HasSubstr("ИТОГО"));
+    EXPECT_THAT(said, HasSubstr("\r\nПривет"));
+    switchOn();
+    EXPECT_THAT(greeting, Not(HasSubstr("UTF-8")));
 }
 
 } // namespace

@@ -57,6 +57,26 @@ TEST(Elided, SignOutsideTheBasicPlane_IsNotCutInTwo)
     EXPECT_EQ(till::elided("🍺🍺🍺", 4), "🍺…");
 }
 
+TEST(DisplayWidth, JoinedSigns_TakeTheColumnsOfOne)
+{
+    EXPECT_EQ(till::displayWidth("👨\u200d👩\u200d👧"), 2);
+    EXPECT_EQ(till::displayWidth("👍🏽"), 2);
+    EXPECT_EQ(till::displayWidth("🇩🇪"), 2);
+    EXPECT_EQ(till::displayWidth("❤\ufe0f"), 2);
+    EXPECT_EQ(till::displayWidth("é"), 1);
+    EXPECT_EQ(till::displayWidth("e\u0301\u0323"), 1);
+}
+
+TEST(Elided, JoinedSigns_AreNotCutInTwo)
+{
+    EXPECT_EQ(till::elided("👨\u200d👩\u200d👧👨\u200d👩\u200d👧ab", 4), "👨\u200d👩\u200d👧…");
+}
+
+TEST(Printable, Joiners_Stay)
+{
+    EXPECT_EQ(till::printable("👨\u200d👩"), "👨\u200d👩");
+}
+
 TEST(Aligned, ShortText_GetsSpacesByItsColumns)
 {
     EXPECT_EQ(till::leftAligned("и\u0306漢", 5), "и\u0306漢  ");
