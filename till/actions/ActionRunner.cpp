@@ -6,6 +6,7 @@
 #include "host/Event.h"
 #include "host/Quantity.h"
 #include "till/language/TillMessages.h"
+#include "till/language/Translator.h"
 
 #include <QtCore/QJsonArray>
 
@@ -13,15 +14,9 @@ namespace till {
 
 namespace {
 
-QString originName(ActionRunner::Origin origin)
+QJsonObject argumentsOf(const control::Action &action)
 {
-    return origin == ActionRunner::Origin::Cashier ? QStringLiteral("cashier")
-                                                   : QStringLiteral("program");
-}
-
-QJsonObject describe(const control::Action &action)
-{
-    QJsonObject fields{{"type", action.getType()}};
+    QJsonObject fields;
     const auto arguments = action.getArguments();
     for (auto entry = arguments.cbegin(); entry != arguments.cend(); ++entry)
         fields.insert(entry.key(), QJsonValue::fromVariant(entry.value()));
@@ -41,8 +36,7 @@ QVariantMap describeSplit(const QSharedPointer<Position> &source, const GoodsIte
 double countOf(const control::Action &action, double base, double pack)
 {
     const QVariant asked = action.getArguments().value(argument::count);
-    const bool isAsked = asked.isValid() && asked.toDouble() * pack == base;
-    return isAsked ? asked.toDouble() : base / pack;
+    return asked.toDouble() * pack == base ? asked.toDouble() : base / pack;
 }
 
 //! What is left of a position below this many pieces is nothing.
@@ -61,14 +55,13 @@ ActionRunner::ActionRunner(HostProgram &program, HostServices &services, Notes &
 
 EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
 {
-    QJsonObject description = describe(action);
-    description.insert("origin", originName(origin));
-    m_notes.add("action", description);
+    m_notes.add("action", describe(action, origin));
 
     EContext::Result result = EContext::Continue;
     {
         const Notes::Nesting inside(m_notes);
         result = runTriggers(action, ActionTrigger::Before);
+        m_reason = {m_program.lastShown(), {}};
         if (origin == Origin::Cashier)
             m_wasStoppedByPlugin = result != EContext::Continue;
         if (result == EContext::Continue)
@@ -77,13 +70,41 @@ EContext::Result ActionRunner::run(const control::Action &action, Origin origin)
             runTriggers(action, ActionTrigger::After);
     }
     m_services.modifiers().clearAll();
-    m_notes.add("result", {{"type", action.getType()}, {"result", result}});
+    m_notes.add("result", describeResult(action, result));
     return result;
 }
 
-void ActionRunner::runTriggersAfter(const control::Action &action)
+QJsonObject ActionRunner::describe(const control::Action &action, Origin origin)
 {
-    runTriggers(action, ActionTrigger::After);
+    QJsonObject fields = argumentsOf(action);
+    fields.insert("type", action.getType());
+    fields.insert("origin", origin == Origin::Cashier ? "cashier" : "program");
+    const QVariant quantity = m_services.modifiers().value(modifiers::Quantity);
+    if (action.getType() == control::ApplyModifiers && quantity.isValid())
+        fields.insert("base", quantity.value<Quantity>().amount());
+    return fields;
+}
+
+QJsonObject ActionRunner::describeResult(const control::Action &action,
+                                         EContext::Result result) const
+{
+    if (result != EContext::Error)
+        return {{"type", action.getType()}, {"result", result}};
+    return {{"type", action.getType()},
+            {"result", result},
+            {"key", m_reason.key()},
+            {"text", Translator().text(m_reason)}};
+}
+
+EContext::Result ActionRunner::fail(const Message &reason)
+{
+    m_reason = reason;
+    return EContext::Error;
+}
+
+EContext::Result ActionRunner::noPosition(int posnum)
+{
+    return fail({messages::tillNoPosition(), {QString::number(posnum)}});
 }
 
 EContext::Result ActionRunner::runTriggers(const control::Action &action,
@@ -136,7 +157,7 @@ EContext::Result ActionRunner::carryOut(const control::Action &action, Origin or
     case control::CancelReceipt:
         return enter(ReceiptState::Cancelled);
     }
-    return EContext::Error;
+    return fail(told("till", "the register knows no such action"));
 }
 
 EContext::Result ActionRunner::add(const control::Action &action)
@@ -144,7 +165,7 @@ EContext::Result ActionRunner::add(const control::Action &action)
     const auto arguments = action.getArguments();
     const auto article = m_findArticle(arguments.value(argument::article).toString());
     if (!article)
-        return EContext::Error;
+        return fail({messages::tillNoArticle(), {arguments.value(argument::article).toString()}});
     const auto position = m_receipt->add(article, arguments.value(argument::count).toDouble());
     control::args::Core(action).setPositionNumber(position->getPosnum());
     m_receipt->setState(ReceiptState::Open);
@@ -157,14 +178,16 @@ EContext::Result ActionRunner::applyModifiers(const control::Action &action, Ori
 {
     const int posnum = control::args::Core(action).positionNumber();
     const QVariant quantity = m_services.modifiers().value(modifiers::Quantity);
-    if (!m_receipt->getPositionByPosnum(posnum) || !quantity.isValid())
-        return EContext::Error;
+    if (!m_receipt->getPositionByPosnum(posnum))
+        return noPosition(posnum);
+    if (!quantity.isValid())
+        return fail(told("till", "no quantity was given"));
     const auto position = m_receipt->line(posnum);
     const double base = quantity.value<Quantity>().amount();
     const double count = countOf(action, base, position->article().pack);
     if (!m_receipt->hasPlaceFor(position->article(), count, position.get())) {
         m_program.show(messages::tillCannotFollow());
-        return EContext::Error;
+        return fail({messages::tillCannotFollow(), {}});
     }
     position->setQuantity(count, base);
     m_receipt->note(*position);
@@ -180,7 +203,7 @@ EContext::Result ActionRunner::storno(const control::Action &action)
 {
     const control::args::Storno arguments(action);
     if (!m_receipt->getPositionByPosnum(arguments.positionNumber()))
-        return EContext::Error;
+        return noPosition(arguments.positionNumber());
     if (!arguments.withoutDialog()
         && !m_program.ask(
             {messages::tillStornoPosition(), messages::tillYes(), messages::tillNo()}))
@@ -191,7 +214,7 @@ EContext::Result ActionRunner::storno(const control::Action &action)
 EContext::Result ActionRunner::remove(int posnum)
 {
     if (!m_receipt->storno(posnum))
-        return EContext::Error;
+        return noPosition(posnum);
     m_receipt->setState(ReceiptState::Open);
     m_receipt->touch();
     publish(EActivityListener::eventPositionStorno, m_receipt->line(posnum));
@@ -202,7 +225,7 @@ EContext::Result ActionRunner::split(const control::Action &action)
 {
     const int posnum = control::args::Core(action).positionNumber();
     if (!m_receipt->getPositionByPosnum(posnum))
-        return EContext::Error;
+        return noPosition(posnum);
     const auto source = m_receipt->line(posnum);
     const auto article = QSharedPointer<Article>::create(source->article());
     double left = source->getCquant();

@@ -53,11 +53,19 @@ public:
 
     //! Runs the triggers after \a action alone, for an action that was carried out in an earlier
     //! life.
-    void runTriggersAfter(const control::Action &action);
+    void runTriggersAfter(const control::Action &action)
+    {
+        runTriggers(action, ActionTrigger::After);
+    }
 
 private:
     EContext::Result runTriggers(const control::Action &action, ActionTrigger::Order order);
     EContext::Result carryOut(const control::Action &action, Origin origin);
+    //! Ends an action that cannot be carried out.
+    EContext::Result fail(const Message &reason);
+    EContext::Result noPosition(int posnum);
+    QJsonObject describe(const control::Action &action, Origin origin);
+    QJsonObject describeResult(const control::Action &action, EContext::Result result) const;
 
     EContext::Result add(const control::Action &action);
     EContext::Result applyModifiers(const control::Action &action, Origin origin);
@@ -77,6 +85,7 @@ private:
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;
     bool m_wasStoppedByPlugin = false;
+    Message m_reason; //!< why the last action that ended with an error did
 };
 
 } // namespace till

@@ -22,6 +22,8 @@ class HostProgram : public Front
 public:
     //! Carries \a action out now, nested in what runs already; an `EContext::Result`.
     virtual int runQueued(const control::Action &action) = 0;
+    //! What was shown last in the command that is under way; empty when nothing was.
+    virtual tr::Tr lastShown() const = 0;
 
 protected:
     ~HostProgram() = default;

@@ -383,5 +383,13 @@
         <source>The locale is not UTF-8: texts are written in UTF-8 all the same</source>
         <translation>Локаль не UTF-8: тексты всё равно пишутся в UTF-8</translation>
     </message>
+    <message>
+        <source>the register knows no such action</source>
+        <translation>касса не знает такого действия</translation>
+    </message>
+    <message>
+        <source>no quantity was given</source>
+        <translation>количество не задано</translation>
+    </message>
 </context>
 </TS>

@@ -2,6 +2,8 @@
 
 #include "till/register/SettingsFile.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDateTime>
 #include <QtCore/QScopedValueRollback>
 
 #include <utility>
@@ -128,9 +130,24 @@ Result<> CashDesk::loadPlugin()
     return {};
 }
 
+QJsonObject CashDesk::describeStart() const
+{
+    QJsonObject inForce;
+    const QStringList all = settings();
+    for (const QString &setting : all) // KEY=true or KEY=false
+        inForce.insert(setting.section('=', 0, 0), setting.section('=', 1) == "true");
+    return {{"version", QCoreApplication::applicationVersion()},
+            {"qt", qVersion()},
+            {"time", QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)},
+            {"database", m_setup.database},
+            {"catalogue", m_setup.catalogue},
+            {"plugin", m_setup.plugin},
+            {"settings", inForce}};
+}
+
 Result<> CashDesk::startRegister()
 {
-    m_notes.add("start", {{"database", m_setup.database}, {"plugin", m_setup.plugin}});
+    m_notes.add("start", describeStart());
     m_register = std::make_unique<Register>(Register::Parts{
         *m_catalogue, *m_storage, m_plugin ? &*m_plugin : nullptr, *m_settings, m_notes, &m_front});
     m_receiptSeen = m_register->onReceiptChanged([this] { m_receiptObservers.tell(); });

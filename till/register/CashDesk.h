@@ -90,6 +90,7 @@ private:
     Result<> readCatalogue();
     Result<> openDatabase();
     Result<> loadPlugin();
+    QJsonObject describeStart() const;
     Result<> startRegister();
 
     Setup m_setup;

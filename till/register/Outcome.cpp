@@ -8,7 +8,8 @@ namespace {
 
 QJsonObject describe(const Outcome &outcome)
 {
-    static const QStringList names{"done", "refused", "refused", "refused", "mistake", "failed"};
+    static const QStringList names{"done",    "refused", "refused",   "refused",
+                                   "mistake", "failed",  "unexpected"};
     static const QStringList refusers{"plugin", "register", "cashier"};
     QJsonObject fields{
         {"outcome", names[outcome.kind]}, {"key", outcome.reason.key()}, {"text", outcome.text()}};

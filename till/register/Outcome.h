@@ -20,8 +20,9 @@ struct Outcome
         RefusedByPlugin,   //!< a trigger of the plugin stopped it with an error
         RefusedByRegister, //!< the receipt does not allow it as it stands, or it came too early
         Declined,          //!< the cashier's answer to a question stopped it
-        Mistake, //!< the command itself is wrong: an unknown word, article, position, number
-        Failed,  //!< it could not be stored; the receipt is as it was before
+        Mistake,    //!< the command itself is wrong: an unknown word, article, position, number
+        Failed,     //!< it could not be stored; the receipt is as it was before
+        Unexpected, //!< what was expected does not hold
     };
 
     Kind kind = Done;

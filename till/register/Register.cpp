@@ -50,6 +50,8 @@ Register::~Register()
     m_isBusy = true; // the plugin may ask something when it ends
     if (m_isPluginReady)
         m_plugin->plugin->deinit();
+    if (m_receipt)
+        m_receiptNotes.tellTakenUp(nullptr);
 }
 
 Result<> Register::start()

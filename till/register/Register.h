@@ -82,6 +82,7 @@ private:
     int runQueued(const control::Action &action) override;
     bool ask(const Question &question) override;
     void show(const tr::Tr &message) override;
+    tr::Tr lastShown() const override { return m_shown; }
 
     Outcome execute(const command::Open &open);
     Outcome execute(const command::Add &add);

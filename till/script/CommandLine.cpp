@@ -124,9 +124,11 @@ Outcome CommandLine::runWords(const QStringList &typed, const QString &text)
     const QStringList words = canonical(typed);
     if (rowCalled(words[0], registerWords()))
         return carryOut(words, text);
-    // What is expected of a command is told as that command.
-    if (words[0] == "expect" && Expectations::isOfCommand(words.mid(1)))
-        return expect(words.mid(1));
+    // What is expected of a command is told as that command; what does not hold, behind it.
+    if (words[0] == "expect" && Expectations::isOfCommand(words.mid(1))) {
+        const Outcome outcome = expect(words.mid(1));
+        return outcome ? outcome : tellCommand(m_notes, text, [&] { return outcome; });
+    }
     return tellCommand(m_notes, text, [&] { return runOwn(words); });
 }
 

@@ -47,6 +47,9 @@ public:
      */
     QString leftOver() const;
 
+    //! Where it is told what happens.
+    Notes &notes() { return m_notes; }
+
     //! Whether the last command was "quit".
     bool hasQuit() const { return m_hasQuit; }
 

@@ -6,7 +6,7 @@ namespace till {
 
 Outcome differs(const QString &what, const QString &expected, const QString &found)
 {
-    return {Outcome::Mistake,
+    return {Outcome::Unexpected,
             told("till", "%1: expected %2, found %3").with({what, expected, found}),
             {}};
 }

@@ -73,8 +73,8 @@ Outcome unknownExpectation(const QString &word, const QStringList &known)
 //! How a command ended, in the word by which "expect" is told so; a failure cannot be expected.
 QString endOf(const Outcome &outcome)
 {
-    static const QStringList words{"accepted", "refused", "refused",
-                                   "refused",  "mistake", "not stored"};
+    static const QStringList words{"accepted", "refused",    "refused",        "refused",
+                                   "mistake",  "not stored", "not as expected"};
     return words[outcome.kind];
 }
 

@@ -7,6 +7,12 @@ namespace till {
 
 namespace {
 
+bool isCommand(const QString &line)
+{
+    const QString trimmed = line.trimmed();
+    return !trimmed.isEmpty() && !trimmed.startsWith('#');
+}
+
 //! What a reader is shown of \a line before it is carried out: the command, also the expected one.
 QString shownCommand(const QString &line)
 {
@@ -16,8 +22,7 @@ QString shownCommand(const QString &line)
     const QString command = trimmed.section(' ', 0, 0).toLower();
     if (command == "expect" && ends.contains(trimmed.section(' ', 1, 1).toLower()))
         return trimmed.section(' ', 2);
-    const bool isSilent = trimmed.isEmpty() || trimmed.startsWith('#') || silent.contains(command);
-    return isSilent ? QString() : trimmed;
+    return !isCommand(line) || silent.contains(command) ? QString() : trimmed;
 }
 
 //! What is wrong with a line that ended so; of a refusal also its key.
@@ -54,9 +59,21 @@ QString Script::place(qsizetype line) const
 Result<> Script::play(CommandLine &commands,
                       const std::function<void(const QString &line)> &echo) const
 {
+    const Result<> played = playLines(commands, echo);
+    commands.notes().add("verdict", {{"file", m_path},
+                                     {"held", played.has_value()},
+                                     {"fault", played ? QString() : played.error().text()}});
+    return played;
+}
+
+Result<> Script::playLines(CommandLine &commands,
+                           const std::function<void(const QString &line)> &echo) const
+{
     for (qsizetype i = 0; i < m_lines.size() && !commands.hasQuit(); ++i) {
         if (const QString shown = shownCommand(m_lines[i]); !shown.isEmpty())
             echo(forTerminal(shown));
+        if (isCommand(m_lines[i]))
+            commands.notes().add("script", {{"file", m_path}, {"at", i + 1}});
         if (const Outcome outcome = commands.run(m_lines[i]); !outcome)
             return Fault{place(i), m_lines[i].trimmed() + ": " + why(commands, outcome)};
     }

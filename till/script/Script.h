@@ -13,7 +13,8 @@ public:
     Result<> read(const QString &path);
 
     /*!
-     * Carries the lines out until one does not end well, or all are done. The place of a fault is
+     * Carries the lines out until one does not end well, or all are done; notes each of them before
+     * it begins, and the verdict. The place of a fault is
      * `FILE:LINE`; an answer or a question that is left over at the end is one too. Each line that
      * is carried out is told to \a echo first; expectations and comments are not.
      */
@@ -21,6 +22,8 @@ public:
                   const std::function<void(const QString &line)> &echo) const;
 
 private:
+    Result<> playLines(CommandLine &commands,
+                       const std::function<void(const QString &line)> &echo) const;
     QString place(qsizetype line) const;
 
     QString m_path;

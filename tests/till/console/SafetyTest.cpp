@@ -161,7 +161,7 @@ TEST_F(TerminalSafety, Trace_HasControlsEscaped)
     EXPECT_THAT(traced.out, HasSubstr("say \\u007f\\u0080\\u009f\xc2\xa0."));
     expectHarmless(traced.out);
     const auto notes = trace(QByteArray::fromStdString(traced.out));
-    EXPECT_EQ(notes[1].value("text").toString(),
+    EXPECT_EQ(notes[2].value("text").toString(),
               QString::fromUtf8("say \x7f\xc2\x80\xc2\x9f\xc2\xa0."));
 }
 

@@ -2,6 +2,7 @@
 #include "tests/till/support/RebuiltReceipt.h"
 #include "tests/till/support/StoredReceipts.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 
 // The trace of the sample scripts, and receipts rebuilt from it alone.
@@ -138,9 +139,104 @@ TEST_F(Trace, Order_IsThatOfWhatHappened)
         if (inChange && kind != "log" && kind != "data")
             kinds.append(QString("%1 %2").arg(note.value("depth").toInt()).arg(kind));
     }
-    EXPECT_EQ(kinds.join(", "),
-              QString("0 command, 1 action, 2 trigger, 2 position, 2 event, 3 action, 4 trigger, "
-                      "4 position, 4 event, 3 result, 1 result, 1 receipt, 0 outcome"));
+    EXPECT_EQ(
+        kinds.join(", "),
+        QString(
+            "0 command, 1 action, 2 trigger, 2 position, 2 event, 3 action, 4 trigger, "
+            "4 position, 4 event, 3 result, 1 result, 1 receipt, 0 outcome, 0 verdict, 0 takeup"));
+}
+
+//! The last note of \a kind.
+QJsonObject lastOf(const QList<QJsonObject> &notes, const QString &kind)
+{
+    QJsonObject last;
+    for (const QJsonObject &note : notes)
+        last = note.value("kind") == kind ? note : last;
+    return last;
+}
+
+TEST_F(Trace, Start_SaysWhatIsOnAndWhen)
+{
+    const QJsonObject start =
+        traced(write("s.till", "set PackagingControl:allowSaleEmptyTara no")).value(3);
+    EXPECT_EQ(start.value("kind"), "start");
+    EXPECT_EQ(start.value("qt"), qVersion());
+    EXPECT_FALSE(start.value("version").toString().isEmpty());
+    EXPECT_EQ(start.value("database"), database());
+    EXPECT_TRUE(start.value("catalogue").toString().endsWith("catalogue.csv"));
+    EXPECT_EQ(start.value("settings").toObject(),
+              (QJsonObject{{"PackagingControl:allowSaleEmptyTara", false}}));
+    const auto time = QDateTime::fromString(start.value("time").toString(), Qt::ISODateWithMs);
+    EXPECT_TRUE(time.isValid());
+    EXPECT_EQ(time.timeSpec(), Qt::UTC);
+}
+
+TEST_F(Trace, ReceiptThatIsNotTakenUpAgain_IsLetGo)
+{
+    const auto notes = traced(write("s.till", "open\nadd CHIPS\npay\nrestart\n"));
+    QStringList takeups;
+    for (const QJsonObject &note : notes) {
+        const QString kind = note.value("kind").toString();
+        if (kind == "takeup" || kind == "start")
+            takeups.append(kind + QString::number(note.value("id").toInteger()));
+    }
+    EXPECT_EQ(takeups, (QStringList{"start0", "takeup0", "takeup0", "start0"}));
+}
+
+TEST_F(Trace, ChangeOfAQuantity_SaysWhichOne)
+{
+    const auto notes = traced(write("s.till", "open\nadd CAN3\nadd BEER3\nqty 1 2\n"));
+    QStringList quantities;
+    for (const QJsonObject &note : notes) {
+        if (note.value("kind") == "action" && note.value("type") == 5)
+            quantities.append(QString("%1 %2 %3")
+                                  .arg(note.value("origin").toString())
+                                  .arg(note.value("count").toDouble())
+                                  .arg(note.value("base").toDouble()));
+    }
+    EXPECT_EQ(quantities, (QStringList{"cashier 2 2", "program 0 6"}));
+}
+
+TEST_F(Trace, ActionThatIsStopped_SaysWhy)
+{
+    const auto byPlugin =
+        traced(write("s.till", "open\nadd CAN3\nadd BEER 1\nexpect refused qty 1 2\n"));
+    EXPECT_EQ(lastOf(byPlugin, "result").value("result"), 1);
+    EXPECT_EQ(lastOf(byPlugin, "result").value("key"), "packingControlTaraAlmostFull");
+    EXPECT_FALSE(lastOf(byPlugin, "result").value("text").toString().isEmpty());
+}
+
+TEST_F(Trace, Script_IsToldLineByLineWithItsVerdict)
+{
+    const QString script = write("s.till", "# a comment\n\nopen\nexpect state closed\n");
+    const RunResult done = run({"--trace", "-", "play", script});
+    EXPECT_EQ(done.status, 1);
+    const auto notes = trace(QByteArray::fromStdString(done.out));
+    QList<int> lines;
+    for (const QJsonObject &note : notes) {
+        if (note.value("kind") == "script")
+            lines.append(note.value("at").toInt());
+    }
+    EXPECT_EQ(lines, QList<int>({3, 4}));
+    const QJsonObject verdict = lastOf(notes, "verdict");
+    EXPECT_EQ(verdict.value("file"), script);
+    EXPECT_EQ(verdict.value("held"), false);
+    EXPECT_THAT(verdict.value("fault").toString().toStdString(), HasSubstr("s.till:4"));
+    EXPECT_EQ(lastOf(notes, "outcome").value("outcome"), "unexpected");
+}
+
+TEST_F(Trace, CommandThatEndsOtherwiseThanExpected_HasItsOwnOutcomeAndThenThatOne)
+{
+    const auto notes = trace(QByteArray::fromStdString(
+        run({"--trace", "-", "play", write("s.till", "expect refused open\n")}).out));
+    QStringList outcomes;
+    for (const QJsonObject &note : notes) {
+        if (note.value("kind") == "command")
+            outcomes.append(note.value("text").toString());
+        if (note.value("kind") == "outcome")
+            outcomes.append(note.value("outcome").toString());
+    }
+    EXPECT_EQ(outcomes, (QStringList{"open sale", "done", "expect refused open", "unexpected"}));
 }
 
 TEST_F(Trace, ToStandardOutput_IsAllThatStandsThere)
@@ -148,8 +244,8 @@ TEST_F(Trace, ToStandardOutput_IsAllThatStandsThere)
     const RunResult done =
         run({"--trace", "-", "play", write("s.till", "open\nadd CHIPS\nshow\n")});
     EXPECT_EQ(done.status, 0);
-    EXPECT_EQ(trace(QByteArray::fromStdString(done.out)).last().value("outcome").toString(),
-              QString("done"));
+    EXPECT_EQ(trace(QByteArray::fromStdString(done.out)).last().value("kind").toString(),
+              QString("takeup"));
 }
 
 //! The rows of the tables of docs/trace.md: kinds, then what is said of their fields.

@@ -129,8 +129,9 @@ void TraceReader::read(const QJsonObject &note)
 
 void TraceReader::readTakeup(const QJsonObject &note)
 {
-    m_takenUp = {};
     m_takesUp = note["id"].toInteger() != 0;
+    if (m_takesUp)
+        m_takenUp = {};
 }
 
 void TraceReader::readCommand(const QJsonObject &note, const QString &kind)

@@ -22,9 +22,13 @@ void failOnMessage(QtMsgType, const QMessageLogContext &context, const QString &
 
 void PrintTo(const Outcome &outcome, std::ostream *out)
 {
-    static const char *const names[] = {
-        "done",  "refused by the plugin", "refused by the register", "declined", "mistake",
-        "failed"};
+    static const char *const names[] = {"done",
+                                        "refused by the plugin",
+                                        "refused by the register",
+                                        "declined",
+                                        "mistake",
+                                        "failed",
+                                        "unexpected"};
     *out << names[outcome.kind] << " \"" << outcome.text().toStdString() << '"';
 }
 
@@ -81,6 +85,11 @@ QString TillTest::refused(const QString &line)
 QString TillTest::mistake(const QString &line)
 {
     return ends(Outcome::Mistake, line).text(Translator(QStringLiteral("en")));
+}
+
+QString TillTest::unexpected(const QString &line)
+{
+    return ends(Outcome::Unexpected, line).text(Translator(QStringLiteral("en")));
 }
 
 Outcome TillTest::ends(Outcome::Kind kind, const QString &line)

@@ -41,6 +41,8 @@ protected:
     QString refused(const QString &line);
     //! The same for a mistake; what is said of it in English.
     QString mistake(const QString &line);
+    //! The same for what does not hold.
+    QString unexpected(const QString &line);
     //! The same for a failure; its detail.
     QString failed(const QString &line) { return ends(Outcome::Failed, line).detail; }
     //! Each must hold.
