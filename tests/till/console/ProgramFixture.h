@@ -1,14 +1,14 @@
 #ifndef TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
 #define TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
 
+#include "tests/till/support/FolderTest.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QStringList>
-#include <QtCore/QTemporaryDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <string>
 
@@ -23,10 +23,9 @@ struct RunResult
 };
 
 //! Runs the till's program, at home in a directory of the test's.
-class ProgramTest : public testing::Test
+class ProgramTest : public till::FolderTest
 {
 protected:
-    QString path(const QString &name) const { return directory.filePath(name); }
     QString database() const { return path("till.sqlite"); }
 
     //! Writes a file into the directory; its path.
@@ -42,8 +41,6 @@ protected:
 
     //! The objects of a trace.
     static QList<QJsonObject> trace(const QByteArray &lines);
-
-    QTemporaryDir directory;
 };
 
 #endif // TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H

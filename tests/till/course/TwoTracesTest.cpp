@@ -1,10 +1,8 @@
+#include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Results.h"
 #include "till/course/Trace.h"
 
 #include <QtCore/QJsonDocument>
-#include <QtCore/QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 // Traces come and go without each other's knowledge.
 
@@ -12,18 +10,18 @@ namespace till {
 
 namespace {
 
-class TwoTraces : public testing::Test
+class TwoTraces : public FolderTest
 {
 protected:
     std::unique_ptr<Trace> started(const QString &name)
     {
-        return must(Trace::start(notes, directory.filePath(name)));
+        return must(Trace::start(notes, path(name)));
     }
 
     //! The lines of a trace: their numbers and kinds.
     QStringList lines(const QString &name) const
     {
-        QFile file(directory.filePath(name));
+        QFile file(path(name));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         QStringList found;
         while (!file.atEnd()) {
@@ -40,7 +38,6 @@ protected:
         notes.addState("position", {});
     }
 
-    QTemporaryDir directory;
     Notes notes;
 };
 

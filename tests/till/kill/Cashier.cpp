@@ -32,7 +32,7 @@ QByteArray Cashier::next(const ToldReceipt &receipt)
 
 QByteArrayList Cashier::think(const ToldReceipt &receipt)
 {
-    if (!receipt.isInHand())
+    if (!receipt.isOpen())
         return {number(0, 9) == 0 ? "open return" : "open"};
     if (receipt.record.lines.isEmpty())
         return {"add CHIPS"};

@@ -1,6 +1,7 @@
 #include "tests/till/kill/KillFixture.h"
 
 #include "tests/support/Chance.h"
+#include "till/receipt/Receipt.h"
 
 #include <QtCore/QDataStream>
 #include <QtCore/QJsonArray>
@@ -165,7 +166,7 @@ QByteArray KilledTill::thinkOfCommand()
 {
     const ToldReceipt &receipt = m_trace.acknowledged();
     // The first line is an ordinary article: the plugin only saves what it had restored.
-    m_savesAgain = m_sent.isEmpty() && receipt.isInHand() && receipt.isWatched()
+    m_savesAgain = m_sent.isEmpty() && receipt.isOpen() && receipt.isWatched()
                    && !receipt.record.lines.isEmpty();
     return m_savesAgain ? "qty 1 1" : m_cashier.next(receipt);
 }
@@ -203,7 +204,7 @@ void KilledTill::read(const QJsonObject &note)
 void KilledTill::checkTakenUp() const
 {
     ToldReceipt expected =
-        m_trace.acknowledged().isInHand() ? m_trace.acknowledged().asTakenUp() : ToldReceipt();
+        m_trace.acknowledged().isOpen() ? m_trace.acknowledged().asTakenUp() : ToldReceipt();
     expected.journal.clear();
     EXPECT_EQ(m_trace.takenUp(), expected);
 }
@@ -241,7 +242,7 @@ void KilledTill::checkRegistry(const Storage &storage) const
 {
     const ToldReceipt &told = m_trace.acknowledged();
     const auto record = unfinished(storage);
-    ASSERT_EQ(record ? record->id : 0, told.isInHand() ? told.record.id : 0);
+    ASSERT_EQ(record ? record->id : 0, told.isOpen() ? told.record.id : 0);
     const QJsonObject saved = told.data.value(pluginId);
     if (!record || record->type != Document::Sale || !record->order.isEmpty() || saved.isEmpty())
         return;

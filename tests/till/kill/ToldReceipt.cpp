@@ -1,10 +1,8 @@
 #include "tests/till/kill/ToldReceipt.h"
 
 #include "tests/till/storage/StorageFixture.h"
-#include "tests/till/support/ToldValue.h"
 #include "till/actions/ActionRunner.h"
 
-#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 
 #include <gtest/gtest.h>
@@ -13,47 +11,6 @@
 #include <utility>
 
 namespace till {
-
-namespace {
-
-//! Sets the line that a position note tells.
-void tellLine(ReceiptRecord &record, const QJsonObject &note)
-{
-    const LineRecord line{note["position"].toInt(),
-                          {note["article"].toString(), note["name"].toString(),
-                           note["price"].toInteger(), note["taraMode"].toInt(),
-                           note["taraCapacity"].toDouble(), note["pack"].toDouble(),
-                           note["unit"].toString()},
-                          note["count"].toDouble(),
-                          note["base"].toDouble(),
-                          note["group"].toString(),
-                          note["stornoed"].toBool()};
-    const auto known =
-        std::find_if(record.lines.begin(), record.lines.end(),
-                     [&line](const LineRecord &other) { return other.posnum == line.posnum; });
-    if (known == record.lines.end())
-        record.lines.append(line);
-    else
-        *known = line;
-    record.nextPosnum = std::max(record.nextPosnum, line.posnum + 1);
-}
-
-void tellData(ToldReceipt &receipt, const QJsonObject &note)
-{
-    QJsonObject &data = receipt.data[note["plugin"].toString()];
-    const QString key = note["key"].toString();
-    data.insert(key, toldValue(data[key], note));
-}
-
-QStringList toTexts(const QJsonArray &array)
-{
-    QStringList texts;
-    for (const QJsonValue &value : array)
-        texts.append(value.toString());
-    return texts;
-}
-
-} // namespace
 
 ToldReceipt ToldReceipt::asTakenUp() const
 {
@@ -68,7 +25,7 @@ ToldReceipt ToldReceipt::stored(const Storage &storage, qint64 id)
     const auto record = must(storage.receipt(id));
     if (!record)
         return {};
-    ToldReceipt receipt{*record, {}, {}};
+    ToldReceipt receipt{{*record, {}}, {}};
     const auto pluginData = std::exchange(receipt.record.pluginData, {});
     for (auto plugin = pluginData.cbegin(); plugin != pluginData.cend(); ++plugin)
         receipt.data.insert(plugin.key(), QJsonObject::fromVariantMap(plugin.value()));
@@ -146,11 +103,10 @@ void TraceReader::readCommand(const QJsonObject &note, const QString &kind)
         readAction(note);
     } else if (kind == "result") {
         readResult(note);
-    } else if (kind == "position") {
-        tellLine(m_underWay.record, note);
-        m_underWay.record.state = ReceiptState::Open;
-    } else if (kind == "data") {
-        tellData(m_underWay, note);
+    } else if (kind == "position" || kind == "data") {
+        m_underWay.read(note);
+        if (kind == "position")
+            m_underWay.record.state = ReceiptState::Open;
     } else if (kind == "receipt" && note["id"].toInteger() != 0) { // 0: not stored yet
         readReceipt(note);
     }
@@ -158,19 +114,9 @@ void TraceReader::readCommand(const QJsonObject &note, const QString &kind)
 
 void TraceReader::readTakenUp(const QJsonObject &note, const QString &kind)
 {
-    ReceiptRecord &record = m_takenUp.record;
-    if (kind == "position") {
-        tellLine(record, note);
-    } else if (kind == "data") {
-        tellData(m_takenUp, note);
-    } else if (kind == "receipt") {
-        record.id = note["id"].toInteger();
-        record.type = note["type"].toInt();
-        record.state = static_cast<ReceiptState>(note["state"].toInt());
-        record.order = note["order"].toString();
-        record.softChecks = toTexts(note["softChecks"].toArray());
+    m_takenUp.read(note);
+    if (kind == "receipt")
         m_takesUp = false;
-    }
 }
 
 void TraceReader::readAction(const QJsonObject &note)
@@ -224,12 +170,9 @@ bool TraceReader::isEndOfCommand(const QJsonObject &result) const
 
 void TraceReader::readReceipt(const QJsonObject &note)
 {
-    const ReceiptRecord &record = m_underWay.record;
-    EXPECT_EQ(note["id"].toInteger(), record.id);
-    EXPECT_EQ(note["type"].toInt(), record.type);
-    EXPECT_EQ(note["state"].toInt(), static_cast<int>(record.state));
-    EXPECT_EQ(note["order"].toString(), record.order);
-    EXPECT_EQ(toTexts(note["softChecks"].toArray()), record.softChecks);
+    ToldReceipt told = m_underWay;
+    told.read(note);
+    EXPECT_EQ(told, m_underWay);
     keepJournal();
     m_stage = Stage::Stored;
 }

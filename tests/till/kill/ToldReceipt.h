@@ -1,12 +1,11 @@
 #ifndef TESTS_TILL_KILL_TOLDRECEIPT_H
 #define TESTS_TILL_KILL_TOLDRECEIPT_H
 
-#include "till/receipt/Receipt.h"
+#include "tests/till/support/RebuiltReceipt.h"
 #include "till/storage/Storage.h"
 
 #include <QtCore/QByteArrayList>
-#include <QtCore/QJsonObject>
-#include <QtCore/QMap>
+#include <QtCore/QList>
 
 #include <ostream>
 
@@ -16,17 +15,14 @@ namespace till {
  * A receipt as the trace tells it, built from the notes alone: what became of its positions, what
  * the plugin saved, which actions ended well.
  */
-struct ToldReceipt
+struct ToldReceipt : RebuiltReceipt
 {
-    ReceiptRecord record; //!< all but the plugin data
-    //! What plugins saved, by plugin, with the keys inside.
-    QMap<QString, QJsonObject> data;
     //! The notes that the journal keeps.
     QByteArrayList journal;
 
     bool operator==(const ToldReceipt &other) const = default;
 
-    bool isInHand() const
+    bool isOpen() const
     {
         return record.id != 0
                && (record.state == ReceiptState::Open || record.state == ReceiptState::Subtotal);

@@ -180,7 +180,7 @@ void ShortTill::checkNextStart()
     readRest(till);
     EXPECT_EQ(till.strayOutput(), QByteArray());
     ToldReceipt expected =
-        m_trace.acknowledged().isInHand() ? m_trace.acknowledged().asTakenUp() : ToldReceipt();
+        m_trace.acknowledged().isOpen() ? m_trace.acknowledged().asTakenUp() : ToldReceipt();
     expected.journal.clear();
     EXPECT_EQ(m_trace.takenUp(), expected);
 }

@@ -1,19 +1,17 @@
 #include "tests/support/Printers.h"
+#include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Results.h"
 
 #include "host/Config.h"
 #include "till/register/SettingsFile.h"
 
-#include <gtest/gtest.h>
-
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 
 namespace {
 
 //! A settings file of one setting, and a configuration that reads it.
-class SettingsFile : public testing::Test
+class SettingsFile : public till::FolderTest
 {
 protected:
     void write(const QByteArray &text)
@@ -26,7 +24,6 @@ protected:
     QString read() { return till::faultText(till::readSettingsFile(path, config)); }
 
     const QString key = QStringLiteral("PackagingControl:allowSaleEmptyTara");
-    QTemporaryDir directory;
     QString path = directory.filePath("till.ini");
     Config config;
 };

@@ -1,7 +1,6 @@
 #include "tests/till/storage/StorageFixture.h"
 
 #include "tests/support/Printers.h"
-#include "tests/till/support/ApplicationEnvironment.h"
 #include "till/receipt/Limits.h"
 
 #include <QtCore/QFile>
@@ -12,18 +11,6 @@
 #include <limits>
 
 namespace till {
-
-namespace {
-
-void failOnMessage(QtMsgType, const QMessageLogContext &, const QString &text)
-{
-    ADD_FAILURE() << "Qt says: " << text.toStdString();
-}
-
-testing::Environment *const application =
-    testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
-
-} // namespace
 
 void PrintTo(const LineRecord &line, std::ostream *out)
 {
@@ -54,22 +41,6 @@ void PrintTo(const ReceiptRecord &record, std::ostream *out)
 void PrintTo(const JournalEntry &entry, std::ostream *out)
 {
     *out << entry.depth << ' ' << entry.kind.toStdString() << ' ' << entry.json.toStdString();
-}
-
-StorageTest::StorageTest()
-    : m_handlerBefore(qInstallMessageHandler(failOnMessage))
-{
-    EXPECT_TRUE(directory.isValid());
-}
-
-StorageTest::~StorageTest()
-{
-    qInstallMessageHandler(m_handlerBefore);
-}
-
-QString StorageTest::path(const QString &name) const
-{
-    return directory.filePath(name);
 }
 
 std::unique_ptr<Storage> StorageTest::opened(const QString &path)

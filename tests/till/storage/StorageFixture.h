@@ -1,13 +1,9 @@
 #ifndef TESTS_TILL_STORAGE_STORAGEFIXTURE_H
 #define TESTS_TILL_STORAGE_STORAGEFIXTURE_H
 
+#include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Results.h"
 #include "till/storage/Storage.h"
-
-#include <QtCore/QTemporaryDir>
-#include <QtCore/qlogging.h>
-
-#include <gtest/gtest.h>
 
 #include <ostream>
 
@@ -17,14 +13,14 @@ void PrintTo(const LineRecord &line, std::ostream *out);
 void PrintTo(const ReceiptRecord &record, std::ostream *out);
 void PrintTo(const JournalEntry &entry, std::ostream *out);
 
-//! A directory for one database, and what a register does with it.
-class StorageTest : public testing::Test
+//! A folder for one database, and what a register does with it.
+class StorageTest : public FolderTest
 {
 protected:
-    StorageTest();
-    ~StorageTest() override;
-
-    QString path(const QString &name = QStringLiteral("till.db")) const;
+    QString path(const QString &name = QStringLiteral("till.db")) const
+    {
+        return FolderTest::path(name);
+    }
 
     //! Opens the database, which must succeed.
     static std::unique_ptr<Storage> opened(const QString &path);
@@ -55,12 +51,6 @@ protected:
     static ReceiptRecord receiptOf(int count);
     //! A database with one unfinished receipt of that many positions; what was saved.
     ReceiptRecord leaveUnfinished(int count) const;
-
-    QTemporaryDir directory;
-
-private:
-    //! A test fails when Qt has something to say.
-    QtMessageHandler m_handlerBefore;
 };
 
 //! A position of a plain article.

@@ -1,68 +1,105 @@
 #ifndef TESTS_TILL_SUPPORT_REBUILTRECEIPT_H
 #define TESTS_TILL_SUPPORT_REBUILTRECEIPT_H
 
-#include "tests/till/support/ToldValue.h"
-#include "till/receipt/Receipt.h"
+#include "till/receipt/ReceiptRecord.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
+#include <QtCore/QMap>
 
-//! Rebuilds the receipt in hand from a trace alone, by the rules of docs/trace.md.
-class RebuiltReceipt
+#include <algorithm>
+
+namespace till {
+
+//! The current receipt, rebuilt from a trace alone by the rules of docs/trace.md.
+struct RebuiltReceipt
 {
-public:
+    ReceiptRecord record;            //!< all but the plugin data
+    QMap<QString, QJsonObject> data; //!< what plugins saved, by plugin, with the keys inside
+
+    bool operator==(const RebuiltReceipt &other) const = default;
+
+    //! Follows a note; what is no state says nothing of the receipt.
     void read(const QJsonObject &note)
     {
-        const QString kind = note.value("kind").toString();
+        const QString kind = note["kind"].toString();
         if (kind == "takeup")
             *this = {};
         else if (kind == "position")
-            m_positions.insert(note.value("position").toInt(), note);
+            readLine(note);
         else if (kind == "data")
-            tell(m_data[note.value("plugin").toString()][note.value("key").toString()], note);
+            readData(note);
         else if (kind == "receipt")
-            m_receipt = note;
+            readHeader(note);
     }
 
-    till::ReceiptRecord record() const
+    //! The receipt with its plugin data.
+    ReceiptRecord whole() const
     {
-        till::ReceiptRecord record;
-        record.id = m_receipt.value("id").toInteger();
-        record.type = m_receipt.value("type").toInt();
-        record.state = static_cast<till::ReceiptState>(m_receipt.value("state").toInt());
-        record.order = m_receipt.value("order").toString();
-        record.softChecks = m_receipt.value("softChecks").toVariant().toStringList();
-        record.nextPosnum = m_positions.isEmpty() ? 1 : m_positions.lastKey() + 1;
-        for (const QJsonObject &position : m_positions)
-            record.lines.append(lineOf(position));
-        for (auto plugin = m_data.cbegin(); plugin != m_data.cend(); ++plugin) {
-            for (auto value = plugin->cbegin(); value != plugin->cend(); ++value)
-                record.pluginData[plugin.key()].insert(value.key(), value->toVariant());
-        }
-        return record;
+        ReceiptRecord all = record;
+        for (auto plugin = data.cbegin(); plugin != data.cend(); ++plugin)
+            all.pluginData.insert(plugin.key(), plugin->toVariantMap());
+        return all;
     }
-
-    qint64 total() const { return m_receipt.value("total").toInteger(); }
 
 private:
-    static till::LineRecord lineOf(const QJsonObject &position)
+    void readHeader(const QJsonObject &note)
     {
-        const auto number = [&](const char *field) { return position.value(QLatin1String(field)); };
-        const till::ArticleData article{
-            number("article").toString(),      number("name").toString(),
-            number("price").toInteger(),       number("taraMode").toInt(),
-            number("taraCapacity").toDouble(), number("pack").toDouble(),
-            number("unit").toString()};
-        return {number("position").toInt(), article,
-                number("count").toDouble(), number("base").toDouble(),
-                number("group").toString(), number("stornoed").toBool()};
+        record.id = note["id"].toInteger();
+        record.type = note["type"].toInt();
+        record.state = static_cast<ReceiptState>(note["state"].toInt());
+        record.order = note["order"].toString();
+        record.softChecks = note["softChecks"].toVariant().toStringList();
     }
 
-    static void tell(QJsonValue &value, const QJsonObject &note) { value = toldValue(value, note); }
+    //! Lines are in the order of their numbers.
+    void readLine(const QJsonObject &note)
+    {
+        const LineRecord line = lineOf(note);
+        const auto place =
+            std::lower_bound(record.lines.begin(), record.lines.end(), line.posnum,
+                             [](const auto &other, int posnum) { return other.posnum < posnum; });
+        if (place != record.lines.end() && place->posnum == line.posnum)
+            *place = line;
+        else
+            record.lines.insert(place, line);
+        record.nextPosnum = record.lines.constLast().posnum + 1;
+    }
 
-    QMap<int, QJsonObject> m_positions;
-    QMap<QString, QMap<QString, QJsonValue>> m_data;
-    QJsonObject m_receipt;
+    static LineRecord lineOf(const QJsonObject &note)
+    {
+        const ArticleData article{note["article"].toString(),      note["name"].toString(),
+                                  note["price"].toInteger(),       note["taraMode"].toInt(),
+                                  note["taraCapacity"].toDouble(), note["pack"].toDouble(),
+                                  note["unit"].toString()};
+        return {note["position"].toInt(), article,
+                note["count"].toDouble(), note["base"].toDouble(),
+                note["group"].toString(), note["stornoed"].toBool()};
+    }
+
+    void readData(const QJsonObject &note)
+    {
+        QJsonObject &saved = data[note["plugin"].toString()];
+        const QString key = note["key"].toString();
+        saved.insert(key, note.contains("parts") ? withParts(saved[key].toArray(), note["parts"])
+                                                 : note["value"]);
+    }
+
+    static QJsonValue withParts(QJsonArray list, const QJsonValue &parts)
+    {
+        const QJsonArray all = parts.toArray();
+        for (const QJsonValue &part : all) {
+            const int at = part["at"].toInt();
+            for (int removed = 0; removed < part["removed"].toInt(); ++removed)
+                list.removeAt(at);
+            const QJsonArray added = part["added"].toArray();
+            for (int place = 0; place < added.size(); ++place)
+                list.insert(at + place, added[place]);
+        }
+        return list;
+    }
 };
+
+} // namespace till
 
 #endif // TESTS_TILL_SUPPORT_REBUILTRECEIPT_H

@@ -1,24 +1,6 @@
 #include "tests/till/support/TillFixture.h"
 
-#include "tests/till/support/ApplicationEnvironment.h"
-
-#include <cstring>
-
 namespace till {
-
-namespace {
-
-testing::Environment *const application =
-    testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
-
-//! The plugin's own log lines go to Qt too; all else is a fault.
-void failOnMessage(QtMsgType, const QMessageLogContext &context, const QString &text)
-{
-    if (context.category == nullptr || std::strcmp(context.category, "packaging") != 0)
-        ADD_FAILURE() << "Qt says: " << text.toStdString();
-}
-
-} // namespace
 
 void PrintTo(const Outcome &outcome, std::ostream *out)
 {
@@ -35,7 +17,6 @@ void PrintTo(const Outcome &outcome, std::ostream *out)
 TillTest::TillTest()
     : hearing(notes.subscribe([this](const QJsonObject &note) { heard.append(note); },
                               Notes::Of::CourseAndStates))
-    , m_handlerBefore(qInstallMessageHandler(failOnMessage))
 {
     start();
 }
@@ -44,7 +25,6 @@ TillTest::~TillTest()
 {
     commands.reset();
     till.reset();
-    qInstallMessageHandler(m_handlerBefore);
 }
 
 till::Setup TillTest::setup() const

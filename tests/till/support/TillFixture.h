@@ -1,16 +1,13 @@
 #ifndef TESTS_TILL_SUPPORT_TILLFIXTURE_H
 #define TESTS_TILL_SUPPORT_TILLFIXTURE_H
 
+#include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Results.h"
 #include "till/course/Notes.h"
 #include "till/register/CashDesk.h"
 #include "till/script/CommandLine.h"
 
-#include <QtCore/QTemporaryDir>
-#include <QtCore/qlogging.h>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <ostream>
@@ -20,7 +17,7 @@ namespace till {
 void PrintTo(const Outcome &outcome, std::ostream *out);
 
 //! A till of the sample shop with the real plugin, on a database of its own, and what it says.
-class TillTest : public testing::Test
+class TillTest : public FolderTest
 {
 protected:
     TillTest();
@@ -58,7 +55,6 @@ protected:
     //! What \a field says in each of the notes of \a kind.
     QVariantList noted(const QString &kind, const QString &field) const;
 
-    QTemporaryDir directory;
     Notes notes;
     QStringList printed;
     QList<QJsonObject> heard;
@@ -66,10 +62,6 @@ protected:
     std::unique_ptr<Translator> translator;
     std::unique_ptr<CashDesk> till;
     std::unique_ptr<CommandLine> commands;
-
-private:
-    //! A test fails when Qt has something to say.
-    QtMessageHandler m_handlerBefore;
 };
 
 } // namespace till
