@@ -32,7 +32,7 @@ const till::Catalogue &catalogue()
     return *loaded;
 }
 
-//! A receipt in hand of \a n positions, one half tara and one half goods, as `Records` says.
+//! An open receipt of \a n positions, one half tara and one half goods, as `Records` says.
 till::ReceiptRecord makeReceipt(int n)
 {
     const auto tara = catalogue().find(QStringLiteral("PET05"));
@@ -53,7 +53,7 @@ till::ReceiptRecord makeReceipt(int n)
     return receipt;
 }
 
-//! A register with the plugin on a database file, with the receipt in hand. One at a time.
+//! A register with the plugin on a database file, with the receipt open. One at a time.
 class RunningTill
 {
 public:

@@ -10,7 +10,7 @@ namespace model {
 
 //! What happens at the register.
 enum class Verb : std::uint8_t {
-    Open,     //!< another receipt takes the place of the one in hand; shape 1: a return
+    Open,     //!< another receipt takes the place of the current one; shape 1: a return
     Add,      //!< article `which`, `quantity` pieces
     Quantity, //!< position `which` becomes `quantity` pieces
     Modify,   //!< modifiers other than the quantity are applied to position `which`
@@ -23,7 +23,7 @@ enum class Verb : std::uint8_t {
     Order,
     Setting, //!< selling empty tara is allowed: `yes`; the register restarts
     Restart,
-    Reopen,  //!< the plugin is given the receipt in hand once more
+    Reopen,  //!< the plugin is given the current receipt once more
     Switch,  //!< the register turns to the other of two receipts
     Forget,  //!< the plugin is given no receipt
     Publish, //!< an event, code by `shape`, about position `which`, stornoed ones and none included

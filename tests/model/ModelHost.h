@@ -40,7 +40,7 @@ public:
 
     // How a command turned out, for whoever tells it to a cashier.
 
-    //! The lines that \a command picks in the receipt in hand, in the command's order.
+    //! The lines that \a command picks in the current receipt, in the command's order.
     std::vector<PositionPtr> picked(const Command &command) const;
     bool wasAsked() const { return m_wasAsked; }
     //! The rules, or the cashier's answer, kept the command from being carried out.

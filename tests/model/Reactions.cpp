@@ -113,7 +113,7 @@ void Rules::dropTara(const std::shared_ptr<Tara> &tara)
         if (used != info->used.end() && changeGoods(*info, -used->second))
             info->used.erase(tara->id);
         if (m_receipt != receipt)
-            break; // the rest of the goods are those of a receipt that is no longer in hand
+            break; // the rest of the goods are those of a receipt that is no longer current
     }
     if (receipt) {
         say("switch on " + std::to_string(receipt->number));

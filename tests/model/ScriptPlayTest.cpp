@@ -72,7 +72,7 @@ Script playable(const Script &drawn)
     return kept;
 }
 
-// The records of the receipt in hand, as the till can be asked for them
+// The records of the current receipt, as the till can be asked for them
 
 /*!
  * Adds what is expected of a quantity, to the till's three decimals. One about halfway between two

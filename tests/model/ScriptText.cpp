@@ -138,7 +138,7 @@ void Writer::writeMeanwhile(const Command &command)
         position + "becomes " + toText(command.meanwhileQuantity) + " pieces",
         position + "is reported as changed",
         "the plugin is given no receipt",
-        "the plugin is given the receipt in hand once more",
+        "the plugin is given the current receipt once more",
         "the register turns to the other one of its two receipts",
     };
     note("meanwhile, at request " + std::to_string(command.meanwhileAt + 1) + ", "
@@ -196,7 +196,7 @@ void Writer::writeOnRegister(const Command &command)
     if (command.verb == Verb::Restart)
         say("restart");
     if (command.verb == Verb::Reopen)
-        note("the plugin is given the receipt in hand once more");
+        note("the plugin is given the current receipt once more");
     if (command.verb == Verb::Switch)
         note("the register turns to the other one of its two receipts");
     if (command.verb == Verb::Forget)
@@ -246,7 +246,7 @@ void Writer::writePay(const Command &command)
     writeGate(command, "pay");
     if (!m_host.wasClosed())
         return;
-    if (m_wasEmpty) // and is in hand still
+    if (m_wasEmpty) // and is the current one still
         say("answer yes\ncancel");
     say("open");
 }

@@ -24,11 +24,11 @@ inline const QString softCheck = QStringLiteral("softCheck"); //!< number of a s
 } // namespace argument
 
 /*!
- * Carries out actions on the receipt in hand, all on the same road: the triggers before the action
+ * Carries out actions on the current receipt, all on the same path: the triggers before the action
  * in order of priority, up to the first that does not continue; the action itself with its events;
  * the triggers after it; then the session's modifiers are cleared.
  *
- * Actions that a plugin asks for run nested and synchronous inside the action that is on its way.
+ * Actions that a plugin asks for run nested and synchronous inside the action under way.
  */
 class ActionRunner
 {
@@ -51,8 +51,8 @@ public:
     //! Whether a trigger stopped the last action of the cashier's before it was carried out.
     bool wasStoppedByPlugin() const { return m_wasStoppedByPlugin; }
 
-    //! Runs the triggers after \a action alone, for an action that was carried out in an earlier
-    //! life.
+    //! Runs the triggers after \a action alone, for an action that was carried out before the
+    //! receipt was taken up.
     void runTriggersAfter(const control::Action &action)
     {
         runTriggers(action, ActionTrigger::After);

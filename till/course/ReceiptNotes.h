@@ -6,14 +6,14 @@
 
 namespace till {
 
-//! Notes how the receipt in hand stands; but for a take-up, only for those who want states.
+//! Notes how the current receipt stands; but for a take-up, only for those who want states.
 class ReceiptNotes
 {
 public:
     //! \a notes must outlive this object.
     explicit ReceiptNotes(Notes &notes);
 
-    //! Notes that \a receipt, or none when it is null, is in hand from now on, and all of it:
+    //! Notes that \a receipt, or none when it is null, is current from now on, and all of it:
     //! whoever follows the notes forgets the receipt before and begins with what stands here.
     void tellTakenUp(const Receipt *receipt);
     //! Notes \a position as it stands.

@@ -52,7 +52,7 @@
         <translation>напечатать текст</translation>
     </message>
     <message>
-        <source>switch the till off and on; the receipt in hand is taken up again</source>
+        <source>switch the till off and on; the open receipt is taken up again</source>
         <translation>выключить и включить кассу; открытый чек остаётся</translation>
     </message>
     <message>
@@ -72,7 +72,7 @@
         <translation>показать список команд или объяснить одну</translation>
     </message>
     <message>
-        <source>leave; the receipt in hand is kept</source>
+        <source>leave; the open receipt is kept</source>
         <translation>выйти; открытый чек сохраняется</translation>
     </message>
     <message>

@@ -14,7 +14,7 @@
 
 namespace till {
 
-//! The receipt in hand: the document that plugins see, and the lines that the cashier sees.
+//! The current receipt: the document that plugins see, and the lines that the cashier sees.
 class Receipt : public Document
 {
 public:

@@ -50,7 +50,7 @@ public:
      */
     Result<> start();
 
-    //! Switches the till off: the register and the plugin, which is unloaded. The receipt in hand
+    //! Switches the till off: the register and the plugin, which is unloaded. The receipt
     //! stays in the database, which stays open for a next start, as does the catalogue.
     Result<> stop();
 

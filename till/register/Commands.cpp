@@ -42,7 +42,7 @@ Outcome aboveLimit(double count)
 
 Outcome Register::execute(const command::Open &open)
 {
-    if (isInHand())
+    if (hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillReceiptIsOpen());
     takeUp(QSharedPointer<Receipt>::create(open.type));
     return perform(control::Action(control::OpenReceipt, {{"receiptType", open.type}}));
@@ -50,7 +50,7 @@ Outcome Register::execute(const command::Open &open)
 
 Outcome Register::execute(const command::Add &add)
 {
-    if (!isInHand())
+    if (!hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillNoReceipt());
     const auto article = m_catalogue.find(add.article);
     if (!article)
@@ -132,7 +132,7 @@ Outcome Register::execute(const command::Unite &unite)
 
 Outcome Register::execute(const command::AttachOrder &order)
 {
-    if (!isInHand())
+    if (!hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillNoReceipt());
     if (order.number.isEmpty())
         return Outcome::mistake(messages::tillOrderNumberless());
@@ -143,7 +143,7 @@ Outcome Register::execute(const command::AttachOrder &order)
 
 Outcome Register::execute(const command::AddSoftCheck &softCheck)
 {
-    if (!isInHand())
+    if (!hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillNoReceipt());
     if (softCheck.number.isEmpty())
         return Outcome::mistake(messages::tillSoftCheckNumberless());
@@ -155,7 +155,7 @@ Outcome Register::execute(const command::AddSoftCheck &softCheck)
 
 Outcome Register::execute(const command::Subtotal &)
 {
-    if (!isInHand())
+    if (!hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillNoReceipt());
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
@@ -164,7 +164,7 @@ Outcome Register::execute(const command::Subtotal &)
 
 Outcome Register::execute(const command::Pay &pay)
 {
-    if (!isInHand())
+    if (!hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillNoReceipt());
     if (m_receipt->getPositionList().isEmpty())
         return refuse(messages::tillReceiptEmpty());
@@ -194,7 +194,7 @@ Outcome Register::refuseShort(Kopecks missing)
 
 Outcome Register::execute(const command::Cancel &)
 {
-    if (!isInHand())
+    if (!hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillNoReceipt());
     if (!ask({messages::tillCancelReceipt(), messages::tillYes(), messages::tillNo()}))
         return keep(EContext::Cancel);
@@ -203,7 +203,7 @@ Outcome Register::execute(const command::Cancel &)
 
 Outcome Register::checkPosition(int posnum) const
 {
-    if (!isInHand())
+    if (!hasUnfinishedReceipt())
         return Outcome::mistake(messages::tillNoReceipt());
     if (!m_receipt->line(posnum))
         return Outcome::mistake(messages::tillNoPosition(), {QString::number(posnum)});

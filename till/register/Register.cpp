@@ -126,7 +126,7 @@ void Register::show(const tr::Tr &message)
         m_front->show(message);
 }
 
-bool Register::isInHand() const
+bool Register::hasUnfinishedReceipt() const
 {
     return m_receipt && m_receipt->state() != ReceiptState::Closed
            && m_receipt->state() != ReceiptState::Cancelled;

@@ -16,7 +16,7 @@
 namespace till {
 
 /*!
- * The register: what a cashier does, command by command. At most one receipt is in hand.
+ * The register: what a cashier does, command by command. One receipt at a time is the current one.
  *
  * A command is done when it is durable. One that cannot be stored leaves the receipt as the last
  * stored command left it.
@@ -44,8 +44,8 @@ public:
     Q_DISABLE_COPY_MOVE(Register)
 
     /*!
-     * Initialises the plugin and takes up the receipt that was in hand when the register ended, if
-     * any. To be called once, before all else. While another register lives, nothing is done but
+     * Initialises the plugin and takes up the receipt that was unfinished when the register ended,
+     * if any. To be called once, before all else. While another register lives, nothing is done but
      * to say so.
      */
     Result<> start();
@@ -96,7 +96,7 @@ private:
     Outcome execute(const command::Pay &pay);
     Outcome execute(const command::Cancel &);
 
-    bool isInHand() const;
+    bool hasUnfinishedReceipt() const;
     EContext::Result run(const control::Action &action);
     //! Runs an action that is a whole command, and keeps it.
     Outcome perform(const control::Action &action);

@@ -16,7 +16,7 @@ public:
     {
     }
 
-    //! The next command for \a receipt, which may be none that is in hand.
+    //! The next command for \a receipt, which may be none that is open.
     QByteArray next(const ToldReceipt &receipt);
     //! The till was switched off: what was to follow the last command is forgotten.
     void forget() { m_prepared.clear(); }

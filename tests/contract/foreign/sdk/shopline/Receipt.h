@@ -66,7 +66,7 @@ private:
     bool m_isLoaded = false;
 };
 
-//! Whoever wants to know the receipt in hand.
+//! Whoever wants to know the current receipt.
 class SHOPLINE_API ReceiptHolder
 {
 public:

@@ -1,12 +1,12 @@
 #include "tests/till/support/TillFixture.h"
 
-// The road that actions take, with the real plugin on it.
+// The path that actions take, with the real plugin on it.
 
 namespace till {
 
 namespace {
 
-class Road : public TillTest
+class ActionPath : public TillTest
 {
 protected:
     //! The codes of the events since the notes were last forgotten.
@@ -14,7 +14,7 @@ protected:
     int recomputations() const { return receipt()->recomputations(); }
 };
 
-TEST_F(Road, CashiersChange_IsReportedAs26)
+TEST_F(ActionPath, CashiersChange_IsReportedAs26)
 {
     done({"open", "add BEER"});
     heard.clear();
@@ -23,7 +23,7 @@ TEST_F(Road, CashiersChange_IsReportedAs26)
     EXPECT_EQ(noted("action", "origin"), QVariantList({"cashier"}));
 }
 
-TEST_F(Road, ChangeThroughTheQueue_IsReportedAs252)
+TEST_F(ActionPath, ChangeThroughTheQueue_IsReportedAs252)
 {
     done({"open", "add PET15", "add BEER 1.5"});
     heard.clear();
@@ -34,7 +34,7 @@ TEST_F(Road, ChangeThroughTheQueue_IsReportedAs252)
     EXPECT_EQ(noted("result", "result"), QVariantList({2, 2}));
 }
 
-TEST_F(Road, NestedActions_AreDeeper)
+TEST_F(ActionPath, NestedActions_AreDeeper)
 {
     done({"open", "add PET15", "add BEER 1.5"});
     heard.clear();
@@ -43,7 +43,7 @@ TEST_F(Road, NestedActions_AreDeeper)
     EXPECT_EQ(noted("result", "depth"), QVariantList({3, 1}));
 }
 
-TEST_F(Road, RemovalThroughTheQueue_IsReportedAs21)
+TEST_F(ActionPath, RemovalThroughTheQueue_IsReportedAs21)
 {
     done({"open", "add PET15", "add BEER 1.5"});
     heard.clear();
@@ -52,7 +52,7 @@ TEST_F(Road, RemovalThroughTheQueue_IsReportedAs21)
     EXPECT_EQ(noted("action", "type"), QVariantList({5, 202}));
 }
 
-TEST_F(Road, Refusal_PublishesTheErrorAndNothingElse)
+TEST_F(ActionPath, Refusal_PublishesTheErrorAndNothingElse)
 {
     done({"open", "add PET15", "add BEER 1"});
     heard.clear();
@@ -62,7 +62,7 @@ TEST_F(Road, Refusal_PublishesTheErrorAndNothingElse)
     expect({"position 1 quantity 1"});
 }
 
-TEST_F(Road, StornoWithoutDialog_AsksOnlyThePluginsQuestion)
+TEST_F(ActionPath, StornoWithoutDialog_AsksOnlyThePluginsQuestion)
 {
     done({"set PackagingControl:allowSaleEmptyTara false", "open", "add CHIPS", "add CAN3",
           "add PET1", "answer yes", "subtotal"});
@@ -70,7 +70,7 @@ TEST_F(Road, StornoWithoutDialog_AsksOnlyThePluginsQuestion)
     expect({"position 2 stornoed", "position 3 stornoed", "state subtotal"});
 }
 
-TEST_F(Road, PluginsNo_CancelsTheSubtotal)
+TEST_F(ActionPath, PluginsNo_CancelsTheSubtotal)
 {
     done({"set PackagingControl:allowSaleEmptyTara false", "open", "add CAN3"});
     for (const QString line : {"subtotal", "pay"}) {
@@ -82,7 +82,7 @@ TEST_F(Road, PluginsNo_CancelsTheSubtotal)
     }
 }
 
-TEST_F(Road, Numbers_AreNeverUsedTwice)
+TEST_F(ActionPath, Numbers_AreNeverUsedTwice)
 {
     done({"open", "add CHIPS", "add CHIPS", "answer yes yes", "storno 2", "storno 1", "add BAG",
           "split 3 0.5", "restart", "add BAG"});
@@ -92,7 +92,7 @@ TEST_F(Road, Numbers_AreNeverUsedTwice)
     EXPECT_EQ(numbers, QList<int>({1, 2, 3, 4, 5}));
 }
 
-TEST_F(Road, Cascade_IsRecomputedOnceAfterTheSwitch)
+TEST_F(ActionPath, Cascade_IsRecomputedOnceAfterTheSwitch)
 {
     done({"open", "add CAN3", "add BEER 1", "add DARK 1", "add OIL 1"});
     const int before = recomputations();
@@ -104,14 +104,14 @@ TEST_F(Road, Cascade_IsRecomputedOnceAfterTheSwitch)
     expect({"positions 0", "total 0"});
 }
 
-TEST_F(Road, Return_IsBypassed)
+TEST_F(ActionPath, Return_IsBypassed)
 {
     done({"open return", "add CAN3", "add BEER 1", "qty 1 2"});
     expect({"control suspended", "records 0 0", "log none"});
     EXPECT_TRUE(commands->renderReceipt().contains("контроль тары приостановлен"));
 }
 
-TEST_F(Road, OrderAndSoftCheck_SuspendAndAreSeen)
+TEST_F(ActionPath, OrderAndSoftCheck_SuspendAndAreSeen)
 {
     for (const QString line : {"order A-1", "softcheck 1"}) {
         done({"open", "add CAN3", "add BEER 1", line});
@@ -122,13 +122,13 @@ TEST_F(Road, OrderAndSoftCheck_SuspendAndAreSeen)
     }
 }
 
-TEST_F(Road, NextSale_IsWatchedAgain)
+TEST_F(ActionPath, NextSale_IsWatchedAgain)
 {
     done({"open", "softcheck 1", "add CHIPS", "pay", "open", "add CAN3"});
     expect({"control active", "records 1 0"});
 }
 
-TEST_F(Road, Settings_ReachThePlugin)
+TEST_F(ActionPath, Settings_ReachThePlugin)
 {
     done({"open", "add CAN3", "set PackagingControl:allowSaleEmptyTara false"});
     expect({"state open", "records 1 0"}); // taken up again
@@ -137,7 +137,7 @@ TEST_F(Road, Settings_ReachThePlugin)
     done({"set PackagingControl:allowSaleEmptyTara true", "subtotal"});
 }
 
-TEST_F(Road, Restart_TakesUpTheReceiptInHandOnly)
+TEST_F(ActionPath, Restart_TakesUpTheReceiptInHandOnly)
 {
     done({"open", "add CAN3", "add BEER 2"});
     const ReceiptRecord before = receipt()->record();
@@ -147,7 +147,7 @@ TEST_F(Road, Restart_TakesUpTheReceiptInHandOnly)
     expect({"state none"});
 }
 
-TEST_F(Road, RestartAtSubtotal_OpensTheReceiptSoThatTheGateAsks)
+TEST_F(ActionPath, RestartAtSubtotal_OpensTheReceiptSoThatTheGateAsks)
 {
     done({"open", "add CAN3", "subtotal", "set PackagingControl:allowSaleEmptyTara false"});
     expect({"state open"});
@@ -156,7 +156,7 @@ TEST_F(Road, RestartAtSubtotal_OpensTheReceiptSoThatTheGateAsks)
     expect({"question packingControlSaleEmptyTara", "state open"});
 }
 
-TEST_F(Road, RestartAndSet_KeepAnInMemoryDatabaseAndTheCatalogue)
+TEST_F(ActionPath, RestartAndSet_KeepAnInMemoryDatabaseAndTheCatalogue)
 {
     till::Setup inMemory = setup();
     inMemory.database = ":memory:";
@@ -169,7 +169,7 @@ TEST_F(Road, RestartAndSet_KeepAnInMemoryDatabaseAndTheCatalogue)
     expect({"goods 2 in 1 2"});
 }
 
-TEST_F(Road, RestartThatFails_LeavesTheTillOffUntilAnother)
+TEST_F(ActionPath, RestartThatFails_LeavesTheTillOffUntilAnother)
 {
     till::Setup lame = setup();
     lame.settingsFile = directory.filePath("s.ini");
@@ -188,7 +188,7 @@ TEST_F(Road, RestartThatFails_LeavesTheTillOffUntilAnother)
     expect({"goods 2 in 1 2"});
 }
 
-TEST_F(Road, WithoutPlugin_TheTillWorksWithoutTara)
+TEST_F(ActionPath, WithoutPlugin_TheTillWorksWithoutTara)
 {
     till::Setup bare = setup();
     bare.plugin.clear();
