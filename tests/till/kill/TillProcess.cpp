@@ -45,7 +45,7 @@ TillProcess::TillProcess(const QStringList &arguments)
     posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, output[1], STDERR_FILENO);
 
-    QByteArrayList words{TILL_PROGRAM, "--trace", "-"};
+    QByteArrayList words{TILL_PROGRAM, "--trace", "-", "--lang", "en"};
     for (const QString &argument : arguments)
         words.append(argument.toLocal8Bit());
     std::vector<char *> argv;
@@ -97,7 +97,8 @@ std::optional<QJsonObject> TillProcess::nextNote(Clock::time_point deadline)
         const QJsonDocument document = QJsonDocument::fromJson(line, &error);
         if (document.isObject())
             return document.object();
-        m_stray += line + '\n';
+        if (!line.startsWith("till: standard input:"))
+            m_stray += line + '\n';
     }
 }
 

@@ -36,7 +36,8 @@ public:
     //! Ends its input and waits for its end; its exit status.
     int finish();
 
-    //! What it wrote that is no note: nothing when all is well. Only after its end.
+    //! What it wrote that is neither a note nor says what is wrong with a command: nothing when all
+    //! is well. Only after its end.
     QByteArray strayOutput() const { return m_stray; }
 
 private:
