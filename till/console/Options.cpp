@@ -32,7 +32,7 @@ QString readSettings(const QStringList &assignments, QMap<QString, QString> &set
     for (const QString &assignment : assignments) {
         const qsizetype equals = assignment.indexOf('=');
         if (equals <= 0)
-            return "--set: \"" + assignment + "\" is not KEY=VALUE";
+            return "--set: \"" + brief(assignment) + "\" is not KEY=VALUE";
         const QString key = assignment.left(equals);
         if (const auto fault = settingFault(key, assignment.mid(equals + 1)))
             return "--set: " + Translator("en").text(*fault);
@@ -65,11 +65,11 @@ QString wordsFault(const QString &mode, const QStringList &words)
     };
     const auto found = wanted.constFind(mode);
     if (found == wanted.cend())
-        return "no command \"" + mode + "\"; try --help";
+        return "no command \"" + brief(mode) + "\"; try --help";
     if (!found->isEmpty() && words.isEmpty())
         return mode + ": " + *found;
     const qsizetype most = mode == "play" ? words.size() : found->isEmpty() ? 0 : 1;
-    return words.size() > most ? "\"" + words[most] + "\" is one word too many" : QString();
+    return words.size() > most ? "\"" + brief(words[most]) + "\" is one word too many" : QString();
 }
 
 } // namespace
@@ -167,10 +167,11 @@ QString readOptions(const QCommandLineParser &parser, Options &options)
         return fault;
     options.language = parser.value("lang");
     if (!Translator::isKnown(options.language))
-        return "--lang: \"" + options.language
+        return "--lang: \"" + brief(options.language)
                + "\" is none of: " + Translator::languages().join(", ");
     if (!QStringList{"auto", "always", "never"}.contains(parser.value("colour")))
-        return "--colour: \"" + parser.value("colour") + "\" is none of: auto, always, never";
+        return "--colour: \"" + brief(parser.value("colour"))
+               + "\" is none of: auto, always, never";
     options.style = {wantsColour(parser.value("colour")), columnsOfOutput};
     options.trace = parser.value("trace");
     options.quiet = parser.isSet("quiet");

@@ -48,7 +48,10 @@ void refuseRow(int line, const QString &reason)
 
 QString quoted(const QString &text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    constexpr qsizetype longest = 60;
+    const bool isLong = text.size() > longest;
+    return QLatin1Char('"') + (isLong ? text.left(longest - 1) + QChar(u'…') : text)
+           + QLatin1Char('"');
 }
 
 std::optional<CatalogueHeader::Column> CatalogueHeader::columnCalled(const QByteArray &header)

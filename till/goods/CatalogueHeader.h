@@ -19,6 +19,7 @@ struct CatalogueRefusal
 //! Throws the refusal of the row at \a line.
 [[noreturn]] void refuseRow(int line, const QString &reason);
 
+//! \a text in quotes, cut where it is long.
 QString quoted(const QString &text);
 
 //! The first row of a catalogue: which field of a row is what.

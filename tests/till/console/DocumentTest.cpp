@@ -71,4 +71,43 @@ TEST_F(Page, Example_Holds)
     play(("# A bottle" + script).toUtf8());
 }
 
+//! What the pages say of receipts, played.
+TEST_F(Page, Facts_AreSo)
+{
+    play("open\nadd CHIPS 3\nsplit 1 1 2\nexpect position 1 stornoed quantity 3 sum 389.70\n"
+         "expect total 389.70\nsubtotal\norder 7\nsoftcheck 8\nexpect state subtotal\n");
+    play("open\nadd CAN3\nadd BEER 2\nqty 2 1\nexpect goods 2 unplaced -1\n");
+    const QString packs =
+        write("c.csv", "CODE\tЦена\tname\tTara_Mode\tёмкость тары\tpack\tunit\tx\n"
+                       "T\t1\tT\t1\t1\t1\t\t\nG\t1,5\tG\t2\t\t3\tl\t\n");
+    play("open\nadd T\nadd T\nadd G\nanswer yes\nstorno 2\n"
+         "expect position 3 quantity 0.667 base 2 sum 1\n",
+         {"--catalogue", packs});
+    const QString other = write("c.csv", "code,name,price,tara mode,tara capacity,pack,unit\n"
+                                         "T,T,1,3,,1,\n");
+    EXPECT_EQ(run({"--catalogue", other}).status, 3);
+}
+
+TEST_F(Page, TakeUpInTheTrace_IsSo)
+{
+    run({"--db", database()}, "open\nadd CHIPS\nsubtotal\nsoftcheck 8\n");
+    const auto notes =
+        trace(QByteArray::fromStdString(run({"--db", database(), "--trace", "-"}, "say\n").out));
+    QStringList kinds;
+    for (const QJsonObject &note : notes) {
+        const QString kind = note.value("kind").toString();
+        kinds.append(kind);
+        if (kind == "receipt") {
+            EXPECT_EQ(note.value("recomputations").toInt(), 1);
+            EXPECT_EQ(note.value("state").toInt(), 0);
+        }
+        if (kind == "trigger") {
+            EXPECT_EQ(note.value("type").toInt(), 129);
+        }
+    }
+    EXPECT_TRUE(kinds.contains("receipt"));
+    EXPECT_TRUE(kinds.contains("trigger"));
+    EXPECT_FALSE(kinds.contains("action"));
+}
+
 } // namespace
