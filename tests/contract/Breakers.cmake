@@ -40,7 +40,8 @@ foreach(check IN LISTS covered)
 endforeach()
 
 # In the plugin's file.
-set(patched ${WORK_DIR}/patched)
+cmake_path(GET PLUGIN_FILE PARENT_PATH plugins)
+set(patched ${plugins}-patched) # beside it, where its libraries are found
 file(MAKE_DIRECTORY ${patched})
 # patch(NAME PATTERN REPLACEMENT): the plugin's file with some of its bytes changed.
 function(patch name pattern replacement)
