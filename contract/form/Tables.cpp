@@ -17,9 +17,13 @@ namespace contract {
 
 namespace {
 
+constexpr int notThere = notVirtual - 1;
+
 QString place(int slot)
 {
-    return slot == notVirtual ? QStringLiteral("not virtual") : QStringLiteral("slot %1").arg(slot);
+    return slot == notThere     ? QStringLiteral("not there")
+           : slot == notVirtual ? QStringLiteral("not virtual")
+                                : QStringLiteral("slot %1").arg(slot);
 }
 
 Row inSlot(const char *operation, int seen, int needed)
@@ -30,20 +34,28 @@ Row inSlot(const char *operation, int seen, int needed)
 
 Row isVirtual(const char *operation, int seen)
 {
-    return {seen != notVirtual,
-            QStringLiteral("%1: not virtual").arg(QString::fromLatin1(operation))};
+    return {seen >= 0, QStringLiteral("%1: %2").arg(QString::fromLatin1(operation), place(seen))};
 }
 
-#define IN_SLOT(operation, needed) inSlot(#operation, tableSlot(&operation), needed)
-#define VIRTUAL(operation) isVirtual(#operation, tableSlot(&operation))
+// The slot of an operation, asked in a template, so that one that is missing is told.
+#define TABLE_SLOT(Type, operation)                                                                \
+    []<class T>(std::type_identity<T>) {                                                           \
+        if constexpr (requires { &T::operation; })                                                 \
+            return tableSlot(&T::operation);                                                       \
+        else                                                                                       \
+            return notThere;                                                                       \
+    }(std::type_identity<Type>())
+#define IN_SLOT(Type, operation, needed)                                                           \
+    inSlot(#Type "::" #operation, TABLE_SLOT(Type, operation), needed)
+#define VIRTUAL(Type, operation) isVirtual(#Type "::" #operation, TABLE_SLOT(Type, operation))
 
 Finding pluginTable()
 {
-    return judge({IN_SLOT(BasicPlugin::init, 2), IN_SLOT(BasicPlugin::deinit, 3),
-                  IN_SLOT(BasicPlugin::isFeatureMatched, 4), IN_SLOT(BasicPlugin::setFeature, 5),
-                  IN_SLOT(BasicPlugin::addHandler, 6), IN_SLOT(BasicPlugin::addTrigger, 7),
-                  IN_SLOT(BasicPlugin::disableTriggers, 8),
-                  IN_SLOT(BasicPlugin::enableTriggers, 9)});
+    return judge({IN_SLOT(BasicPlugin, init, 2), IN_SLOT(BasicPlugin, deinit, 3),
+                  IN_SLOT(BasicPlugin, isFeatureMatched, 4), IN_SLOT(BasicPlugin, setFeature, 5),
+                  IN_SLOT(BasicPlugin, addHandler, 6), IN_SLOT(BasicPlugin, addTrigger, 7),
+                  IN_SLOT(BasicPlugin, disableTriggers, 8),
+                  IN_SLOT(BasicPlugin, enableTriggers, 9)});
 }
 
 struct NextPlugin : BasicPlugin
@@ -53,31 +65,31 @@ struct NextPlugin : BasicPlugin
 
 Finding pluginTableEnd()
 {
-    return judge({IN_SLOT(NextPlugin::next, 10)});
+    return judge({IN_SLOT(NextPlugin, next, 10)});
 }
 
 Finding notifierTable()
 {
-    const int first = tableSlot(&ActivityNotifier::subscribe);
+    const int first = TABLE_SLOT(ActivityNotifier, subscribe);
     return judge({isVirtual("ActivityNotifier::subscribe", first),
-                  IN_SLOT(ActivityNotifier::disableListener, first + 3),
-                  IN_SLOT(ActivityNotifier::enableListener, first + 4),
-                  IN_SLOT(ActivityNotifier::notify, first + 5)});
+                  IN_SLOT(ActivityNotifier, disableListener, first + 3),
+                  IN_SLOT(ActivityNotifier, enableListener, first + 4),
+                  IN_SLOT(ActivityNotifier, notify, first + 5)});
 }
 
 Finding documentTable()
 {
-    const int get = tableSlot(&AbstractDocument::getPluginData);
+    const int get = TABLE_SLOT(AbstractDocument, getPluginData);
     return judge({isVirtual("AbstractDocument::getPluginData", get),
-                  IN_SLOT(AbstractDocument::setPluginData, get + 1)});
+                  IN_SLOT(AbstractDocument, setPluginData, get + 1)});
 }
 
 Finding documentOperations()
 {
-    return judge({VIRTUAL(AbstractDocument::getType), VIRTUAL(AbstractDocument::getOrder),
-                  VIRTUAL(AbstractDocument::getPositionByPosnum),
-                  VIRTUAL(AbstractDocument::setDocumentSwitch),
-                  VIRTUAL(AbstractDocument::getPositionList)});
+    return judge({VIRTUAL(AbstractDocument, getType), VIRTUAL(AbstractDocument, getOrder),
+                  VIRTUAL(AbstractDocument, getPositionByPosnum),
+                  VIRTUAL(AbstractDocument, setDocumentSwitch),
+                  VIRTUAL(AbstractDocument, getPositionList)});
 }
 
 struct NextWatcher : DocumentWatcher
@@ -87,24 +99,25 @@ struct NextWatcher : DocumentWatcher
 
 Finding watcherTable()
 {
-    return judge({IN_SLOT(DocumentWatcher::setDocument, 0), IN_SLOT(NextWatcher::next, 1)});
+    return judge({IN_SLOT(DocumentWatcher, setDocument, 0), IN_SLOT(NextWatcher, next, 1)});
 }
 
 Finding listenerTable()
 {
-    return judge({VIRTUAL(BaseActivityListener::handleEvent)});
+    return judge({VIRTUAL(BaseActivityListener, handleEvent)});
 }
 
 Finding serviceTables()
 {
-    return judge({VIRTUAL(ActionQueueController::runAction), VIRTUAL(Session::getModifiers),
-                  VIRTUAL(Config::getBool), VIRTUAL(Dialog::showQuestion),
-                  VIRTUAL(DocumentLogic::stornoPosition),
-                  VIRTUAL(LoyaltySystemLayer::updateDocument)});
+    return judge({VIRTUAL(ActionQueueController, runAction), VIRTUAL(Session, getModifiers),
+                  VIRTUAL(Config, getBool), VIRTUAL(Dialog, showQuestion),
+                  VIRTUAL(DocumentLogic, stornoPosition),
+                  VIRTUAL(LoyaltySystemLayer, updateDocument)});
 }
 
-#undef IN_SLOT
 #undef VIRTUAL
+#undef IN_SLOT
+#undef TABLE_SLOT
 
 } // namespace
 
