@@ -29,7 +29,11 @@ if(PACKAGINGCONTROL_WERROR)
 endif()
 # Debian 12's valgrind does not read the version that Clang writes by itself.
 add_compile_options($<$<CXX_COMPILER_ID:Clang>:-fdebug-default-version=4>)
-add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+# Headers of another host may use what this code does without.
+if(NOT PACKAGINGCONTROL_HOST_PACKAGE)
+    add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    set(PACKAGINGCONTROL_NO_CASTS QT_NO_CAST_FROM_ASCII)
+endif()
 add_link_options(-Wl,--as-needed)
 if(PACKAGINGCONTROL_SANITIZE)
     set(PACKAGINGCONTROL_SANITIZERS -fsanitize=address,undefined)

@@ -58,10 +58,20 @@ public:
     double getCquant() const;
     QString getGroupId() const;
     void setGroupId(const QString &group);
+    // Qt's keywords and a text that is converted unseen: both are this SDK's to use.
+    bool isApart() const
+    {
+        return m_group != "";
+    }
 
     void setQuantity(double quantity);
     //! What the shop does with the catalogue's data of a line that is no longer sold.
     void retire();
+
+#if !defined(SHOPLINE_BREAKS_Form_Bases)
+signals:
+    void weighed();
+#endif
 
 private:
     int m_number;
