@@ -15,10 +15,13 @@ function(contract_try result log host text)
     set(${log} "${output}" PARENT_SCOPE)
 endfunction()
 
-# contract_first_error(LOG RESULT): what the compiler said first, without the place.
+# contract_first_error(LOG RESULT): what the compiler said first, and where, if in a header of the host.
 function(contract_first_error log result)
-    string(REGEX MATCH "error: [^\n]*" error "${log}")
-    string(REPLACE "error: " "" error "${error}")
+    string(REGEX MATCH "(([^/\n]+\\.h[a-z]*):([0-9]+):[0-9:]*|[^\n]*) error: ([^\n]*)" error "${log}")
+    set(error "${CMAKE_MATCH_4}")
+    if(CMAKE_MATCH_2)
+        string(APPEND error " (${CMAKE_MATCH_2}, line ${CMAKE_MATCH_3})")
+    endif()
     set(${result} "${error}" PARENT_SCOPE)
 endfunction()
 
