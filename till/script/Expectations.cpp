@@ -37,7 +37,7 @@ Outcome checkSaid(const QString &what, const QStringList &words, const QList<tr:
         return text.key() == expected
                || text.text().split('\n').join(' ') == expected.split('\n').join(' ');
     });
-    return found ? Outcome::done() : differs(what, "\"" + expected + "\"", keysOf(said));
+    return found ? Outcome::done() : differs(what, "\"" + brief(expected) + "\"", keysOf(said));
 }
 
 QString stateName(const Receipt *receipt)
@@ -321,7 +321,7 @@ Outcome Expectations::log(const QStringList &words) const
         return lines.isEmpty() ? Outcome::done() : differs("log", "none", found);
     const QString expected = words.join(' ');
     return lines.contains(expected) ? Outcome::done()
-                                    : differs("log", "\"" + expected + "\"", found);
+                                    : differs("log", "\"" + brief(expected) + "\"", found);
 }
 
 Outcome Expectations::state(const QStringList &words) const
