@@ -15,6 +15,14 @@ if(PACKAGINGCONTROL_GZIP)
     set(changelog ${PROJECT_BINARY_DIR}/debian/changelog)
     configure_file(cmake/debian/changelog.in ${changelog} @ONLY)
     execute_process(COMMAND ${PACKAGINGCONTROL_GZIP} -9nf ${changelog})
+    set(manual ${PROJECT_BINARY_DIR}/debian/till.1.gz)
+    add_custom_command(OUTPUT ${manual}
+        COMMAND ${PACKAGINGCONTROL_GZIP} -9nc ${PROJECT_BINARY_DIR}/till/console/till.1 > ${manual}
+        DEPENDS till_manual ${PROJECT_BINARY_DIR}/till/console/till.1
+        VERBATIM
+    )
+    add_custom_target(debian_manual ALL DEPENDS ${manual})
+    install(FILES ${manual} DESTINATION share/man/man1 COMPONENT runtime EXCLUDE_FROM_ALL)
     foreach(component runtime dev)
         set(package packagingcontrol)
         if(component STREQUAL "dev")
