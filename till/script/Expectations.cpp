@@ -1,20 +1,11 @@
 #include "till/script/Expectations.h"
 
-#include "till/language/Nearest.h"
 #include "till/script/Comparison.h"
-#include "till/script/Usage.h"
 #include "till/script/Words.h"
 
 #include <algorithm>
 
 namespace till {
-
-//! A row of the table of what can be expected.
-struct Expectations::Row
-{
-    Usage usage;
-    Checker check; //!< given the words behind the name
-};
 
 namespace {
 
@@ -60,32 +51,12 @@ Outcome checkPart(const Position &position, const QString &part, const QString &
     return notOneOf(part, {"quantity", "base", "sum", "article", "stornoed", "live"});
 }
 
-Outcome unknownExpectation(const QString &word, const QStringList &known)
-{
-    const QString meant = nearest(word, known);
-    if (meant.isEmpty())
-        return Outcome::mistake(
-            told("till", "\"%1\" cannot be expected; try 'help expect'").with({word}));
-    return Outcome::mistake(
-        told("till", "\"%1\" cannot be expected; did you mean '%2'?").with({word, meant}));
-}
-
 //! How a command ended, in the word by which "expect" is told so; a failure cannot be expected.
 QString endOf(const Outcome &outcome)
 {
     static const QStringList words{"accepted", "refused",    "refused",        "refused",
                                    "mistake",  "not stored", "not as expected"};
     return words[outcome.kind];
-}
-
-QStringList ends()
-{
-    return {"accepted", "refused", "mistake"};
-}
-
-bool isEnd(const QString &word)
-{
-    return ends().contains(word);
 }
 
 //! What the goods hold in the tara at \a posnum.
@@ -104,82 +75,6 @@ double unplaced(const GoodsUse &goods, const Position *position)
 }
 
 } // namespace
-
-const QList<Expectations::Row> &Expectations::rows()
-{
-    static const QList<Row> table{
-        {{"position",
-          told("till", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE..."),
-          told("till", "a position, and what is in it"), 2, Usage::any},
-         &Expectations::position},
-        {{"positions", told("till", "COUNT"), told("till", "how many positions are not stornoed"),
-          1, 1},
-         &Expectations::positions},
-        {{"tara", told("till", "N none|capacity C|free F..."),
-          told("till", "what is noted of a tara position"), 2, Usage::any},
-         &Expectations::tara},
-        {{"goods", told("till", "N none|in TARA AMOUNT...|unplaced AMOUNT..."),
-          told("till", "where the goods of a position are"), 2, Usage::any},
-         &Expectations::goods},
-        {{"records", told("till", "TARAS GOODS"),
-          told("till", "how many records there are of each kind"), 2, 2},
-         &Expectations::records},
-        {{"total", told("till", "MONEY"), told("till", "the sum of the receipt"), 1, 1},
-         &Expectations::total},
-        {{"message", told("till", "none|KEY|TEXT"),
-          told("till", "a message that the last command showed"), 1, Usage::any},
-         &Expectations::message},
-        {{"question", told("till", "none|KEY|TEXT"),
-          told("till", "a question that the last command asked"), 1, Usage::any},
-         &Expectations::question},
-        {{"log", told("till", "none|TEXT"),
-          told("till", "a line that the plugin logged for the last command"), 1, Usage::any},
-         &Expectations::log},
-        {{"state", verbatim("none|open|subtotal|closed|cancelled"),
-          told("till", "how far the receipt is"), 1, 1},
-         &Expectations::state},
-        {{"control", verbatim("active|suspended|none"),
-          told("till", "whether the plugin watches the receipt"), 1, 1},
-         &Expectations::control},
-    };
-    return table;
-}
-
-QString Expectations::help(const Translator &translator)
-{
-    QStringList lines{"  expect accepted|refused|mistake "
-                          + translator.text(told("till", "COMMAND...")),
-                      "      " + translator.text(told("till", "carry out a command that ends so"))};
-    for (const Row &row : rows())
-        lines +=
-            {"  expect " + row.usage.text(translator), "      " + translator.text(row.usage.help)};
-    return lines.join('\n');
-}
-
-QStringList Expectations::names()
-{
-    QStringList names = ends();
-    for (const Row &row : rows())
-        names.append(row.usage.name);
-    return names;
-}
-
-bool Expectations::isOfCommand(const QStringList &words)
-{
-    return words.size() > 1 && isEnd(words[0]) && words[1] != "expect";
-}
-
-Outcome Expectations::check(const QStringList &words)
-{
-    if (isEnd(words[0]))
-        return command(words[0], words.mid(1));
-    const Row *const row = rowCalled(words[0], rows());
-    if (!row)
-        return unknownExpectation(words[0], names());
-    if (!row->usage.allows(words.mid(1)))
-        return wrongWords({"expect " + row->usage.name, row->usage.words, {}, 0, 0});
-    return (this->*row->check)(words.mid(1));
-}
 
 Outcome Expectations::command(const QString &end, const QStringList &words) const
 {
