@@ -1,6 +1,7 @@
 #include "till/receipt/TaraState.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace till {
 
@@ -28,6 +29,14 @@ const Use *firstOf(const QList<Use> &uses, Match match)
     return found == uses.cend() ? nullptr : &*found;
 }
 
+//! Of several with one key, the first counts.
+template <typename Key, typename Use>
+void insertFirst(QHash<Key, const Use *> &uses, const Key &key, const Use *use)
+{
+    if (!uses.contains(key))
+        uses.insert(key, use);
+}
+
 } // namespace
 
 TaraState TaraState::read(const Document::PluginData &data, const QString &pluginId)
@@ -48,14 +57,33 @@ const TaraUse *TaraState::tara(int posnum) const
     return firstOf(taras, [=](const TaraUse &use) { return use.posnum == posnum; });
 }
 
-const TaraUse *TaraState::taraById(const QString &id) const
-{
-    return firstOf(taras, [&id](const TaraUse &use) { return use.id == id; });
-}
-
 const GoodsUse *TaraState::goodsOf(int posnum) const
 {
     return firstOf(goods, [=](const GoodsUse &use) { return use.posnum == posnum; });
+}
+
+TaraIndex::TaraIndex(const TaraState &state)
+{
+    for (const TaraUse &tara : state.taras) {
+        insertFirst(m_taras, tara.posnum, &tara);
+        insertFirst(m_tarasById, tara.id, &tara);
+    }
+    for (const GoodsUse &goods : state.goods) {
+        insertFirst(m_goods, goods.posnum, &goods);
+        for (auto used = goods.used.cbegin(); used != goods.used.cend(); ++used)
+            m_goodsIn[used.key()].append(&goods);
+    }
+}
+
+QList<const TaraUse *> TaraIndex::tarasOf(const GoodsUse &goods) const
+{
+    QList<const TaraUse *> taras;
+    for (auto used = goods.used.cbegin(); used != goods.used.cend(); ++used) {
+        if (const TaraUse *tara = m_tarasById.value(used.key()))
+            taras.append(tara);
+    }
+    std::sort(taras.begin(), taras.end(), std::less<>()); // as they lie in the state's list
+    return taras;
 }
 
 } // namespace till

@@ -3,6 +3,7 @@
 
 #include "host/Document.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QString>
@@ -46,10 +47,32 @@ struct TaraState
 
     //! The first tara record of that position, or null.
     const TaraUse *tara(int posnum) const;
-    //! The tara record with that identifier, or null.
-    const TaraUse *taraById(const QString &id) const;
     //! The first goods record of that position, or null.
     const GoodsUse *goodsOf(int posnum) const;
+};
+
+//! Finds the records of a state at a cost that does not grow with it. The state must outlive it and
+//! stay as it is.
+class TaraIndex
+{
+public:
+    explicit TaraIndex(const TaraState &state);
+
+    //! The first record of that position, or null.
+    const TaraUse *tara(int posnum) const { return m_taras.value(posnum); }
+    const GoodsUse *goodsOf(int posnum) const { return m_goods.value(posnum); }
+
+    //! The goods that are in the tara, in their order.
+    QList<const GoodsUse *> goodsIn(const TaraUse &tara) const { return m_goodsIn.value(tara.id); }
+    //! The taras that the goods are in, in the order of the taras; of those with one identifier the
+    //! first.
+    QList<const TaraUse *> tarasOf(const GoodsUse &goods) const;
+
+private:
+    QHash<int, const TaraUse *> m_taras;
+    QHash<int, const GoodsUse *> m_goods;
+    QHash<QString, const TaraUse *> m_tarasById;
+    QHash<QString, QList<const GoodsUse *>> m_goodsIn;
 };
 
 } // namespace till

@@ -44,7 +44,7 @@ public:
         : m_translator(translator)
         , m_receipt(receipt)
         , m_taras(taras)
-        , m_taraText(translator, receipt, taras)
+        , m_taraText(translator, receipt, m_taras)
     {
     }
 
@@ -133,7 +133,7 @@ private:
 
     const Translator &m_translator;
     const Receipt &m_receipt;
-    const TaraState &m_taras;
+    const TaraIndex m_taras;
     const TaraText m_taraText;
 };
 

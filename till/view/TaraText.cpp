@@ -136,11 +136,9 @@ QString TaraText::fillText(const TaraUse &tara, Fill fill) const
 QList<Piece> TaraText::contentsOf(const TaraUse &tara) const
 {
     QList<Piece> contents;
-    for (const GoodsUse &goods : m_state.goods) {
-        const auto used = goods.used.constFind(tara.id);
-        if (used != goods.used.cend())
-            contents.append({share(goods.posnum, *used)});
-    }
+    const auto all = m_index.goodsIn(tara);
+    for (const GoodsUse *goods : all)
+        contents.append({share(goods->posnum, goods->used.value(tara.id))});
     return contents;
 }
 
@@ -148,10 +146,9 @@ QList<Piece> TaraText::contentsOf(const TaraUse &tara) const
 QString TaraText::contentsUnit(const TaraUse &tara) const
 {
     QStringList units;
-    for (const GoodsUse &goods : m_state.goods) {
-        if (!goods.used.contains(tara.id))
-            continue;
-        if (const auto position = m_receipt.line(goods.posnum))
+    const auto all = m_index.goodsIn(tara);
+    for (const GoodsUse *goods : all) {
+        if (const auto position = m_receipt.line(goods->posnum))
             units.append(unitOf(position->article()));
     }
     units.removeDuplicates();
@@ -163,10 +160,9 @@ QList<Piece> TaraText::sharesOf(const GoodsUse &goods) const
 {
     QList<Piece> shares;
     QMap<QString, double> gone = goods.used;
-    for (const TaraUse &tara : m_state.taras) {
-        if (gone.contains(tara.id))
-            shares.append({share(tara.posnum, gone.take(tara.id))});
-    }
+    const auto taras = m_index.tarasOf(goods);
+    for (const TaraUse *tara : taras)
+        shares.append({share(tara->posnum, gone.take(tara->id))});
     return shares + goneShares(gone.values());
 }
 

@@ -22,10 +22,10 @@ QString unitOf(const ArticleData &article);
 class TaraText
 {
 public:
-    TaraText(const Translator &translator, const Receipt &receipt, const TaraState &state)
+    TaraText(const Translator &translator, const Receipt &receipt, const TaraIndex &index)
         : m_translator(translator)
         , m_receipt(receipt)
-        , m_state(state)
+        , m_index(index)
     {
     }
 
@@ -52,7 +52,7 @@ private:
 
     const Translator &m_translator;
     const Receipt &m_receipt;
-    const TaraState &m_state;
+    const TaraIndex &m_index;
 };
 
 } // namespace till
