@@ -150,6 +150,9 @@ public:
         recordRows();
         m_till.emplace(tillPath());
         m_file.emplace(byHandPath());
+        // The first command after a take-up stores the whole receipt.
+        measured();
+        byHand();
     }
 
     void measured()
