@@ -1,7 +1,5 @@
 #include "tests/model/RealServices.h"
 
-#include "host/Dialog.h"
-#include "host/DocumentLogic.h"
 #include "host/Event.h"
 
 #include <log4qt/appenderskeleton.h>
@@ -192,28 +190,16 @@ RealHost::Services::Services(RealHost &host)
     , m_messages(new Messages(host))
     , m_logger(Log4Qt::LogManager::logger("packaging"))
     , m_appender(new Appender(host))
+    , m_installed(m_notifier.get(), m_settings.get(), &host.m_session, m_queue.get(),
+                  m_loyalty.get(), new Question(host), new Logic(host))
 {
     // What the messages listen to is no part of the journal.
     m_notifier->ActivityNotifier::subscribe(m_messages.get(), {EActivityListener::eventError});
     m_logger->addAppender(m_appender);
-    Singleton<ActivityNotifier>::instance = m_notifier.get();
-    Singleton<Config>::instance = m_settings.get();
-    Singleton<Session>::instance = &host.m_session;
-    Singleton<ActionQueueController>::instance = m_queue.get();
-    Singleton<LoyaltySystemLayer>::instance = m_loyalty.get();
-    MockFactory<DocumentLogic>::mocked.reset(new Logic(host));
-    MockFactory<Dialog>::mocked.reset(new Question(host));
 }
 
 RealHost::Services::~Services()
 {
-    MockFactory<Dialog>::mocked.reset();
-    MockFactory<DocumentLogic>::mocked.reset();
-    Singleton<LoyaltySystemLayer>::instance = nullptr;
-    Singleton<ActionQueueController>::instance = nullptr;
-    Singleton<Session>::instance = nullptr;
-    Singleton<Config>::instance = nullptr;
-    Singleton<ActivityNotifier>::instance = nullptr;
     m_logger->removeAppender(m_appender);
 }
 

@@ -2,10 +2,9 @@
 #define TESTS_MODEL_REALSERVICES_H
 
 #include "tests/model/RealHost.h"
+#include "tests/support/InstalledServices.h"
 
-#include "host/ActionQueueController.h"
 #include "host/BaseActivityListener.h"
-#include "host/LoyaltySystemLayer.h"
 
 #include <log4qt/logger.h>
 
@@ -38,6 +37,7 @@ private:
     std::unique_ptr<BaseActivityListener> m_messages;
     Log4Qt::Logger *m_logger;
     Log4Qt::AppenderSharedPtr m_appender;
+    const InstalledServices m_installed;
 };
 
 } // namespace model

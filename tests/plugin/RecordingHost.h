@@ -1,29 +1,12 @@
 #ifndef TESTS_PLUGIN_RECORDINGHOST_H
 #define TESTS_PLUGIN_RECORDINGHOST_H
 
-#include "host/Singleton.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/InstalledServices.h"
 #include "tests/support/TestPlugin.h"
 
 #include <algorithm>
 #include <utility>
-
-//! Puts a service in its singleton's place while it lives.
-template <class Service>
-class Installed
-{
-public:
-    explicit Installed(Service *service)
-        : m_before(Singleton<Service>::instance)
-    {
-        Singleton<Service>::instance = service;
-    }
-    ~Installed() { Singleton<Service>::instance = m_before; }
-    Q_DISABLE_COPY_MOVE(Installed)
-
-private:
-    Service *m_before;
-};
 
 //! A notifier that works, and notes what is asked of it as "subscribe 19 21", "enable", "disable".
 class RecordingNotifier : public ActivityNotifier
