@@ -41,7 +41,7 @@ public:
         while (!m_commands.hasQuit()) {
             const std::optional<TypedLine> line = readTyped(say(told("till", "till> ")));
             if (!line || isLeaving(line->end))
-                return m_show(say(told("till", "The receipt in hand is kept.")));
+                return m_show(say(told("till", "The open receipt is kept.")));
             if (line->end == TypedLine::Entered)
                 runTyped(line->text);
         }

@@ -372,7 +372,7 @@
         <translation>%1: переведена в формат этой кассы; прежняя копия — %2</translation>
     </message>
     <message>
-        <source>The receipt in hand is kept.</source>
+        <source>The open receipt is kept.</source>
         <translation>Открытый чек сохранён.</translation>
     </message>
     <message>
