@@ -280,18 +280,6 @@ qint64 highestNumber(Database &database)
                                    "receipts), 0))"));
 }
 
-QList<JournalEntry> readJournal(Database &database, qint64 receiptId)
-{
-    QList<JournalEntry> entries;
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT depth, kind, json FROM journal WHERE receipt = ? ORDER BY id"),
-        {receiptId});
-    while (rows && database.next(*rows))
-        entries.append(
-            {rows->value(0).toInt(), rows->value(1).toString(), rows->value(2).toByteArray()});
-    return entries;
-}
-
 LineRecord lineOf(const QVariantList &values)
 {
     const ArticleData article{values[3].toString(), values[4].toString(), values[5].toLongLong(),

@@ -2,7 +2,6 @@
 #define TILL_STORAGE_RECEIPTREADER_H
 
 #include "till/receipt/ReceiptRecord.h"
-#include "till/storage/Storage.h"
 #include "till/storage/VariantBytes.h"
 
 #include <optional>
@@ -56,9 +55,6 @@ QString reasonToSetApart(Database &database, qint64 id);
 
 //! The highest number that was ever given to a receipt; 0 when none was.
 qint64 highestNumber(Database &database);
-
-//! The receipt's journal, oldest first.
-QList<JournalEntry> readJournal(Database &database, qint64 receiptId);
 
 //! The line that a row of positions has.
 LineRecord lineOf(const QVariantList &values);

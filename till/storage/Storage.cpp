@@ -103,7 +103,14 @@ Result<> Storage::setApart(qint64 id)
 QList<JournalEntry> Storage::journal(qint64 receiptId) const
 {
     m_database->forgetFault();
-    return readJournal(*m_database, receiptId);
+    QList<JournalEntry> entries;
+    QSqlQuery *const rows = m_database->run(
+        QStringLiteral("SELECT depth, kind, json FROM journal WHERE receipt = ? ORDER BY id"),
+        {receiptId});
+    while (rows && m_database->next(*rows))
+        entries.append(
+            {rows->value(0).toInt(), rows->value(1).toString(), rows->value(2).toByteArray()});
+    return entries;
 }
 
 } // namespace till
