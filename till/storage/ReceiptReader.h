@@ -1,8 +1,8 @@
 #ifndef TILL_STORAGE_RECEIPTREADER_H
 #define TILL_STORAGE_RECEIPTREADER_H
 
+#include "till/database/VariantBytes.h"
 #include "till/receipt/ReceiptRecord.h"
-#include "till/storage/VariantBytes.h"
 
 #include <optional>
 

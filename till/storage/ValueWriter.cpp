@@ -1,8 +1,8 @@
 #include "till/storage/ValueWriter.h"
 
 #include "till/database/Database.h"
+#include "till/database/VariantBytes.h"
 #include "till/storage/Schema.h"
-#include "till/storage/VariantBytes.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "till/storage/VariantBytes.h"
+#include "till/database/VariantBytes.h"
 
 #include "till/receipt/ValueChange.h"
 

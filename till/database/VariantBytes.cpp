@@ -1,4 +1,4 @@
-#include "till/storage/VariantBytes.h"
+#include "till/database/VariantBytes.h"
 
 #include <QtCore/QAssociativeIterable>
 #include <QtCore/QDataStream>

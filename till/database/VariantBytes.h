@@ -1,5 +1,5 @@
-#ifndef TILL_STORAGE_VARIANTBYTES_H
-#define TILL_STORAGE_VARIANTBYTES_H
+#ifndef TILL_DATABASE_VARIANTBYTES_H
+#define TILL_DATABASE_VARIANTBYTES_H
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
@@ -31,4 +31,4 @@ private:
 
 } // namespace till
 
-#endif // TILL_STORAGE_VARIANTBYTES_H
+#endif // TILL_DATABASE_VARIANTBYTES_H
