@@ -1,8 +1,8 @@
 #include "till/script/CommandLine.h"
 
 #include "till/language/TillMessages.h"
-#include "till/script/RegisterWords.h"
-#include "till/script/Words.h"
+#include "till/words/RegisterWords.h"
+#include "till/words/Words.h"
 
 #include <QtCore/QMap>
 

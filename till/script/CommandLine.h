@@ -6,9 +6,9 @@
 #include "till/register/Outcome.h"
 #include "till/script/Expectations.h"
 #include "till/script/PreparedAnswers.h"
-#include "till/script/Usage.h"
 #include "till/view/DisplayText.h"
 #include "till/view/ReceiptView.h"
+#include "till/words/Usage.h"
 
 #include <QtCore/QStringList>
 

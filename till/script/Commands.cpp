@@ -2,7 +2,7 @@
 
 #include "till/script/CommandLine.h"
 
-#include "till/script/Words.h"
+#include "till/words/Words.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "till/script/Comparison.h"
 
-#include "till/script/Words.h"
+#include "till/words/Words.h"
 
 namespace till {
 

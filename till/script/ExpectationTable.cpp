@@ -3,8 +3,8 @@
 #include "till/script/Expectations.h"
 
 #include "till/language/Nearest.h"
-#include "till/script/Usage.h"
-#include "till/script/Words.h"
+#include "till/words/Usage.h"
+#include "till/words/Words.h"
 
 namespace till {
 

@@ -1,7 +1,7 @@
 #include "till/script/Expectations.h"
 
 #include "till/script/Comparison.h"
-#include "till/script/Words.h"
+#include "till/words/Words.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
-#ifndef TILL_SCRIPT_USAGE_H
-#define TILL_SCRIPT_USAGE_H
+#ifndef TILL_WORDS_USAGE_H
+#define TILL_WORDS_USAGE_H
 
 #include "till/language/Translator.h"
 
@@ -50,4 +50,4 @@ const Row *rowCalled(const QString &name, const QList<Row> &table)
 
 } // namespace till
 
-#endif // TILL_SCRIPT_USAGE_H
+#endif // TILL_WORDS_USAGE_H

@@ -1,5 +1,5 @@
-#include "till/script/RegisterWords.h"
-#include "till/script/Words.h"
+#include "till/words/RegisterWords.h"
+#include "till/words/Words.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#ifndef TILL_SCRIPT_REGISTERWORDS_H
-#define TILL_SCRIPT_REGISTERWORDS_H
+#ifndef TILL_WORDS_REGISTERWORDS_H
+#define TILL_WORDS_REGISTERWORDS_H
 
 #include "till/register/Command.h"
 #include "till/register/Outcome.h"
-#include "till/script/Usage.h"
+#include "till/words/Usage.h"
 
 #include <variant>
 
@@ -27,4 +27,4 @@ ReadCommand readCommand(const QStringList &words);
 
 } // namespace till
 
-#endif // TILL_SCRIPT_REGISTERWORDS_H
+#endif // TILL_WORDS_REGISTERWORDS_H

@@ -1,6 +1,6 @@
-#include "till/script/RegisterWords.h"
+#include "till/words/RegisterWords.h"
 
-#include "till/script/Words.h"
+#include "till/words/Words.h"
 
 namespace till {
 

@@ -1,8 +1,8 @@
-#ifndef TILL_SCRIPT_WORDS_H
-#define TILL_SCRIPT_WORDS_H
+#ifndef TILL_WORDS_WORDS_H
+#define TILL_WORDS_WORDS_H
 
 #include "till/register/Outcome.h"
-#include "till/script/Usage.h"
+#include "till/words/Usage.h"
 
 #include <QtCore/QStringList>
 
@@ -35,4 +35,4 @@ Outcome wrongWords(const Usage &usage);
 
 } // namespace till
 
-#endif // TILL_SCRIPT_WORDS_H
+#endif // TILL_WORDS_WORDS_H

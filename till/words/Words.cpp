@@ -1,4 +1,4 @@
-#include "till/script/Words.h"
+#include "till/words/Words.h"
 
 #include "till/language/Nearest.h"
 
