@@ -1,15 +1,15 @@
 #include "till/console/Commit.h"
 #include "till/console/ExitStatus.h"
 #include "till/console/Info.h"
-#include "till/console/Interactive.h"
 #include "till/console/Manual.h"
 #include "till/console/Options.h"
-#include "till/console/Output.h"
 #include "till/console/TraceFile.h"
 #include "till/console/Upkeep.h"
 #include "till/course/Trace.h"
 #include "till/database/DatabaseFile.h"
 #include "till/script/Script.h"
+#include "till/terminal/Interactive.h"
+#include "till/terminal/Output.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>

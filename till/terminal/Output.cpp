@@ -1,4 +1,4 @@
-#include "till/console/Output.h"
+#include "till/terminal/Output.h"
 
 #include "till/view/DisplayText.h"
 

@@ -1,5 +1,5 @@
-#ifndef TILL_CONSOLE_INTERACTIVE_H
-#define TILL_CONSOLE_INTERACTIVE_H
+#ifndef TILL_TERMINAL_INTERACTIVE_H
+#define TILL_TERMINAL_INTERACTIVE_H
 
 #include "till/script/CommandLine.h"
 
@@ -24,4 +24,4 @@ bool isTerminal();
 
 } // namespace till
 
-#endif // TILL_CONSOLE_INTERACTIVE_H
+#endif // TILL_TERMINAL_INTERACTIVE_H

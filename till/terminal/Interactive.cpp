@@ -1,7 +1,7 @@
-#include "till/console/Interactive.h"
+#include "till/terminal/Interactive.h"
 
-#include "till/console/Output.h"
-#include "till/console/TypedLine.h"
+#include "till/terminal/Output.h"
+#include "till/terminal/TypedLine.h"
 
 #include <QtCore/QTextStream>
 

@@ -1,7 +1,7 @@
-#include "till/console/TypedLine.h"
+#include "till/terminal/TypedLine.h"
 
-#include "till/console/Output.h"
 #include "till/database/DatabaseFile.h"
+#include "till/terminal/Output.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

@@ -1,5 +1,5 @@
-#ifndef TILL_CONSOLE_TYPEDLINE_H
-#define TILL_CONSOLE_TYPEDLINE_H
+#ifndef TILL_TERMINAL_TYPEDLINE_H
+#define TILL_TERMINAL_TYPEDLINE_H
 
 #include "till/script/CommandLine.h"
 
@@ -33,4 +33,4 @@ void remember(const QString &line, const QString &historyFile);
 
 } // namespace till
 
-#endif // TILL_CONSOLE_TYPEDLINE_H
+#endif // TILL_TERMINAL_TYPEDLINE_H

@@ -1,5 +1,5 @@
-#ifndef TILL_CONSOLE_OUTPUT_H
-#define TILL_CONSOLE_OUTPUT_H
+#ifndef TILL_TERMINAL_OUTPUT_H
+#define TILL_TERMINAL_OUTPUT_H
 
 #include <QtCore/QString>
 
@@ -35,4 +35,4 @@ private:
 
 } // namespace till
 
-#endif // TILL_CONSOLE_OUTPUT_H
+#endif // TILL_TERMINAL_OUTPUT_H
