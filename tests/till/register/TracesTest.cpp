@@ -19,14 +19,17 @@ protected:
         return must(Trace::start(notes, path(name)));
     }
 
-    //! The current receipt, rebuilt from the trace.
+    //! The current receipt, rebuilt from the trace, whose lines have numbers of their own.
     ReceiptRecord rebuilt(const QString &name) const
     {
         RebuiltReceipt rebuilt;
         QFile file(path(name));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        while (!file.atEnd())
-            rebuilt.read(QJsonDocument::fromJson(file.readLine()).object());
+        for (int line = 1; !file.atEnd(); ++line) {
+            const QJsonObject note = QJsonDocument::fromJson(file.readLine()).object();
+            EXPECT_EQ(note.value("line").toInt(), line);
+            rebuilt.read(note);
+        }
         return rebuilt.whole();
     }
 };
