@@ -136,12 +136,11 @@ Outcome CommandLine::carryOut(const QStringList &words, const QString &text)
 {
     m_heard = {};
     const ReadCommand read = readCommand(words);
-    const Command *const command = std::get_if<Command>(&read);
-    if (!command)
-        return tellCommand(m_notes, text, [&] { return std::get<Outcome>(read); });
+    if (!read)
+        return tellCommand(m_notes, text, [&] { return read.error(); });
     if (!m_desk.isOn())
         return tellCommand(m_notes, text, tillIsOff);
-    const Outcome outcome = cashRegister().carryOut(*command);
+    const Outcome outcome = cashRegister().carryOut(*read);
     if (outcome && outcome.change)
         print("  " + m_translator.text(messages::tillChange()).arg(toText(*outcome.change)));
     return outcome;

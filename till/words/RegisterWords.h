@@ -3,14 +3,13 @@
 
 #include "till/register/Command.h"
 #include "till/register/Outcome.h"
+#include "till/result/Result.h"
 #include "till/words/Usage.h"
-
-#include <variant>
 
 namespace till {
 
 //! A command, or the mistake in its words.
-using ReadCommand = std::variant<Command, Outcome>;
+using ReadCommand = Result<Command, Outcome>;
 
 //! How a command of the register is typed.
 struct RegisterWords

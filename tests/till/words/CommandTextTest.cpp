@@ -37,8 +37,8 @@ TEST_P(CommandText, Text_IsReadBack)
     const auto words = splitWords(toText(GetParam().command));
     ASSERT_TRUE(words.has_value());
     const ReadCommand read = readCommand(*words);
-    ASSERT_TRUE(std::holds_alternative<Command>(read));
-    EXPECT_TRUE(std::get<Command>(read) == GetParam().command);
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(*read == GetParam().command);
 }
 
 INSTANTIATE_TEST_SUITE_P(
