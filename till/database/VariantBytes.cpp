@@ -103,39 +103,41 @@ bool isKnown(const QString &typeName)
     return type.isValid() && type.hasRegisteredDataStreamOperators();
 }
 
+Fault notStorable(const QString &typeName)
+{
+    return {{},
+            QStringLiteral("hold a value of type \"%1\", which cannot be stored").arg(typeName)};
+}
+
 } // namespace
 
-std::optional<VariantBytes> VariantBytes::of(const QVariant &value, QString *culprit)
+Result<VariantBytes> VariantBytes::of(const QVariant &value)
 {
     const Survey survey(value);
-    *culprit = survey.culprit;
-    if (!culprit->isEmpty())
-        return std::nullopt;
+    if (!survey.culprit.isEmpty())
+        return notStorable(survey.culprit);
     VariantBytes stored{{}, survey.foreign.join(QLatin1Char('\n'))};
     QDataStream stream(&stored.bytes, QIODevice::WriteOnly);
     stream.setVersion(StreamVersion);
     stream << value;
     // Operators of others may not fit together, or may write nothing of what they hold.
-    if (stream.status() != QDataStream::Ok || (!stored.types.isEmpty() && !stored.decode())) {
-        *culprit = QString::fromLatin1(value.metaType().name());
-        return std::nullopt;
-    }
+    if (stream.status() != QDataStream::Ok || (!stored.types.isEmpty() && !stored.decode()))
+        return notStorable(QString::fromLatin1(value.metaType().name()));
     return stored;
 }
 
-std::optional<QVariant> VariantBytes::value(QString *reason) const
+Result<QVariant> VariantBytes::value() const
 {
     const QStringList names = types.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString &name : names) {
-        if (!isKnown(name)) {
-            *reason = QStringLiteral("hold a value of type \"%1\", which is not known").arg(name);
-            return std::nullopt;
-        }
+        if (!isKnown(name))
+            return Fault{
+                {}, QStringLiteral("hold a value of type \"%1\", which is not known").arg(name)};
     }
-    auto decoded = decode();
+    const auto decoded = decode();
     if (!decoded)
-        *reason = QStringLiteral("are damaged");
-    return decoded;
+        return Fault{{}, QStringLiteral("are damaged")};
+    return Result<QVariant>(*decoded);
 }
 
 std::optional<QVariant> VariantBytes::decode() const

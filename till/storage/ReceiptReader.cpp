@@ -181,12 +181,11 @@ std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &r
 {
     ReceiptRecord record = read.record;
     for (const ReadReceipt::Value &value : read.values) {
-        QString reason;
-        const auto decoded = value.bytes.value(&reason);
+        const auto decoded = value.bytes.value();
         if (!decoded) {
             failFor(database, record.id,
                     QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
-                        .arg(value.plugin, value.key, reason));
+                        .arg(value.plugin, value.key, decoded.error().reason));
             return std::nullopt;
         }
         take(record.pluginData[value.plugin], value.key, *decoded);

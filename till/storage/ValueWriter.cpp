@@ -96,13 +96,10 @@ bool ValueWriter::write()
 
 bool ValueWriter::write(StoredElement &row, const QVariant &value)
 {
-    QString culprit;
-    const auto bytes = VariantBytes::of(value, &culprit);
+    const auto bytes = VariantBytes::of(value);
     if (!bytes)
-        return m_database.fail(
-            QStringLiteral("the data of plugin \"%1\" under \"%2\" hold a value of type \"%3\", "
-                           "which cannot be stored")
-                .arg(m_plugin, m_key, culprit));
+        return m_database.fail(QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
+                                   .arg(m_plugin, m_key, bytes.error().reason));
     const QVariantList values{m_receipt, storable(m_plugin), storable(m_key),
                               row.place, bytes->bytes,       storable(bytes->types)};
     m_contents.toggle(row.digest);

@@ -39,8 +39,7 @@ QVariantList alike()
 
 QByteArray bytesOf(const QVariant &value)
 {
-    QString culprit;
-    const auto bytes = VariantBytes::of(value, &culprit);
+    const auto bytes = VariantBytes::of(value);
     return bytes ? bytes->bytes : QByteArray();
 }
 
