@@ -8,11 +8,6 @@ namespace till {
 
 namespace {
 
-UpkeepResult failed(ExitStatus status, const Fault &fault)
-{
-    return {status, fault.text(), true};
-}
-
 QString row(const QString &what, const QString &finding)
 {
     constexpr int width = 16;
@@ -41,40 +36,41 @@ QString linesOf(const Storage &storage, qint64 id, const ReceiptView &view)
 
 } // namespace
 
-UpkeepResult checkStored(const QString &database)
+Result<Finding, Failure> checkStored(const QString &database)
 {
     const auto report = checkDatabase(database);
     if (!report)
-        return failed(StartFailed, report.error());
+        return Failure{StartFailed, report.error()};
     QString text = row("file", report->fileFault.isEmpty() ? "whole" : report->fileFault)
                    + row("receipts", summary(*report));
     for (const OddReceipt &receipt : report->odd)
         text += row("receipt " + QString::number(receipt.id),
                     (receipt.isSetApart ? "set apart: " : "damaged: ") + receipt.reason);
-    return {report->isGood() ? AllWell : CommandFailed, text};
+    return Finding{report->isGood() ? AllWell : CommandFailed, text};
 }
 
-UpkeepResult backUpStored(const QString &database, const QString &file)
+Result<Finding, Failure> backUpStored(const QString &database, const QString &file)
 {
-    const Result<> backedUp = backUp(database, file);
-    return backedUp ? UpkeepResult{AllWell, file + ": a whole copy of " + database}
-                    : failed(StartFailed, backedUp.error());
+    if (const Result<> backedUp = backUp(database, file); !backedUp)
+        return Failure{StartFailed, backedUp.error()};
+    return Finding{AllWell, file + ": a whole copy of " + database};
 }
 
-UpkeepResult setApartStored(const QString &database, const QString &number, const ReceiptView &view)
+Result<Finding, Failure> setApartStored(const QString &database, const QString &number,
+                                        const ReceiptView &view)
 {
     bool isNumber = false;
     const qint64 id = number.toLongLong(&isNumber);
     if (!isNumber)
-        return failed(UsageError, {"set-apart", '"' + number + "\" is no number of a receipt"});
+        return Failure{UsageError, {"set-apart", '"' + number + "\" is no number of a receipt"}};
     const auto opened = Storage::open(database);
     if (!opened)
-        return failed(StartFailed, opened.error());
+        return Failure{StartFailed, opened.error()};
     const auto &storage = *opened;
     if (const Result<> apart = storage->setApart(id); !apart)
-        return failed(CommandFailed, apart.error());
-    return {AllWell, "receipt " + QString::number(id) + " is set apart and stays as it is\n"
-                         + linesOf(*storage, id, view)};
+        return Failure{CommandFailed, apart.error()};
+    return Finding{AllWell, "receipt " + QString::number(id) + " is set apart and stays as it is\n"
+                                + linesOf(*storage, id, view)};
 }
 
 } // namespace till

@@ -8,25 +8,22 @@
 
 namespace till {
 
-//! What an operation on the database came to.
-struct UpkeepResult
+//! What an operation on the database came to, also when something there is damaged.
+struct Finding
 {
     ExitStatus status = AllWell;
-    QString text; //!< for people, also when something is damaged; an error with other statuses
-
-    //! Whether the text is an error.
-    bool isError = false;
+    QString text; //!< for people
 };
 
 //! `till check`: what in the database is not as it was stored, as a table.
-UpkeepResult checkStored(const QString &database);
+Result<Finding, Failure> checkStored(const QString &database);
 
 //! `till backup FILE`: a whole copy of the database.
-UpkeepResult backUpStored(const QString &database, const QString &file);
+Result<Finding, Failure> backUpStored(const QString &database, const QString &file);
 
 //! `till set-apart NUMBER`: takes a receipt out of the way, and shows what was on it.
-UpkeepResult setApartStored(const QString &database, const QString &number,
-                            const ReceiptView &view);
+Result<Finding, Failure> setApartStored(const QString &database, const QString &number,
+                                        const ReceiptView &view);
 
 } // namespace till
 

@@ -35,13 +35,6 @@ int fail(ExitStatus status, const QString &text)
     return status;
 }
 
-//! A fault, and how the program ends for it.
-struct Failure
-{
-    ExitStatus status;
-    Fault fault;
-};
-
 QString withoutPeriod(const QString &text)
 {
     return text.endsWith('.') ? text.chopped(1) : text;
@@ -159,15 +152,15 @@ int upkeep(const Options &options, const Translator &translator)
 {
     const QString &database = options.setup.database;
     const QString word = options.words.value(0);
-    const UpkeepResult result =
+    const Result<Finding, Failure> found =
         options.mode == "check" ? checkStored(database)
         : options.mode == "backup"
             ? backUpStored(database, word)
             : setApartStored(database, word, ReceiptView(translator, options.style));
-    if (result.isError)
-        return fail(result.status, result.text);
-    Output(options.style.colour).print(result.text);
-    return result.status;
+    if (!found)
+        return fail(found.error().status, found.error().fault.text());
+    Output(options.style.colour).print(found->text);
+    return found->status;
 }
 
 QString version()
