@@ -1,11 +1,7 @@
 #include "tests/support/FakeHost.h"
 
 #include "host/ActionArguments.h"
-#include "host/ActionQueueController.h"
 #include "host/BaseActivityListener.h"
-#include "host/Dialog.h"
-#include "host/DocumentLogic.h"
-#include "host/LoyaltySystemLayer.h"
 #include "host/Quantity.h"
 
 #include <utility>
@@ -138,28 +134,14 @@ FakeHost::FakeHost()
     , m_queue(new FakeActionQueue(*this))
     , m_loyalty(new FakeLoyalty(*this))
     , m_errorListener(new ErrorListener(*this))
+    , m_installed(m_notifier.get(), m_config.get(), m_session.get(), m_queue.get(), m_loyalty.get(),
+                  new FakeDialog(*this), new FakeDocumentLogic(*this))
 {
-    Singleton<ActivityNotifier>::instance = m_notifier.get();
-    Singleton<Config>::instance = m_config.get();
-    Singleton<Session>::instance = m_session.get();
-    Singleton<ActionQueueController>::instance = m_queue.get();
-    Singleton<LoyaltySystemLayer>::instance = m_loyalty.get();
-    MockFactory<Dialog>::mocked.reset(new FakeDialog(*this));
-    MockFactory<DocumentLogic>::mocked.reset(new FakeDocumentLogic(*this));
     m_notifier->subscribe(m_errorListener.get(), {EActivityListener::eventError});
     newReceipt();
 }
 
-FakeHost::~FakeHost()
-{
-    MockFactory<Dialog>::mocked.reset();
-    MockFactory<DocumentLogic>::mocked.reset();
-    Singleton<ActivityNotifier>::instance = nullptr;
-    Singleton<Config>::instance = nullptr;
-    Singleton<Session>::instance = nullptr;
-    Singleton<ActionQueueController>::instance = nullptr;
-    Singleton<LoyaltySystemLayer>::instance = nullptr;
-}
+FakeHost::~FakeHost() = default;
 
 void FakeHost::newReceipt(int type)
 {

@@ -1,21 +1,16 @@
 #ifndef TESTS_SUPPORT_FAKEHOST_H
 #define TESTS_SUPPORT_FAKEHOST_H
 
-#include "host/ActivityNotifier.h"
 #include "host/BasicPlugin.h"
-#include "host/Config.h"
 #include "host/Document.h"
 #include "host/Event.h"
-#include "host/Session.h"
 #include "host/Tr.h"
+#include "tests/support/InstalledServices.h"
 
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 #include <memory>
-
-class ActionQueueController;
-class LoyaltySystemLayer;
 
 /*!
  * A host that works, in memory: it holds one receipt, carries out the actions that the plugin asks
@@ -99,6 +94,7 @@ private:
     std::unique_ptr<ActionQueueController> m_queue;
     std::unique_ptr<LoyaltySystemLayer> m_loyalty;
     std::unique_ptr<ErrorListener> m_errorListener;
+    const InstalledServices m_installed; //!< gone before the services are
 };
 
 #endif // TESTS_SUPPORT_FAKEHOST_H
