@@ -235,6 +235,8 @@ int main(int argc, char *argv[])
 {
     std::setlocale(LC_CTYPE, "");
     hasUtf8Locale = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+    if (!hasUtf8Locale) // Qt and the line editing take a sign for a sign then, not for bytes
+        qputenv("LC_ALL", "C.UTF-8");
     std::signal(SIGXFSZ, SIG_IGN); // the write that is too long fails instead, and is told
     Output::installMessageHandler();
     QCoreApplication application(argc, argv);

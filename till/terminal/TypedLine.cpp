@@ -59,7 +59,7 @@ void prepareTerminal(int meta)
 int dropLine(int, int)
 {
     howEnded = rl_end == 0 ? TypedLine::DroppedNone : TypedLine::Dropped;
-    std::fputs("^C", rl_outstream);
+    std::fputs("^C\n", rl_outstream); // what follows does not stand over the line
     rl_done = 1;
     return 0;
 }
@@ -71,6 +71,7 @@ void openTerminal(CommandLine &commands, const QString &historyFile)
     completed = &commands;
     rl_attempted_completion_function = complete;
     rl_completer_quote_characters = "\"";
+    rl_completer_word_break_characters = " \t\""; // as the till's own words; codes hold the others
     rl_prep_term_function = prepareTerminal;
     rl_initialize();
     rl_bind_key(ctrlC, dropLine);

@@ -203,7 +203,7 @@ TEST_F(OnTerminal, PastedAnswer_IsTaken)
 TEST_F(OnTerminal, CtrlC_DropsTheLine)
 {
     terminal->type("nonsense\x03");
-    terminal->readTo(Terminal::prompt);
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("nonsense^C\r\n"));
     EXPECT_THAT(enter("open"), Not(HasSubstr("nonsense")));
     terminal->type("\x03");
     EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("ещё раз Ctrl-C"));
@@ -243,6 +243,24 @@ TEST_F(OnTerminal, Tab_CompletesByThePlaceOfTheWord)
     EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("articles HONEY"));
     terminal->type("add \"HON\t 1\n");
     EXPECT_THAT(terminal->readTo("2480.00"), HasSubstr("add \"HONEY\" "));
+}
+
+TEST_F(OnTerminal, Tab_CompletesCodesOfAnySigns)
+{
+    const QString catalogue =
+        write("c.csv", "code;name;price;tara mode;tara capacity;pack;unit\nA='B;Odd;7;0;;1;pc\n");
+    switchOn({"--colour", "never", "--catalogue", catalogue.toStdString()});
+    enter("open");
+    terminal->type("add A=\t2\n");
+    EXPECT_THAT(terminal->readTo("14.00"), HasSubstr("add A='B 2"));
+}
+
+TEST_F(OnTerminal, LocaleThatIsNotUtf8_LeavesSignsWholeWhenOneIsTakenBack)
+{
+    switchOn({"--colour", "never"}, {{"LC_ALL", "C"}});
+    terminal->type("say \xd0\xb4\xd0\xb0\x7f.\n");
+    terminal->readTo("\r\n\xd0\xb4.");
+    leave();
 }
 
 TEST_F(OnTerminal, LocaleThatIsNotUtf8_IsToldOnceAndWorks)
