@@ -200,6 +200,7 @@ int runTraced(Options &options)
         if (!started)
             return fail(StartFailed, started.error().text());
         trace = std::move(*started);
+        std::signal(SIGPIPE, SIG_IGN); // a reader that goes away does not stop the till
         options.quiet = options.quiet || options.trace == "-";
     }
     const int status = run(options, notes);

@@ -210,6 +210,25 @@ TEST_F(FullDevice, LimitOfFileSize_FailsInsteadOfKilling)
     EXPECT_EQ(process.exitCode(), 3);
 }
 
+TEST_F(FullDevice, ReaderOfTheTraceThatGoes_DoesNotStopTheTill)
+{
+    const QString pipe = path("pipe");
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QProcess process;
+    // The trace is more than a pipe holds: the play cannot end while the reader reads no more.
+    start(process, {"--trace", pipe, "play",
+                    write("s.till", "open\n" + QByteArray("add CHIPS\n").repeated(300))});
+    QFile trace(pipe);
+    ASSERT_TRUE(trace.open(QIODevice::ReadOnly));
+    EXPECT_THAT(trace.readLine().toStdString(), HasSubstr("start"));
+    trace.close();
+    ASSERT_TRUE(process.waitForFinished(patience));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 3);
+    EXPECT_THAT(process.readAllStandardOutput().toStdString(), HasSubstr("1 of 1 scripts held"));
+    EXPECT_THAT(process.readAllStandardError().toStdString(), HasSubstr("pipe: Broken pipe"));
+}
+
 TEST_F(FullDevice, PlayThatIsKilled_LeavesNothingBehind)
 {
     ASSERT_TRUE(QDir().mkdir(path("tmp")));
