@@ -8,6 +8,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringDecoder>
 
+#include <algorithm>
 #include <utility>
 
 namespace till {
@@ -56,6 +57,19 @@ std::optional<Message> readLine(const QString &line, QString &section, Settings 
     return settingFault(key, settings.last().second);
 }
 
+//! The setting that is meant by \a key, which may lack the section; empty when none is near.
+QString meantBy(const QString &key)
+{
+    const QStringList known = knownSettings();
+    if (const QString whole = nearest(key, known); !whole.isEmpty())
+        return whole;
+    const auto isNear = [&key](const QString &setting) {
+        return !nearest(key, {setting.section(':', 1)}).isEmpty();
+    };
+    const auto found = std::find_if(known.cbegin(), known.cend(), isNear);
+    return found == known.cend() ? QString() : *found;
+}
+
 } // namespace
 
 QStringList knownSettings()
@@ -70,7 +84,7 @@ std::optional<Message> settingFault(const QString &key, const QString &value)
                    ? std::nullopt
                    : std::optional(told("till", "%1: \"%2\" is neither true nor false")
                                        .with({key, brief(value)}));
-    const QString meant = nearest(key, knownSettings());
+    const QString meant = meantBy(key);
     return meant.isEmpty()
                ? told("till", "no setting \"%1\"").with({brief(key)})
                : told("till", "no setting \"%1\"; did you mean '%2'?").with({brief(key), meant});

@@ -45,6 +45,16 @@ TEST_F(SettingsFile, ByteOrderMarkAndComments_MeanNothing)
     EXPECT_FALSE(config.getBool(key, true));
 }
 
+TEST_F(SettingsFile, KeyUnderAnotherSection_BringsTheOneThatIsMeant)
+{
+    write("[Goods]\nallowSaleEmptyTara=false\n");
+
+    EXPECT_EQ(read(),
+              path + ":2: no setting \"Goods:allowSaleEmptyTara\"; did you mean '" + key + "'?");
+    EXPECT_EQ(till::settingFault("allowSaleEmptyTara", "false")->values.value(1), key);
+    EXPECT_EQ(till::settingFault("colour", "false")->values.size(), 1);
+}
+
 TEST_F(SettingsFile, UnknownKey_IsNamedWithItsLineAndTheNearestOne)
 {
     write("[PackagingControl]\nallowSaleEmptyTara=no\nallowSaleEmtyTara=no\n");
