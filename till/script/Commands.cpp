@@ -33,8 +33,8 @@ Outcome CommandLine::articles(const QStringList &words)
     const auto found = m_desk.catalogue().containing(words.value(0));
     for (const auto &article : found) {
         const ArticleData &data = article->data;
-        const QString line = leftAligned(data.code, 10) + ' ' + rightAligned(toText(data.price), 10)
-                             + ' ' + data.name;
+        const QString line = leftAligned(printable(data.code), 10) + ' '
+                             + rightAligned(toText(data.price), 10) + ' ' + printable(data.name);
         print(elided(line, m_view.columns()));
     }
     if (found.isEmpty())

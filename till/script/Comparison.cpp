@@ -13,7 +13,7 @@ Outcome differs(const QString &what, const QString &expected, const QString &fou
 
 Outcome compare(const QString &what, const QString &expected, const QString &found)
 {
-    return expected == found ? Outcome::done() : differs(what, expected, found);
+    return expected == found ? Outcome::done() : differs(what, brief(expected), found);
 }
 
 Outcome compareQuantity(const QString &what, const QString &expected, double found)

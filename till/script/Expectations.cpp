@@ -90,8 +90,8 @@ Outcome Expectations::command(const QString &end, const QStringList &words) cons
     }
     const QString why = m_textOf(outcome);
     if (outcome.isRefusal())
-        return differs(words.join(' '), end, why); // which begins with what was found
-    return differs(words.join(' '), end, why.isEmpty() ? found : found + ": " + why);
+        return differs(brief(words.join(' ')), end, why); // which begins with what was found
+    return differs(brief(words.join(' ')), end, why.isEmpty() ? found : found + ": " + why);
 }
 
 Outcome Expectations::position(const QStringList &words) const

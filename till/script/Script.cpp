@@ -75,7 +75,7 @@ Result<> Script::playLines(CommandLine &commands,
         if (isCommand(m_lines[i]))
             commands.notes().add("script", {{"file", m_path}, {"at", i + 1}});
         if (const Outcome outcome = commands.run(m_lines[i]); !outcome)
-            return Fault{place(i), m_lines[i].trimmed() + ": " + why(commands, outcome)};
+            return Fault{place(i), brief(m_lines[i].trimmed()) + ": " + why(commands, outcome)};
     }
     if (const QString left = commands.leftOver(); !left.isEmpty())
         return Fault{place(m_lines.size() - 1), left};

@@ -61,8 +61,9 @@ public:
             const QString text = m_commands.textOf(outcome);
             allDone = allDone && outcome;
             if (!outcome)
-                Output::error(say(told("till", "standard input:%1: %2: %3")
-                                      .with({QString::number(number), line->trimmed(), text})));
+                Output::error(
+                    say(told("till", "standard input:%1: %2: %3")
+                            .with({QString::number(number), brief(line->trimmed()), text})));
             else if (!text.isEmpty())
                 m_show(text);
         }

@@ -74,6 +74,18 @@ TEST_F(Error, LongWord_IsCut)
     EXPECT_THAT(said, HasSubstr("no article \"" + std::string(59, 'x') + "…\" in"));
 }
 
+TEST_F(Error, LongLine_IsCut)
+{
+    const QByteArray word(5000, 'x');
+    for (const QByteArray &line : {"open " + word, "expect position 1 article " + word,
+                                   "expect accepted open " + word, "expect refused say " + word}) {
+        EXPECT_LT(errorOf("open\nadd CHIPS\n" + line + "\n").size(), 300U);
+        const RunResult played = run({"play", write("s.till", "open\nadd CHIPS\n" + line + "\n")});
+        EXPECT_EQ(played.status, 1);
+        EXPECT_LT(played.err.size(), path("s.till").size() + 300U);
+    }
+}
+
 TEST_F(Error, UnknownCommand_KeepsWhatTheLastOneSaid)
 {
     EXPECT_THAT(errorOf("open\npay\nnonsense\nexpect message tillReceiptEmpty\n"),
@@ -84,6 +96,15 @@ TEST_F(Error, ArticlesWithoutAny_SaySo)
 {
     EXPECT_EQ(run({"--db", ":memory:", "--lang", "en"}, "articles zzz\n").out,
               "No article contains \"zzz\"\n");
+}
+
+TEST_F(Error, ArticlesWithHiddenSigns_StayWithinTheWidth)
+{
+    const QByteArray hidden = "\xe2\x80\xae\xe2\x80\x8b"; // an override, a space of no width
+    const QString catalogue = write("c.csv", "code;name;price;tara mode;tara capacity;pack;unit\nT;"
+                                                 + (hidden + "x").repeated(100) + ";1;0;;1;pc\n");
+    const RunResult listed = run({"--db", ":memory:", "--catalogue", catalogue}, "articles\n");
+    EXPECT_EQ(listed.out, "T                1.00 " + std::string(57, 'x') + "…\n");
 }
 
 TEST_F(Error, GoodsThatCannotFollowTheirTara_AreTold)
