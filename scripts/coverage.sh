@@ -23,7 +23,7 @@ figure "Tests (GCC)" "$(tests_told "$build")"
 # The plugin's modules are read from the plugin's own objects, not from the tests that include their
 # headers. The branches that count are those of the code: each call has one of the compiler's besides,
 # for an exception that passes.
-plugin=$(find "$build" -type d -name PackagingControlObjects.dir)
+plugin=$build/plugin/CMakeFiles/PackagingControlObjects.dir
 gcovr --root . --json "$build/plugin.json" --gcov-ignore-parse-errors \
     --exclude-throw-branches --exclude-unreachable-branches \
     --filter 'plugin/' --filter 'registry/' --filter 'events/' --filter 'triggers/' "$plugin"
