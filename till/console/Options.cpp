@@ -17,25 +17,27 @@ namespace till {
 namespace {
 
 //! What is wrong with a word that says nothing: "" would else mean that there is none.
-QString emptyFault(const QCommandLineParser &parser, const QStringList &words)
+Result<> checkEmpty(const QCommandLineParser &parser, const QStringList &words)
 {
     for (const QString name : {"db", "catalogue", "plugin", "config", "trace"}) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
-            return "--" + name + ": no file is named";
+            return Fault{"--" + name, "no file is named"};
     }
-    return words.contains(QString()) ? QStringLiteral("a word is empty") : QString();
+    if (words.contains(QString()))
+        return Fault{{}, "a word is empty"};
+    return {};
 }
 
-//! Reads the settings of --set; what is wrong with the first that is no KEY=VALUE.
-QString readSettings(const QStringList &assignments, QMap<QString, QString> &settings)
+//! Reads the settings of --set, up to the first that is no KEY=VALUE.
+Result<> readSettings(const QStringList &assignments, QMap<QString, QString> &settings)
 {
     for (const QString &assignment : assignments) {
         const qsizetype equals = assignment.indexOf('=');
         if (equals <= 0)
-            return "--set: \"" + brief(assignment) + "\" is not KEY=VALUE";
+            return Fault{"--set", '"' + brief(assignment) + "\" is not KEY=VALUE"};
         const QString key = assignment.left(equals);
         if (const auto fault = settingFault(key, assignment.mid(equals + 1)))
-            return "--set: " + Translator("en").text(*fault);
+            return Fault{"--set", Translator("en").text(*fault)};
         settings.insert(key, assignment.mid(equals + 1));
     }
     return {};
@@ -55,8 +57,8 @@ int columnsOfOutput()
     return isKnown ? std::clamp<int>(size.ws_col, 60, 120) : Style::columnsOfAPipe();
 }
 
-//! What is wrong with \a words after the command \a mode; empty when nothing is.
-QString wordsFault(const QString &mode, const QStringList &words)
+//! Whether \a words can stand after the command \a mode.
+Result<> checkWords(const QString &mode, const QStringList &words)
 {
     static const QMap<QString, QString> wanted{
         {"", {}},      {"play", "which file?"},      {"demo", {}},
@@ -65,11 +67,13 @@ QString wordsFault(const QString &mode, const QStringList &words)
     };
     const auto found = wanted.constFind(mode);
     if (found == wanted.cend())
-        return "no command \"" + brief(mode) + "\"; try --help";
+        return Fault{{}, "no command \"" + brief(mode) + '"', "try --help"};
     if (!found->isEmpty() && words.isEmpty())
-        return mode + ": " + *found;
+        return Fault{mode, *found};
     const qsizetype most = mode == "play" ? words.size() : found->isEmpty() ? 0 : 1;
-    return words.size() > most ? "\"" + brief(words[most]) + "\" is one word too many" : QString();
+    if (words.size() > most)
+        return Fault{{}, '"' + brief(words[most]) + "\" is one word too many"};
+    return {};
 }
 
 } // namespace
@@ -156,22 +160,22 @@ void describeOptions(QCommandLineParser &parser)
     parser.addOption(manual);
 }
 
-QString readOptions(const QCommandLineParser &parser, Options &options)
+Result<> readOptions(const QCommandLineParser &parser, Options &options)
 {
     const QStringList words = parser.positionalArguments();
-    if (const QString fault = emptyFault(parser, words); !fault.isEmpty())
-        return fault;
+    if (Result<> checked = checkEmpty(parser, words); !checked)
+        return checked;
     options.mode = words.value(0);
     options.words = words.mid(1);
-    if (const QString fault = wordsFault(options.mode, options.words); !fault.isEmpty())
-        return fault;
+    if (Result<> checked = checkWords(options.mode, options.words); !checked)
+        return checked;
     options.language = parser.value("lang");
     if (!Translator::isKnown(options.language))
-        return "--lang: \"" + brief(options.language)
-               + "\" is none of: " + Translator::languages().join(", ");
+        return Fault{"--lang", '"' + brief(options.language)
+                                   + "\" is none of: " + Translator::languages().join(", ")};
     if (!QStringList{"auto", "always", "never"}.contains(parser.value("colour")))
-        return "--colour: \"" + brief(parser.value("colour"))
-               + "\" is none of: auto, always, never";
+        return Fault{"--colour",
+                     '"' + brief(parser.value("colour")) + "\" is none of: auto, always, never"};
     options.style = {wantsColour(parser.value("colour")), columnsOfOutput};
     options.trace = parser.value("trace");
     options.quiet = parser.isSet("quiet");

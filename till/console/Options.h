@@ -50,8 +50,8 @@ QString exitStatuses();
 //! Tells \a parser the options and the help.
 void describeOptions(QCommandLineParser &parser);
 
-//! Fills \a options from the command line. Empty text or what is wrong with it.
-QString readOptions(const QCommandLineParser &parser, Options &options);
+//! Fills \a options from the command line, unless something is wrong with it.
+Result<> readOptions(const QCommandLineParser &parser, Options &options);
 
 } // namespace till
 

@@ -51,13 +51,15 @@ bool isOtherFile(const QString &path)
 
 } // namespace
 
-QString traceFileFault(const QString &path, const QStringList &inUse)
+Result<> checkTraceFile(const QString &path, const QStringList &inUse)
 {
     for (const QString &file : inUse) {
         if (!file.isEmpty() && isSameFile(path, file))
-            return "--trace: " + path + " is a file that the till uses: " + file;
+            return Fault{"--trace", path + " is a file that the till uses: " + file};
     }
-    return isOtherFile(path) ? "--trace: " + path + " is there already and is no trace" : QString();
+    if (isOtherFile(path))
+        return Fault{"--trace", path + " is there already and is no trace"};
+    return {};
 }
 
 } // namespace till

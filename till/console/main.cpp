@@ -193,9 +193,9 @@ int runTraced(Options &options)
     Notes notes;
     std::unique_ptr<Trace> trace;
     if (!options.trace.isEmpty()) {
-        if (const QString fault = traceFileFault(options.trace, filesInUse(options));
-            options.trace != "-" && !fault.isEmpty())
-            return fail(UsageError, fault);
+        if (const Result<> checked = checkTraceFile(options.trace, filesInUse(options));
+            options.trace != "-" && !checked)
+            return fail(UsageError, checked.error().text());
         auto started = Trace::start(notes, options.trace);
         if (!started)
             return fail(StartFailed, started.error().text());
@@ -225,8 +225,8 @@ int runArguments(const QStringList &arguments)
         return AllWell;
     }
     Options options;
-    if (const QString error = readOptions(parser, options); !error.isEmpty())
-        return fail(UsageError, error);
+    if (const Result<> read = readOptions(parser, options); !read)
+        return fail(UsageError, read.error().text());
     return runTraced(options);
 }
 
