@@ -10,7 +10,7 @@ build=build/lint
 # The linters read the sources and what moc makes of them; nothing has to be compiled. They read
 # batches of sources, as most of their time goes into Qt's headers.
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=6 \
+    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 \
     -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
 cmake --build "$build" --target autogen >/dev/null
 
