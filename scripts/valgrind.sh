@@ -19,7 +19,7 @@ fi
 program=$(find build/dev -name plugin_session -type f -perm -u+x)
 if ! valgrind --leak-check=full --show-leak-kinds=definite,indirect \
     --errors-for-leak-kinds=definite,indirect --num-callers=40 \
-    --error-exitcode=9 --log-file="$log" "$program"; then
+    --suppressions=scripts/valgrind.supp --error-exitcode=9 --log-file="$log" "$program"; then
     cat "$log" >&2
     exit 1
 fi
