@@ -39,14 +39,15 @@ QList<Cluster> clustersOf(const QString &text)
     QList<Cluster> clusters;
     const QList<uint> signs = text.toUcs4();
     utf8proc_int32_t state = 0;
-    uint before = 0;
-    for (const uint sign : signs) {
+    utf8proc_int32_t before = 0;
+    for (const uint code : signs) {
+        const auto sign = static_cast<utf8proc_int32_t>(code);
         if (clusters.isEmpty() || utf8proc_grapheme_break_stateful(before, sign, &state))
             clusters.append(Cluster());
         Cluster &cluster = clusters.last();
-        cluster.text += QChar::fromUcs4(sign);
+        cluster.text += QChar::fromUcs4(code);
         // Signs that are joined to one picture take no more columns than one.
-        cluster.width = sign == pictureFollows && cluster.width > 0
+        cluster.width = code == pictureFollows && cluster.width > 0
                             ? 2
                             : std::min(2, cluster.width + utf8proc_charwidth(sign));
         before = sign;
