@@ -1,22 +1,12 @@
 #include "tests/till/console/ProgramFixture.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QProcessEnvironment>
 
 QString ProgramTest::write(const QString &name, const QByteArray &contents) const
 {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_EQ(file.write(contents), contents.size());
-    return file.fileName();
-}
-
-QByteArray ProgramTest::contents(const QString &path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
+    overwrite(path(name), contents);
+    return path(name);
 }
 
 void ProgramTest::start(QProcess &process, const QStringList &arguments) const

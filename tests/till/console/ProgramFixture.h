@@ -30,7 +30,6 @@ protected:
 
     //! Writes a file into the directory; its path.
     QString write(const QString &name, const QByteArray &contents) const;
-    static QByteArray contents(const QString &path);
 
     //! Starts the program; its standard input stays open.
     void start(QProcess &process, const QStringList &arguments) const;

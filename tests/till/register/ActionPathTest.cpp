@@ -173,7 +173,7 @@ TEST_F(ActionPath, RestartThatFails_LeavesTheTillOffUntilAnother)
 {
     till::Setup lame = setup();
     lame.settingsFile = directory.filePath("s.ini");
-    ASSERT_TRUE(QFile(lame.settingsFile).open(QIODevice::WriteOnly));
+    overwrite(lame.settingsFile, {});
     start(lame);
     done({"open", "add CAN3"});
     ASSERT_TRUE(QFile::remove(lame.settingsFile));
@@ -183,7 +183,7 @@ TEST_F(ActionPath, RestartThatFails_LeavesTheTillOffUntilAnother)
               QString("the till is off; 'restart' switches it on"));
     EXPECT_EQ(commands->renderReceipt(), QString());
     EXPECT_TRUE(commands->completions({"qty", ""}).isEmpty());
-    ASSERT_TRUE(QFile(lame.settingsFile).open(QIODevice::WriteOnly));
+    overwrite(lame.settingsFile, {});
     done({"restart", "add BEER 2"});
     expect({"goods 2 in 1 2"});
 }

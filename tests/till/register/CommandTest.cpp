@@ -1,7 +1,5 @@
 #include "tests/till/support/TillFixture.h"
 
-#include <QtCore/QFile>
-
 // Every command on its good path.
 
 namespace till {
@@ -63,12 +61,10 @@ TEST_F(Commands, Qty_ChangesPiecesAndBaseUnits)
 
 TEST_F(Commands, QtyOfAPack_KeepsTheCountThatWasTyped)
 {
-    QFile catalogue(directory.filePath("packs.csv"));
-    ASSERT_TRUE(catalogue.open(QIODevice::WriteOnly));
-    catalogue.write("code;name;price;tara mode;tara capacity;pack;unit\nP;Pack;10;0;;0,7;l\n");
-    catalogue.close();
     till::Setup packs = setup();
-    packs.catalogue = catalogue.fileName();
+    packs.catalogue = path("packs.csv");
+    overwrite(packs.catalogue,
+              "code;name;price;tara mode;tara capacity;pack;unit\nP;Pack;10;0;;0,7;l\n");
     start(packs);
     done({"open", "add P", "qty 1 1.5"});
     EXPECT_EQ(receipt()->line(1)->getCquant(), 1.5);
@@ -232,17 +228,14 @@ TEST_F(Commands, Say_PrintsItsWords)
 
 TEST_F(Commands, Restart_ForgetsASettingThatLeftTheFile)
 {
-    QFile file(directory.filePath("s.ini"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[PackagingControl]\nallowSaleEmptyTara=false\n");
-    file.close();
     till::Setup strict = setup();
-    strict.settingsFile = file.fileName();
+    strict.settingsFile = path("s.ini");
+    overwrite(strict.settingsFile, "[PackagingControl]\nallowSaleEmptyTara=false\n");
     start(strict);
     done({"open", "add PET1", "answer no"});
     refused("subtotal");
 
-    ASSERT_TRUE(file.resize(0));
+    overwrite(strict.settingsFile, {});
     done({"restart", "subtotal"});
 }
 

@@ -1,7 +1,5 @@
 #include "tests/till/support/TillFixture.h"
 
-#include <QtCore/QFile>
-
 // Quantities and sums that no shop sells, so that none overflows.
 
 namespace till {
@@ -16,14 +14,11 @@ protected:
     {
         till::Setup dear = setup();
         dear.catalogue = directory.filePath("dear.csv");
-        QFile file(dear.catalogue);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("code;name;price;tara mode;tara capacity;pack;unit\n"
-                   "GOLD;Gold;49999999999.99;0;;1;kg\n"
-                   "CENT;Cent;0.01;0;;1;pc\n"
-                   "WINE;Wine;1000000;2;;1;l\n"
-                   "VAT;Vat;1;1;100;1;pc\n");
-        file.close();
+        overwrite(dear.catalogue, "code;name;price;tara mode;tara capacity;pack;unit\n"
+                                  "GOLD;Gold;49999999999.99;0;;1;kg\n"
+                                  "CENT;Cent;0.01;0;;1;pc\n"
+                                  "WINE;Wine;1000000;2;;1;l\n"
+                                  "VAT;Vat;1;1;100;1;pc\n");
         start(dear);
         done({"open"});
     }

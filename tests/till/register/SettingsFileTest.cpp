@@ -14,12 +14,7 @@ namespace {
 class SettingsFile : public till::FolderTest
 {
 protected:
-    void write(const QByteArray &text)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(text), text.size());
-    }
+    void write(const QByteArray &text) { overwrite(path, text); }
 
     QString read() { return till::faultText(till::readSettingsFile(path, config)); }
 

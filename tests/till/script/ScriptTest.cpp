@@ -2,8 +2,6 @@
 
 #include "tests/till/support/TillFixture.h"
 
-#include <QtCore/QFile>
-
 namespace till {
 
 namespace {
@@ -18,10 +16,7 @@ protected:
     //! Plays \a bytes; what went wrong.
     QString play(const QByteArray &bytes)
     {
-        QFile file(path());
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
+        overwrite(path(), bytes);
         Script script;
         must(script.read(path()));
         return faultText(
@@ -106,10 +101,7 @@ TEST_F(ScriptFile, Missing_IsSaid)
 TEST_F(ScriptFile, NotUtf8_IsSaid)
 {
     const QString path = directory.filePath("s.till");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("say \xcf\xf0\xe8\n");
-    file.close();
+    overwrite(path, "say \xcf\xf0\xe8\n");
     EXPECT_EQ(errorOf(path), path + ": not UTF-8 text");
 }
 

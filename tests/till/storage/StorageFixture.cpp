@@ -3,7 +3,6 @@
 #include "tests/support/Printers.h"
 #include "till/receipt/Limits.h"
 
-#include <QtCore/QFile>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
@@ -92,20 +91,6 @@ QStringList StorageTest::query(const QString &path, const QString &sql)
     }
     QSqlDatabase::removeDatabase(QStringLiteral("test"));
     return values;
-}
-
-QByteArray StorageTest::contents(const QString &path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
-void StorageTest::overwrite(const QString &path, const QByteArray &contents)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(contents), contents.size());
 }
 
 LineRecord lineOf(int posnum, double count)

@@ -44,9 +44,6 @@ protected:
     static QStringList query(const QString &path, const QString &sql);
     QStringList query(const QString &sql) const { return query(path(), sql); }
 
-    static QByteArray contents(const QString &path);
-    static void overwrite(const QString &path, const QByteArray &contents);
-
     //! A receipt with \a count positions.
     static ReceiptRecord receiptOf(int count);
     //! A database with one unfinished receipt of that many positions; what was saved.

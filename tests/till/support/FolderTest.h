@@ -2,6 +2,7 @@
 #define TESTS_TILL_SUPPORT_FOLDERTEST_H
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/qlogging.h>
 
@@ -45,6 +46,19 @@ protected:
     ~FolderTest() override { qInstallMessageHandler(m_handlerBefore); }
 
     QString path(const QString &name) const { return directory.filePath(name); }
+
+    static QByteArray contents(const QString &path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+        return file.readAll();
+    }
+    static void overwrite(const QString &path, const QByteArray &contents)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+        ASSERT_EQ(file.write(contents), contents.size());
+    }
 
     QTemporaryDir directory;
 
