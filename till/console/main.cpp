@@ -86,7 +86,7 @@ int play(const Options &options, Notes &notes, const Translator &translator)
         progress(QString("[%1/%2] %3")
                      .arg(++number)
                      .arg(options.words.size())
-                     .arg(QFileInfo(file).fileName()));
+                     .arg(printable(QFileInfo(file).fileName())));
         if (const auto played = playScript(file, options, notes, translator); !played)
             return fail(played.error().status, played.error().fault.text());
     }
@@ -204,9 +204,10 @@ int runTraced(Options &options)
         options.quiet = options.quiet || options.trace == "-";
     }
     const int status = run(options, notes);
-    if (status == AllWell && trace && !trace->error().isEmpty())
-        return fail(StartFailed, trace->error());
-    return status;
+    if (!trace || trace->error().isEmpty())
+        return status;
+    Output::error(trace->error());
+    return status == AllWell ? StartFailed : status;
 }
 
 //! What the arguments ask for.

@@ -33,7 +33,7 @@ void Output::print(const QString &text) const
 
 void Output::error(const QString &text)
 {
-    write(forTerminal("till: " + text), stderr);
+    write(forTerminal("till: " + text).replace('\n', ' '), stderr); // a file's name may have one
 }
 
 void Output::installMessageHandler()

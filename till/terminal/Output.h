@@ -20,7 +20,7 @@ public:
     //! Prints whole lines; a last line break is added where there is none.
     void print(const QString &text) const;
 
-    //! Tells on standard error what is wrong.
+    //! Tells on standard error what is wrong, in one line.
     static void error(const QString &text);
 
     //! Lets what Qt and plugins have to say on standard error pass the same way.

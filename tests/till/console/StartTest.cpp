@@ -4,6 +4,7 @@
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -83,6 +84,20 @@ TEST_F(Start, Trace_OnAFullDisk_IsReported)
     const RunResult full = run({"--trace", "/dev/full", "play", write("s.till", "open\n")});
     EXPECT_EQ(full.status, 3);
     EXPECT_EQ(full.err, "till: /dev/full: No space left on device\n");
+}
+
+TEST_F(Start, Trace_OnAFullDisk_IsReportedBesideAScriptThatFailed)
+{
+    const RunResult full = run({"--trace", "/dev/full", "play", write("s.till", "storno 1\n")});
+    EXPECT_EQ(full.status, 1);
+    EXPECT_THAT(full.err, HasSubstr("s.till:1: storno 1: "));
+    EXPECT_THAT(full.err, HasSubstr("till: /dev/full: No space left on device\n"));
+}
+
+TEST_F(Start, Fault_InAFileWithALineBreakInItsName_IsOneLine)
+{
+    EXPECT_THAT(run({"play", path("a\nb.till")}).err,
+                EndsWith("/a b.till: No such file or directory\n"));
 }
 
 } // namespace
