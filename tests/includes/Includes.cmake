@@ -34,8 +34,9 @@ may_include(till/register ${known_by_till/actions} till/actions till/plugins til
 may_include(till/view ${receipt} till/language)
 may_include(till/words ${known_by_till/register} till/register)
 may_include(till/script ${known_by_till/words} till/words till/view)
+may_include(till/runner ${known_by_till/script} till/script)
 may_include(till/terminal ${known_by_till/script} till/script till/database)
-may_include(till/console ${known_by_till/terminal} till/terminal)
+may_include(till/console ${known_by_till/terminal} till/terminal till/runner)
 
 # Sets FOLDER to the folder that PATH, which an include names, leads into: empty for what is not the
 # project's.

@@ -147,9 +147,9 @@ protected:
         if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
             return "the till did not end by itself";
         const std::string complaint = process.readAllStandardError().toStdString();
-        const QString held = QString("\n%1 of %1 scripts held\n").arg(files.size());
+        const QString held = QString("\n%1 of %1 scripts held; ").arg(files.size());
         const bool isWell = process.exitCode() == 0 && complaint.empty()
-                            && process.readAllStandardOutput().endsWith(held.toUtf8());
+                            && process.readAllStandardOutput().contains(held.toUtf8());
         return isWell ? "" : "status " + std::to_string(process.exitCode()) + ": " + complaint;
     }
 

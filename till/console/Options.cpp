@@ -61,8 +61,8 @@ int columnsOfOutput()
 Result<> checkWords(const QString &mode, const QStringList &words)
 {
     static const QMap<QString, QString> wanted{
-        {"", {}},      {"play", "which file?"},      {"demo", {}},
-        {"info", {}},  {"backup", "to which file?"}, {"set-apart", "which receipt?"},
+        {"", {}},      {"play", "which file or folder?"}, {"demo", {}},
+        {"info", {}},  {"backup", "to which file?"},      {"set-apart", "which receipt?"},
         {"check", {}},
     };
     const auto found = wanted.constFind(mode);
@@ -107,7 +107,7 @@ QList<ProgramMode> programModes()
 {
     return {
         {"till", "open the register: type commands ('help' lists them)"},
-        {"till play FILE...", "play scripts of the same commands, each on a database of its own"},
+        {"till play PATH...", "play scripts, folders of them, or - for standard input"},
         {"till demo", "play the sample shop's receipts"},
         {"till info", "show the plugin: metadata, triggers, events"},
         {"till check", "check the database and every receipt in it"},
@@ -131,6 +131,7 @@ QList<QCommandLineOption> programOptions()
          "ru"},
         {"trace", "Write what happens to FILE as lines of JSON (- for standard output).", "FILE"},
         {{"colour", "color"}, "Colours: auto, always or never.", "WHEN", "auto"},
+        {"stop", "End a play at the first script that does not hold."},
         {"quiet", "Print progress only, not the receipts' course."},
         {{"h", "help"}, "Show this help."},
         {{"v", "version"}, "Show the version."},
@@ -153,7 +154,7 @@ void describeOptions(QCommandLineParser &parser)
         + "\nExit status: " + exitStatuses());
     parser.addPositionalArgument(
         "command", "one of these; none opens the register",
-        "[play FILE... | demo | info | check | backup FILE | set-apart NUMBER]");
+        "[play PATH... | demo | info | check | backup FILE | set-apart NUMBER]");
     parser.addOptions(programOptions());
     QCommandLineOption manual("manual");
     manual.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -178,6 +179,7 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
                      '"' + brief(parser.value("colour")) + "\" is none of: auto, always, never"};
     options.style = {wantsColour(parser.value("colour")), columnsOfOutput};
     options.trace = parser.value("trace");
+    options.stop = parser.isSet("stop");
     options.quiet = parser.isSet("quiet");
     options.ownDatabase = parser.isSet("db");
     options.setup = {parser.value("db"),

@@ -24,6 +24,7 @@ struct Options
     QStringList words;        //!< that follow it
     bool ownDatabase = false; //!< --db was given: scripts play on it too
     bool quiet = false;
+    bool stop = false; //!< a play ends at the first script that does not hold
 };
 
 //! Where files of the delivery are, beside the folder of the program.

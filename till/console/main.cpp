@@ -3,17 +3,17 @@
 #include "till/console/Info.h"
 #include "till/console/Manual.h"
 #include "till/console/Options.h"
+#include "till/console/Play.h"
 #include "till/console/TraceFile.h"
 #include "till/console/Upkeep.h"
 #include "till/course/Trace.h"
 #include "till/database/DatabaseFile.h"
-#include "till/script/Script.h"
+#include "till/runner/ScriptFiles.h"
 #include "till/terminal/Interactive.h"
 #include "till/terminal/Output.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLoggingCategory>
 
@@ -40,60 +40,6 @@ QString withoutPeriod(const QString &text)
     return text.endsWith('.') ? text.chopped(1) : text;
 }
 
-//! Tells that the database was brought to today's format, if it was.
-void tellCopy(const CashDesk &desk, const Translator &translator,
-              const std::function<void(const QString &text)> &show)
-{
-    if (!desk.copyBefore().isEmpty())
-        show(translator.text(
-            told("till", "%1: brought to the format of this till; as it was before, it is in %2")
-                .with({desk.setup().database, desk.copyBefore()})));
-}
-
-//! Plays one script.
-Result<void, Failure> playScript(const QString &path, const Options &options, Notes &notes,
-                                 const Translator &translator)
-{
-    Script script;
-    if (const Result<> read = script.read(path); !read)
-        return Failure{StartFailed, read.error()};
-    Setup setup = options.setup;
-    if (!options.ownDatabase)
-        setup.database = ":memory:"; // nothing is left behind, however the program ends
-    CashDesk desk(setup, notes);
-    if (const Result<> started = desk.start(); !started)
-        return Failure{StartFailed, started.error()};
-    const auto show = [&](const QString &text) {
-        if (!options.quiet)
-            Output(options.style.colour).print(text);
-    };
-    tellCopy(desk, translator, show);
-    CommandLine commands(desk, notes, translator, options.style, {show, {}});
-    const Result<> played = script.play(commands, [&](const QString &line) { show("> " + line); });
-    if (!played)
-        return Failure{CommandFailed, played.error()};
-    return {};
-}
-
-int play(const Options &options, Notes &notes, const Translator &translator)
-{
-    const auto progress = [&](const QString &text) {
-        if (options.trace != "-")
-            Output().print(text);
-    };
-    qsizetype number = 0;
-    for (const QString &file : options.words) {
-        progress(QString("[%1/%2] %3")
-                     .arg(++number)
-                     .arg(options.words.size())
-                     .arg(printable(QFileInfo(file).fileName())));
-        if (const auto played = playScript(file, options, notes, translator); !played)
-            return fail(played.error().status, played.error().fault.text());
-    }
-    progress(QString("%1 of %1 scripts held").arg(number));
-    return AllWell;
-}
-
 int info(const Options &options)
 {
     const Result<QString> text = describePlugin(options.setup);
@@ -101,21 +47,6 @@ int info(const Options &options)
         return fail(StartFailed, text.error().text());
     Output().print(*text);
     return AllWell;
-}
-
-QString scriptFolder()
-{
-    return delivered("share/packagingcontrol/scripts");
-}
-
-QStringList demoScripts()
-{
-    const QDir folder(scriptFolder());
-    QStringList files;
-    const QStringList names = folder.entryList({"*.till"}, QDir::Files, QDir::Name);
-    for (const QString &name : names)
-        files.append(folder.filePath(name));
-    return files;
 }
 
 int openRegister(const Options &options, Notes &notes, const Translator &translator)
@@ -185,10 +116,13 @@ int run(const Options &options, Notes &notes)
 //! What the options ask for, with a trace if they do.
 int runTraced(Options &options)
 {
-    if (options.mode == "demo") {
-        options.words = demoScripts();
-        if (options.words.isEmpty())
-            return fail(StartFailed, scriptFolder() + ": no scripts there");
+    if (options.mode == "demo")
+        options.words = QStringList{delivered("share/packagingcontrol/scripts")};
+    if (options.mode == "demo" || options.mode == "play") {
+        const Result<QStringList> scripts = scriptsAt(options.words);
+        if (!scripts)
+            return fail(StartFailed, scripts.error().text());
+        options.words = *scripts;
     }
     Notes notes;
     std::unique_ptr<Trace> trace;

@@ -3,6 +3,8 @@
 #include <QtCore/QFile>
 #include <QtCore/QStringDecoder>
 
+#include <algorithm>
+
 namespace till {
 
 namespace {
@@ -13,16 +15,34 @@ bool isCommand(const QString &line)
     return !trimmed.isEmpty() && !trimmed.startsWith('#');
 }
 
+QString firstWord(const QString &line)
+{
+    return line.trimmed().section(' ', 0, 0).toLower();
+}
+
 //! What a reader is shown of \a line before it is carried out: the command, also the expected one.
 QString shownCommand(const QString &line)
 {
     static const QStringList silent{"expect", "answer", "say", "show"};
     static const QStringList ends{"accepted", "refused", "mistake"};
     const QString trimmed = line.trimmed();
-    const QString command = trimmed.section(' ', 0, 0).toLower();
+    const QString command = firstWord(line);
     if (command == "expect" && ends.contains(trimmed.section(' ', 1, 1).toLower()))
         return trimmed.section(' ', 2);
     return !isCommand(line) || silent.contains(command) ? QString() : trimmed;
+}
+
+//! The fault of the line \a command at \a place, which ended so.
+ScriptFault faultOf(const QString &place, const QString &command, const Outcome &outcome,
+                    const QString &why)
+{
+    ScriptFault fault{{place, command + ": " + why}, command, "accepted", why};
+    if (outcome.kind == Outcome::Unexpected) {
+        const QStringList &values = outcome.reason.values; // what, expected, found
+        fault.expected = values.value(0) + ": " + values.value(1);
+        fault.found = values.value(2);
+    }
+    return fault;
 }
 
 //! What is wrong with a line that ended so; of a refusal also its key.
@@ -40,7 +60,7 @@ Result<> Script::read(const QString &path)
     m_path = path;
     m_lines.clear();
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (path == "-" ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly))
         return Fault{path, file.errorString()};
     const QByteArray bytes = file.readAll();
     QStringDecoder decoder(QStringDecoder::Utf8);
@@ -56,18 +76,25 @@ QString Script::place(qsizetype line) const
     return QString("%1:%2").arg(m_path).arg(line + 1);
 }
 
-Result<> Script::play(CommandLine &commands,
-                      const std::function<void(const QString &line)> &echo) const
+qsizetype Script::expectations() const
 {
-    const Result<> played = playLines(commands, echo);
+    return std::count_if(m_lines.cbegin(), m_lines.cend(), [](const QString &line) {
+        return firstWord(line) == QLatin1String("expect");
+    });
+}
+
+Result<void, ScriptFault> Script::play(CommandLine &commands,
+                                       const std::function<void(const QString &line)> &echo) const
+{
+    const auto played = playLines(commands, echo);
     commands.notes().add("verdict", {{"file", m_path},
                                      {"held", played.has_value()},
                                      {"fault", played ? QString() : played.error().text()}});
     return played;
 }
 
-Result<> Script::playLines(CommandLine &commands,
-                           const std::function<void(const QString &line)> &echo) const
+Result<void, ScriptFault>
+Script::playLines(CommandLine &commands, const std::function<void(const QString &line)> &echo) const
 {
     for (qsizetype i = 0; i < m_lines.size() && !commands.hasQuit(); ++i) {
         if (const QString shown = shownCommand(m_lines[i]); !shown.isEmpty())
@@ -75,10 +102,10 @@ Result<> Script::playLines(CommandLine &commands,
         if (isCommand(m_lines[i]))
             commands.notes().add("script", {{"file", m_path}, {"at", i + 1}});
         if (const Outcome outcome = commands.run(m_lines[i]); !outcome)
-            return Fault{place(i), brief(m_lines[i].trimmed()) + ": " + why(commands, outcome)};
+            return faultOf(place(i), brief(m_lines[i].trimmed()), outcome, why(commands, outcome));
     }
     if (const QString left = commands.leftOver(); !left.isEmpty())
-        return Fault{place(m_lines.size() - 1), left};
+        return ScriptFault{{place(m_lines.size() - 1), left}};
     return {};
 }
 

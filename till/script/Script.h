@@ -5,11 +5,19 @@
 
 namespace till {
 
+//! Why a script did not hold, and of a line what it is about. All is plain text of one line.
+struct ScriptFault : Fault
+{
+    QString command = {};  //!< the line; empty where it is about none
+    QString expected = {}; //!< of the line
+    QString found = {};
+};
+
 //! A file of commands, one a line.
 class Script
 {
 public:
-    //! Reads the file \a path, which is UTF-8.
+    //! Reads the file \a path, which is UTF-8; "-" is standard input.
     Result<> read(const QString &path);
 
     /*!
@@ -18,12 +26,15 @@ public:
      * `FILE:LINE`; an answer or a question that is left over at the end is one too. Each line that
      * is carried out is told to \a echo first; expectations and comments are not.
      */
-    Result<> play(CommandLine &commands,
-                  const std::function<void(const QString &line)> &echo) const;
+    Result<void, ScriptFault> play(CommandLine &commands,
+                                   const std::function<void(const QString &line)> &echo) const;
+
+    //! How many of the lines expect something.
+    qsizetype expectations() const;
 
 private:
-    Result<> playLines(CommandLine &commands,
-                       const std::function<void(const QString &line)> &echo) const;
+    Result<void, ScriptFault> playLines(CommandLine &commands,
+                                        const std::function<void(const QString &line)> &echo) const;
     QString place(qsizetype line) const;
 
     QString m_path;

@@ -1,0 +1,37 @@
+#ifndef TILL_RUNNER_REPORT_H
+#define TILL_RUNNER_REPORT_H
+
+#include "till/runner/Verdict.h"
+
+namespace till {
+
+//! What became of a run of scripts, for people.
+class Report
+{
+public:
+    //! Of a run of so many \a scripts.
+    explicit Report(qsizetype scripts)
+        : m_scripts(scripts)
+    {
+    }
+
+    void add(const Verdict &verdict);
+
+    //! What did not hold, where and why; which scripts check nothing; and how many there are of
+    //! each.
+    QString table() const;
+
+    //! The worst end so far.
+    Verdict::End worst() const { return m_worst; }
+
+private:
+    qsizetype m_scripts;
+    qsizetype m_expectations = 0;
+    qsizetype m_ends[Verdict::NotStarted + 1] = {};
+    Verdict::End m_worst = Verdict::Held;
+    QString m_rows;
+};
+
+} // namespace till
+
+#endif // TILL_RUNNER_REPORT_H

@@ -1,0 +1,27 @@
+#ifndef TILL_RUNNER_VERDICT_H
+#define TILL_RUNNER_VERDICT_H
+
+#include "till/script/Script.h"
+
+namespace till {
+
+//! How the play of a script ended.
+struct Verdict
+{
+    //! From good to bad.
+    enum End {
+        Held,
+        Failed,     //!< a command or an expectation did not end well
+        Wrong,      //!< the script itself is: it cannot be read, or not played as it stands
+        NotStarted, //!< the till did not start; it would for no script
+    };
+
+    QString script; //!< as it was named
+    End end = Held;
+    ScriptFault fault; //!< of what did not hold
+    qsizetype expectations = 0;
+};
+
+} // namespace till
+
+#endif // TILL_RUNNER_VERDICT_H
