@@ -43,6 +43,31 @@ Result<> readSettings(const QStringList &assignments, QMap<QString, QString> &se
     return {};
 }
 
+//! Reads the whole number of an option, if it is given: at least 1, at most 86400.
+Result<> readCount(const QCommandLineParser &parser, const QString &option, int &count)
+{
+    constexpr int most = 86400;
+    bool isNumber = false;
+    count = parser.value(option).toInt(&isNumber);
+    if (parser.isSet(option) && (!isNumber || count < 1 || count > most))
+        return Fault{"--" + option, '"' + brief(parser.value(option)) + "\" is no number from 1 to "
+                                        + QString::number(most)};
+    return {};
+}
+
+//! How a play is carried out.
+Result<> readPlay(const QCommandLineParser &parser, Options &options)
+{
+    if (Result<> read = readCount(parser, "jobs", options.jobs); !read)
+        return read;
+    if (Result<> read = readCount(parser, "timeout", options.timeout); !read)
+        return read;
+    if (options.jobs > 1 && options.playsInTurn())
+        return Fault{"--jobs", "scripts that share a database or a trace are played in turn"};
+    options.stop = parser.isSet("stop");
+    return {};
+}
+
 bool wantsColour(const QString &when)
 {
     const bool wanted = qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
@@ -131,6 +156,8 @@ QList<QCommandLineOption> programOptions()
          "ru"},
         {"trace", "Write what happens to FILE as lines of JSON (- for standard output).", "FILE"},
         {{"colour", "color"}, "Colours: auto, always or never.", "WHEN", "auto"},
+        {"jobs", "Play so many scripts at a time (default: one a core).", "N", "0"},
+        {"timeout", "End the play of a script that takes longer.", "SECONDS", "60"},
         {"stop", "End a play at the first script that does not hold."},
         {"quiet", "Print progress only, not the receipts' course."},
         {{"h", "help"}, "Show this help."},
@@ -179,7 +206,6 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
                      '"' + brief(parser.value("colour")) + "\" is none of: auto, always, never"};
     options.style = {wantsColour(parser.value("colour")), columnsOfOutput};
     options.trace = parser.value("trace");
-    options.stop = parser.isSet("stop");
     options.quiet = parser.isSet("quiet");
     options.ownDatabase = parser.isSet("db");
     options.setup = {parser.value("db"),
@@ -187,6 +213,8 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
                      parser.isSet("no-plugin") ? QString() : parser.value("plugin"),
                      parser.value("config"),
                      {}};
+    if (Result<> read = readPlay(parser, options); !read)
+        return read;
     return readSettings(parser.values("set"), options.setup.settings);
 }
 

@@ -24,7 +24,15 @@ struct Options
     QStringList words;        //!< that follow it
     bool ownDatabase = false; //!< --db was given: scripts play on it too
     bool quiet = false;
+    int jobs = 0;      //!< how many scripts are played at a time; 0 for as many as there are cores
+    int timeout = 0;   //!< seconds that the play of a script may take
     bool stop = false; //!< a play ends at the first script that does not hold
+
+    //! Whether scripts cannot be played at the same time.
+    bool playsInTurn() const
+    {
+        return !trace.isEmpty() || (ownDatabase && setup.database != ":memory:");
+    }
 };
 
 //! Where files of the delivery are, beside the folder of the program.

@@ -14,7 +14,7 @@ _till()
         --colour | --color)
             mapfile -t COMPREPLY < <(compgen -W 'auto always never' -- "$current")
             return ;;
-        --set) return ;;
+        --set | --jobs | --timeout) return ;;
     esac
     help=$("$1" --help 2>/dev/null)
     if [[ $current == -* ]]; then

@@ -3,6 +3,8 @@
 
 #include "till/script/Script.h"
 
+#include <QtCore/QJsonObject>
+
 namespace till {
 
 //! How the play of a script ended.
@@ -11,16 +13,24 @@ struct Verdict
     //! From good to bad.
     enum End {
         Held,
-        Failed,     //!< a command or an expectation did not end well
+        Failed,     //!< a command or an expectation did not end well, or the till crashed or hung
         Wrong,      //!< the script itself is: it cannot be read, or not played as it stands
         NotStarted, //!< the till did not start; it would for no script
     };
 
     QString script; //!< as it was named
     End end = Held;
-    ScriptFault fault; //!< of what did not hold
+    ScriptFault fault = {}; //!< of what did not hold
     qsizetype expectations = 0;
+    // Of a play in a process of its own:
+    double seconds = 0;
+    QString course = {};     //!< what it printed
+    QString complaints = {}; //!< what came on its standard error
 };
+
+//! All but script, seconds, course and complaints, and back.
+QJsonObject toJson(const Verdict &verdict);
+Verdict verdictFrom(const QJsonObject &json);
 
 } // namespace till
 

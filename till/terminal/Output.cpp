@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 namespace till {
 
@@ -14,8 +15,15 @@ namespace {
 
 int outputError = 0; // the first errno of standard output
 
+bool hasPassingLine = false;
+constexpr char clearLine[] = "\r\x1b[K";
+
 void write(const QString &text, std::FILE *file)
 {
+    if (std::exchange(hasPassingLine, false)) {
+        std::fputs(clearLine, stdout);
+        std::fflush(stdout);
+    }
     QByteArray bytes = text.toUtf8();
     if (!bytes.endsWith('\n'))
         bytes.append('\n');
@@ -29,6 +37,18 @@ void Output::print(const QString &text) const
     write(forTerminal(text, m_hasColours), stdout);
     if (std::fflush(stdout) != 0 && outputError == 0)
         outputError = errno;
+}
+
+void Output::printPassing(const QString &line)
+{
+    std::fputs((clearLine + printable(line).toUtf8()).constData(), stdout);
+    std::fflush(stdout);
+    hasPassingLine = true;
+}
+
+void Output::passOn(const QString &complaints)
+{
+    write(forTerminal(complaints), stderr);
 }
 
 void Output::error(const QString &text)

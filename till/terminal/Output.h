@@ -20,6 +20,12 @@ public:
     //! Prints whole lines; a last line break is added where there is none.
     void print(const QString &text) const;
 
+    //! Shows \a line on a terminal until something else is printed there.
+    static void printPassing(const QString &line);
+
+    //! Passes on what came on the standard error of another process.
+    static void passOn(const QString &complaints);
+
     //! Tells on standard error what is wrong, in one line.
     static void error(const QString &text);
 

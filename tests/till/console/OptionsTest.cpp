@@ -205,6 +205,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Wrong{"NoDatabase", {"--db="}, "--db: no file is named"},
                     Wrong{"NoCatalogue", {"--catalogue", ""}, "--catalogue: no file is named"},
                     Wrong{"NoScript", {"play", ""}, "a word is empty"},
+                    Wrong{"NoJobs", {"--jobs", "0"}, "--jobs: \"0\" is no number from 1 to 86400"},
+                    Wrong{"Jobs", {"--jobs", "two"}, "--jobs: \"two\" is no number"},
+                    Wrong{"Timeout", {"--timeout", "-1"}, "--timeout: \"-1\" is no number"},
                     Wrong{"Set", {"--set", "key"}, "\"key\" is not KEY=VALUE"}),
     [](const auto &row) { return std::string(row.param.name); });
 

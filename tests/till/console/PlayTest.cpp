@@ -1,4 +1,5 @@
 #include "tests/till/console/ProgramFixture.h"
+#include "tests/till/console/Terminal.h"
 
 #include <QtCore/QDir>
 
@@ -137,6 +138,130 @@ TEST_F(Play, TillThatDoesNotStart_EndsThePlay)
     EXPECT_EQ(failed.status, 3);
     EXPECT_EQ(failed.out, "[1/2] s.till\n");
     EXPECT_EQ(failed.err, "till: /nowhere.csv: no such file\n");
+}
+
+TEST_F(Play, OutputOfJobs_IsInTheOrderOfTheScripts)
+{
+    QStringList scripts;
+    for (int i = 1; i <= 12; ++i)
+        scripts.append(
+            script(QString("%1.till").arg(i),
+                   "open\n" + QByteArray("add CHIPS\n").repeated(i % 3 * 40) + "say x\n"));
+    scripts.insert(5, script("bad.till", bad));
+    const auto all = [&](const char *jobs) {
+        return run(QStringList{"--lang", "en", "--jobs", jobs, "play"} + scripts);
+    };
+    const RunResult one = all("1");
+    const RunResult four = all("4");
+    EXPECT_EQ(one.status, 1);
+    EXPECT_EQ(four.status, 1);
+    EXPECT_EQ(four.out, one.out);
+    EXPECT_EQ(four.err, one.err);
+    EXPECT_THAT(four.out, HasSubstr("> add CHOPS\n[7/13] 6.till\n> open\n"));
+}
+
+TEST_F(Play, QuietOnATerminal_ShowsProgressInOneLine)
+{
+    const std::string good = script("good.till", this->good).toStdString();
+    const std::string bad = script("bad.till", this->bad).toStdString();
+    Terminal terminal(TILL_PROGRAM, {"--lang", "en", "--quiet", "play", good, bad},
+                      directory.path().toStdString(), {{"TERM", "xterm"}});
+    const std::string clear = "\r\x1b[K";
+    EXPECT_THAT(terminal.readTo("expectations: 2\r\n"),
+                testing::StartsWith(clear + "[1/2] good.till" + clear + "[2/2] bad.till" + clear
+                                    + "till: " + bad + ":2: add CHOPS"));
+    EXPECT_EQ(terminal.end(), 1);
+}
+
+TEST_F(Play, StopWithJobs_EndsAtTheFirstInOrder)
+{
+    QStringList scripts{script("good.till", good), script("bad.till", bad)};
+    for (int i = 0; i < 10; ++i)
+        scripts.append(path("bad.till"));
+    const RunResult failed = played(QStringList{"--stop", "--jobs", "4"} + scripts);
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_THAT(failed.out,
+                EndsWith("1 of 12 scripts held, 1 failed, 10 not played; expectations: 2\n"));
+}
+
+TEST_F(Play, Scripts_SeeNothingOfEachOther)
+{
+    const QString one =
+        script("s.till", "expect state none\nset PackagingControl:allowSaleEmptyTara no\n"
+                         "open\nadd PET1\nanswer no\nexpect refused subtotal\n");
+    EXPECT_EQ(played({"--jobs", "2", one, one, one}).status, 0);
+}
+
+TEST_F(Play, SharedDatabase_IsPlayedInTurn)
+{
+    const QString first = script("1.till", "open\nadd CHIPS\nexpect positions 1\n");
+    const QString second = script("2.till", "add CHIPS\nexpect positions 2\n");
+    const RunResult done = played({"--db", database(), first, second});
+    EXPECT_EQ(done.status, 0) << done.err;
+    for (const QStringList &shared : {QStringList{"--db", database()}, {"--trace", path("t")}}) {
+        const RunResult refused = played(shared + QStringList{"--jobs", "2", first, second});
+        EXPECT_EQ(refused.status, 2);
+        EXPECT_EQ(refused.err, "till: --jobs: scripts that share a database or a trace are played "
+                               "in turn\n");
+    }
+    EXPECT_EQ(played({"--db", database(), "--jobs", "1", second}).status, 1);
+    EXPECT_EQ(played({"--db", ":memory:", "--jobs", "2", first, first}).status, 0);
+}
+
+//! With a plugin that goes wrong when it is told so many pieces.
+class PlayOfFaulty : public Play
+{
+protected:
+    QString adding(int pieces) const
+    {
+        return script(QString("%1.till").arg(pieces),
+                      "open\nexpect accepted add CHIPS " + QByteArray::number(pieces) + '\n');
+    }
+    RunResult played(const QStringList &arguments) const
+    {
+        return Play::played(QStringList{"--plugin", FAULTY_PLUGIN} + arguments);
+    }
+};
+
+TEST_F(PlayOfFaulty, Crash_FailsItsScriptAloneWithItsSignal)
+{
+    const RunResult failed = played({"--jobs", "2", adding(1), adding(11), adding(12), adding(2)});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_THAT(failed.out, HasSubstr("failed    " + path("11.till").toStdString()
+                                      + ":2\n"
+                                        "command   add CHIPS 11\n"
+                                        "expected  accepted\n"
+                                        "found     crashed: SIGSEGV\n"));
+    EXPECT_THAT(failed.out, HasSubstr("found     crashed: SIGABRT\n"));
+    EXPECT_THAT(failed.out, EndsWith("2 of 4 scripts held, 2 failed; expectations: 4\n"));
+    const std::string at = "till: " + path("").toStdString();
+    EXPECT_EQ(failed.err, "the plugin's last words\n" + at
+                              + "/11.till:2: add CHIPS 11: crashed: SIGSEGV\n" + at
+                              + "/12.till:2: add CHIPS 12: crashed: SIGABRT\n");
+}
+
+TEST_F(PlayOfFaulty, Hang_IsEndedAndTheOthersArePlayed)
+{
+    const RunResult failed =
+        played({"--jobs", "2", "--timeout", "1", adding(13), adding(13), adding(13)});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_THAT(failed.err, HasSubstr(": hangs: ended by SIGKILL after 1 s\n"));
+    EXPECT_THAT(failed.out, EndsWith("0 of 3 scripts held, 3 failed; expectations: 3\n"));
+}
+
+TEST_F(PlayOfFaulty, ExitInAPlugin_IsNoGoodEnd)
+{
+    const RunResult failed = played({adding(14), adding(2)});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_THAT(failed.err,
+                HasSubstr("add CHIPS 14: the process ended with status 0 before the script\n"));
+    EXPECT_THAT(failed.out, EndsWith("1 of 2 scripts held, 1 failed; expectations: 2\n"));
+}
+
+TEST_F(PlayOfFaulty, CourseBeforeACrash_IsShown)
+{
+    const RunResult failed = run({"--plugin", FAULTY_PLUGIN, "play", adding(11)});
+    EXPECT_THAT(failed.out, HasSubstr("> open\n> add CHIPS 11\n"));
 }
 
 } // namespace

@@ -1,0 +1,55 @@
+#include "host/ActivityNotifier.h"
+#include "host/BaseActivityListener.h"
+#include "host/BasicPlugin.h"
+#include "host/DocumentWatcher.h"
+#include "host/Event.h"
+#include "host/GoodsItem.h"
+#include "host/Singleton.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
+
+//! A plugin of the host's that goes wrong when so many pieces are added.
+class Faulty : public BaseActivityListener, public BasicPlugin, public DocumentWatcher
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "PackagingControl")
+    Q_INTERFACES(BasicPlugin)
+
+public:
+    Faulty()
+        : BaseActivityListener(nullptr)
+    {
+    }
+
+    bool init() override
+    {
+        Singleton<ActivityNotifier>::instance()->subscribe(this,
+                                                           {EActivityListener::eventPositionAdded});
+        return true;
+    }
+
+    void handleEvent(const Event &event) override
+    {
+        switch (qRound(event.value("position", {}).value<GoodsItemPtr>()->getCquant())) {
+        case 11:
+            std::fputs("the plugin's last words\n", stderr);
+            std::raise(SIGSEGV);
+            break;
+        case 12:
+            std::abort();
+        case 13:
+            for (;;)
+                pause();
+        case 14:
+            std::exit(EXIT_SUCCESS);
+        default:
+            break;
+        }
+    }
+};
+
+#include "Faulty.moc"
