@@ -1,6 +1,6 @@
 #include "tests/till/console/ProgramFixture.h"
-#include "tests/till/support/RebuiltReceipt.h"
 #include "tests/till/support/StoredReceipts.h"
+#include "till/course/RebuiltReceipt.h"
 #include "till/receipt/Receipt.h"
 
 #include <QtCore/QDateTime>

@@ -1,7 +1,7 @@
 #ifndef TESTS_TILL_KILL_TOLDRECEIPT_H
 #define TESTS_TILL_KILL_TOLDRECEIPT_H
 
-#include "tests/till/support/RebuiltReceipt.h"
+#include "till/course/RebuiltReceipt.h"
 #include "till/storage/Storage.h"
 
 #include <QtCore/QByteArrayList>

@@ -1,5 +1,5 @@
-#include "tests/till/support/RebuiltReceipt.h"
 #include "tests/till/support/TillFixture.h"
+#include "till/course/RebuiltReceipt.h"
 #include "till/course/Trace.h"
 
 #include <QtCore/QFile>
