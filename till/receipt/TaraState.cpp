@@ -39,6 +39,13 @@ void insertFirst(QHash<Key, const Use *> &uses, const Key &key, const Use *use)
 
 } // namespace
 
+double GoodsUse::unplaced(double base) const
+{
+    for (const double amount : used)
+        base -= amount;
+    return base;
+}
+
 TaraState TaraState::read(const Document::PluginData &data, const QString &pluginId)
 {
     const QVariantMap stored = data.value(pluginId);

@@ -31,6 +31,9 @@ struct GoodsUse
 {
     int posnum = 0;
     QMap<QString, double> used;
+
+    //! What is in no tara of a position of \a base units; below 0 what is noted beyond that.
+    double unplaced(double base) const;
 };
 
 /*!

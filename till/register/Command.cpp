@@ -1,5 +1,6 @@
 #include "till/register/Command.h"
 
+#include <QtCore/QLocale>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -8,18 +9,18 @@ namespace till {
 
 namespace {
 
-//! \a text as one word of a line: in quotes where it holds spaces, each quote in it three times.
-QString word(const QString &text)
-{
-    const QString escaped = QString(text).replace(QLatin1String("\""), QLatin1String("\"\"\""));
-    const bool hasSpace =
-        std::any_of(text.cbegin(), text.cend(), [](QChar sign) { return sign.isSpace(); });
-    return hasSpace ? '"' + escaped + '"' : escaped;
-}
-
 QString number(int posnum)
 {
     return QString::number(posnum);
+}
+
+//! \a count in as many digits as it needs: what cannot be typed is not told as something else.
+QString exactly(double count)
+{
+    const QString text = toText(count);
+    return parseQuantity(text) == count
+               ? text
+               : QString::number(count, 'f', QLocale::FloatingPointShortest);
 }
 
 //! The words of each command, its name first.
@@ -31,11 +32,11 @@ struct Words
     }
     QStringList operator()(const command::Add &add) const
     {
-        return {"add", word(add.article), toText(add.count)};
+        return {"add", asWord(add.article), exactly(add.count)};
     }
     QStringList operator()(const command::ChangeCount &change) const
     {
-        return {"qty", number(change.posnum), toText(change.count)};
+        return {"qty", number(change.posnum), exactly(change.count)};
     }
     QStringList operator()(const command::Storno &storno) const
     {
@@ -45,7 +46,7 @@ struct Words
     {
         QStringList words{"split", number(split.posnum)};
         for (const double part : split.parts)
-            words.append(toText(part));
+            words.append(exactly(part));
         return words;
     }
     QStringList operator()(const command::Unite &unite) const
@@ -57,11 +58,11 @@ struct Words
     }
     QStringList operator()(const command::AttachOrder &order) const
     {
-        return {"order", word(order.number)};
+        return {"order", asWord(order.number)};
     }
     QStringList operator()(const command::AddSoftCheck &softCheck) const
     {
-        return {"softcheck", word(softCheck.number)};
+        return {"softcheck", asWord(softCheck.number)};
     }
     QStringList operator()(const command::Subtotal &) const { return {"subtotal"}; }
     QStringList operator()(const command::Pay &pay) const
@@ -72,6 +73,14 @@ struct Words
 };
 
 } // namespace
+
+QString asWord(const QString &text)
+{
+    const QString escaped = QString(text).replace(QLatin1String("\""), QLatin1String("\"\"\""));
+    const bool hasSpace =
+        std::any_of(text.cbegin(), text.cend(), [](QChar sign) { return sign.isSpace(); });
+    return hasSpace ? '"' + escaped + '"' : escaped;
+}
 
 QString toText(const Command &command)
 {

@@ -94,9 +94,12 @@ using Command =
                  command::Unite, command::AttachOrder, command::AddSoftCheck, command::Subtotal,
                  command::Pay, command::Cancel>;
 
+//! \a text as one word of a line: in quotes where it holds spaces, each quote in it three times.
+QString asWord(const QString &text);
+
 /*!
- * \a command as a cashier types it, in one line: "qty 2 1.5". The script language reads the same
- * command back, counts to three decimals.
+ * \a command as a cashier types it: "qty 2 1.5". The script language reads the same command back,
+ * unless nobody can type it: a count with more than three decimals, an empty code, a line break.
  */
 QString toText(const Command &command);
 

@@ -85,7 +85,7 @@ Outcome CommandLine::expect(const QStringList &words)
     return Expectations(
                m_desk, m_heard, [this](const Outcome &outcome) { return textOf(outcome); },
                [this](const QStringList &expected) {
-                   return runWords(expected, expected.join(QLatin1Char(' ')));
+                   return runWords(expected, joinWords(expected));
                })
         .check(words);
 }

@@ -31,12 +31,6 @@ Outcome checkSaid(const QString &what, const QStringList &words, const QList<tr:
     return found ? Outcome::done() : differs(what, "\"" + brief(expected) + "\"", keysOf(said));
 }
 
-QString stateName(const Receipt *receipt)
-{
-    static const QStringList names{"open", "subtotal", "closed", "cancelled"};
-    return receipt ? names[static_cast<int>(receipt->state())] : QStringLiteral("none");
-}
-
 Outcome checkPart(const Position &position, const QString &part, const QString &value)
 {
     const QString what = QString("position %1 %2").arg(position.getPosnum()).arg(part);
@@ -64,14 +58,6 @@ double amountIn(const TaraState &state, const GoodsUse &goods, int posnum)
 {
     const TaraUse *const tara = state.tara(posnum);
     return tara ? goods.used.value(tara->id, 0.0) : 0.0;
-}
-
-double unplaced(const GoodsUse &goods, const Position *position)
-{
-    double left = position ? position->getBquant() : 0.0;
-    for (const double used : goods.used)
-        left -= used;
-    return left;
 }
 
 } // namespace
@@ -172,9 +158,9 @@ Outcome Expectations::goods(const QStringList &words) const
                                       amountIn(state, *goods, words.value(i + 1).toInt()));
             i += 3;
         } else if (words[i] == "unplaced") {
-            checked =
-                compareQuantity(what + " unplaced", words.value(i + 1),
-                                unplaced(*goods, cashRegister().receipt()->line(*posnum).get()));
+            const auto line = cashRegister().receipt()->line(*posnum);
+            checked = compareQuantity(what + " unplaced", words.value(i + 1),
+                                      goods->unplaced(line ? line->getBquant() : 0.0));
             i += 2;
         } else {
             return notOneOf(words[i], {"in", "unplaced", "none"});
@@ -221,7 +207,8 @@ Outcome Expectations::log(const QStringList &words) const
 
 Outcome Expectations::state(const QStringList &words) const
 {
-    return compare("state", words[0], stateName(cashRegister().receipt().get()));
+    const auto receipt = cashRegister().receipt();
+    return compare("state", words[0], receipt ? wordOf(receipt->state()) : QStringLiteral("none"));
 }
 
 Outcome Expectations::control(const QStringList &words) const

@@ -1,6 +1,7 @@
 #include "till/words/Words.h"
 
 #include "till/language/Nearest.h"
+#include "till/register/Command.h"
 
 #include <QtCore/QProcess>
 
@@ -15,6 +16,20 @@ std::optional<QStringList> splitWords(const QString &line)
     if (QString(trimmed).remove(QLatin1String("\"\"\"")).count(QLatin1Char('"')) % 2 != 0)
         return std::nullopt;
     return QProcess::splitCommand(trimmed);
+}
+
+QString joinWords(const QStringList &words)
+{
+    QStringList typed = words;
+    for (QString &word : typed)
+        word = asWord(word);
+    return typed.join(QLatin1Char(' '));
+}
+
+QString wordOf(ReceiptState state)
+{
+    static const QStringList words{"open", "subtotal", "closed", "cancelled"};
+    return words.value(static_cast<int>(state));
 }
 
 std::optional<int> parsePosnum(const QString &word)

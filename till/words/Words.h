@@ -1,6 +1,7 @@
 #ifndef TILL_WORDS_WORDS_H
 #define TILL_WORDS_WORDS_H
 
+#include "till/receipt/ReceiptRecord.h"
 #include "till/register/Outcome.h"
 #include "till/words/Usage.h"
 
@@ -16,6 +17,12 @@ namespace till {
  * words.
  */
 std::optional<QStringList> splitWords(const QString &line);
+
+//! The line of which `splitWords` makes \a words, none of which may be empty.
+QString joinWords(const QStringList &words);
+
+//! How far a receipt is, as scripts say it.
+QString wordOf(ReceiptState state);
 
 //! The position number that \a word is, or nothing.
 std::optional<int> parsePosnum(const QString &word);

@@ -190,6 +190,12 @@ TEST_F(ExpectHeard, EmptyReceipts_AreExpectedWithoutOne)
             "goods 1 none", "message none", "question none", "log none"});
 }
 
+TEST_F(ExpectHeard, CommandWithQuotedWords_IsToldAsItIsTyped)
+{
+    done({"open", "add CHIPS", "expect mistake qty \"1 2\""});
+    EXPECT_EQ(noted("command", "text").constLast(), "qty \"1 2\"");
+}
+
 } // namespace
 
 } // namespace till

@@ -64,6 +64,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Written{"Cancel", command::Cancel{}, "cancel"}),
     [](const auto &written) { return written.param.name; });
 
+TEST(CommandTextOf, CountThatCannotBeTyped_IsWrittenAsItIs)
+{
+    EXPECT_EQ(toText(command::Add{"A", 1.0 / 3}), "add A 0.3333333333333333");
+    EXPECT_EQ(toText(command::ChangeCount{1, 0.0004}), "qty 1 0.0004");
+    EXPECT_EQ(toText(command::Split{1, {1e9, 0.5}}), "split 1 1000000000 0.5");
+}
+
+TEST(Words, Joined_AreSplitAgain)
+{
+    const QStringList words{"add", "a  b", "\"", "3\" pipe", "#1", "x\ty"};
+    EXPECT_EQ(splitWords(joinWords(words)), words);
+}
+
 TEST(CommandTable, EachCommand_HasARow)
 {
     EXPECT_EQ(registerWords().size(), std::variant_size_v<Command>);
