@@ -41,6 +41,8 @@ QString play(const till::Script &script, const QString &path, const QString &plu
 
 QString playScript(QByteArrayView bytes)
 {
+    if (bytes.toByteArray().toLower().contains("save"))
+        return {}; // which leaves files behind
     needApplication();
     const MemoryFile file(bytes);
     if (!file.isWhole())

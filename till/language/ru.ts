@@ -391,5 +391,25 @@
         <source>no quantity was given</source>
         <translation>количество не задано</translation>
     </message>
+    <message>
+        <source>FILE</source>
+        <translation>ФАЙЛ</translation>
+    </message>
+    <message>
+        <source>write this receipt as a script, which expects what it did</source>
+        <translation>записать этот чек сценарием с ожиданиями того, что он сделал</translation>
+    </message>
+    <message>
+        <source>no receipt was opened since the till was started: nothing to save</source>
+        <translation>с запуска кассы чек не открывали: записывать нечего</translation>
+    </message>
+    <message>
+        <source>%1: %2 command(s), %3 expectation(s)</source>
+        <translation>%1: команд: %2, ожиданий: %3</translation>
+    </message>
+    <message>
+        <source>%1 is written, but a script cannot say: %2</source>
+        <translation>%1: записано, но сценарием не выразить: %2</translation>
+    </message>
 </context>
 </TS>

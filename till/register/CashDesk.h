@@ -69,6 +69,8 @@ public:
     const Setup &setup() const { return m_setup; }
     //! The settings that plugins are given, "KEY=VALUE"; only after a start.
     QStringList settings() const { return settingsInForce(*m_settings); }
+    //! The note that the till was switched on so; only after a start.
+    QJsonObject describeStart() const;
     //! The copy that was made of a database of the format before; empty when there was none.
     QString copyBefore() const { return m_storage ? m_storage->copyBefore() : QString(); }
 
@@ -90,7 +92,6 @@ private:
     Result<> readCatalogue();
     Result<> openDatabase();
     Result<> loadPlugin();
-    QJsonObject describeStart() const;
     Result<> startRegister();
 
     Setup m_setup;

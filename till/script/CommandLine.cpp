@@ -78,6 +78,11 @@ const QList<CommandLine::Row> &CommandLine::ownRows()
           told("till", "check what happened or what is; see 'help expect'"), 1, Usage::any},
          &CommandLine::expect,
          true},
+        {{"save", told("till", "FILE"),
+          told("till", "write this receipt as a script, which expects what it did"), 1, 1},
+         &CommandLine::save,
+         true,
+         true},
         {{"help", told("till", "[COMMAND]"), told("till", "list the commands, or explain one"), 0,
           1},
          &CommandLine::help,
@@ -100,6 +105,7 @@ CommandLine::CommandLine(CashDesk &desk, Notes &notes, const Translator &transla
     , m_person(std::move(person))
     , m_answers(*this,
                 [this](const Question &question, bool answer) { printAnswered(question, answer); })
+    , m_course(notes, desk.isOn() ? desk.describeStart() : QJsonObject())
     , m_installed(desk.front(), m_answers)
     , m_notesHeard(notes.subscribe([this](const QJsonObject &note) { hear(note); }))
     , m_receiptSeen(desk.onReceiptChanged([this] { m_hasTouchedReceipt = true; }))

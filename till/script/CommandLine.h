@@ -2,6 +2,7 @@
 #define TILL_SCRIPT_COMMANDLINE_H
 
 #include "till/language/Translator.h"
+#include "till/recorder/ReceiptCourse.h"
 #include "till/register/CashDesk.h"
 #include "till/register/Outcome.h"
 #include "till/script/Expectations.h"
@@ -98,6 +99,7 @@ private:
     Outcome set(const QStringList &words);
     Outcome restart(const QStringList &words);
     Outcome expect(const QStringList &words);
+    Outcome save(const QStringList &words);
     Outcome help(const QStringList &words);
     Outcome quit(const QStringList &words);
 
@@ -112,6 +114,7 @@ private:
     Person m_person;
     Heard m_heard; //!< since the last command that is no "expect", "answer" or "show"
     PreparedAnswers m_answers;
+    const ReceiptCourse m_course;
     QStringList m_unanswered; //!< keys of the questions that nobody was there to answer
     const InstalledFront m_installed;
     Subscription m_notesHeard;

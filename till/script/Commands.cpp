@@ -2,6 +2,7 @@
 
 #include "till/script/CommandLine.h"
 
+#include "till/recorder/ScriptFile.h"
 #include "till/words/Words.h"
 
 #include <utility>
@@ -88,6 +89,28 @@ Outcome CommandLine::expect(const QStringList &words)
                    return runWords(expected, joinWords(expected));
                })
         .check(words);
+}
+
+Outcome CommandLine::save(const QStringList &words)
+{
+    if (m_course.isEmpty())
+        return Outcome::mistake(
+            told("till", "no receipt was opened since the till was started: nothing to save"));
+    QStringList lines;
+    Recorder recorder([&lines](const QString &line) { lines.append(line); });
+    m_course.tell(recorder);
+    recorder.finish();
+    if (const Result<> saved = saveScript(words[0], lines); !saved)
+        return Outcome::failed(saved.error().text());
+    print(m_translator.text(told("till", "%1: %2 command(s), %3 expectation(s)")
+                                .with({words[0], QString::number(recorder.commands()),
+                                       QString::number(recorder.expectations())})));
+    if (recorder.unsaid().isEmpty())
+        return Outcome::done();
+    return {Outcome::Failed,
+            told("till", "%1 is written, but a script cannot say: %2")
+                .with({words[0], recorder.unsaid().join("; ")}),
+            {}};
 }
 
 Outcome CommandLine::quit(const QStringList &words)

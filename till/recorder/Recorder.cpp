@@ -1,0 +1,260 @@
+#include "till/recorder/Recorder.h"
+
+#include "till/words/RegisterWords.h"
+#include "till/words/Words.h"
+
+#include <utility>
+
+namespace till {
+
+namespace {
+
+//! The words of \a text, or none.
+QStringList wordsOf(const QString &text)
+{
+    return splitWords(text).value_or(QStringList());
+}
+
+bool isOfRegister(const QString &text)
+{
+    return rowCalled(wordsOf(text).value(0), registerWords()) != nullptr;
+}
+
+bool switchesTill(const QString &text)
+{
+    return QStringList{"set", "restart"}.contains(wordsOf(text).value(0).toLower());
+}
+
+/*!
+ * Whether a script that has the line \a text does what the command did of which it is the text; one
+ * that was a \a mistake may be no command at all.
+ */
+bool canBeTyped(const QString &text, bool mistake)
+{
+    if (text.contains('\n') || QString::fromUtf8(text.toUtf8()) != text)
+        return false;
+    const ReadCommand read = readCommand(wordsOf(text));
+    return read ? toText(*read) == text : mistake;
+}
+
+//! What is told of a question or a message, as "expect" names it.
+QString nameOf(const QJsonObject &note)
+{
+    const QString key = note["key"].toString();
+    return asWord(key.isEmpty() ? note["text"].toString().replace('\n', ' ') : key);
+}
+
+void appendOnce(QStringList &names, const QString &name)
+{
+    if (!name.isEmpty() && !names.contains(name))
+        names.append(name);
+}
+
+//! The lines that bring the settings \a before to \a now.
+QStringList settingLines(const QJsonObject &now, const QJsonObject &before)
+{
+    QStringList lines;
+    for (auto setting = now.begin(); setting != now.end(); ++setting) {
+        if (before[setting.key()] != setting.value())
+            lines.append(
+                joinWords({"set", setting.key(), setting.value().toBool() ? "true" : "false"}));
+    }
+    return lines;
+}
+
+} // namespace
+
+Recorder::Recorder(Write write)
+    : m_write(std::move(write))
+{
+}
+
+const QSet<QString> &Recorder::kinds()
+{
+    static const QSet<QString> kinds{"start",    "verdict", "command", "outcome",
+                                     "question", "answer",  "message", "takeup",
+                                     "position", "data",    "receipt"};
+    return kinds;
+}
+
+bool Recorder::opensReceipt(const QString &text)
+{
+    return wordsOf(text).value(0).toLower() == "open";
+}
+
+void Recorder::read(const QJsonObject &note)
+{
+    const QString kind = note["kind"].toString();
+    m_now.read(note);
+    if (kind == "start")
+        readStart(note);
+    else if (kind == "verdict")
+        readVerdict();
+    else if (kind == "takeup")
+        readTakeUp(note["id"].toInteger());
+    else if (kind == "command")
+        begin({note["text"].toString(), {}, {}, {}, {}});
+    else if (kind == "outcome")
+        readOutcome(note["outcome"].toString());
+    else if (kind == "question" && m_underWay)
+        appendOnce(m_underWay->questions, nameOf(note));
+    else if (kind == "question")
+        leaveOut("a question that no command asked", note["text"].toString());
+    else if (kind == "answer" && m_underWay)
+        m_underWay->answers.append(note["confirmed"].toBool() ? "yes" : "no");
+    else if (kind == "message" && m_underWay)
+        appendOnce(m_underWay->messages, nameOf(note));
+}
+
+void Recorder::finish()
+{
+    const UnderWay last = m_underWay.value_or(UnderWay());
+    begin({});
+    tellEnd();
+    if (!isOfRegister(last.text))
+        return;
+    m_write("# The course of things ends within this command:");
+    tellAnswers(last);
+    tellCommand(last.text);
+}
+
+void Recorder::readStart(const QJsonObject &note)
+{
+    m_database = note["database"].toString();
+    const QJsonObject settings = note["settings"].toObject();
+    QStringList lines = settingLines(settings, std::exchange(m_settings, settings));
+    if (!std::exchange(m_isOn, true))
+        return; // the settings are said where a receipt is opened
+    if (lines.isEmpty())
+        lines.append("restart");
+    if (!m_underWay)
+        begin({}); // by a front without lines
+    m_underWay->switching += lines;
+}
+
+void Recorder::begin(const UnderWay &command)
+{
+    if (m_underWay && !m_underWay->switching.isEmpty())
+        tellSwitched(*m_underWay);
+    m_underWay = command;
+}
+
+//! Scripts that are played one after the other have a till each: in one script they have the same.
+void Recorder::readVerdict()
+{
+    if (m_database != ":memory:")
+        return;
+    if (m_told.isUnfinished() && !m_isStrange) {
+        tellEnd();
+        m_write("# Another till goes on, and has no receipt.");
+        m_write("answer yes");
+        m_write("cancel");
+    }
+    m_isOn = false;
+    m_told = {};
+}
+
+void Recorder::readTakeUp(qint64 id)
+{
+    if (!m_underWay || m_underWay->hasOpened || !opensReceipt(m_underWay->text)) {
+        m_isStrange = m_isStrange || (id != 0 && id != m_id);
+        return;
+    }
+    tellEnd();
+    m_told = {};
+    m_isStrange = false;
+    m_underWay->hasOpened = true;
+    const QStringList lines = settingLines(m_settings, {});
+    for (const QString &line : lines)
+        m_write(line);
+}
+
+void Recorder::readOutcome(const QString &outcome)
+{
+    if (!m_underWay)
+        return;
+    const UnderWay command = *std::exchange(m_underWay, std::nullopt);
+    if (!command.switching.isEmpty())
+        tellSwitched(command);
+    else if (isOfRegister(command.text))
+        tell(command, outcome);
+    else if (outcome == "failed" && switchesTill(command.text))
+        leaveOut("could not be done", command.text);
+}
+
+void Recorder::tellSwitched(const UnderWay &command)
+{
+    if (m_isStrange)
+        return;
+    tellAnswers(command);
+    for (const QString &line : command.switching)
+        m_write(line);
+    expect(expectationsOf(m_now, &m_told));
+    m_told = m_now;
+}
+
+void Recorder::tell(const UnderWay &command, const QString &outcome)
+{
+    static const QMap<QString, QString> ends{
+        {"done", ""}, {"refused", "expect refused "}, {"mistake", "expect mistake "}};
+    const bool isMistake = outcome == "mistake";
+    if (m_isStrange)
+        return leaveOut("the receipt was opened before this begins", command.text);
+    if (outcome == "failed")
+        return leaveOut("could not be done", command.text);
+    if (!ends.contains(outcome) || !canBeTyped(command.text, isMistake))
+        return leaveOut("cannot be typed", command.text);
+    tellAnswers(command);
+    tellCommand(ends[outcome] + command.text);
+    if (!isMistake)
+        tellWhatItDid(command);
+}
+
+void Recorder::tellWhatItDid(const UnderWay &command)
+{
+    for (const QString &question : command.questions)
+        expect({"question " + question});
+    for (const QString &message : command.messages)
+        expect({"message " + message});
+    if (command.messages.isEmpty())
+        expect({"message none"});
+    expect(expectationsOf(m_now, &m_told));
+    m_told = m_now;
+    m_id = m_now.record.id;
+}
+
+void Recorder::tellAnswers(const UnderWay &command)
+{
+    if (!command.answers.isEmpty())
+        m_write("answer " + command.answers.join(' '));
+}
+
+//! Of a receipt that another follows, or nothing: all that it came to.
+void Recorder::tellEnd()
+{
+    if (!m_told.isThere || m_isStrange)
+        return;
+    m_write("# What it came to:");
+    expect(expectationsOf(m_told));
+}
+
+void Recorder::tellCommand(const QString &line)
+{
+    ++m_commands;
+    m_write(line);
+}
+
+void Recorder::expect(const QStringList &texts)
+{
+    m_expectations += static_cast<int>(texts.size());
+    for (const QString &text : texts)
+        m_write("expect " + text);
+}
+
+void Recorder::leaveOut(const QString &why, const QString &text)
+{
+    m_unsaid.append(why + ": " + QString(text).replace('\n', ' '));
+    m_write("# " + m_unsaid.constLast());
+}
+
+} // namespace till
