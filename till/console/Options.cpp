@@ -19,7 +19,7 @@ namespace {
 //! What is wrong with a word that says nothing: "" would else mean that there is none.
 Result<> checkEmpty(const QCommandLineParser &parser, const QStringList &words)
 {
-    for (const QString name : {"db", "catalogue", "plugin", "config", "trace"}) {
+    for (const QString name : {"db", "catalogue", "plugin", "config", "trace", "junit"}) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return Fault{"--" + name, "no file is named"};
     }
@@ -65,6 +65,10 @@ Result<> readPlay(const QCommandLineParser &parser, Options &options)
     if (options.jobs > 1 && options.playsInTurn())
         return Fault{"--jobs", "scripts that share a database or a trace are played in turn"};
     options.stop = parser.isSet("stop");
+    options.junit = parser.value("junit");
+    options.tap = parser.isSet("tap");
+    if (options.tap && options.trace == "-")
+        return Fault{"--tap", "standard output is for the trace"};
     return {};
 }
 
@@ -158,6 +162,8 @@ QList<QCommandLineOption> programOptions()
         {{"colour", "color"}, "Colours: auto, always or never.", "WHEN", "auto"},
         {"jobs", "Play so many scripts at a time (default: one a core).", "N", "0"},
         {"timeout", "End the play of a script that takes longer.", "SECONDS", "60"},
+        {"junit", "Write what became of a play to FILE as JUnit XML.", "FILE"},
+        {"tap", "Print what becomes of a play as TAP, and nothing else."},
         {"stop", "End a play at the first script that does not hold."},
         {"quiet", "Print progress only, not the receipts' course."},
         {{"h", "help"}, "Show this help."},

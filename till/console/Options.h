@@ -26,7 +26,12 @@ struct Options
     bool quiet = false;
     int jobs = 0;      //!< how many scripts are played at a time; 0 for as many as there are cores
     int timeout = 0;   //!< seconds that the play of a script may take
+    QString junit;     //!< the file that is told as JUnit XML what became of a play
+    bool tap = false;  //!< a play is told as TAP
     bool stop = false; //!< a play ends at the first script that does not hold
+
+    //! Whether standard output is for a program alone.
+    bool isSilent() const { return tap || trace == "-"; }
 
     //! Whether scripts cannot be played at the same time.
     bool playsInTurn() const

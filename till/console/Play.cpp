@@ -1,14 +1,11 @@
 #include "till/console/Play.h"
 
-#include "till/console/ExitStatus.h"
+#include "till/console/Teller.h"
 #include "till/runner/PlayApart.h"
-#include "till/runner/Report.h"
 #include "till/terminal/Output.h"
 
-#include <QtCore/QFileInfo>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QThread>
-
-#include <unistd.h>
 
 namespace till {
 
@@ -84,73 +81,6 @@ private:
     const Translator &m_translator;
 };
 
-//! Tells how a run goes, to whoever started it.
-class Teller
-{
-public:
-    explicit Teller(const Options &options)
-        : m_options(options)
-        , m_report(options.words.size())
-    {
-        announce();
-    }
-
-    //! Tells of the next script; whether to go on.
-    bool tell(const Verdict &verdict)
-    {
-        if (!verdict.course.isEmpty())
-            Output(m_options.style.colour).print(verdict.course);
-        if (!verdict.complaints.isEmpty())
-            Output::passOn(verdict.complaints);
-        if (verdict.end != Verdict::Held)
-            Output::error(verdict.fault.text());
-        m_report.add(verdict);
-        ++m_told;
-        if (m_report.worst() == Verdict::NotStarted
-            || (m_options.stop && verdict.end != Verdict::Held))
-            return false;
-        announce();
-        return true;
-    }
-
-    ExitStatus end() const
-    {
-        static constexpr ExitStatus statuses[] = {AllWell, CommandFailed, StartFailed, StartFailed};
-        if (m_report.worst() != Verdict::NotStarted)
-            progress(m_report.table());
-        return statuses[m_report.worst()];
-    }
-
-private:
-    void progress(const QString &text) const
-    {
-        if (m_options.trace != "-")
-            Output().print(text);
-    }
-
-    //! Says which script comes next, if one does.
-    void announce() const
-    {
-        if (m_told == m_options.words.size())
-            return;
-        const QString next = QString("[%1/%2] %3")
-                                 .arg(m_told + 1)
-                                 .arg(m_options.words.size())
-                                 .arg(printable(QFileInfo(m_options.words[m_told]).fileName()));
-        if (m_passes)
-            Output::printPassing(elided(next, m_options.style.columns() - 1));
-        else
-            progress(next);
-    }
-
-    const Options &m_options;
-    Report m_report;
-    qsizetype m_told = 0;
-    //! On a terminal where nothing else is to be seen a line takes the place of the one before.
-    const bool m_passes = m_options.quiet && m_options.trace != "-" && isatty(STDOUT_FILENO) != 0
-                          && qgetenv("TERM") != "dumb";
-};
-
 //! Plays each script in a process of its own; for lines as wide as the terminal of this one.
 void playApart(Options options, Notes &notes, const Translator &translator, Teller &teller)
 {
@@ -169,6 +99,20 @@ void playApart(Options options, Notes &notes, const Translator &translator, Tell
               [&teller](const Verdict &verdict) { return teller.tell(verdict); });
 }
 
+//! Plays all scripts in this process, which is told what is traced.
+void playHere(const Options &options, Notes &notes, const Translator &translator, Teller &teller)
+{
+    const Player player(options, notes, translator);
+    for (const QString &script : options.words) {
+        QElapsedTimer timer;
+        timer.start();
+        Verdict verdict = player.play(script, {});
+        verdict.seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+        if (!teller.tell(verdict))
+            return;
+    }
+}
+
 } // namespace
 
 void tellCopy(const CashDesk &desk, const Translator &translator,
@@ -183,16 +127,14 @@ void tellCopy(const CashDesk &desk, const Translator &translator,
 int play(const Options &options, Notes &notes, const Translator &translator)
 {
     Teller teller(options);
-    if (options.trace.isEmpty()) {
+    if (const Result<> begun = teller.begin(); !begun) {
+        Output::error(begun.error().text());
+        return StartFailed;
+    }
+    if (options.trace.isEmpty())
         playApart(options, notes, translator, teller);
-        return teller.end();
-    }
-    // What is traced is told to this process.
-    const Player player(options, notes, translator);
-    for (const QString &script : options.words) {
-        if (!teller.tell(player.play(script, {})))
-            break;
-    }
+    else
+        playHere(options, notes, translator, teller);
     return teller.end();
 }
 

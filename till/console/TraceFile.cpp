@@ -33,9 +33,22 @@ bool isSameFile(const QString &one, const QString &other)
                   : placeOf(one) == placeOf(other);
 }
 
-//! Whether something is at \a path that a trace would destroy: not a pipe or a device like a
-//! printer.
-bool isOtherFile(const QString &path)
+using IsOurs = bool (*)(const QByteArray &firstLine);
+
+bool isTrace(const QByteArray &firstLine)
+{
+    const QJsonObject first = QJsonDocument::fromJson(firstLine).object();
+    return first.value("line") == 1 && first.value("kind").isString();
+}
+
+bool isXml(const QByteArray &firstLine)
+{
+    return firstLine.startsWith("<?xml");
+}
+
+//! Whether something is at \a path that would be destroyed: not a pipe or a device like a printer,
+//! nor a file of which the first line says that it is ours.
+bool isOtherFile(const QString &path, IsOurs isOurs)
 {
     struct stat status = {};
     if (stat(QFile::encodeName(path).constData(), &status) != 0)
@@ -45,21 +58,32 @@ bool isOtherFile(const QString &path)
     QFile file(path);
     if (status.st_size == 0 || !file.open(QIODevice::ReadOnly))
         return false; // nothing to lose, or opening it tells why not
-    const QJsonObject first = QJsonDocument::fromJson(file.readLine(65536)).object();
-    return first.value("line") != 1 || !first.value("kind").isString();
+    return !isOurs(file.readLine(65536));
+}
+
+//! What speaks against writing to the file \a path that an \a option names.
+Result<> checkFile(const QString &option, const QString &path, const QStringList &inUse,
+                   IsOurs isOurs, const QString &what)
+{
+    for (const QString &file : inUse) {
+        if (!file.isEmpty() && isSameFile(path, file))
+            return Fault{option, path + " is a file that the till uses: " + file};
+    }
+    if (isOtherFile(path, isOurs))
+        return Fault{option, path + " is there already and is no " + what};
+    return {};
 }
 
 } // namespace
 
 Result<> checkTraceFile(const QString &path, const QStringList &inUse)
 {
-    for (const QString &file : inUse) {
-        if (!file.isEmpty() && isSameFile(path, file))
-            return Fault{"--trace", path + " is a file that the till uses: " + file};
-    }
-    if (isOtherFile(path))
-        return Fault{"--trace", path + " is there already and is no trace"};
-    return {};
+    return checkFile("--trace", path, inUse, isTrace, "trace");
+}
+
+Result<> checkJunitFile(const QString &path, const QStringList &inUse)
+{
+    return checkFile("--junit", path, inUse, isXml, "XML");
 }
 
 } // namespace till

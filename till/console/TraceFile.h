@@ -11,6 +11,9 @@ namespace till {
 //! nor to a file that is no trace. It may when nothing is there yet.
 Result<> checkTraceFile(const QString &path, const QStringList &inUse);
 
+//! The same of what became of a play.
+Result<> checkJunitFile(const QString &path, const QStringList &inUse);
+
 } // namespace till
 
 #endif // TILL_CONSOLE_TRACEFILE_H

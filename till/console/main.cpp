@@ -124,6 +124,11 @@ int runTraced(Options &options)
             return fail(StartFailed, scripts.error().text());
         options.words = *scripts;
     }
+    if (!options.junit.isEmpty()) {
+        const QStringList inUse = filesInUse(options) + QStringList{options.trace};
+        if (const Result<> checked = checkJunitFile(options.junit, inUse); !checked)
+            return fail(UsageError, checked.error().text());
+    }
     Notes notes;
     std::unique_ptr<Trace> trace;
     if (!options.trace.isEmpty()) {
@@ -135,7 +140,7 @@ int runTraced(Options &options)
             return fail(StartFailed, started.error().text());
         trace = std::move(*started);
         std::signal(SIGPIPE, SIG_IGN); // a reader that goes away does not stop the till
-        options.quiet = options.quiet || options.trace == "-";
+        options.quiet = options.quiet || options.isSilent();
     }
     const int status = run(options, notes);
     if (!trace || trace->error().isEmpty())

@@ -4,7 +4,7 @@ _till()
 {
     local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} help command="" i
     case $before in
-        --db | --catalogue | --plugin | --config | --trace)
+        --db | --catalogue | --plugin | --config | --trace | --junit)
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -f -- "$current")
             return ;;

@@ -12,16 +12,20 @@ QString row(const QString &what, const QString &text)
     return text.isEmpty() ? QString() : what.leftJustified(width) + printable(text) + '\n';
 }
 
-//! What did not hold.
+} // namespace
+
 QString rowsOf(const Verdict &verdict)
 {
     const ScriptFault &fault = verdict.fault;
     return row(verdict.end == Verdict::Failed ? "failed" : "wrong", fault.place)
            + row("command", fault.command) + row("expected", fault.expected)
-           + row("found", fault.found.isEmpty() ? fault.reason : fault.found) + '\n';
+           + row("found", fault.found.isEmpty() ? fault.reason : fault.found);
 }
 
-} // namespace
+QString checksNothing()
+{
+    return "checks nothing, as it expects nothing";
+}
 
 void Report::add(const Verdict &verdict)
 {
@@ -29,9 +33,9 @@ void Report::add(const Verdict &verdict)
     m_expectations += verdict.expectations;
     m_worst = std::max(m_worst, verdict.end);
     if (verdict.end != Verdict::Held)
-        m_rows += rowsOf(verdict);
+        m_rows += rowsOf(verdict) + '\n';
     else if (verdict.expectations == 0)
-        m_rows += printable(verdict.script) + ": checks nothing, as it expects nothing\n\n";
+        m_rows += printable(verdict.script) + ": " + checksNothing() + "\n\n";
 }
 
 QString Report::table() const

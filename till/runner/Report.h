@@ -5,6 +5,13 @@
 
 namespace till {
 
+//! What did not hold of a script that did not: its place, command, what was expected and found, a
+//! line each.
+QString rowsOf(const Verdict &verdict);
+
+//! What is said of a script without expectations.
+QString checksNothing();
+
 //! What became of a run of scripts, for people.
 class Report
 {

@@ -202,6 +202,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Wrong{"NoPluginNamed", {"--plugin", ""}, "--plugin: no file is named"},
                     Wrong{"NoSettings", {"--config", ""}, "--config: no file is named"},
                     Wrong{"NoTrace", {"--trace", ""}, "--trace: no file is named"},
+                    Wrong{"NoJunit", {"--junit", ""}, "--junit: no file is named"},
                     Wrong{"NoDatabase", {"--db="}, "--db: no file is named"},
                     Wrong{"NoCatalogue", {"--catalogue", ""}, "--catalogue: no file is named"},
                     Wrong{"NoScript", {"play", ""}, "a word is empty"},

@@ -1,7 +1,5 @@
-#include "tests/till/console/ProgramFixture.h"
+#include "tests/till/console/PlayFixture.h"
 #include "tests/till/console/Terminal.h"
-
-#include <QtCore/QDir>
 
 // Many scripts in one run.
 
@@ -11,23 +9,8 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
-class Play : public ProgramTest
+class Play : public PlayTest
 {
-protected:
-    //! Writes a script into a folder of the test's.
-    QString script(const QString &name, const QByteArray &text) const
-    {
-        EXPECT_TRUE(QDir().mkpath(path(name.section('/', 0, -2))));
-        return write(name, text);
-    }
-    //! Plays with \a arguments, quietly and in English.
-    RunResult played(const QStringList &arguments, const QByteArray &input = {}) const
-    {
-        return run(QStringList{"--lang", "en", "--quiet", "play"} + arguments, input);
-    }
-
-    const QByteArray good = "open\nadd CHIPS\nexpect total 129.90\nexpect positions 1\n";
-    const QByteArray bad = "open\nadd CHOPS\n";
 };
 
 TEST_F(Play, ManyScripts_ShowProgressAndStartAnew)
@@ -209,7 +192,7 @@ TEST_F(Play, SharedDatabase_IsPlayedInTurn)
 }
 
 //! With a plugin that goes wrong when it is told so many pieces.
-class PlayOfFaulty : public Play
+class PlayOfFaulty : public PlayTest
 {
 protected:
     QString adding(int pieces) const
@@ -219,7 +202,7 @@ protected:
     }
     RunResult played(const QStringList &arguments) const
     {
-        return Play::played(QStringList{"--plugin", FAULTY_PLUGIN} + arguments);
+        return PlayTest::played(QStringList{"--plugin", FAULTY_PLUGIN} + arguments);
     }
 };
 

@@ -1,0 +1,44 @@
+#ifndef TILL_CONSOLE_TELLER_H
+#define TILL_CONSOLE_TELLER_H
+
+#include "till/console/ExitStatus.h"
+#include "till/console/Options.h"
+#include "till/runner/Report.h"
+
+#include <QtCore/QFile>
+
+namespace till {
+
+//! Tells how a run of scripts goes and what became of it, in the ways that the options ask for.
+class Teller
+{
+public:
+    //! Of a run of the scripts that are the words of \a options, which must outlive this object.
+    explicit Teller(const Options &options);
+
+    //! Readies what has to be there before the first script is played.
+    Result<> begin();
+
+    //! Tells of the next script; whether to go on.
+    bool tell(const Verdict &verdict);
+
+    //! Tells of the whole run; how the program ends.
+    ExitStatus end();
+
+private:
+    void print(const Verdict &verdict) const;
+    void print(const QString &text) const;
+    void announce() const;
+    bool goesOn(const Verdict &verdict) const;
+    Result<> writeJunit();
+
+    const Options &m_options;
+    Report m_report;
+    QList<Verdict> m_verdicts;
+    QFile m_junit;
+    const bool m_passes; //!< a line of progress takes the place of the one before
+};
+
+} // namespace till
+
+#endif // TILL_CONSOLE_TELLER_H

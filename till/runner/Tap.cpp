@@ -1,0 +1,29 @@
+#include "till/runner/Tap.h"
+
+#include "till/runner/Report.h"
+
+namespace till {
+
+QString tapPlan(qsizetype scripts)
+{
+    return QString("TAP version 13\n1..%1\n").arg(scripts);
+}
+
+QString tapLines(qsizetype number, const Verdict &verdict)
+{
+    const bool held = verdict.end == Verdict::Held;
+    const QString name = printable(verdict.script).replace('\\', "\\\\").replace('#', "\\#");
+    QString text = QString("%1 %2 - %3\n").arg(held ? "ok" : "not ok").arg(number).arg(name);
+    const QString more =
+        held ? verdict.expectations == 0 ? checksNothing() : QString() : rowsOf(verdict).trimmed();
+    if (!more.isEmpty())
+        text += "# " + QString(more).replace('\n', "\n# ") + '\n';
+    return text;
+}
+
+QString tapEnd(const Verdict &verdict)
+{
+    return "Bail out! " + printable(verdict.fault.text()) + '\n';
+}
+
+} // namespace till
