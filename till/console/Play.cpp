@@ -54,7 +54,10 @@ public:
             return ended(verdict, Verdict::NotStarted, {started.error()});
         const Subscription following = soFar ? followed(m_notes, verdict, soFar) : nullptr;
         const auto played = playOn(desk, script);
-        return played ? verdict : ended(verdict, Verdict::Failed, played.error());
+        if (played)
+            return verdict;
+        const Verdict::End end = played.error().isWrong ? Verdict::Wrong : Verdict::Failed;
+        return ended(verdict, end, played.error());
     }
 
 private:

@@ -72,6 +72,14 @@
         <translation>показать список команд или объяснить одну</translation>
     </message>
     <message>
+        <source>in a script: carry out the commands of another file</source>
+        <translation>в сценарии: выполнить команды другого файла</translation>
+    </message>
+    <message>
+        <source>&apos;include&apos; stands in a script, in a line of its own</source>
+        <translation>&apos;include&apos; бывает только в сценарии, отдельной строкой</translation>
+    </message>
+    <message>
         <source>leave; the open receipt is kept</source>
         <translation>выйти; открытый чек сохраняется</translation>
     </message>

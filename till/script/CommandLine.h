@@ -100,6 +100,7 @@ private:
     Outcome restart(const QStringList &words);
     Outcome expect(const QStringList &words);
     Outcome save(const QStringList &words);
+    Outcome include(const QStringList &words);
     Outcome help(const QStringList &words);
     Outcome quit(const QStringList &words);
 

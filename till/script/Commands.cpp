@@ -113,6 +113,13 @@ Outcome CommandLine::save(const QStringList &words)
             {}};
 }
 
+//! A script is read with what it includes.
+Outcome CommandLine::include(const QStringList &words)
+{
+    Q_UNUSED(words)
+    return Outcome::mistake(told("till", "'include' stands in a script, in a line of its own"));
+}
+
 Outcome CommandLine::quit(const QStringList &words)
 {
     Q_UNUSED(words)

@@ -2,6 +2,7 @@
 #define TILL_SCRIPT_SCRIPT_H
 
 #include "till/script/CommandLine.h"
+#include "till/script/ScriptLines.h"
 
 namespace till {
 
@@ -11,13 +12,14 @@ struct ScriptFault : Fault
     QString command = {};  //!< the line; empty where it is about none
     QString expected = {}; //!< of the line
     QString found = {};
+    bool isWrong = false; //!< the script itself is wrong, whatever the till does
 };
 
 //! A file of commands, one a line.
 class Script
 {
 public:
-    //! Reads the file \a path, which is UTF-8; "-" is standard input.
+    //! Reads the script \a path, with what it includes, as `readScript()` does.
     Result<> read(const QString &path);
 
     /*!
@@ -35,10 +37,9 @@ public:
 private:
     Result<void, ScriptFault> playLines(CommandLine &commands,
                                         const std::function<void(const QString &line)> &echo) const;
-    QString place(qsizetype line) const;
 
     QString m_path;
-    QStringList m_lines;
+    QList<ScriptLine> m_lines;
 };
 
 } // namespace till

@@ -114,6 +114,26 @@ TEST_F(Play, ScriptWithoutExpectation_IsSaidToCheckNothing)
                 HasSubstr(one.toStdString() + ": checks nothing, as it expects nothing\n"));
 }
 
+TEST_F(Play, CommandBehindQuitAndWrongInclude_AreWrong)
+{
+    const RunResult wrong = played({script("quit.till", "open\nquit\npay\n"),
+                                    script("include.till", "open\ninclude nothing.till\n")});
+    EXPECT_EQ(wrong.status, 3);
+    EXPECT_THAT(wrong.out,
+                HasSubstr("/quit.till:3\ncommand   pay\nfound     stands behind 'quit'"));
+    EXPECT_THAT(wrong.out, HasSubstr("wrong     " + path("include.till").toStdString() + ":2\n"));
+    EXPECT_THAT(wrong.out, EndsWith("0 of 2 scripts held, 2 wrong; expectations: 0\n"));
+}
+
+TEST_F(Play, IncludedExpectations_Count)
+{
+    script("common.till", good);
+    EXPECT_THAT(played({script("s.till", "include common.till\nexpect state open\n")}).out,
+                EndsWith("1 of 1 scripts held; expectations: 3\n"));
+    EXPECT_THAT(played({"-"}, QByteArray("include ") + path("common.till").toUtf8()).out,
+                EndsWith("1 of 1 scripts held; expectations: 2\n"));
+}
+
 TEST_F(Play, TillThatDoesNotStart_EndsThePlay)
 {
     const QString one = script("s.till", good);
