@@ -2,6 +2,12 @@
 
 namespace till {
 
+QString wordOf(ReceiptState state)
+{
+    static const QStringList words{"open", "subtotal", "closed", "cancelled"};
+    return words.value(static_cast<int>(state));
+}
+
 ReceiptUpdate wholeOf(const ReceiptRecord &record)
 {
     ReceiptUpdate update{record, true, {}, {}};

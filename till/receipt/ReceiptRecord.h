@@ -18,6 +18,15 @@ enum class ReceiptState : int {
     Cancelled = 3,
 };
 
+//! How far a receipt in that state is, as scripts and files say it.
+QString wordOf(ReceiptState state);
+
+//! Whether a register goes on with a receipt that is so far.
+inline bool isUnfinished(ReceiptState state)
+{
+    return state == ReceiptState::Open || state == ReceiptState::Subtotal;
+}
+
 //! A position as it is stored. Stornoed positions stay in the receipt as struck lines.
 struct LineRecord
 {

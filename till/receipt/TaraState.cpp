@@ -1,5 +1,7 @@
 #include "till/receipt/TaraState.h"
 
+#include "till/receipt/Receipt.h"
+
 #include <algorithm>
 #include <functional>
 
@@ -44,6 +46,13 @@ double GoodsUse::unplaced(double base) const
     for (const double amount : used)
         base -= amount;
     return base;
+}
+
+TaraControl controlOf(const Receipt &receipt)
+{
+    const bool isWatched = receipt.getType() == Document::Sale && !receipt.getOrder()
+                           && receipt.softChecks().isEmpty();
+    return isWatched ? TaraControl::Active : TaraControl::Suspended;
 }
 
 TaraState TaraState::read(const Document::PluginData &data, const QString &pluginId)

@@ -10,12 +10,17 @@
 
 namespace till {
 
+class Receipt;
+
 //! Whether a plugin controls the tara of the receipt.
 enum class TaraControl {
     Active,
     Suspended, //!< the plugin let go of the receipt
     Absent,    //!< there is no plugin
 };
+
+//! Whether a plugin that is there controls the tara of \a receipt, or lets go of it.
+TaraControl controlOf(const Receipt &receipt);
 
 //! What the plugin noted of one tara position.
 struct TaraUse

@@ -97,9 +97,7 @@ TaraControl Register::taraControl() const
 {
     if (!m_plugin)
         return TaraControl::Absent;
-    const bool active = m_receipt && m_receipt->getType() == Document::Sale
-                        && !m_receipt->getOrder() && m_receipt->softChecks().isEmpty();
-    return active ? TaraControl::Active : TaraControl::Suspended;
+    return m_receipt ? controlOf(*m_receipt) : TaraControl::Suspended;
 }
 
 int Register::runQueued(const control::Action &action)

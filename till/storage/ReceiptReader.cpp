@@ -3,6 +3,7 @@
 #include "till/database/Database.h"
 #include "till/receipt/RecordFault.h"
 #include "till/storage/Schema.h"
+#include "till/storage/SetApart.h"
 
 #include <algorithm>
 
@@ -40,17 +41,8 @@ private:
             return false;
         const Table::Row row = receiptsTable().row(*rows);
         rows->finish();
-        ReceiptRecord &record = m_read.record;
-        record.id = m_id;
-        record.type = row.values[1].toInt();
-        record.state = static_cast<ReceiptState>(row.values[2].toInt());
-        record.order = row.values[3].toString();
-        record.nextPosnum = row.values[4].toInt();
-        m_positions = row.values[7].toLongLong();
+        m_read = headerOf(row);
         m_contents = row.values[9].toByteArray();
-        m_read.isHeaderWhole = row.isWhole;
-        if (!row.isWhole)
-            note(QStringLiteral("its header is not as it was stored"));
         return true;
     }
 
@@ -106,10 +98,10 @@ private:
         const auto &lines = m_read.record.lines;
         const auto live = std::count_if(lines.cbegin(), lines.cend(),
                                         [](const LineRecord &line) { return !line.stornoed; });
-        if (live != m_positions)
+        if (live != m_read.positions)
             note(QStringLiteral("%1 positions are there, and there were %2")
                      .arg(live)
-                     .arg(m_positions));
+                     .arg(m_read.positions));
         note(faultOf(m_read.record));
         // A damaged value has no digest that could tell anything.
         if (m_read.valueFault.isEmpty() && m_rows.bytes() != m_contents)
@@ -125,7 +117,6 @@ private:
     Database &m_database;
     qint64 m_id;
     ReadReceipt m_read;
-    qint64 m_positions = 0;
     QByteArray m_contents;
     RowsDigest m_rows;
 };
@@ -145,25 +136,13 @@ void failWithWayOn(Database &database, qint64 id, const QString &fault)
 }
 
 //! The number that \a sql gives; 0 when it gives none.
-qint64 numberOf(Database &database, const QString &sql, const QVariantList &values = {})
+qint64 numberOf(Database &database, const QString &sql)
 {
-    QSqlQuery *const rows = database.run(sql, values);
+    QSqlQuery *const rows = database.run(sql);
     qint64 number = 0;
     while (rows && database.next(*rows))
         number = rows->value(0).toLongLong();
     return number;
-}
-
-bool isSetApart(Database &database, qint64 id)
-{
-    return numberOf(database, QStringLiteral("SELECT count(*) FROM setApart WHERE receipt = ?"),
-                    {id})
-           != 0;
-}
-
-bool isUnfinished(const ReadReceipt &read)
-{
-    return read.record.state == ReceiptState::Open || read.record.state == ReceiptState::Subtotal;
 }
 
 //! Takes a row of a value: it is the value, or one more element of the list that it is.
@@ -176,30 +155,13 @@ void take(QVariantMap &values, const QString &key, const QVariant &value)
         static_cast<QVariantList *>(known->data())->append(value);
 }
 
-//! Puts the values of plugins into the record; the fault is noted of one that cannot be had.
-std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read)
-{
-    ReceiptRecord record = read.record;
-    for (const ReadReceipt::Value &value : read.values) {
-        const auto decoded = value.bytes.value();
-        if (!decoded) {
-            failFor(database, record.id,
-                    QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
-                        .arg(value.plugin, value.key, decoded.error().reason));
-            return std::nullopt;
-        }
-        take(record.pluginData[value.plugin], value.key, *decoded);
-    }
-    return record;
-}
-
 //! The receipt, if it holds and is unfinished.
 std::optional<ReadReceipt> readIfUnfinished(Database &database, qint64 id)
 {
     const auto read = readRows(database, id);
     if (!read && !database.hasFailed())
         failWithWayOn(database, id, QStringLiteral("its header is missing"));
-    if (!read || (read->isHeaderWhole && !isUnfinished(*read)))
+    if (!read || (read->isHeaderWhole && !isUnfinished(read->record.state)))
         return std::nullopt;
     if (const QString fault = read->anyFault(); !fault.isEmpty()) {
         failWithWayOn(database, id, fault);
@@ -209,6 +171,25 @@ std::optional<ReadReceipt> readIfUnfinished(Database &database, qint64 id)
 }
 
 } // namespace
+
+ReadReceipt headerOf(const Table::Row &row)
+{
+    ReadReceipt read;
+    ReceiptRecord &record = read.record;
+    record.id = row.values[0].toLongLong();
+    record.type = row.values[1].toInt();
+    record.state = static_cast<ReceiptState>(row.values[2].toInt());
+    record.order = row.values[3].toString();
+    record.nextPosnum = row.values[4].toInt();
+    read.opened = row.values[5].toLongLong();
+    read.ended = row.values[6].toLongLong();
+    read.positions = row.values[7].toLongLong();
+    read.total = row.values[8].toLongLong();
+    read.isHeaderWhole = row.isWhole;
+    if (!row.isWhole)
+        read.fault = QStringLiteral("its header is not as it was stored");
+    return read;
+}
 
 std::optional<ReadReceipt> readRows(Database &database, qint64 id)
 {
@@ -227,6 +208,22 @@ std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id)
     return withValues(database, *read);
 }
 
+std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read)
+{
+    ReceiptRecord record = read.record;
+    for (const ReadReceipt::Value &value : read.values) {
+        const auto decoded = value.bytes.value();
+        if (!decoded) {
+            failFor(database, record.id,
+                    QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
+                        .arg(value.plugin, value.key, decoded.error().reason));
+            return std::nullopt;
+        }
+        take(record.pluginData[value.plugin], value.key, *decoded);
+    }
+    return record;
+}
+
 std::optional<ReceiptRecord> readLines(Database &database, qint64 id)
 {
     const auto read = readRows(database, id);
@@ -243,7 +240,7 @@ std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database)
 {
     const qint64 newest = highestNumber(database);
     std::optional<ReadReceipt> found;
-    if (newest != 0 && !isSetApart(database, newest))
+    if (newest != 0 && !receiptsSetApart(database).contains(newest))
         found = readIfUnfinished(database, newest);
     const qint64 next = numberOf(
         database, QStringLiteral("SELECT id FROM receipts WHERE state < 2 AND id NOT IN (SELECT "
@@ -251,24 +248,6 @@ std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database)
     if (!found && !database.hasFailed() && next != 0)
         found = readIfUnfinished(database, next);
     return found && !database.hasFailed() ? withValues(database, *found) : std::nullopt;
-}
-
-QString reasonToSetApart(Database &database, qint64 id)
-{
-    if (id < 1 || id > highestNumber(database))
-        database.fail(QStringLiteral("there is no receipt %1").arg(id));
-    else if (isSetApart(database, id))
-        failFor(database, id, QStringLiteral("it is set apart already"));
-    if (database.hasFailed())
-        return {};
-    const auto read = readRows(database, id);
-    const std::optional<Fault> unreadable = database.takeFault();
-    if (!read)
-        return unreadable ? unreadable->text() : QStringLiteral("its header is missing");
-    const QString fault = read->anyFault();
-    if (fault.isEmpty() && !isUnfinished(*read))
-        failFor(database, id, QStringLiteral("it is finished and whole"));
-    return fault.isEmpty() ? QStringLiteral("unfinished") : fault;
 }
 
 qint64 highestNumber(Database &database)

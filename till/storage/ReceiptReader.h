@@ -1,6 +1,7 @@
 #ifndef TILL_STORAGE_RECEIPTREADER_H
 #define TILL_STORAGE_RECEIPTREADER_H
 
+#include "till/database/Table.h"
 #include "till/database/VariantBytes.h"
 #include "till/receipt/ReceiptRecord.h"
 
@@ -15,6 +16,12 @@ struct ReadReceipt
 {
     ReceiptRecord record; //!< without the plugin data
     bool isHeaderWhole = false;
+
+    // As its header has them.
+    qint64 opened = 0;    //!< milliseconds since 1970; 0 when not known
+    qint64 ended = 0;     //!< closed or cancelled; 0 before, and when not known
+    qint64 positions = 0; //!< that are not stornoed
+    Kopecks total = 0;    //!< of these
 
     //! A row of a value that a plugin stored, not looked into yet: those of one value follow one
     //! another in their order.
@@ -33,6 +40,9 @@ struct ReadReceipt
     QString anyFault() const { return fault.isEmpty() ? valueFault : fault; }
 };
 
+//! What the header says of a receipt. Its other rows are not read, and are not known to hold.
+ReadReceipt headerOf(const Table::Row &row);
+
 // Nothing is returned for what is not there, and, with the fault noted, for what cannot be read.
 
 //! The receipt, which need not hold.
@@ -40,6 +50,8 @@ std::optional<ReadReceipt> readRows(Database &database, qint64 id);
 
 //! The receipt, which must hold, with its plugin data.
 std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id);
+//! The receipt that was read, with its plugin data.
+std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read);
 //! The receipt without its plugin data, which need not hold.
 std::optional<ReceiptRecord> readLines(Database &database, qint64 id);
 
@@ -49,9 +61,6 @@ std::optional<ReceiptRecord> readLines(Database &database, qint64 id);
  * to go on.
  */
 std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database);
-
-//! Why the receipt may be set apart; a fault is noted when it may not.
-QString reasonToSetApart(Database &database, qint64 id);
 
 //! The highest number that was ever given to a receipt; 0 when none was.
 qint64 highestNumber(Database &database);

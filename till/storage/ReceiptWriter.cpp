@@ -53,11 +53,6 @@ QVariantList rowOf(const ReceiptHeader &header, const StoredReceipt &stored)
             stored.contents.bytes()};
 }
 
-bool isFinished(const ReceiptHeader &header)
-{
-    return header.state == ReceiptState::Closed || header.state == ReceiptState::Cancelled;
-}
-
 //! Writes one receipt; it knows what the database holds of it.
 class Writer
 {
@@ -109,7 +104,7 @@ private:
 
     bool writeHeader()
     {
-        if (isFinished(m_update) && m_stored.ended == 0)
+        if (!isUnfinished(m_update.state) && m_stored.ended == 0)
             m_stored.ended = QDateTime::currentMSecsSinceEpoch();
         const QVariantList row = rowOf(m_update, m_stored);
         const bool isSame = row == m_stored.header;
@@ -199,17 +194,6 @@ private:
 bool writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored)
 {
     return Writer(database, update, stored).write();
-}
-
-bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal)
-{
-    for (const JournalEntry &entry : journal) {
-        if (!database.run(QStringLiteral("INSERT INTO journal (receipt, depth, kind, json) "
-                                         "VALUES (?, ?, ?, ?)"),
-                          {receiptId, entry.depth, storable(entry.kind), storable(entry.json)}))
-            return false;
-    }
-    return true;
 }
 
 } // namespace till

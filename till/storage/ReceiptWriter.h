@@ -3,10 +3,10 @@
 
 #include "till/database/Table.h"
 #include "till/receipt/ReceiptRecord.h"
-#include "till/storage/Storage.h"
 #include "till/storage/ValueWriter.h"
 
 #include <QtCore/QList>
+#include <QtCore/QStringList>
 
 namespace till {
 
@@ -37,17 +37,13 @@ struct StoredReceipt
     QVariantList header;  //!< as it was written
 };
 
-// Both work within a transaction of the caller's, and return false with the fault noted.
-
 /*!
  * Writes what \a update has, and brings \a stored up to date, which is what the database holds of
  * that receipt unless the update is whole. Gives the receipt a number when it has none. After an
- * error \a stored is worth nothing.
+ * error \a stored is worth nothing. Works within a transaction of the caller's, and returns false
+ * with the fault noted.
  */
 bool writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored);
-
-//! Appends to the receipt's journal.
-bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal);
 
 } // namespace till
 

@@ -1,9 +1,11 @@
 #include "till/storage/Storage.h"
 
 #include "till/database/Database.h"
+#include "till/storage/JournalRows.h"
 #include "till/storage/ReceiptReader.h"
 #include "till/storage/ReceiptWriter.h"
 #include "till/storage/Schema.h"
+#include "till/storage/SetApart.h"
 
 #include <QtCore/QDateTime>
 
@@ -103,14 +105,7 @@ Result<> Storage::setApart(qint64 id)
 QList<JournalEntry> Storage::journal(qint64 receiptId) const
 {
     m_database->forgetFault();
-    QList<JournalEntry> entries;
-    QSqlQuery *const rows = m_database->run(
-        QStringLiteral("SELECT depth, kind, json FROM journal WHERE receipt = ? ORDER BY id"),
-        {receiptId});
-    while (rows && m_database->next(*rows))
-        entries.append(
-            {rows->value(0).toInt(), rows->value(1).toString(), rows->value(2).toByteArray()});
-    return entries;
+    return readJournal(*m_database, receiptId);
 }
 
 } // namespace till

@@ -3,8 +3,7 @@
 #include "till/database/Database.h"
 #include "till/storage/ReceiptReader.h"
 #include "till/storage/Schema.h"
-
-#include <QtCore/QMap>
+#include "till/storage/SetApart.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,16 +30,6 @@ QList<qint64> numbers(Database &database)
     return ids;
 }
 
-QMap<qint64, QString> setApart(Database &database)
-{
-    QMap<qint64, QString> reasons;
-    QSqlQuery *const rows =
-        database.run(QStringLiteral("SELECT receipt, reason FROM setApart ORDER BY receipt"));
-    while (rows && database.next(*rows))
-        reasons.insert(rows->value(0).toLongLong(), rows->value(1).toString());
-    return reasons;
-}
-
 //! What is wrong with the receipt; empty when it holds.
 QString faultOf(Database &database, qint64 id)
 {
@@ -53,7 +42,7 @@ QString faultOf(Database &database, qint64 id)
 
 void checkReceipts(Database &database, CheckReport &report)
 {
-    const QMap<qint64, QString> apart = setApart(database);
+    const QMap<qint64, QString> apart = receiptsSetApart(database);
     const QList<qint64> all = numbers(database);
     for (const qint64 id : all) {
         if (const auto reason = apart.constFind(id); reason != apart.cend())

@@ -26,12 +26,6 @@ QString joinWords(const QStringList &words)
     return typed.join(QLatin1Char(' '));
 }
 
-QString wordOf(ReceiptState state)
-{
-    static const QStringList words{"open", "subtotal", "closed", "cancelled"};
-    return words.value(static_cast<int>(state));
-}
-
 std::optional<int> parsePosnum(const QString &word)
 {
     bool isNumber = false;

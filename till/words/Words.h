@@ -21,9 +21,6 @@ std::optional<QStringList> splitWords(const QString &line);
 //! The line of which `splitWords` makes \a words, none of which may be empty.
 QString joinWords(const QStringList &words);
 
-//! How far a receipt is, as scripts say it.
-QString wordOf(ReceiptState state);
-
 //! The position number that \a word is, or nothing.
 std::optional<int> parsePosnum(const QString &word);
 
