@@ -18,7 +18,7 @@ int outputError = 0; // the first errno of standard output
 bool hasPassingLine = false;
 constexpr char clearLine[] = "\r\x1b[K";
 
-void write(const QString &text, std::FILE *file)
+bool write(const QString &text, std::FILE *file)
 {
     if (std::exchange(hasPassingLine, false)) {
         std::fputs(clearLine, stdout);
@@ -27,15 +27,18 @@ void write(const QString &text, std::FILE *file)
     QByteArray bytes = text.toUtf8();
     if (!bytes.endsWith('\n'))
         bytes.append('\n');
-    std::fwrite(bytes.constData(), 1, bytes.size(), file); // a NUL cuts nothing
+    const auto size = static_cast<size_t>(bytes.size());
+    return std::fwrite(bytes.constData(), 1, size, file) == size; // a NUL cuts nothing
 }
 
 } // namespace
 
 void Output::print(const QString &text) const
 {
-    write(forTerminal(text, m_hasColours), stdout);
-    if (std::fflush(stdout) != 0 && outputError == 0)
+    // What is longer than the buffer is not left to be flushed.
+    const bool isWritten =
+        write(forTerminal(text, m_hasColours), stdout) && std::fflush(stdout) == 0;
+    if (!isWritten && outputError == 0)
         outputError = errno;
 }
 
