@@ -5,7 +5,7 @@ set(data ${CMAKE_INSTALL_DATADIR}/packagingcontrol)
 install(DIRECTORY contract DESTINATION ${data} COMPONENT dev)
 install(FILES docs/host-sdk.md DESTINATION ${data}/docs COMPONENT dev)
 
-install(FILES docs/till.md docs/trace.md DESTINATION share/doc/packagingcontrol)
+install(FILES docs/till.md docs/trace.md docs/reports.md DESTINATION share/doc/packagingcontrol)
 # Debian's packages have changes and copyright in a form of their own.
 install(FILES CHANGELOG.md DESTINATION share/doc/packagingcontrol COMPONENT archive)
 find_program(PACKAGINGCONTROL_GZIP gzip)

@@ -90,9 +90,16 @@ int columnsOfOutput()
 Result<> checkWords(const QString &mode, const QStringList &words)
 {
     static const QMap<QString, QString> wanted{
-        {"", {}},      {"play", "which file or folder?"}, {"demo", {}},
-        {"info", {}},  {"backup", "to which file?"},      {"set-apart", "which receipt?"},
+        {"", {}},
+        {"play", "which file or folder?"},
+        {"demo", {}},
+        {"info", {}},
+        {"backup", "to which file?"},
+        {"set-apart", "which receipt?"},
         {"check", {}},
+        {"receipts", {}},
+        {"receipt", "which receipt?"},
+        {"journal", "of which receipt?"},
     };
     const auto found = wanted.constFind(mode);
     if (found == wanted.cend())
@@ -139,6 +146,9 @@ QList<ProgramMode> programModes()
         {"till play PATH...", "play scripts, folders of them, or - for standard input"},
         {"till demo", "play the sample shop's receipts"},
         {"till info", "show the plugin: metadata, triggers, events"},
+        {"till receipts", "list the receipts of the database, also as JSON or CSV"},
+        {"till receipt NUMBER", "show a receipt with its tara"},
+        {"till journal NUMBER", "tell the course of a receipt"},
         {"till check", "check the database and every receipt in it"},
         {"till backup FILE", "copy the database, also while a till has it open"},
         {"till set-apart NUMBER", "set a damaged receipt apart, so that another can be opened"},
@@ -147,7 +157,7 @@ QList<ProgramMode> programModes()
 
 QList<QCommandLineOption> programOptions()
 {
-    return {
+    QList<QCommandLineOption> options{
         {"db", "Keep receipts in FILE (:memory: for nowhere).", "FILE", defaultDatabase()},
         {"catalogue", "Take the articles from the CSV FILE.", "FILE",
          delivered("share/packagingcontrol/catalogue.csv")},
@@ -169,11 +179,12 @@ QList<QCommandLineOption> programOptions()
         {{"h", "help"}, "Show this help."},
         {{"v", "version"}, "Show the version."},
     };
+    return options + lookupOptions();
 }
 
 QString exitStatuses()
 {
-    return "0 all well, 1 a command or an expectation failed or a check found damage,\n"
+    return "0 all well, 1 a command or an expectation failed or damage was found,\n"
            "2 wrong usage, 3 a file (catalogue, database, plugin, settings, trace) cannot be used.";
 }
 
@@ -187,7 +198,8 @@ void describeOptions(QCommandLineParser &parser)
         + "\nExit status: " + exitStatuses());
     parser.addPositionalArgument(
         "command", "one of these; none opens the register",
-        "[play PATH... | demo | info | check | backup FILE | set-apart NUMBER]");
+        "[play PATH... | demo | info | receipts | receipt NUMBER | journal NUMBER | check | "
+        "backup FILE | set-apart NUMBER]");
     parser.addOptions(programOptions());
     QCommandLineOption manual("manual");
     manual.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -221,6 +233,10 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
                      {}};
     if (Result<> read = readPlay(parser, options); !read)
         return read;
+    const auto lookup = readLookup(parser, options.mode);
+    if (!lookup)
+        return lookup.error();
+    options.lookup = *lookup;
     return readSettings(parser.values("set"), options.setup.settings);
 }
 

@@ -1,6 +1,7 @@
 #ifndef TILL_CONSOLE_OPTIONS_H
 #define TILL_CONSOLE_OPTIONS_H
 
+#include "till/console/LookupOptions.h"
 #include "till/register/CashDesk.h"
 #include "till/view/ReceiptView.h"
 
@@ -24,10 +25,11 @@ struct Options
     QStringList words;        //!< that follow it
     bool ownDatabase = false; //!< --db was given: scripts play on it too
     bool quiet = false;
-    int jobs = 0;      //!< how many scripts are played at a time; 0 for as many as there are cores
-    int timeout = 0;   //!< seconds that the play of a script may take
-    QString junit;     //!< the file that is told as JUnit XML what became of a play
-    bool tap = false;  //!< a play is told as TAP
+    int jobs = 0;     //!< how many scripts are played at a time; 0 for as many as there are cores
+    int timeout = 0;  //!< seconds that the play of a script may take
+    QString junit;    //!< the file that is told as JUnit XML what became of a play
+    bool tap = false; //!< a play is told as TAP
+    LookupOptions lookup;
     bool stop = false; //!< a play ends at the first script that does not hold
 
     //! Whether standard output is for a program alone.

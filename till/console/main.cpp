@@ -1,6 +1,7 @@
 #include "till/console/Commit.h"
 #include "till/console/ExitStatus.h"
 #include "till/console/Info.h"
+#include "till/console/Lookup.h"
 #include "till/console/Manual.h"
 #include "till/console/Options.h"
 #include "till/console/Play.h"
@@ -106,6 +107,8 @@ int run(const Options &options, Notes &notes)
     const Translator translator(options.language);
     if (QStringList{"check", "backup", "set-apart"}.contains(options.mode))
         return upkeep(options, translator);
+    if (QStringList{"receipts", "receipt", "journal"}.contains(options.mode))
+        return lookUp(options, translator);
     if (options.mode == "info")
         return info(options);
     if (options.mode == "play" || options.mode == "demo")

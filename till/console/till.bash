@@ -14,7 +14,10 @@ _till()
         --colour | --color)
             mapfile -t COMPREPLY < <(compgen -W 'auto always never' -- "$current")
             return ;;
-        --set | --jobs | --timeout) return ;;
+        --state)
+            mapfile -t COMPREPLY < <(compgen -W 'open subtotal closed cancelled' -- "$current")
+            return ;;
+        --set | --jobs | --timeout | --from | --to) return ;;
     esac
     help=$("$1" --help 2>/dev/null)
     if [[ $current == -* ]]; then
@@ -24,7 +27,7 @@ _till()
     fi
     for ((i = 1; i < COMP_CWORD; ++i)); do
         case ${COMP_WORDS[i]} in
-            play | backup | demo | info | check | set-apart) command=${COMP_WORDS[i]} ;;
+            play | backup | demo | info | check | set-apart | receipts | receipt | journal) command=${COMP_WORDS[i]} ;;
         esac
     done
     case $command in

@@ -6,24 +6,6 @@ namespace till {
 
 namespace {
 
-QJsonObject describe(const LineRecord &line, Kopecks sum)
-{
-    const ArticleData &article = line.article;
-    return {{"position", line.posnum},
-            {"article", article.code},
-            {"name", article.name},
-            {"price", article.price},
-            {"taraMode", article.taraMode},
-            {"taraCapacity", article.taraCapacity},
-            {"pack", article.pack},
-            {"unit", article.unit},
-            {"count", line.count},
-            {"base", line.base},
-            {"sum", sum},
-            {"group", line.groupId},
-            {"stornoed", line.stornoed}};
-}
-
 QJsonArray describe(const QList<ListChange> &parts)
 {
     QJsonArray described;
@@ -58,6 +40,24 @@ QJsonObject describe(const Receipt &receipt)
 }
 
 } // namespace
+
+QJsonObject describe(const LineRecord &line, Kopecks sum)
+{
+    const ArticleData &article = line.article;
+    return {{"position", line.posnum},
+            {"article", article.code},
+            {"name", article.name},
+            {"price", article.price},
+            {"taraMode", article.taraMode},
+            {"taraCapacity", article.taraCapacity},
+            {"pack", article.pack},
+            {"unit", article.unit},
+            {"count", line.count},
+            {"base", line.base},
+            {"sum", sum},
+            {"group", line.groupId},
+            {"stornoed", line.stornoed}};
+}
 
 ReceiptNotes::ReceiptNotes(Notes &notes)
     : m_notes(notes)

@@ -6,6 +6,9 @@
 
 namespace till {
 
+//! A position, whose price is \a sum, as notes have it.
+QJsonObject describe(const LineRecord &line, Kopecks sum);
+
 //! Notes how the current receipt stands; but for a take-up, only for those who want states.
 class ReceiptNotes
 {

@@ -419,5 +419,29 @@
         <source>%1 is written, but a script cannot say: %2</source>
         <translation>%1: записано, но сценарием не выразить: %2</translation>
     </message>
+    <message>
+        <source>declined</source>
+        <translation>отклонено</translation>
+    </message>
+    <message>
+        <source>Opened</source>
+        <translation>Открыт</translation>
+    </message>
+    <message>
+        <source>no receipts</source>
+        <translation>чеков нет</translation>
+    </message>
+    <message>
+        <source>%1 pos.</source>
+        <translation>%1 поз.</translation>
+    </message>
+    <message>
+        <source>set apart: %1</source>
+        <translation>отложен: %1</translation>
+    </message>
+    <message>
+        <source>damaged: %1</source>
+        <translation>повреждён: %1</translation>
+    </message>
 </context>
 </TS>

@@ -9,33 +9,6 @@ namespace till {
 
 namespace {
 
-tr::Tr nameOfType(int type)
-{
-    switch (type) {
-    case Document::Sale:
-        return messages::tillSale();
-    case Document::Return:
-        return messages::tillReturn();
-    default:
-        return messages::tillDocument();
-    }
-}
-
-tr::Tr nameOf(ReceiptState state)
-{
-    switch (state) {
-    case ReceiptState::Open:
-        return messages::tillOpen();
-    case ReceiptState::Subtotal:
-        return messages::tillSubtotal();
-    case ReceiptState::Closed:
-        return messages::tillClosed();
-    case ReceiptState::Cancelled:
-        return messages::tillCancelled();
-    }
-    return {};
-}
-
 //! One receipt being put into words.
 class Wording
 {
@@ -138,6 +111,33 @@ private:
 };
 
 } // namespace
+
+tr::Tr nameOfType(int type)
+{
+    switch (type) {
+    case Document::Sale:
+        return messages::tillSale();
+    case Document::Return:
+        return messages::tillReturn();
+    default:
+        return messages::tillDocument();
+    }
+}
+
+tr::Tr nameOf(ReceiptState state)
+{
+    switch (state) {
+    case ReceiptState::Open:
+        return messages::tillOpen();
+    case ReceiptState::Subtotal:
+        return messages::tillSubtotal();
+    case ReceiptState::Closed:
+        return messages::tillClosed();
+    case ReceiptState::Cancelled:
+        return messages::tillCancelled();
+    }
+    return {};
+}
 
 ReceiptText ReceiptText::of(const Receipt &receipt, const TaraState &taras, TaraControl control,
                             const Translator &translator)

@@ -1,6 +1,7 @@
 #ifndef TILL_VIEW_RECEIPTTEXT_H
 #define TILL_VIEW_RECEIPTTEXT_H
 
+#include "host/Tr.h"
 #include "till/receipt/Receipt.h"
 #include "till/receipt/TaraState.h"
 #include "till/view/TextPage.h"
@@ -8,6 +9,11 @@
 namespace till {
 
 class Translator;
+
+//! What receipts of that type are called.
+tr::Tr nameOfType(int type);
+//! How far a receipt in that state is.
+tr::Tr nameOf(ReceiptState state);
 
 /*!
  * What a receipt says to the cashier, in one language, for whoever draws it. Control characters in

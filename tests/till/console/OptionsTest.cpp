@@ -58,9 +58,9 @@ TEST_F(Options, CompletionOfBash_IsThatOfTheHelp)
         EXPECT_EQ(bash.readAllStandardError().toStdString(), "");
         return bash.readAllStandardOutput().toStdString();
     };
-    EXPECT_EQ(completed("''"), "play demo info check backup set-apart ");
+    EXPECT_EQ(completed("''"), "play demo info receipts receipt journal check backup set-apart ");
     EXPECT_EQ(completed("s"), "set-apart ");
-    EXPECT_EQ(completed("--c"), "--catalogue --config --colour --color ");
+    EXPECT_EQ(completed("--c"), "--catalogue --config --colour --color --csv ");
     EXPECT_EQ(completed("--lang ''"), "ru en ");
     EXPECT_EQ(completed("play " + write("one.till", "")), path("one.till").toStdString() + " ");
 }
