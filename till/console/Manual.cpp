@@ -68,7 +68,8 @@ QString manualPage()
            + section("DESCRIPTION", modes()) + section("OPTIONS", options())
            + section("COMMANDS OF THE REGISTER", commands())
            + section("EXIT STATUS", plain(exitStatuses()) + '\n')
-           + section("SEE ALSO", "till.md, trace.md and reports.md in share/doc/packagingcontrol\n");
+           + section("SEE ALSO",
+                     "till.md, trace.md and reports.md in share/doc/packagingcontrol\n");
 }
 
 } // namespace till
