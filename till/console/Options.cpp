@@ -67,6 +67,9 @@ Result<> readPlay(const QCommandLineParser &parser, Options &options)
     options.stop = parser.isSet("stop");
     options.junit = parser.value("junit");
     options.tap = parser.isSet("tap");
+    options.update = parser.isSet("update");
+    if (options.update && options.words.contains("-"))
+        return Fault{"--update", "standard input cannot be rewritten"};
     if (options.tap && options.trace == "-")
         return Fault{"--tap", "standard output is for the trace"};
     return {};
@@ -174,6 +177,8 @@ QList<QCommandLineOption> programOptions()
         {"timeout", "End the play of a script that takes longer.", "SECONDS", "60"},
         {"junit", "Write what became of a play to FILE as JUnit XML.", "FILE"},
         {"tap", "Print what becomes of a play as TAP, and nothing else."},
+        {"update",
+         "Rewrite what the played scripts expect to what is found, and show the difference."},
         {"stop", "End a play at the first script that does not hold."},
         {"quiet", "Print progress only, not the receipts' course."},
         {{"h", "help"}, "Show this help."},

@@ -25,12 +25,13 @@ struct Options
     QStringList words;        //!< that follow it
     bool ownDatabase = false; //!< --db was given: scripts play on it too
     bool quiet = false;
-    int jobs = 0;     //!< how many scripts are played at a time; 0 for as many as there are cores
-    int timeout = 0;  //!< seconds that the play of a script may take
-    QString junit;    //!< the file that is told as JUnit XML what became of a play
-    bool tap = false; //!< a play is told as TAP
+    int jobs = 0;    //!< how many scripts are played at a time; 0 for as many as there are cores
+    int timeout = 0; //!< seconds that the play of a script may take
+    QString junit;   //!< the file that is told as JUnit XML what became of a play
+    bool update = false; //!< a play rewrites what its scripts expect
+    bool tap = false;    //!< a play is told as TAP
+    bool stop = false;   //!< a play ends at the first script that does not hold
     LookupOptions lookup;
-    bool stop = false; //!< a play ends at the first script that does not hold
 
     //! Whether standard output is for a program alone.
     bool isSilent() const { return tap || trace == "-"; }

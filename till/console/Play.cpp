@@ -53,9 +53,10 @@ public:
         if (const Result<> started = desk.start(); !started)
             return ended(verdict, Verdict::NotStarted, {started.error()});
         const Subscription following = soFar ? followed(m_notes, verdict, soFar) : nullptr;
-        const auto played = playOn(desk, script);
+        ScriptUpdate update(path);
+        const auto played = playOn(desk, script, m_options.update ? &update : nullptr);
         if (played)
-            return verdict;
+            return updated(verdict, update);
         const Verdict::End end = played.error().isWrong ? Verdict::Wrong : Verdict::Failed;
         return ended(verdict, end, played.error());
     }
@@ -68,7 +69,19 @@ private:
         return verdict;
     }
 
-    Result<void, ScriptFault> playOn(CashDesk &desk, const Script &script) const
+    //! Shows and writes what is noted for an update.
+    Verdict updated(const Verdict &verdict, const ScriptUpdate &update) const
+    {
+        if (update.difference().isEmpty())
+            return verdict;
+        if (!m_options.isSilent())
+            Output().print(update.difference());
+        const Result<> written = update.write();
+        return written ? verdict : ended(verdict, Verdict::Wrong, {written.error()});
+    }
+
+    Result<void, ScriptFault> playOn(CashDesk &desk, const Script &script,
+                                     ScriptUpdate *update) const
     {
         const auto show = [this](const QString &text) {
             if (!m_options.quiet)
@@ -76,7 +89,8 @@ private:
         };
         tellCopy(desk, m_translator, show);
         CommandLine commands(desk, m_notes, m_translator, m_options.style, {show, {}});
-        return script.play(commands, [&](const QString &line) { show("> " + line); });
+        return script.play(
+            commands, [&](const QString &line) { show("> " + line); }, update);
     }
 
     const Options &m_options;

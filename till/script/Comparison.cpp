@@ -4,10 +4,11 @@
 
 namespace till {
 
-Outcome differs(const QString &what, const QString &expected, const QString &found)
+Outcome differs(const QString &what, const QString &expected, const QString &found,
+                const QString &words)
 {
     return {Outcome::Unexpected,
-            told("till", "%1: expected %2, found %3").with({what, expected, found}),
+            told("till", "%1: expected %2, found %3").with({what, expected, found, words}),
             {}};
 }
 

@@ -15,8 +15,10 @@ Outcome compare(const QString &what, const QString &expected, const QString &fou
 Outcome compareQuantity(const QString &what, const QString &expected, double found);
 Outcome compareMoney(const QString &what, const QString &expected, Kopecks found);
 
-//! The mistake of what is not as expected.
-Outcome differs(const QString &what, const QString &expected, const QString &found);
+//! What is not as expected. Its values are these; \a words would hold in the place of those that
+//! were \a expected, where they are others than \a found.
+Outcome differs(const QString &what, const QString &expected, const QString &found,
+                const QString &words = {});
 
 //! Whether \a words are the one word "none".
 bool isNone(const QStringList &words);

@@ -22,13 +22,16 @@ QString keysOf(const QList<tr::Tr> &texts)
 Outcome checkSaid(const QString &what, const QStringList &words, const QList<tr::Tr> &said)
 {
     if (isNone(words))
-        return said.isEmpty() ? Outcome::done() : differs(what, "none", keysOf(said));
+        return said.isEmpty() ? Outcome::done()
+                              : differs(what, "none", keysOf(said), said.constLast().key());
     const QString expected = words.join(' ');
     const bool found = std::any_of(said.cbegin(), said.cend(), [&](const tr::Tr &text) {
         return text.key() == expected
                || text.text().split('\n').join(' ') == expected.split('\n').join(' ');
     });
-    return found ? Outcome::done() : differs(what, "\"" + brief(expected) + "\"", keysOf(said));
+    return found ? Outcome::done()
+                 : differs(what, "\"" + brief(expected) + "\"", keysOf(said),
+                           said.isEmpty() ? QString() : said.constLast().key());
 }
 
 Outcome checkPart(const Position &position, const QString &part, const QString &value)
@@ -60,6 +63,21 @@ double amountIn(const TaraState &state, const GoodsUse &goods, int posnum)
     return tara ? goods.used.value(tara->id, 0.0) : 0.0;
 }
 
+QString wordsOf(const TaraUse &tara)
+{
+    return "capacity " + toText(tara.capacity) + " free " + toText(tara.free);
+}
+
+QString wordsOf(const GoodsUse &goods, const TaraState &state)
+{
+    QStringList words;
+    for (const TaraUse &tara : state.taras) {
+        if (goods.used.contains(tara.id))
+            words.append(QString("in %1 %2").arg(tara.posnum).arg(toText(goods.used[tara.id])));
+    }
+    return words.isEmpty() ? QStringLiteral("unplaced 0") : words.join(' ');
+}
+
 } // namespace
 
 Outcome Expectations::command(const QString &end, const QStringList &words) const
@@ -76,8 +94,8 @@ Outcome Expectations::command(const QString &end, const QStringList &words) cons
     }
     const QString why = m_textOf(outcome);
     if (outcome.isRefusal())
-        return differs(brief(words.join(' ')), end, why); // which begins with what was found
-    return differs(brief(words.join(' ')), end, why.isEmpty() ? found : found + ": " + why);
+        return differs(brief(words.join(' ')), end, why, found); // which begins with what was found
+    return differs(brief(words.join(' ')), end, why.isEmpty() ? found : found + ": " + why, found);
 }
 
 Outcome Expectations::position(const QStringList &words) const
@@ -89,7 +107,8 @@ Outcome Expectations::position(const QStringList &words) const
     const auto line = receipt ? receipt->line(*posnum) : nullptr;
     const QString what = "position " + words[0];
     if (isNone(words.mid(1)))
-        return line ? differs(what, "none", line->article().code) : Outcome::done();
+        return line ? differs(what, "none", line->article().code, "article " + line->article().code)
+                    : Outcome::done();
     if (!line)
         return differs(what, words.mid(1).join(' '), "none");
     for (qsizetype i = 1; i < words.size(); ++i) {
@@ -123,7 +142,7 @@ Outcome Expectations::tara(const QStringList &words) const
     const TaraUse *const tara = state.tara(*posnum);
     const QString what = "tara " + words[0];
     if (isNone(words.mid(1)))
-        return tara ? differs(what, "none", "a record") : Outcome::done();
+        return tara ? differs(what, "none", "a record", wordsOf(*tara)) : Outcome::done();
     if (!tara)
         return differs(what, words.mid(1).join(' '), "none");
     for (qsizetype i = 1; i < words.size(); i += 2) {
@@ -146,7 +165,7 @@ Outcome Expectations::goods(const QStringList &words) const
     const GoodsUse *const goods = state.goodsOf(*posnum);
     const QString what = "goods " + words[0];
     if (isNone(words.mid(1)))
-        return goods ? differs(what, "none", "a record") : Outcome::done();
+        return goods ? differs(what, "none", "a record", wordsOf(*goods, state)) : Outcome::done();
     if (!goods)
         return differs(what, words.mid(1).join(' '), "none");
     for (qsizetype i = 1; i < words.size();) {
@@ -199,10 +218,11 @@ Outcome Expectations::log(const QStringList &words) const
     const QStringList &lines = m_heard.log;
     const QString found = lines.isEmpty() ? QStringLiteral("none") : lines.join(" | ");
     if (isNone(words))
-        return lines.isEmpty() ? Outcome::done() : differs("log", "none", found);
+        return lines.isEmpty() ? Outcome::done() : differs("log", "none", found, lines.constLast());
     const QString expected = words.join(' ');
     return lines.contains(expected) ? Outcome::done()
-                                    : differs("log", "\"" + brief(expected) + "\"", found);
+                                    : differs("log", "\"" + brief(expected) + "\"", found,
+                                              lines.isEmpty() ? QString() : lines.constLast());
 }
 
 Outcome Expectations::state(const QStringList &words) const

@@ -65,18 +65,18 @@ qsizetype Script::expectations() const
     });
 }
 
-Result<void, ScriptFault> Script::play(CommandLine &commands,
-                                       const std::function<void(const QString &line)> &echo) const
+Result<void, ScriptFault> Script::play(CommandLine &commands, const Echo &echo,
+                                       ScriptUpdate *update) const
 {
-    const auto played = playLines(commands, echo);
+    const auto played = playLines(commands, echo, update);
     commands.notes().add("verdict", {{"file", m_path},
                                      {"held", played.has_value()},
                                      {"fault", played ? QString() : played.error().text()}});
     return played;
 }
 
-Result<void, ScriptFault>
-Script::playLines(CommandLine &commands, const std::function<void(const QString &line)> &echo) const
+Result<void, ScriptFault> Script::playLines(CommandLine &commands, const Echo &echo,
+                                            ScriptUpdate *update) const
 {
     for (const ScriptLine &line : m_lines) {
         if (commands.hasQuit() && line.isCommand())
@@ -85,7 +85,8 @@ Script::playLines(CommandLine &commands, const std::function<void(const QString 
             echo(forTerminal(shown));
         if (line.isCommand())
             commands.notes().add("script", {{"file", line.file}, {"at", line.number}});
-        if (const Outcome outcome = commands.run(line.text); !outcome)
+        const Outcome outcome = commands.run(line.text);
+        if (!outcome && !(update && update->mend(commands, line, outcome)))
             return faultOf(line, outcome, why(commands, outcome));
     }
     if (const QString left = commands.leftOver(); !left.isEmpty())

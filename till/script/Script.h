@@ -3,6 +3,7 @@
 
 #include "till/script/CommandLine.h"
 #include "till/script/ScriptLines.h"
+#include "till/script/ScriptUpdate.h"
 
 namespace till {
 
@@ -19,6 +20,9 @@ struct ScriptFault : Fault
 class Script
 {
 public:
+    //! Is told each line that is carried out; expectations and comments are not.
+    using Echo = std::function<void(const QString &line)>;
+
     //! Reads the script \a path, with what it includes, as `readScript()` does.
     Result<> read(const QString &path);
 
@@ -26,17 +30,18 @@ public:
      * Carries the lines out until one does not end well, or all are done; notes each of them before
      * it begins, and the verdict. The place of a fault is
      * `FILE:LINE`; an answer or a question that is left over at the end is one too. Each line that
-     * is carried out is told to \a echo first; expectations and comments are not.
+     * is carried out is told to \a echo first. Where there is an \a update, an expectation for
+     * which it has another that holds is no fault.
      */
-    Result<void, ScriptFault> play(CommandLine &commands,
-                                   const std::function<void(const QString &line)> &echo) const;
+    Result<void, ScriptFault> play(CommandLine &commands, const Echo &echo,
+                                   ScriptUpdate *update = nullptr) const;
 
     //! How many of the lines expect something.
     qsizetype expectations() const;
 
 private:
-    Result<void, ScriptFault> playLines(CommandLine &commands,
-                                        const std::function<void(const QString &line)> &echo) const;
+    Result<void, ScriptFault> playLines(CommandLine &commands, const Echo &echo,
+                                        ScriptUpdate *update) const;
 
     QString m_path;
     QList<ScriptLine> m_lines;
