@@ -76,7 +76,7 @@ Database::~Database()
     // SQLite makes a log for a reader, who may not take it away. One who may does so as the last to
     // leave, when nobody else is at the database.
     if (m_access == Access::Reading && hasEmptyLog(m_path)) {
-        if (connectAs(QString()))
+        if (connectAs(nameOfFile(m_path), QString()))
             valueOf(QStringLiteral("PRAGMA user_version"));
         disconnect();
     }
@@ -151,19 +151,25 @@ bool Database::connectToFile(Access access)
 {
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
         return fail(QStringLiteral("Qt's driver for SQLite is not installed"));
-    if (!connectAs(access == Access::Reading ? QStringLiteral("QSQLITE_OPEN_READONLY") : QString()))
+    if (!(access == Access::Reading ? connectToRead() : connectAs(nameOfFile(m_path), QString())))
         return failWith(m_database.lastError());
     return waitForOthers(true) && execute(QStringLiteral("PRAGMA synchronous = FULL"))
            && execute(QStringLiteral("PRAGMA foreign_keys = ON"));
 }
 
-bool Database::connectAs(const QString &options)
+bool Database::connectToRead()
+{
+    if (isStill(m_path))
+        return connectAs(nameOfStillFile(m_path),
+                         QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
+    return connectAs(nameOfFile(m_path), QStringLiteral("QSQLITE_OPEN_READONLY"));
+}
+
+bool Database::connectAs(const QString &name, const QString &options)
 {
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
     m_database.setConnectOptions(options);
-    // An absolute path, for SQLite reads "file:..." as a URI.
-    m_database.setDatabaseName(m_path == inMemory() ? m_path
-                                                    : QFileInfo(m_path).absoluteFilePath());
+    m_database.setDatabaseName(name);
     return m_database.open();
 }
 

@@ -96,7 +96,8 @@ private:
     bool claim();
     bool checkLeftOpen();
     bool connectToFile(Access access);
-    bool connectAs(const QString &options);
+    bool connectToRead();
+    bool connectAs(const QString &name, const QString &options);
     void disconnect();
     bool waitForOthers(bool waits);
     bool failWith(const QSqlError &error);

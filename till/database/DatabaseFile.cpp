@@ -3,6 +3,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QUrl>
 
 #include <cerrno>
 
@@ -59,6 +60,11 @@ QFileInfo logOf(const QString &path)
     return QFileInfo(realPath(path) + QStringLiteral("-wal"));
 }
 
+bool isFolderWritable(const QString &path)
+{
+    return QFileInfo(logOf(path).absolutePath()).isWritable();
+}
+
 } // namespace
 
 QString inMemory()
@@ -91,6 +97,10 @@ QString readingFault(const QString &path)
     const QFileInfo file(path);
     if (!file.exists())
         return QStringLiteral("there is no such file");
+    if (hasLog(path) && !isFolderWritable(path)) // an index of the log is made beside it
+        return QStringLiteral("it is not read with its log %1-wal where nothing may be written: "
+                              "copy both to another directory")
+            .arg(realPath(path));
     return kindFault(file);
 }
 
@@ -102,6 +112,23 @@ bool hasLog(const QString &path)
 bool hasEmptyLog(const QString &path)
 {
     return logOf(path).exists() && !hasLog(path);
+}
+
+bool isStill(const QString &path)
+{
+    return !hasLog(path) && !isFolderWritable(path);
+}
+
+QString nameOfFile(const QString &path)
+{
+    // Absolute, for SQLite reads "file:..." as a URI.
+    return path == inMemory() ? path : QFileInfo(path).absoluteFilePath();
+}
+
+QString nameOfStillFile(const QString &path)
+{
+    return QString::fromLatin1(QUrl::fromLocalFile(nameOfFile(path)).toEncoded())
+           + QStringLiteral("?immutable=1");
 }
 
 bool makePrivateFile(const QString &path)

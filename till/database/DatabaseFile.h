@@ -19,6 +19,15 @@ bool hasLog(const QString &path);
 //! Whether there is a log beside the file, with nothing in it.
 bool hasEmptyLog(const QString &path);
 
+//! Whether nothing becomes of the file while it is read: all of it is in it, and its folder, as
+//! that of a till that is on, cannot be written.
+bool isStill(const QString &path);
+
+//! How SQLite is told of the file.
+QString nameOfFile(const QString &path);
+//! The same of one that is still: beside that, SQLite makes nothing.
+QString nameOfStillFile(const QString &path);
+
 //! Makes an empty file that its owner alone may read and write, whatever the umask. False when
 //! there is one already or none can be made; `errno` says which.
 bool makePrivateFile(const QString &path);

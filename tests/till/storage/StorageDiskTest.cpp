@@ -1,6 +1,8 @@
 #include "tests/till/storage/StorageFixture.h"
 #include "tests/till/storage/UpdateBetween.h"
 #include "tests/till/support/FailingDisk.h"
+#include "till/storage/Archive.h"
+#include "till/storage/Upkeep.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -186,6 +188,31 @@ TEST_F(StorageDisk, ReadOnlyPlaceWithoutADatabase_IsRefused)
     disk.makeReadOnly();
     EXPECT_EQ(refusal(), path() + ": the directory " + directory.path() + " may not be written");
     EXPECT_TRUE(QDir(directory.path()).isEmpty());
+}
+
+TEST_F(StorageDisk, ReadOnlyPlaceWithADatabase_CanBeLookedInto)
+{
+    const ReceiptRecord record = leaveUnfinished(2);
+    disk.makeReadOnly();
+    EXPECT_TRUE(must(checkDatabase(path())).isGood());
+    const auto kept = must(must(Archive::open(path()))->receipt(1, "PackagingControl"));
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->record, record);
+    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList{"till.db"});
+}
+
+TEST_F(StorageDisk, ReadOnlyPlaceWithAnInterruptedDatabase_IsNotReadWithoutItsLog)
+{
+    ReceiptRecord record = leaveUnfinished(1);
+    disk.leaveNoRoomIn("till.db");
+    record.order = "only in the log";
+    save(*opened(), record);
+    disk.makeReadOnly();
+    EXPECT_EQ(faultText(Archive::open(path())),
+              path() + ": it is not read with its log " + path()
+                  + "-wal where nothing may be written: copy both to another directory");
+    disk.repair();
+    EXPECT_EQ(must(must(Archive::open(path()))->receipt(1, "PackagingControl"))->record, record);
 }
 
 //! How many bytes it takes to change one position and one element of a receipt of \a count.
