@@ -33,11 +33,7 @@ TEST_F(Export, ExportThatTakesLong_StopsNoTill)
 TEST_F(Export, BesideATill_HasItsLastCommand)
 {
     QProcess till;
-    start(till, {"--db", database()});
-    till.write("open\nadd CHIPS\nsay ready\n");
-    QByteArray said;
-    while (!said.contains("ready") && till.waitForReadyRead(patience))
-        said += till.readAllStandardOutput();
+    startRegister(till, "open\nadd CHIPS\n");
     EXPECT_THAT(told({"receipts"}), HasSubstr("129.90  Receipt · open · 1 pos.\n"));
     EXPECT_THAT(told({"receipt", "1"}), HasSubstr("CHIPS"));
     EXPECT_EQ(told({"journal", "1"}), "open sale\nadd CHIPS 1\n");

@@ -3,8 +3,6 @@
 #include <QtCore/QDate>
 #include <QtCore/QDateTime>
 #include <QtCore/QJsonArray>
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlQuery>
 
 // What the program tells of the receipts in its database.
 
@@ -15,20 +13,7 @@ using testing::MatchesRegex;
 using testing::Not;
 using testing::StartsWith;
 
-class Lookup : public LookupTest
-{
-protected:
-    void query(const QString &sql) const
-    {
-        {
-            QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "test");
-            connection.setDatabaseName(database());
-            EXPECT_TRUE(connection.open());
-            EXPECT_TRUE(QSqlQuery(connection).exec(sql));
-        }
-        QSqlDatabase::removeDatabase("test");
-    }
-};
+using Lookup = LookupTest;
 
 TEST_F(Lookup, List_HasALineForEachReceipt)
 {

@@ -2,6 +2,8 @@
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QProcessEnvironment>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlQuery>
 
 QString ProgramTest::write(const QString &name, const QByteArray &contents) const
 {
@@ -17,6 +19,26 @@ void ProgramTest::start(QProcess &process, const QStringList &arguments) const
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TILL_PROGRAM), arguments);
     ASSERT_TRUE(process.waitForStarted(patience));
+}
+
+void ProgramTest::startRegister(QProcess &process, const QByteArray &lines) const
+{
+    start(process, {"--db", database()});
+    process.write(lines + "say ready\n");
+    QByteArray said;
+    while (!said.contains("ready") && process.waitForReadyRead(patience))
+        said += process.readAllStandardOutput();
+}
+
+void ProgramTest::query(const QString &sql) const
+{
+    {
+        QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "test");
+        connection.setDatabaseName(database());
+        EXPECT_TRUE(connection.open());
+        EXPECT_TRUE(QSqlQuery(connection).exec(sql));
+    }
+    QSqlDatabase::removeDatabase("test");
 }
 
 RunResult ProgramTest::run(const QStringList &arguments, const QByteArray &input) const

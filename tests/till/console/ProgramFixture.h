@@ -33,6 +33,10 @@ protected:
 
     //! Starts the program; its standard input stays open.
     void start(QProcess &process, const QStringList &arguments) const;
+    //! Starts a register on the database, and waits until it has carried out \a lines.
+    void startRegister(QProcess &process, const QByteArray &lines) const;
+    //! Runs \a sql on the database.
+    void query(const QString &sql) const;
     //! Runs the program on \a input to its end.
     RunResult run(const QStringList &arguments, const QByteArray &input = {}) const;
     //! Plays \a script, which must be done with nothing on standard error; what it prints.

@@ -1,8 +1,6 @@
 #include "tests/till/console/ProgramFixture.h"
 
 #include <QtCore/QFile>
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlQuery>
 
 // What the program does with its database beside selling.
 
@@ -14,17 +12,6 @@ class Upkeep : public ProgramTest
 {
 protected:
     RunResult check() const { return run({"--db", database(), "check"}); }
-
-    void query(const QString &sql) const
-    {
-        {
-            QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "test");
-            connection.setDatabaseName(database());
-            EXPECT_TRUE(connection.open());
-            EXPECT_TRUE(QSqlQuery(connection).exec(sql));
-        }
-        QSqlDatabase::removeDatabase("test");
-    }
 
     //! Leaves a receipt that was paid and an open one.
     void sell() const
@@ -97,11 +84,7 @@ TEST_F(Upkeep, SetApartOfWhatIsNoReceiptToSetApart_IsRefused)
 TEST_F(Upkeep, BackUpAndCheckBesideATill_DoNotDisturbIt)
 {
     QProcess till;
-    start(till, {"--db", database()});
-    till.write("open\nadd CHIPS\nsay ready\n");
-    QByteArray said;
-    while (!said.contains("ready") && till.waitForReadyRead(patience))
-        said += till.readAllStandardOutput();
+    startRegister(till, "open\nadd CHIPS\n");
     EXPECT_EQ(check().status, 0);
     EXPECT_EQ(run({"--db", database(), "backup", path("copy.sqlite")}).status, 0);
     EXPECT_EQ(run({"--db", database(), "backup", path("copy.sqlite")}).status, 3);

@@ -4,6 +4,7 @@
 #include "tests/till/support/ManyReceipts.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQuery>
 
@@ -140,6 +141,21 @@ TEST_F(ArchiveTest, BesideATill_IsAsOfItsFirstLookAndStopsNothing)
     EXPECT_FALSE(must(before->receipt(2, "PackagingControl")));
     EXPECT_THAT(listed(*archive()), ElementsAre(1, 2, 3));
     EXPECT_EQ(unfinished(*storage)->lines.size(), 3);
+}
+
+TEST_F(ArchiveTest, TillThatEndsMeanwhile_LeavesALogAndLosesNothing)
+{
+    sell(*opened(), 1, ReceiptState::Closed);
+    auto before = archive();
+    EXPECT_EQ(listed(*before).size(), 1);
+    sell(*opened(), 2, ReceiptState::Closed);
+    EXPECT_GT(QFileInfo(path("till.db-wal")).size(), 0);
+    EXPECT_EQ(listed(*before).size(), 1);
+    before.reset();
+    EXPECT_EQ(listed(*archive()).size(), 2);
+    opened();
+    EXPECT_EQ(listed(*archive()).size(), 2);
+    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList{"till.db"});
 }
 
 TEST_F(ArchiveTest, OfAClosedDatabase_LeavesNothingBesideIt)
