@@ -416,8 +416,8 @@
         <translation>%1: команд: %2, ожиданий: %3</translation>
     </message>
     <message>
-        <source>%1 is written, but a script cannot say: %2</source>
-        <translation>%1: записано, но сценарием не выразить: %2</translation>
+        <source>%1: a script cannot say: %2</source>
+        <translation>%1: сценарием не выразить: %2</translation>
     </message>
     <message>
         <source>declined</source>

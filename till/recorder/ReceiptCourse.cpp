@@ -29,7 +29,8 @@ void ReceiptCourse::keep(const QJsonObject &note)
         m_command = note;
     if (kind == "outcome")
         m_command = {};
-    if (kind == "takeup" && Recorder::opensReceipt(m_command["text"].toString()))
+    const auto opened = Recorder::openedBy(m_command["text"].toString());
+    if (kind == "takeup" && opened && (*opened == Document::Sale || m_notes.isEmpty()))
         m_notes = {m_start, m_command};
     if (!m_notes.isEmpty())
         m_notes.append(note);

@@ -77,9 +77,12 @@ const QSet<QString> &Recorder::kinds()
     return kinds;
 }
 
-bool Recorder::opensReceipt(const QString &text)
+std::optional<Document::Type> Recorder::openedBy(const QString &text)
 {
-    return wordsOf(text).value(0).toLower() == "open";
+    const ReadCommand read = readCommand(wordsOf(text));
+    if (!read || !std::holds_alternative<command::Open>(*read))
+        return std::nullopt;
+    return std::get<command::Open>(*read).type;
 }
 
 void Recorder::read(const QJsonObject &note)
@@ -118,13 +121,24 @@ void Recorder::finish()
     tellCommand(last.text);
 }
 
+Message Recorder::report(const QString &path) const
+{
+    if (m_unsaid.isEmpty())
+        return told("till", "%1: %2 command(s), %3 expectation(s)")
+            .with({path, QString::number(m_commands), QString::number(m_expectations)});
+    constexpr qsizetype most = 3;
+    const QString first = m_unsaid.mid(0, most).join("; ");
+    return told("till", "%1: a script cannot say: %2")
+        .with({path, m_unsaid.size() > most ? first + "; …" : first});
+}
+
 void Recorder::readStart(const QJsonObject &note)
 {
     m_database = note["database"].toString();
     const QJsonObject settings = note["settings"].toObject();
     QStringList lines = settingLines(settings, std::exchange(m_settings, settings));
     if (!std::exchange(m_isOn, true))
-        return; // the settings are said where a receipt is opened
+        return; // the settings are told where a receipt is opened
     if (lines.isEmpty())
         lines.append("restart");
     if (!m_underWay)
@@ -144,19 +158,20 @@ void Recorder::readVerdict()
 {
     if (m_database != ":memory:")
         return;
+    tellEnd();
     if (m_told.isUnfinished() && !m_isStrange) {
-        tellEnd();
         m_write("# Another till goes on, and has no receipt.");
         m_write("answer yes");
         m_write("cancel");
     }
     m_isOn = false;
     m_told = {};
+    m_toldSettings = {};
 }
 
 void Recorder::readTakeUp(qint64 id)
 {
-    if (!m_underWay || m_underWay->hasOpened || !opensReceipt(m_underWay->text)) {
+    if (!m_underWay || m_underWay->hasOpened || !openedBy(m_underWay->text)) {
         m_isStrange = m_isStrange || (id != 0 && id != m_id);
         return;
     }
@@ -164,7 +179,8 @@ void Recorder::readTakeUp(qint64 id)
     m_told = {};
     m_isStrange = false;
     m_underWay->hasOpened = true;
-    const QStringList lines = settingLines(m_settings, {});
+    const QStringList lines = settingLines(m_settings, m_toldSettings);
+    m_toldSettings = m_settings;
     for (const QString &line : lines)
         m_write(line);
 }
@@ -189,6 +205,7 @@ void Recorder::tellSwitched(const UnderWay &command)
     tellAnswers(command);
     for (const QString &line : command.switching)
         m_write(line);
+    m_toldSettings = m_settings;
     expect(expectationsOf(m_now, &m_told));
     m_told = m_now;
 }

@@ -1,7 +1,7 @@
 #ifndef TILL_RECORDER_RECORDER_H
 #define TILL_RECORDER_RECORDER_H
 
-#include "host/Tr.h"
+#include "till/language/Message.h"
 #include "till/recorder/ExpectedReceipt.h"
 
 #include <QtCore/QSet>
@@ -30,8 +30,9 @@ public:
 
     //! The kinds of notes that it follows.
     static const QSet<QString> &kinds();
-    //! Whether the command of that text, as a note has it, opens a receipt.
-    static bool opensReceipt(const QString &text);
+    //! What kind of receipt the command opens of which that is the text in a note; nothing when it
+    //! is another.
+    static std::optional<Document::Type> openedBy(const QString &text);
 
     void read(const QJsonObject &note);
     //! Ends the script with all that the receipt came to. A command that has not ended is its last.
@@ -42,6 +43,9 @@ public:
     //! What no script can say, in English, one text each. It is in the script as a comment, which
     //! will not hold without it.
     const QStringList &unsaid() const { return m_unsaid; }
+    //! What there is to tell of the script, which was written to \a path: what is unsaid, or else
+    //! how much is in it.
+    Message report(const QString &path) const;
 
 private:
     //! A command that is told of, until it has ended; without a text, a switch between commands.
@@ -73,6 +77,7 @@ private:
     Write m_write;
     bool m_isOn = false; //!< a till was started
     QJsonObject m_settings;
+    QJsonObject m_toldSettings;
     QString m_database;
     bool m_isStrange = false; //!< the receipt was opened elsewhere: no script leads to it
     qint64 m_id = 0;          //!< of the receipt to which the script leads

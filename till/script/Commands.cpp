@@ -102,15 +102,10 @@ Outcome CommandLine::save(const QStringList &words)
     recorder.finish();
     if (const Result<> saved = saveScript(words[0], lines); !saved)
         return Outcome::failed(saved.error().text());
-    print(m_translator.text(told("till", "%1: %2 command(s), %3 expectation(s)")
-                                .with({words[0], QString::number(recorder.commands()),
-                                       QString::number(recorder.expectations())})));
-    if (recorder.unsaid().isEmpty())
-        return Outcome::done();
-    return {Outcome::Failed,
-            told("till", "%1 is written, but a script cannot say: %2")
-                .with({words[0], recorder.unsaid().join("; ")}),
-            {}};
+    if (!recorder.unsaid().isEmpty())
+        return {Outcome::Failed, recorder.report(words[0]), {}};
+    print(m_translator.text(recorder.report(words[0])));
+    return Outcome::done();
 }
 
 //! A script is read with what it includes.

@@ -100,10 +100,23 @@ TEST_F(Save, Answers_AreInTheScript)
 
 TEST_F(Save, EarlierReceipts_AreNotInIt)
 {
-    done({"open", "add CHIPS", "pay", "open return", "add BAG"});
+    done({"open", "add CHIPS", "pay", "open", "add BAG"});
     const std::string text = saved();
-    EXPECT_THAT(text, StartsWith("set PackagingControl:allowSaleEmptyTara true\nopen return\n"));
+    EXPECT_THAT(text, StartsWith("set PackagingControl:allowSaleEmptyTara true\nopen sale\n"));
     EXPECT_THAT(text, Not(HasSubstr("CHIPS")));
+    EXPECT_EQ(played(), "");
+}
+
+//! The plugin lets go of a return, and still asks about the tara of the sale before it.
+TEST_F(Save, Return_ComesWithWhatIsBeforeIt)
+{
+    done({"open", "add CHIPS", "pay", "set PackagingControl:allowSaleEmptyTara no", "open",
+          "add PET1", "answer yes", "cancel", "open return", "add CHIPS", "answer yes", "subtotal",
+          "expect question packingControlSaleEmptyTara"});
+    const std::string text = saved();
+    EXPECT_THAT(text, StartsWith("set PackagingControl:allowSaleEmptyTara false\nopen sale\n"));
+    EXPECT_THAT(text, HasSubstr("\nexpect state cancelled\n"));
+    EXPECT_THAT(text, HasSubstr("\nopen return\n"));
     EXPECT_EQ(played(), "");
 }
 
@@ -161,7 +174,7 @@ TEST_P(SaveUntypable, Command_IsSaidAndACommentInTheScript)
     till->cashRegister().carryOut(GetParam().command);
     const Outcome outcome = ends(Outcome::Failed, "save " + file);
     EXPECT_EQ(outcome.text(Translator("en")).toStdString(),
-              file.toStdString() + " is written, but a script cannot say: " + GetParam().comment);
+              file.toStdString() + ": a script cannot say: " + GetParam().comment);
     EXPECT_THAT(contents(file).toStdString(),
                 HasSubstr(std::string("\n# ") + GetParam().comment + '\n'));
 }
