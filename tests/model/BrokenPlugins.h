@@ -1,68 +1,68 @@
 #ifndef TESTS_MODEL_BROKENPLUGINS_H
 #define TESTS_MODEL_BROKENPLUGINS_H
 
-#include "tests/model/RealHost.h"
+#include "tests/support/TestPlugin.h"
 
-// Plugins that are wrong on purpose: no comparison may let them pass.
+// Plugins that are wrong on purpose: no comparison may let them pass. The base is a plugin that is
+// right.
 
 namespace model {
 
 //! Forgets to save as soon as there are two goods.
-class Forgetful : public RealPlugin
+template <typename Base>
+class Forgetful : public Base
 {
 public:
-    using RealPlugin::RealPlugin;
+    using Base::Base;
     void savePluginData() const override
     {
-        if (packagingList.size() < 2)
-            RealPlugin::savePluginData();
+        if (this->packagingList.size() < 2)
+            Base::savePluginData();
     }
 };
 
 //! Takes an over-full tara for a full one.
-class Careless : public RealPlugin
+template <typename Base>
+class Careless : public Base
 {
 public:
-    using RealPlugin::RealPlugin;
-    void modifyTaraCapacity(const QSharedPointer<TaraInfo> &tara, double newCapacity) override
+    using Base::Base;
+    void modifyTaraCapacity(const QSharedPointer<PackagingControl::TaraInfo> &tara,
+                            double newCapacity) override
     {
-        RealPlugin::modifyTaraCapacity(tara, newCapacity);
+        Base::modifyTaraCapacity(tara, newCapacity);
         if (tara->freeCapacity < 0)
             tara->freeCapacity = 0;
     }
 };
 
 //! Hides that the goods could not be changed.
-class Mute : public RealPlugin
+template <typename Base>
+class Mute : public Base
 {
 public:
-    using RealPlugin::RealPlugin;
-    bool modifyPackagingPositionQuantity(const QSharedPointer<PackagingInfo> &info,
-                                         double quantityDelta) override
+    using Base::Base;
+    bool
+    modifyPackagingPositionQuantity(const QSharedPointer<PackagingControl::PackagingInfo> &info,
+                                    double quantityDelta) override
     {
-        RealPlugin::modifyPackagingPositionQuantity(info, quantityDelta);
+        Base::modifyPackagingPositionQuantity(info, quantityDelta);
         return true;
     }
 };
 
 //! Asks about empty tara and then goes on, also when a storno failed.
-class Stubborn : public RealPlugin
+template <typename Base>
+class Stubborn : public Base
 {
 public:
-    using RealPlugin::RealPlugin;
+    using Base::Base;
     bool stornoAllEmptyTara(const control::Action &action) override
     {
-        RealPlugin::stornoAllEmptyTara(action);
+        Base::stornoAllEmptyTara(action);
         return true;
     }
 };
-
-//! A host's way to \a Plugin.
-template <typename Plugin>
-std::unique_ptr<RealPlugin> make(RealHost &host)
-{
-    return std::make_unique<Plugin>(host);
-}
 
 } // namespace model
 

@@ -71,7 +71,8 @@ template <typename Plugin>
 class BrokenInTheSmall : public EverySequence
 {
 };
-using BrokenPlugins = testing::Types<Forgetful, Careless, Mute, Stubborn>;
+using BrokenPlugins = testing::Types<Forgetful<RealPlugin>, Careless<RealPlugin>, Mute<RealPlugin>,
+                                     Stubborn<RealPlugin>>;
 TYPED_TEST_SUITE(BrokenInTheSmall, BrokenPlugins);
 
 TYPED_TEST(BrokenInTheSmall, EverySequence_FindsItWithAScript)

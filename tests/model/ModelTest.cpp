@@ -33,7 +33,8 @@ template <typename Plugin>
 class BrokenPlugin : public Model
 {
 };
-using BrokenPlugins = testing::Types<Forgetful, Careless, Mute, Stubborn>;
+using BrokenPlugins = testing::Types<Forgetful<RealPlugin>, Careless<RealPlugin>, Mute<RealPlugin>,
+                                     Stubborn<RealPlugin>>;
 TYPED_TEST_SUITE(BrokenPlugin, BrokenPlugins);
 
 TYPED_TEST(BrokenPlugin, ReceiptsAtRandom_FindItWithAScriptAndASeed)

@@ -126,6 +126,13 @@ private:
     bool m_isMeanwhileDone = false;
 };
 
+//! A host's way to \a Plugin.
+template <typename Plugin>
+std::unique_ptr<RealPlugin> make(RealHost &host)
+{
+    return std::make_unique<Plugin>(host);
+}
+
 // What the host's own modifiers, events and actions look like.
 
 //! A modifier that is not the quantity.

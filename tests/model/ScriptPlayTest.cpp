@@ -1,18 +1,11 @@
 #include "tests/model/Generate.h"
 #include "tests/model/ModelHost.h"
+#include "tests/model/TillProgram.h"
 #include "tests/support/Chance.h"
-
-#include <gtest/gtest.h>
-
-#include <QtCore/QFile>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
 
 #include <charconv>
 #include <cmath>
 #include <iostream>
-#include <set>
-#include <sstream>
 
 // Scripts that the model prints, played by the till: what a tester is given must lead to where the
 // model was.
@@ -22,37 +15,13 @@ namespace {
 using namespace model;
 
 constexpr std::size_t shortest = 5; //!< commands
-constexpr int patience = 120'000;   //!< milliseconds, for a till that hangs
-
-const std::string rowMark = "# catalogue: ";
-
-std::string printed(const Script &script)
-{
-    std::ostringstream out;
-    out << script;
-    return out.str();
-}
-
-std::vector<std::string> linesOf(const std::string &text)
-{
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);)
-        lines.push_back(line);
-    return lines;
-}
-
-bool startsWith(const std::string &line, const std::string &beginning)
-{
-    return line.compare(0, beginning.size(), beginning) == 0;
-}
 
 //! Whether the text says something that a till cannot be told.
 bool isMarked(const std::string &text)
 {
     for (const std::string &line : linesOf(text)) {
-        if (startsWith(line, "#") && !startsWith(line, "# identifiers: ")
-            && !startsWith(line, rowMark))
+        if (line.starts_with("#") && !line.starts_with("# identifiers: ")
+            && !line.starts_with(rowMark))
             return true;
     }
     return false;
@@ -121,65 +90,36 @@ std::string expectedRecords(const Script &script)
     return text;
 }
 
-class ScriptPlay : public testing::Test
+class ScriptPlay : public TillProgram
 {
 protected:
     //! Takes up \a text as one more script.
     void add(const std::string &text)
     {
         files.append(write(QString("%1.till").arg(files.size() + 1), text));
+        takeRows(text);
         for (const std::string &line : linesOf(text)) {
-            if (startsWith(line, rowMark))
-                rows.insert(line.substr(rowMark.size()));
-            commands += startsWith(line, "#") || line.empty() ? 0 : 1;
-            refusals += startsWith(line, "expect refused ") ? 1 : 0;
-            mistakes += startsWith(line, "expect mistake ") ? 1 : 0;
+            commands += line.starts_with("#") || line.empty() ? 0 : 1;
+            refusals += line.starts_with("expect refused ") ? 1 : 0;
+            mistakes += line.starts_with("expect mistake ") ? 1 : 0;
         }
     }
 
     //! Plays all scripts; empty when the till says that all held, or else what it complains of.
     std::string play() const
     {
-        QProcess process;
-        process.start(TILL_PROGRAM,
-                      QStringList{"--quiet", "--lang", "en", "--catalogue", catalogue(), "play"}
-                          + files);
-        if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
-            return "the till did not end by itself";
-        const std::string complaint = process.readAllStandardError().toStdString();
-        const QString held = QString("\n%1 of %1 scripts held; ").arg(files.size());
-        const bool isWell = process.exitCode() == 0 && complaint.empty()
-                            && process.readAllStandardOutput().contains(held.toUtf8());
-        return isWell ? "" : "status " + std::to_string(process.exitCode()) + ": " + complaint;
+        const Run played = run(QStringList("play") + files);
+        const std::string all = std::to_string(files.size());
+        const bool isWell =
+            played.status == 0 && played.err.empty()
+            && played.out.find('\n' + all + " of " + all + " scripts held; ") != std::string::npos;
+        return isWell ? "" : "status " + std::to_string(played.status) + ": " + played.err;
     }
 
     QStringList files;
     long commands = 0;
     long refusals = 0;
     long mistakes = 0;
-
-private:
-    QString write(const QString &name, const std::string &text) const
-    {
-        QFile file(directory.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(QByteArray::fromStdString(text)), static_cast<qint64>(text.size()));
-        return file.fileName();
-    }
-
-    //! The sample shop's articles, and those that the scripts bring.
-    QString catalogue() const
-    {
-        QFile sample(TILL_SHARE_DIR "/catalogue.csv");
-        EXPECT_TRUE(sample.open(QIODevice::ReadOnly));
-        std::string text = sample.readAll().toStdString();
-        for (const std::string &row : rows)
-            text += row + '\n';
-        return write("catalogue.csv", text);
-    }
-
-    QTemporaryDir directory;
-    std::set<std::string> rows;
 };
 
 TEST_F(ScriptPlay, PrintedScripts_PlayToTheEndAndLeaveTheModelsRecords)

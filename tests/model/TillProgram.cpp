@@ -1,0 +1,65 @@
+#include "tests/model/TillProgram.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+
+#include <sstream>
+
+namespace model {
+
+std::string printed(const Script &script)
+{
+    std::ostringstream out;
+    out << script;
+    return out.str();
+}
+
+std::vector<std::string> linesOf(const std::string &text)
+{
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+QString TillProgram::write(const QString &name, const std::string &text) const
+{
+    QFile file(directory.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(file.write(QByteArray::fromStdString(text)), static_cast<qint64>(text.size()));
+    return file.fileName();
+}
+
+void TillProgram::takeRows(const std::string &script)
+{
+    for (const std::string &line : linesOf(script)) {
+        if (line.starts_with(rowMark))
+            rows.insert(line.substr(rowMark.size()));
+    }
+}
+
+TillProgram::Run TillProgram::run(const QStringList &arguments, const std::string &input) const
+{
+    constexpr int patience = 120'000; // milliseconds, for a till that hangs
+    QProcess process;
+    process.setStandardInputFile(write("input", input));
+    process.start(TILL_PROGRAM,
+                  QStringList{"--quiet", "--lang", "en", "--catalogue", catalogue()} + arguments);
+    if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
+}
+
+QString TillProgram::catalogue() const
+{
+    QFile sample(TILL_SHARE_DIR "/catalogue.csv");
+    EXPECT_TRUE(sample.open(QIODevice::ReadOnly));
+    std::string text = sample.readAll().toStdString();
+    for (const std::string &row : rows)
+        text += row + '\n';
+    return write("catalogue.csv", text);
+}
+
+} // namespace model
