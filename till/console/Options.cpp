@@ -19,7 +19,7 @@ namespace {
 //! What is wrong with a word that says nothing: "" would else mean that there is none.
 Result<> checkEmpty(const QCommandLineParser &parser, const QStringList &words)
 {
-    for (const QString name : {"db", "catalogue", "plugin", "config", "trace", "junit"}) {
+    for (const QString name : {"db", "catalogue", "plugin", "config", "trace", "record", "junit"}) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return Fault{"--" + name, "no file is named"};
     }
@@ -96,6 +96,7 @@ Result<> checkWords(const QString &mode, const QStringList &words)
         {"", {}},
         {"play", "which file or folder?"},
         {"demo", {}},
+        {"from-trace", "which trace?"},
         {"info", {}},
         {"backup", "to which file?"},
         {"set-apart", "which receipt?"},
@@ -148,6 +149,7 @@ QList<ProgramMode> programModes()
         {"till", "open the register: type commands ('help' lists them)"},
         {"till play PATH...", "play scripts, folders of them, or - for standard input"},
         {"till demo", "play the sample shop's receipts"},
+        {"till from-trace TRACE", "print the script of a trace, which expects what it tells"},
         {"till info", "show the plugin: metadata, triggers, events"},
         {"till receipts", "list the receipts of the database, also as JSON or CSV"},
         {"till receipt NUMBER", "show a receipt with its tara"},
@@ -171,6 +173,7 @@ QList<QCommandLineOption> programOptions()
         {"set", "Set a setting, such as PackagingControl:allowSaleEmptyTara=false.", "KEY=VALUE"},
         {"lang", "Language of messages: " + Translator::languages().join(", ") + ".", "LANGUAGE",
          "ru"},
+        {"record", "Write what is done at the register to FILE as a script.", "FILE"},
         {"trace", "Write what happens to FILE as lines of JSON (- for standard output).", "FILE"},
         {{"colour", "color"}, "Colours: auto, always or never.", "WHEN", "auto"},
         {"jobs", "Play so many scripts at a time (default: one a core).", "N", "0"},
@@ -203,8 +206,8 @@ void describeOptions(QCommandLineParser &parser)
         + "\nExit status: " + exitStatuses());
     parser.addPositionalArgument(
         "command", "one of these; none opens the register",
-        "[play PATH... | demo | info | receipts | receipt NUMBER | journal NUMBER | check | "
-        "backup FILE | set-apart NUMBER]");
+        "[play PATH... | demo | from-trace TRACE | info | receipts | receipt NUMBER | "
+        "journal NUMBER | check | backup FILE | set-apart NUMBER]");
     parser.addOptions(programOptions());
     QCommandLineOption manual("manual");
     manual.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -229,6 +232,9 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
                      '"' + brief(parser.value("colour")) + "\" is none of: auto, always, never"};
     options.style = {wantsColour(parser.value("colour")), columnsOfOutput};
     options.trace = parser.value("trace");
+    options.record = parser.value("record");
+    if (!options.record.isEmpty() && !options.mode.isEmpty())
+        return Fault{"--record", "what is done at the register is recorded, nothing else"};
     options.quiet = parser.isSet("quiet");
     options.ownDatabase = parser.isSet("db");
     options.setup = {parser.value("db"),

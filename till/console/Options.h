@@ -21,6 +21,7 @@ struct Options
     Style style;
     QString language;
     QString trace;
+    QString record;           //!< the file that is written as a script
     QString mode;             //!< a command of the program's own; empty to open the register
     QStringList words;        //!< that follow it
     bool ownDatabase = false; //!< --db was given: scripts play on it too

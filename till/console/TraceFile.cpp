@@ -1,5 +1,7 @@
 #include "till/console/TraceFile.h"
 
+#include "till/recorder/ScriptFile.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -46,6 +48,11 @@ bool isXml(const QByteArray &firstLine)
     return firstLine.startsWith("<?xml");
 }
 
+bool isRecorded(const QByteArray &firstLine)
+{
+    return QString::fromUtf8(firstLine).trimmed() == recordedMark();
+}
+
 //! Whether something is at \a path that would be destroyed: not a pipe or a device like a printer,
 //! nor a file of which the first line says that it is ours.
 bool isOtherFile(const QString &path, IsOurs isOurs)
@@ -84,6 +91,11 @@ Result<> checkTraceFile(const QString &path, const QStringList &inUse)
 Result<> checkJunitFile(const QString &path, const QStringList &inUse)
 {
     return checkFile("--junit", path, inUse, isXml, "XML");
+}
+
+Result<> checkRecordFile(const QString &path, const QStringList &inUse)
+{
+    return checkFile("--record", path, inUse, isRecorded, "recorded script");
 }
 
 } // namespace till

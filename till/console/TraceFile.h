@@ -14,6 +14,9 @@ Result<> checkTraceFile(const QString &path, const QStringList &inUse);
 //! The same of what became of a play.
 Result<> checkJunitFile(const QString &path, const QStringList &inUse);
 
+//! The same of what is done at the register.
+Result<> checkRecordFile(const QString &path, const QStringList &inUse);
+
 } // namespace till
 
 #endif // TILL_CONSOLE_TRACEFILE_H

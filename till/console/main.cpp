@@ -1,5 +1,6 @@
 #include "till/console/Commit.h"
 #include "till/console/ExitStatus.h"
+#include "till/console/FromTrace.h"
 #include "till/console/Info.h"
 #include "till/console/Lookup.h"
 #include "till/console/Manual.h"
@@ -9,6 +10,8 @@
 #include "till/console/Upkeep.h"
 #include "till/course/Trace.h"
 #include "till/database/DatabaseFile.h"
+#include "till/recorder/Recording.h"
+#include "till/recorder/ScriptFile.h"
 #include "till/runner/ScriptFiles.h"
 #include "till/terminal/Interactive.h"
 #include "till/terminal/Output.h"
@@ -80,6 +83,43 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
     return runInteractive(commands, translator, historyFile(), show) ? AllWell : CommandFailed;
 }
 
+//! The same, recorded if the options ask for it.
+int openRecorded(const Options &options, Notes &notes, const Translator &translator)
+{
+    if (options.record.isEmpty())
+        return openRegister(options, notes, translator);
+    const QStringList inUse = filesInUse(options) + QStringList{options.trace};
+    if (const Result<> checked = checkRecordFile(options.record, inUse); !checked)
+        return fail(UsageError, checked.error().text());
+    const auto recording = Recording::start(notes, options.record);
+    if (!recording)
+        return fail(StartFailed, recording.error().text());
+    const int status = openRegister(options, notes, translator);
+    (*recording)->finish();
+    if (const QString error = (*recording)->error(); !error.isEmpty())
+        return fail(StartFailed, error);
+    const Recorder &recorder = (*recording)->recorder();
+    const QString report = translator.text(recorder.report(options.record));
+    if (!recorder.unsaid().isEmpty())
+        return fail(CommandFailed, report);
+    if (!options.quiet)
+        Output().print(report);
+    return status;
+}
+
+//! Prints the script of a trace.
+int fromTrace(const QString &path, const Translator &translator)
+{
+    const Output output;
+    output.print(recordedMark());
+    Recorder recorder([&output](const QString &line) { output.print(line); });
+    if (const Result<> read = readTrace(path, recorder); !read)
+        return fail(StartFailed, read.error().text());
+    return recorder.unsaid().isEmpty()
+               ? AllWell
+               : fail(CommandFailed, translator.text(recorder.report(path)));
+}
+
 int upkeep(const Options &options, const Translator &translator)
 {
     const QString &database = options.setup.database;
@@ -111,9 +151,11 @@ int run(const Options &options, Notes &notes)
         return lookUp(options, translator);
     if (options.mode == "info")
         return info(options);
+    if (options.mode == "from-trace")
+        return fromTrace(options.words[0], translator);
     if (options.mode == "play" || options.mode == "demo")
         return play(options, notes, translator);
-    return openRegister(options, notes, translator);
+    return openRecorded(options, notes, translator);
 }
 
 //! What the options ask for, with a trace if they do.

@@ -4,7 +4,7 @@ _till()
 {
     local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} help command="" i
     case $before in
-        --db | --catalogue | --plugin | --config | --trace | --junit)
+        --db | --catalogue | --plugin | --config | --record | --trace | --junit)
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -f -- "$current")
             return ;;
@@ -27,14 +27,14 @@ _till()
     fi
     for ((i = 1; i < COMP_CWORD; ++i)); do
         case ${COMP_WORDS[i]} in
-            play | backup | demo | info | check | set-apart | receipts | receipt | journal) command=${COMP_WORDS[i]} ;;
+            play | backup | demo | from-trace | info | check | set-apart | receipts | receipt | journal) command=${COMP_WORDS[i]} ;;
         esac
     done
     case $command in
         '')
             mapfile -t COMPREPLY < <(compgen -W "$(sed -nE 's/^  till ([a-z-]+) .*/\1/p' <<<"$help")" \
                 -- "$current") ;;
-        play | backup)
+        play | backup | from-trace)
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     esac

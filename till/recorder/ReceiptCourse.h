@@ -9,9 +9,9 @@
 namespace till {
 
 /*!
- * Keeps what is told of the receipt that was opened last, for a script that may be asked for later. A
- * return comes with what was done from the sale before it on: a plugin that lets go of a receipt may
- * still have what it had of the one before.
+ * Keeps what is told of the receipt that was opened last, for a script that may be asked for later.
+ * A return comes with what was done from the sale before it on: a plugin that lets go of a receipt
+ * may still have what it had of the one before.
  */
 class ReceiptCourse
 {

@@ -1,5 +1,6 @@
 #include "till/recorder/ScriptFile.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 
@@ -12,13 +13,7 @@ QByteArray lineOf(const QString &line)
     return line.toUtf8() + '\n';
 }
 
-} // namespace
-
-QString recordedMark()
-{
-    return QStringLiteral("# Recorded by the till.");
-}
-
+//! Whether nothing is at \a path yet, or a script that was recorded before.
 Result<> checkScriptFile(const QString &path)
 {
     if (!QFileInfo::exists(path))
@@ -31,6 +26,13 @@ Result<> checkScriptFile(const QString &path)
         return Fault{path, file.errorString()};
     const QByteArray mark = lineOf(recordedMark());
     return file.size() == 0 || file.read(mark.size()) == mark ? Result<>() : other;
+}
+
+} // namespace
+
+QString recordedMark()
+{
+    return QStringLiteral("# Recorded by the till.");
 }
 
 Result<> saveScript(const QString &path, const QStringList &lines)
@@ -46,26 +48,6 @@ Result<> saveScript(const QString &path, const QStringList &lines)
     if (!file.commit())
         return Fault{path, file.errorString()};
     return {};
-}
-
-Result<std::unique_ptr<GrowingScript>> GrowingScript::begin(const QString &path)
-{
-    if (const Result<> checked = checkScriptFile(path); !checked)
-        return checked.error();
-    std::unique_ptr<GrowingScript> script(new GrowingScript);
-    script->m_file.setFileName(path);
-    if (!script->m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return Fault{path, script->m_file.errorString()};
-    script->write(recordedMark());
-    return script;
-}
-
-void GrowingScript::write(const QString &line)
-{
-    const QByteArray bytes = lineOf(line);
-    const bool isWritten = m_file.write(bytes) == bytes.size() && m_file.flush();
-    if (!isWritten && m_error.isEmpty())
-        m_error = path() + ": " + m_file.errorString();
 }
 
 } // namespace till

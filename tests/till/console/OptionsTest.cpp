@@ -58,7 +58,8 @@ TEST_F(Options, CompletionOfBash_IsThatOfTheHelp)
         EXPECT_EQ(bash.readAllStandardError().toStdString(), "");
         return bash.readAllStandardOutput().toStdString();
     };
-    EXPECT_EQ(completed("''"), "play demo info receipts receipt journal check backup set-apart ");
+    EXPECT_EQ(completed("''"),
+              "play demo from-trace info receipts receipt journal check backup set-apart ");
     EXPECT_EQ(completed("s"), "set-apart ");
     EXPECT_EQ(completed("--c"), "--catalogue --config --colour --color --csv ");
     EXPECT_EQ(completed("--lang ''"), "ru en ");

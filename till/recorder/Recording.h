@@ -1,0 +1,44 @@
+#ifndef TILL_RECORDER_RECORDING_H
+#define TILL_RECORDER_RECORDING_H
+
+#include "till/course/Notes.h"
+#include "till/recorder/Recorder.h"
+#include "till/result/Result.h"
+
+#include <QtCore/QFile>
+
+#include <memory>
+
+namespace till {
+
+//! Writes what a till does as a script, command by command; what was written is there whatever
+//! comes.
+class Recording
+{
+public:
+    Q_DISABLE_COPY_MOVE(Recording)
+
+    //! Starts recording what \a notes tell, from the start of the till on, in the file \a path,
+    //! which is emptied first.
+    static Result<std::unique_ptr<Recording>> start(Notes &notes, const QString &path);
+
+    //! Ends the script.
+    void finish();
+
+    const Recorder &recorder() const { return m_recorder; }
+    //! Why a line could not be written, with the path; empty as long as all were.
+    QString error() const { return m_error; }
+
+private:
+    explicit Recording(const QString &path);
+    void write(const QString &line);
+
+    QFile m_file;
+    QString m_error;
+    Recorder m_recorder;
+    Subscription m_subscription;
+};
+
+} // namespace till
+
+#endif // TILL_RECORDER_RECORDING_H
