@@ -48,6 +48,15 @@ QString modes()
     return text;
 }
 
+QString statuses()
+{
+    QString text;
+    const QStringList meanings = exitStatuses();
+    for (qsizetype status = 0; status < meanings.size(); ++status)
+        text += entry(QString::number(status), meanings[status]);
+    return text;
+}
+
 QString commands()
 {
     const Translator english("en");
@@ -66,8 +75,7 @@ QString manualPage()
            + section("NAME", plain("till - a small cash register with packaging control") + '\n')
            + section("SYNOPSIS", ".B till\n" + plain("[OPTION...] [COMMAND [WORD...]]") + '\n')
            + section("DESCRIPTION", modes()) + section("OPTIONS", options())
-           + section("COMMANDS OF THE REGISTER", commands())
-           + section("EXIT STATUS", plain(exitStatuses()) + '\n')
+           + section("COMMANDS OF THE REGISTER", commands()) + section("EXIT STATUS", statuses())
            + section("SEE ALSO",
                      "till.md, trace.md and reports.md in share/doc/packagingcontrol\n");
 }

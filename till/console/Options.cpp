@@ -28,6 +28,18 @@ Result<> checkEmpty(const QCommandLineParser &parser, const QStringList &words)
     return {};
 }
 
+//! What is wrong with options that do not go together, or not with \a mode.
+Result<> checkTogether(const QCommandLineParser &parser, const QString &mode)
+{
+    if (parser.isSet("trace") && !QStringList{QString(), "play", "demo"}.contains(mode))
+        return Fault{"--trace", '"' + mode + "\" writes none"};
+    if (parser.isSet("no-plugin") && parser.isSet("plugin"))
+        return Fault{"--no-plugin", "--plugin names one"};
+    if (parser.isSet("no-plugin") && mode == "info")
+        return Fault{"--no-plugin", "\"info\" tells of a plugin"};
+    return {};
+}
+
 //! Reads the settings of --set, up to the first that is no KEY=VALUE.
 Result<> readSettings(const QStringList &assignments, QMap<QString, QString> &settings)
 {
@@ -190,10 +202,15 @@ QList<QCommandLineOption> programOptions()
     return options + lookupOptions();
 }
 
-QString exitStatuses()
+QStringList exitStatuses()
 {
-    return "0 all well, 1 a command or an expectation failed or damage was found,\n"
-           "2 wrong usage, 3 a file (catalogue, database, plugin, settings, trace) cannot be used.";
+    return {
+        "all well",
+        "a command or an expectation failed, damage was found, or 'set-apart' did not take the "
+        "receipt",
+        "wrong usage",
+        "a file (catalogue, database, plugin, settings, script, trace) or standard output cannot "
+        "be used"};
 }
 
 void describeOptions(QCommandLineParser &parser)
@@ -201,9 +218,13 @@ void describeOptions(QCommandLineParser &parser)
     QString modes;
     for (const ProgramMode &mode : programModes())
         modes += QString("  %1 %2\n").arg(mode.usage, -21).arg(mode.help);
+    QString statuses;
+    const QStringList meanings = exitStatuses();
+    for (qsizetype status = 0; status < meanings.size(); ++status)
+        statuses += QString("  %1 %2\n").arg(status).arg(meanings[status]);
     parser.setApplicationDescription(
         "A small cash register that runs whole receipts through the packaging plugin.\n\n" + modes
-        + "\nExit status: " + exitStatuses());
+        + "\nExit status:\n" + statuses);
     parser.addPositionalArgument(
         "command", "one of these; none opens the register",
         "[play PATH... | demo | from-trace TRACE | info | receipts | receipt NUMBER | "
@@ -222,6 +243,8 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
     options.mode = words.value(0);
     options.words = words.mid(1);
     if (Result<> checked = checkWords(options.mode, options.words); !checked)
+        return checked;
+    if (Result<> checked = checkTogether(parser, options.mode); !checked)
         return checked;
     options.language = parser.value("lang");
     if (!Translator::isKnown(options.language))

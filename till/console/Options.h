@@ -62,8 +62,8 @@ struct ProgramMode
 
 QList<ProgramMode> programModes();
 QList<QCommandLineOption> programOptions();
-//! What the exit statuses mean.
-QString exitStatuses();
+//! What the exit statuses mean, from 0.
+QStringList exitStatuses();
 
 //! Tells \a parser the options and the help.
 void describeOptions(QCommandLineParser &parser);

@@ -1,5 +1,7 @@
 #include "till/console/Play.h"
 
+#include "till/console/Upkeep.h"
+
 #include "till/console/Teller.h"
 #include "till/runner/PlayApart.h"
 #include "till/terminal/Output.h"
@@ -136,9 +138,7 @@ void tellCopy(const CashDesk &desk, const Translator &translator,
               const std::function<void(const QString &text)> &show)
 {
     if (!desk.copyBefore().isEmpty())
-        show(translator.text(
-            told("till", "%1: brought to the format of this till; as it was before, it is in %2")
-                .with({desk.setup().database, desk.copyBefore()})));
+        show(translator.text(broughtToFormat(desk.setup().database, desk.copyBefore())));
 }
 
 int play(const Options &options, Notes &notes, const Translator &translator)

@@ -1,5 +1,6 @@
 #include "till/console/Upkeep.h"
 
+#include "till/database/DatabaseFile.h"
 #include "till/receipt/Receipt.h"
 #include "till/storage/Storage.h"
 #include "till/storage/Upkeep.h"
@@ -25,16 +26,23 @@ QString summary(const CheckReport &report)
         .arg(apart);
 }
 
-//! The lines of the receipt, for whoever has to enter them anew.
+//! The lines of the receipt that hold, for whoever has to enter them anew.
 QString linesOf(const Storage &storage, qint64 id, const ReceiptView &view)
 {
-    const auto read = storage.lines(id);
-    if (!read)
-        return read.error().text() + '\n';
-    return *read ? view.render(Receipt(**read), {}, TaraControl::Absent) : QString();
+    ReceiptRecord record;
+    record.id = id;
+    record.lines = storage.lines(id);
+    return record.lines.isEmpty() ? "none of its lines can be read"
+                                  : view.render(Receipt(record), {}, TaraControl::Absent);
 }
 
 } // namespace
+
+Message broughtToFormat(const QString &database, const QString &copy)
+{
+    return told("till", "%1: brought to the format of this till; as it was before, it is in %2")
+        .with({database, copy});
+}
 
 Result<Finding, Failure> checkStored(const QString &database)
 {
@@ -57,20 +65,27 @@ Result<Finding, Failure> backUpStored(const QString &database, const QString &fi
 }
 
 Result<Finding, Failure> setApartStored(const QString &database, const QString &number,
-                                        const ReceiptView &view)
+                                        const Translator &translator, Style style)
 {
     bool isNumber = false;
     const qint64 id = number.toLongLong(&isNumber);
     if (!isNumber)
         return Failure{UsageError, {"set-apart", '"' + number + "\" is no number of a receipt"}};
-    const auto opened = Storage::open(database);
-    if (!opened)
-        return Failure{StartFailed, opened.error()};
-    const auto &storage = *opened;
-    if (const Result<> apart = storage->setApart(id); !apart)
-        return Failure{CommandFailed, apart.error()};
-    return Finding{AllWell, "receipt " + QString::number(id) + " is set apart and stays as it is\n"
-                                + linesOf(*storage, id, view)};
+    if (const QString fault = readingFault(database); !fault.isEmpty())
+        return Failure{StartFailed, {database, fault}}; // else a database would be made there
+    const auto storage = Storage::open(database);
+    if (!storage)
+        return Failure{StartFailed, storage.error()};
+    const auto reason = (*storage)->setApart(id);
+    if (!reason)
+        return Failure{CommandFailed, reason.error()};
+    const QString copy = (*storage)->copyBefore();
+    const QString before =
+        copy.isEmpty() ? QString() : translator.text(broughtToFormat(database, copy)) + '\n';
+    return Finding{
+        AllWell,
+        before + QString("receipt %1 is set apart (%2) and stays as it is\n").arg(number, *reason)
+            + linesOf(**storage, id, ReceiptView(translator, style))};
 }
 
 } // namespace till

@@ -15,6 +15,9 @@ struct Finding
     QString text; //!< for people
 };
 
+//! Tells that \a database was brought to today's format, and where it is as it was.
+Message broughtToFormat(const QString &database, const QString &copy);
+
 //! `till check`: what in the database is not as it was stored, as a table.
 Result<Finding, Failure> checkStored(const QString &database);
 
@@ -23,7 +26,7 @@ Result<Finding, Failure> backUpStored(const QString &database, const QString &fi
 
 //! `till set-apart NUMBER`: takes a receipt out of the way, and shows what was on it.
 Result<Finding, Failure> setApartStored(const QString &database, const QString &number,
-                                        const ReceiptView &view);
+                                        const Translator &translator, Style style);
 
 } // namespace till
 

@@ -125,10 +125,9 @@ int upkeep(const Options &options, const Translator &translator)
     const QString &database = options.setup.database;
     const QString word = options.words.value(0);
     const Result<Finding, Failure> found =
-        options.mode == "check" ? checkStored(database)
-        : options.mode == "backup"
-            ? backUpStored(database, word)
-            : setApartStored(database, word, ReceiptView(translator, options.style));
+        options.mode == "check"    ? checkStored(database)
+        : options.mode == "backup" ? backUpStored(database, word)
+                                   : setApartStored(database, word, translator, options.style);
     if (!found)
         return fail(found.error().status, found.error().fault.text());
     Output(options.style.colour).print(found->text);

@@ -2,7 +2,7 @@
 
 #include "till/course/JsonLine.h"
 
-#include <cstdio>
+#include <unistd.h>
 
 namespace till {
 
@@ -10,9 +10,9 @@ Result<std::unique_ptr<Trace>> Trace::start(Notes &notes, const QString &path)
 {
     std::unique_ptr<Trace> trace(new Trace);
     trace->m_file.setFileName(path);
-    const bool opened = path == QLatin1String("-")
-                            ? trace->m_file.open(stdout, QIODevice::WriteOnly)
-                            : trace->m_file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    const auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    const bool opened = path == QLatin1String("-") ? trace->m_file.open(STDOUT_FILENO, mode)
+                                                   : trace->m_file.open(mode | QIODevice::Truncate);
     if (!opened)
         return Fault{path, trace->m_file.errorString()};
     trace->m_subscription = notes.subscribe(
@@ -24,8 +24,12 @@ void Trace::write(QJsonObject note)
 {
     note.insert("line", ++m_lines);
     const QByteArray line = jsonLine(note);
-    const bool isWritten = m_file.write(line) == line.size() && m_file.flush();
-    if (!isWritten && m_error.isEmpty())
+    qsizetype written = 0;
+    qint64 more = 1;
+    // A disk that gets full takes a part of the line, and says what is wrong when the rest comes.
+    for (; more > 0 && written < line.size(); written += more)
+        more = m_file.write(line.constData() + written, line.size() - written);
+    if (more <= 0 && m_error.isEmpty())
         m_error =
             (m_file.fileName().isEmpty() ? QStringLiteral("standard output") : m_file.fileName())
             + ": " + m_file.errorString();

@@ -10,7 +10,8 @@
 
 namespace till {
 
-//! Writes every note as one line of JSON, in order. Each line is numbered and flushed.
+//! Writes every note as one line of JSON, in order. Each line is numbered and written at
+//! once.
 class Trace
 {
 public:

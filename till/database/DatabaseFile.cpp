@@ -35,6 +35,13 @@ QString kindFault(const QFileInfo &file)
     return {};
 }
 
+bool hasOtherNames(const QFileInfo &file)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(file.filePath()).constData(), &status) == 0
+           && status.st_nlink > 1;
+}
+
 QString folderFault(const QFileInfo &folder)
 {
     if (!folder.isDir())
@@ -82,6 +89,9 @@ QString placeFault(const QString &path)
         return fault;
     if (file.exists() && !file.isWritable())
         return QStringLiteral("this file may not be written");
+    if (hasOtherNames(file))
+        return QStringLiteral("this file has another name too (a hard link), by which another till "
+                              "could open it at the same time");
     if (const QString fault = folderFault(QFileInfo(file.absolutePath())); !fault.isEmpty())
         return fault;
     // SQLite would take such a file for a new database and delete the log, with the receipts. (A

@@ -253,6 +253,12 @@ QString CommandLine::renderReceipt() const
                          cashRegister.taraControl());
 }
 
+bool CommandLine::hasOpenReceipt() const
+{
+    const auto receipt = m_desk.isOn() ? m_desk.cashRegister().receipt() : nullptr;
+    return receipt && isUnfinished(receipt->state());
+}
+
 QList<Usage> CommandLine::usages()
 {
     QList<Usage> usages;

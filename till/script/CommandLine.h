@@ -54,6 +54,9 @@ public:
     //! Whether the last command was "quit".
     bool hasQuit() const { return m_hasQuit; }
 
+    //! Whether the till is on and has a receipt that is neither closed nor cancelled.
+    bool hasOpenReceipt() const;
+
     //! Whether the last line did anything that may have changed the receipt, or which one it is.
     bool hasTouchedReceipt() const { return m_hasTouchedReceipt; }
 

@@ -62,9 +62,10 @@ private:
     {
         readRowsOf(positionsTable(), QStringLiteral("place"), [this](const Table::Row &row) {
             const LineRecord line = lineOf(row.values);
-            if (!row.isWhole)
+            if (row.isWhole)
+                m_read.record.lines.append(line);
+            else
                 note(QStringLiteral("position %1 is not as it was stored").arg(line.posnum));
-            m_read.record.lines.append(line);
         });
     }
 
@@ -222,18 +223,6 @@ std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &r
         take(record.pluginData[value.plugin], value.key, *decoded);
     }
     return record;
-}
-
-std::optional<ReceiptRecord> readLines(Database &database, qint64 id)
-{
-    const auto read = readRows(database, id);
-    if (!read)
-        return std::nullopt;
-    if (!read->fault.isEmpty()) {
-        failFor(database, id, read->fault);
-        return std::nullopt;
-    }
-    return read->record;
 }
 
 std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database)

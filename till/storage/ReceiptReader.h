@@ -14,7 +14,7 @@ class Database;
 //! A receipt as its rows have it, and whether they hold.
 struct ReadReceipt
 {
-    ReceiptRecord record; //!< without the plugin data
+    ReceiptRecord record; //!< without the plugin data, and the lines that do not hold
     bool isHeaderWhole = false;
 
     // As its header has them.
@@ -52,8 +52,6 @@ std::optional<ReadReceipt> readRows(Database &database, qint64 id);
 std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id);
 //! The receipt that was read, with its plugin data.
 std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read);
-//! The receipt without its plugin data, which need not hold.
-std::optional<ReceiptRecord> readLines(Database &database, qint64 id);
 
 /*!
  * The newest receipt that was neither closed nor cancelled, nor set apart; it must hold. So must

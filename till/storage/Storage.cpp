@@ -79,13 +79,14 @@ Result<std::optional<ReceiptRecord>> Storage::receipt(qint64 id) const
     return unlessFailed(*m_database, readReceipt(*m_database, id));
 }
 
-Result<std::optional<ReceiptRecord>> Storage::lines(qint64 id) const
+QList<LineRecord> Storage::lines(qint64 id) const
 {
     m_database->forgetFault();
-    return unlessFailed(*m_database, readLines(*m_database, id));
+    const auto read = readRows(*m_database, id);
+    return read ? read->record.lines : QList<LineRecord>();
 }
 
-Result<> Storage::setApart(qint64 id)
+Result<QString> Storage::setApart(qint64 id)
 {
     m_database->forgetFault();
     const QString reason = reasonToSetApart(*m_database, id);
@@ -97,7 +98,7 @@ Result<> Storage::setApart(qint64 id)
             {id, QDateTime::currentMSecsSinceEpoch(), reason})
         && m_database->commit();
     if (done)
-        return {};
+        return reason;
     m_database->rollBack();
     return m_database->fault();
 }

@@ -73,12 +73,14 @@ public:
     //! The receipt with that number; nothing when there is none.
     Result<std::optional<ReceiptRecord>> receipt(qint64 id) const;
 
-    //! The same without the plugin data, which then need not hold.
-    Result<std::optional<ReceiptRecord>> lines(qint64 id) const;
+    //! Those lines of the receipt that hold, whatever else of it does not; none of one that cannot
+    //! be read.
+    QList<LineRecord> lines(qint64 id) const;
 
-    //! Sets the receipt apart: it stays as it is, and is never taken up again. A fault of an
-    //! unknown number and of a finished receipt that holds.
-    Result<> setApart(qint64 id);
+    //! Sets the receipt apart: it stays as it is, and is never taken up again. Returns the reason,
+    //! what does not hold or that it is unfinished. A fault of an unknown number and of a finished
+    //! receipt that holds.
+    Result<QString> setApart(qint64 id);
 
     //! What was done to that receipt, oldest first; empty for an unknown number.
     QList<JournalEntry> journal(qint64 receiptId) const;

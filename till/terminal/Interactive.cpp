@@ -41,7 +41,7 @@ public:
         while (!m_commands.hasQuit()) {
             const std::optional<TypedLine> line = readTyped(say(told("till", "till> ")));
             if (!line || isLeaving(line->end))
-                return m_show(say(told("till", "The open receipt is kept.")));
+                return leave();
             if (line->end == TypedLine::Entered)
                 runTyped(line->text);
         }
@@ -81,6 +81,12 @@ private:
         if (m_hasDroppedNone && !isSecond)
             m_show(say(told("till", "Ctrl-C once more leaves the till")));
         return isSecond;
+    }
+
+    void leave()
+    {
+        if (m_commands.hasOpenReceipt())
+            m_show(say(told("till", "The open receipt is kept.")));
     }
 
     void runTyped(const QString &line)

@@ -210,6 +210,20 @@ TEST_F(FullDevice, LimitOfFileSize_FailsInsteadOfKilling)
     EXPECT_EQ(process.exitCode(), 3);
 }
 
+TEST_F(FullDevice, TraceThatTakesAPartOfALine_TellsWhy)
+{
+    QProcess process;
+    process.setChildProcessModifier([] {
+        const rlimit little{100, 100};
+        setrlimit(RLIMIT_FSIZE, &little);
+    });
+    start(process, {"--trace", path("t"), "--db", ":memory:"});
+    process.closeWriteChannel();
+    ASSERT_TRUE(process.waitForFinished(patience));
+    EXPECT_EQ(process.exitCode(), 3);
+    EXPECT_THAT(process.readAllStandardError().toStdString(), HasSubstr("/t: File too large\n"));
+}
+
 TEST_F(FullDevice, ReaderOfTheTraceThatGoes_DoesNotStopTheTill)
 {
     const QString pipe = path("pipe");

@@ -31,6 +31,8 @@ public:
     std::string enter(const std::string &line);
     //! Waits for the program's end; its exit status, or -1 for another end.
     int end();
+    //! What came after what was read last, up to the program's end.
+    const std::string &rest() const { return m_unread; }
 
     static constexpr const char *prompt = "касса> ";
 

@@ -46,6 +46,17 @@ TEST_F(OnTerminal, EndOfInput_Leaves)
     EXPECT_EQ(terminal->end(), 0);
 }
 
+TEST_F(OnTerminal, EndOfInput_TellsThatTheReceiptIsKeptWhereOneIsOpen)
+{
+    for (const auto &[command, isOpen] : {std::pair("say", false), {"open", true}}) {
+        enter(command);
+        terminal->type("\x04");
+        EXPECT_EQ(terminal->end(), 0);
+        EXPECT_EQ(terminal->rest().find("Открытый чек сохранён") != std::string::npos, isOpen);
+        switchOn();
+    }
+}
+
 TEST_F(OnTerminal, Receipt_IsShownAfterEachChangeOnly)
 {
     EXPECT_THAT(enter("open"), HasSubstr("ИТОГО"));

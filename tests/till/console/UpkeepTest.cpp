@@ -2,11 +2,15 @@
 
 #include <QtCore/QFile>
 
+#include <unistd.h>
+
 // What the program does with its database beside selling.
 
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
 
 class Upkeep : public ProgramTest
 {
@@ -67,6 +71,55 @@ TEST_F(Upkeep, LinesOfAReceiptWhosePluginDataAreDamaged_AreShownWhenItIsSetApart
     EXPECT_EQ(apart.status, 0);
     EXPECT_THAT(apart.out, HasSubstr("CAN3"));
     EXPECT_THAT(apart.out, HasSubstr("280.00"));
+}
+
+TEST_F(Upkeep, LinesThatHold_AreShownBesideOneThatDoesNot)
+{
+    sell();
+    query("UPDATE positions SET price = -100 WHERE receipt = 2 AND place = 0");
+    const RunResult apart = run({"--db", database(), "set-apart", "2"});
+    EXPECT_EQ(apart.status, 0);
+    EXPECT_THAT(apart.out, StartsWith("receipt 2 is set apart (position 1 is not as it was stored) "
+                                      "and stays as it is\n"));
+    EXPECT_THAT(apart.out, HasSubstr("BEER"));
+    EXPECT_THAT(apart.out, Not(HasSubstr("CAN3")));
+}
+
+TEST_F(Upkeep, ReceiptOfWhichNothingHolds_IsSetApartWithoutLines)
+{
+    sell();
+    query("UPDATE positions SET price = -100 WHERE receipt = 2");
+    EXPECT_THAT(run({"--db", database(), "set-apart", "2"}).out,
+                HasSubstr("none of its lines can be read\n"));
+}
+
+TEST_F(Upkeep, SetApartInADatabaseThatIsNotThere_MakesNone)
+{
+    const RunResult apart = run({"--db", database(), "set-apart", "2"});
+    EXPECT_EQ(apart.status, 3);
+    EXPECT_THAT(apart.err, HasSubstr("there is no such file"));
+    EXPECT_FALSE(QFile::exists(database()));
+}
+
+TEST_F(Upkeep, SetApartInADatabaseOfTheFormatBefore_TellsThatItIsTakenOver)
+{
+    ASSERT_TRUE(QFile::copy(QStringLiteral(SCHEMA1_DATABASE), database()));
+    QFile::setPermissions(database(), QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_THAT(run({"--db", database(), "--lang", "en", "set-apart", "3"}).out,
+                HasSubstr(database().toStdString() + ".schema1\n"));
+}
+
+TEST_F(Upkeep, DatabaseWithASecondName_IsOpenedUnderNeither)
+{
+    sell();
+    const QString other = path("other.sqlite");
+    ASSERT_EQ(link(QFile::encodeName(database()), QFile::encodeName(other)), 0);
+    for (const QString &name : {database(), other}) {
+        const RunResult refused = run({"--db", name}, "show\n");
+        EXPECT_EQ(refused.status, 3);
+        EXPECT_THAT(refused.err, HasSubstr("has another name too (a hard link)"));
+    }
+    EXPECT_EQ(check().status, 0);
 }
 
 TEST_F(Upkeep, SetApartOfWhatIsNoReceiptToSetApart_IsRefused)

@@ -119,7 +119,7 @@ TEST_F(StorageUpgrade, DamagedPluginData_StayDamaged)
     EXPECT_THAT(faultText(storage->unfinishedReceipt()).toStdString(),
                 HasSubstr("receipt 3: the data of plugin \"PackagingControl\" "
                           "under \"taraInfo\" are damaged"));
-    EXPECT_EQ(must(storage->lines(3))->lines.size(), 4);
+    EXPECT_EQ(storage->lines(3).size(), 4);
 }
 
 //! What no till can have stored, which the first format took.
