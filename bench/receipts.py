@@ -1,7 +1,8 @@
-"""Plays long receipts with the till at the path given, and prints what they cost as JSON.
+"""Plays receipts with the till at the path given, and prints what they cost as JSON.
 
-Each way of playing one is repeated, in turn with the others, and its processor time is listed in
-seconds; of a trace, its size in bytes.
+Each way of playing a long one is repeated, in turn with the others, and its processor time is listed in
+seconds; of a trace, its size in bytes. Of a folder of short ones it is the time that passes, by the number
+of jobs.
 """
 
 import json
@@ -9,8 +10,10 @@ import os
 import subprocess
 import sys
 import tempfile
+import time
 
 REPETITIONS = 5
+SCRIPTS = 500
 
 
 def script(positions):
@@ -30,6 +33,23 @@ def cpu(command, path, piped):
     return usage.ru_utime + usage.ru_stime
 
 
+def write_scripts(folder):
+    """Receipts as a suite has them: a few positions, each of which is looked at."""
+    text = "open\nadd PET15\nadd PET1\nadd BEER 2\nexpect tara 2 free 0.5\nexpect goods 3 in 1 1.5\n" \
+           "expect refused qty 2 2\nanswer yes\nstorno 1\nexpect position 3 quantity 0.5\n" \
+           "expect records 1 1\nexpect total 79\npay 100\nexpect state closed\n"
+    os.mkdir(folder)
+    for number in range(SCRIPTS):
+        with open(os.path.join(folder, f"{number}.till"), "w", encoding="utf-8") as file:
+            file.write(text)
+
+
+def wall(command):
+    begin = time.monotonic()
+    subprocess.run(command, stdout=subprocess.DEVNULL, check=True)
+    return time.monotonic() - begin
+
+
 def main():
     till = [sys.argv[1], "--db", ":memory:", "--quiet"]
     with tempfile.TemporaryDirectory() as folder:
@@ -45,6 +65,12 @@ def main():
                     runs.setdefault(f"{name}/{positions}", []).append(
                         cpu(till + options, paths[positions], piped=False))
             runs.setdefault("piped/1000", []).append(cpu(till, paths[1000], piped=True))
+        scripts = os.path.join(folder, "scripts")
+        write_scripts(scripts)
+        for _ in range(REPETITIONS):
+            for jobs in (1, 2):
+                runs.setdefault(f"jobs/{jobs}", []).append(
+                    wall([sys.argv[1], "--quiet", "--jobs", str(jobs), "play", scripts]))
         trace = os.path.join(folder, "trace")
         cpu([*till, "--trace", trace], paths[400], piped=False)
         runs["trace"] = os.path.getsize(trace)

@@ -137,6 +137,15 @@ class Table:
             f"≤ {target:.2f} CPU", "", "", f"{time(first.median)} / {time(second.median)}", "",
             f"{first.spread:.0%} / {second.spread:.0%}"))
 
+    def add_speed_up(self, title, before, after, target):
+        """How many times as fast a program is; both are times that passed."""
+        first, second = Side(0, 0, before), Side(0, 0, after)
+        figure = first.median / second.median
+        self.lines.append(row(
+            title, f"{figure:.2f}" + ("" if figure >= target else " **missed**"),
+            f"≥ {target:.2f} wall", "", "", f"{time(first.median)} / {time(second.median)}",
+            f"{figure:.2f}", f"{first.spread:.0%} / {second.spread:.0%}"))
+
     def add_bytes(self, title, size, target):
         self.lines.append(row(title, f"{size / 1e6:.2f} MB"
                               + ("" if size <= target else " **missed**"),
@@ -197,6 +206,8 @@ def make_table(sides, receipts):
                        receipts[f"plugin/{n}"], receipts[f"alone/{n}"], target)
     table.add_runs("receipt of 1,000 positions from a pipe, over the same played",
                    receipts["piped/1000"], receipts["plugin/1000"], 1.2)
+    table.add_speed_up("500 scripts with one job, over the same with two", receipts["jobs/1"],
+                       receipts["jobs/2"], 1.7)
     table.add_bytes("trace of a receipt of 400 positions", receipts["trace"], 7.3e6 / 3)
     return "\n".join(table.lines)
 

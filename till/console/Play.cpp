@@ -4,6 +4,7 @@
 
 #include "till/console/Teller.h"
 #include "till/runner/PlayApart.h"
+#include "till/storage/Storage.h"
 #include "till/terminal/Output.h"
 
 #include <QtCore/QElapsedTimer>
@@ -105,6 +106,9 @@ void playApart(Options options, Notes &notes, const Translator &translator, Tell
 {
     static const int columns = options.style.columns();
     options.style.columns = [] { return columns; };
+    // SQLite is loaded once for all of them; where it cannot be, each of them says so.
+    const bool isReady = Storage::open(":memory:").has_value();
+    Q_UNUSED(isReady)
     const Player player(options, notes, translator);
     Apart apart;
     apart.jobs = options.jobs > 0        ? options.jobs
