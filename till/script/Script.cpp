@@ -1,5 +1,7 @@
 #include "till/script/Script.h"
 
+#include "till/words/Words.h"
+
 #include <algorithm>
 
 namespace till {
@@ -25,7 +27,10 @@ ScriptFault faultOf(const ScriptLine &line, const Outcome &outcome, const QStrin
     ScriptFault fault{{line.place(), command + ": " + why}, command, "accepted", why};
     if (outcome.kind == Outcome::Unexpected) {
         const QStringList &values = outcome.reason.values; // what, expected, found
-        fault.expected = values.value(0) + ": " + values.value(1);
+        const QStringList words = splitWords(line.text).value_or(QStringList());
+        fault.expected = Expectations::isOfCommand(words.mid(1))
+                             ? values.value(1)
+                             : values.value(0) + ": " + values.value(1);
         fault.found = values.value(2);
     }
     return fault;

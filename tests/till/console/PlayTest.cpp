@@ -88,6 +88,14 @@ TEST_F(Play, ScriptsThatDoNotHold_AreInTheTable)
     EXPECT_THAT(failed.err, HasSubstr("total.till:2: expect total 1: total: expected 1.00"));
 }
 
+TEST_F(Play, EndThatWasNotExpected_IsInTheTable)
+{
+    const RunResult failed = played({script("s.till", "open\nexpect refused add CHIPS\n")});
+    EXPECT_THAT(failed.out, HasSubstr("command   expect refused add CHIPS\n"
+                                      "expected  refused\n"
+                                      "found     accepted\n"));
+}
+
 TEST_F(Play, FailedScriptAlone_EndsWith1)
 {
     EXPECT_EQ(played({script("bad.till", bad), script("good.till", good)}).status, 1);
