@@ -80,29 +80,29 @@ private:
         const QString code = text(Code);
         if (code.isEmpty())
             refuseColumn(Code, QStringLiteral("an article needs a code"));
+        checkPrintable(Code, code);
         if (std::any_of(code.cbegin(), code.cend(), [](QChar c) { return c.isSpace(); }))
             refuseText(Code, QStringLiteral("has a space in it"));
-        checkPrintable(Code, code);
         return code;
     }
 
     QString name() const
     {
-        const QString name = text(Name).simplified();
+        const QString name = text(Name);
         if (name.isEmpty())
             refuseColumn(Name, QStringLiteral("an article needs a name"));
         checkPrintable(Name, name);
-        return name;
+        return name.simplified();
     }
 
     QString unit() const
     {
-        const QString unit = text(Unit).simplified();
+        const QString unit = text(Unit);
         checkPrintable(Unit, unit);
-        return unit;
+        return unit.simplified();
     }
 
-    //! What steers terminals and printers is not for people to read.
+    //! What steers terminals and printers is not for people to read: line breaks and tabs neither.
     void checkPrintable(Column column, const QString &value) const
     {
         const auto control = std::find_if(value.cbegin(), value.cend(), [](QChar sign) {
@@ -119,7 +119,8 @@ private:
             refuseColumn(Price, QStringLiteral("an article needs a price"));
         const auto price = parseMoney(text(Price));
         if (!price)
-            refuseText(Price, QStringLiteral("is not an amount of 0 or more, such as 12.50"));
+            refuseText(Price,
+                       "is not an amount from 0 to " + toText(greatestAmount) + ", such as 12.50");
         return *price;
     }
 
@@ -159,8 +160,8 @@ private:
             return whenEmpty;
         const auto number = parseQuantity(text(column));
         if (!number || *number < 0.0)
-            refuseText(column, QStringLiteral("is not a number of 0 or more with at most three "
-                                              "decimals, such as 1.5"));
+            refuseText(column, "is not a number from 0 to " + toText(greatestQuantity)
+                                   + " with at most three decimals, such as 1.5");
         return *number;
     }
 

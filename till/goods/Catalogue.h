@@ -27,14 +27,15 @@ public:
      * | column | also | what |
      * |---|---|---|
      * | code | код | not empty, without spaces, in one row only |
-     * | name | наименование, название | not empty; line breaks and runs of spaces become a space |
-     * | price | цена | roubles of one piece, 0 or more, "12.5" or "12,50" |
+     * | name | наименование, название | not empty; runs of spaces become a space |
+     * | price | цена | roubles of one piece, up to `greatestAmount`, "12.5" or "12,50" |
      * | tara mode | режим тары | 0 ordinary goods, 1 tara, 2 goods sold into tara; empty is 0 |
      * | tara capacity | ёмкость тары | base units in one tara, above 0; 0 or empty for all else |
      * | pack | упаковка | base units in one piece, above 0; empty is 1 |
      * | unit | единица | name of the base unit; may be empty |
      *
-     * Letter case in these names, "_" for a space and "е" for "ё" make no difference.
+     * A control character, line breaks and tabs among them, is refused within a code, a name and a
+     * unit. Letter case in these names, "_" for a space and "е" for "ё" make no difference.
      */
     static Result<Catalogue> load(const QString &path);
 

@@ -10,6 +10,11 @@ namespace till {
 //! An amount of money in whole kopecks.
 using Kopecks = qint64;
 
+//! The greatest amount that can be written.
+constexpr Kopecks greatestAmount = 99'999'999'999'999;
+//! The greatest quantity that can be written.
+constexpr double greatestQuantity = 999'999'999.999;
+
 //! Price of \a quantity pieces at \a price each, rounded once to the nearest kopeck, halves away
 //! from 0. A quantity of three decimals is taken for exactly that, however it was computed.
 Kopecks sumOf(Kopecks price, double quantity);
@@ -17,7 +22,8 @@ Kopecks sumOf(Kopecks price, double quantity);
 //! \a amount in roubles with two decimals and a point: 123450 is "1234.50".
 QString toText(Kopecks amount);
 
-//! Reads roubles, "12", "12.5", "12,50"; nothing for other texts or more than two decimals.
+//! Reads roubles, "12", "12.5", "12,50"; nothing for other texts, more than two decimals, or
+//! more than `greatestAmount`.
 std::optional<Kopecks> parseMoney(const QString &text);
 
 //! \a quantity with at most three decimals, a point and no trailing zeros: "1.5".
@@ -25,7 +31,7 @@ QString toText(double quantity);
 
 /*!
  * Reads a number with at most three decimals, written with a point or a comma; nothing for other
- * texts, also not for "1e3", "inf" or " 1". The magnitude is below a thousand million.
+ * texts, also not for "1e3", "inf" or " 1". The magnitude is at most `greatestQuantity`.
  */
 std::optional<double> parseQuantity(const QString &text);
 

@@ -304,6 +304,10 @@
         <translation>нет настройки &quot;%1&quot;</translation>
     </message>
     <message>
+        <source>no section [%1]; there is [%2]</source>
+        <translation>нет раздела [%1]; есть [%2]</translation>
+    </message>
+    <message>
         <source>no setting &quot;%1&quot;; did you mean &apos;%2&apos;?</source>
         <translation>нет настройки &quot;%1&quot;; может быть, %2?</translation>
     </message>

@@ -8,7 +8,7 @@ namespace till {
 //! The greatest count of pieces in a position. What is above is a slip of the finger.
 constexpr double greatestCount = 999'999.999;
 //! The greatest sum of a receipt: what a cashier can type, far from where sums would overflow.
-constexpr Kopecks greatestSum = 99'999'999'999'999;
+constexpr Kopecks greatestSum = greatestAmount;
 
 //! Whether \a count pieces can stand in one position. What is not a number cannot.
 bool isCount(double count);

@@ -34,6 +34,19 @@ QString unquoted(const QString &value)
     return isQuoted ? value.mid(1, value.size() - 2).trimmed() : value;
 }
 
+//! What is wrong with a heading that says \a section: no known setting stands below it.
+std::optional<Message> sectionFault(const QString &section)
+{
+    QStringList known = knownSettings();
+    for (QString &setting : known)
+        setting = setting.section(':', 0, 0);
+    known.removeDuplicates();
+    if (known.contains(section))
+        return std::nullopt;
+    return told("till", "no section [%1]; there is [%2]")
+        .with({brief(section), known.join("], [")});
+}
+
 using Settings = QList<std::pair<QString, QString>>;
 
 //! Reads one line, under the heading of \a section; what is wrong with it.
@@ -45,7 +58,7 @@ std::optional<Message> readLine(const QString &line, QString &section, Settings 
         if (!line.endsWith(']'))
             return told("till", "a section is not closed with \"]\"");
         section = line.mid(1, line.size() - 2).trimmed();
-        return std::nullopt;
+        return sectionFault(section);
     }
     const qsizetype equals = line.indexOf('=');
     if (equals <= 0)

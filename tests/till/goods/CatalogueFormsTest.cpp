@@ -149,9 +149,9 @@ TEST_F(CatalogueName, InQuotes_MayHoldDoubledQuotes)
     EXPECT_EQ(nameOf("\"Сыр \"\"Дачный\"\"\""), "Сыр \"Дачный\"");
 }
 
-TEST_F(CatalogueName, InQuotes_MayHoldLineBreaksWhichBecomeSpaces)
+TEST_F(CatalogueName, InQuotes_MayStandBetweenLineBreaks)
 {
-    EXPECT_EQ(nameOf("\"Сыр\r\nтвёрдый\n45%\""), "Сыр твёрдый 45%");
+    EXPECT_EQ(nameOf("\"\r\nСыр\n\""), "Сыр");
 }
 
 TEST_F(CatalogueName, WithRunsOfSpaces_HasSingleSpaces)

@@ -77,6 +77,11 @@ TEST_F(CatalogueContents, PriceOfZero_IsTaken)
     EXPECT_EQ(article("A,Gift,0,0,,1,pc"), (ArticleData{"A", "Gift", 0, 0, 0.0, 1.0, "pc"}));
 }
 
+TEST_F(CatalogueContents, GreatestPrice_IsTaken)
+{
+    EXPECT_EQ(article("A,Yacht,999999999999.99,0,0,1,pc").price, till::greatestAmount);
+}
+
 TEST_F(CatalogueContents, EmptyUnit_IsTaken)
 {
     EXPECT_EQ(article("A,Chips,1,0,,1,"), (ArticleData{"A", "Chips", 100, 0, 0.0, 1.0, ""}));
@@ -99,6 +104,20 @@ void PrintTo(const Refused &refused, std::ostream *out)
     *out << refused.what;
 }
 
+//! What is said of a \a text in the column \a name.
+QString notAnAmount(const QString &place, const QString &name, const QString &text)
+{
+    return QString("%1 \"%2\": \"%3\" is not an amount from 0 to 999999999999.99, such as 12.50")
+        .arg(place, name, text);
+}
+
+QString notANumber(const QString &place, const QString &name, const QString &text)
+{
+    return QString("%1 \"%2\": \"%3\" is not a number from 0 to 999999999.999 with at most three "
+                   "decimals, such as 1.5")
+        .arg(place, name, text);
+}
+
 class CatalogueRefusal : public testing::TestWithParam<Refused>
 {
 protected:
@@ -119,6 +138,12 @@ INSTANTIATE_TEST_SUITE_P(
                 R"(FILE:2: column 1 "code": "A B" has a space in it)"},
         Refused{"unbreakable space in code", Head + "A\u00A0B,Chips,1,0,0,1,pc",
                 "FILE:2: column 1 \"code\": \"A\u00A0B\" has a space in it"},
+        Refused{"tab in code", Head + "\"A\tB\",Chips,1,0,0,1,pc",
+                R"(FILE:2: column 1 "code": has the control character U+0009 in it)"},
+        Refused{"line break in name", Head + "A,\"Big\nchips\",1,0,0,1,pc",
+                R"(FILE:2: column 2 "name": has the control character U+000a in it)"},
+        Refused{"line break of Windows in unit", Head + "A,Chips,1,0,0,1,\"p\r\nc\"",
+                R"(FILE:2: column 7 "unit": has the control character U+000d in it)"},
         Refused{"same code twice", Head + "A,Chips,1,0,0,1,pc\nB,Bag,1,0,0,1,pc\n\nA,Fish,1,0,0,1,",
                 R"(FILE:5: column 1 "code": "A" is the code of line 2 already)"},
         Refused{"empty name", Head + "A,\" \n\",1,0,0,1,pc",
@@ -126,21 +151,22 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"empty price", Head + "A,Chips,,0,0,1,pc",
                 R"(FILE:2: column 3 "price": an article needs a price)"},
         Refused{"price in words", Head + "A,Chips,much,0,0,1,pc",
-                R"(FILE:2: column 3 "price": "much" is not an amount of 0 or more, such as 12.50)"},
+                notAnAmount("FILE:2: column 3", "price", "much")},
         Refused{"negative price", Head + "A,Chips,-1,0,0,1,pc",
-                R"(FILE:2: column 3 "price": "-1" is not an amount of 0 or more, such as 12.50)"},
-        Refused{
-            "price with parts of a kopeck", Head + "A,Chips,1.005,0,0,1,pc",
-            R"(FILE:2: column 3 "price": "1.005" is not an amount of 0 or more, such as 12.50)"},
+                notAnAmount("FILE:2: column 3", "price", "-1")},
+        Refused{"price with parts of a kopeck", Head + "A,Chips,1.005,0,0,1,pc",
+                notAnAmount("FILE:2: column 3", "price", "1.005")},
+        Refused{"price above the limit", Head + "A,Chips,1000000000000,0,0,1,pc",
+                notAnAmount("FILE:2: column 3", "price", "1000000000000")},
+        Refused{"pack above the limit", Head + "A,Chips,1,0,0,1000000000,pc",
+                notANumber("FILE:2: column 6", "pack", "1000000000")},
         Refused{"unknown tara mode", Head + "A,Chips,1,3,0,1,pc",
                 "FILE:2: column 4 \"tara mode\": \"3\" is none of 0 (ordinary goods), 1 (tara) "
                 "and 2 (goods sold into tara)"},
         Refused{"capacity in words", Head + "A,Bottle,1,1,big,1,pc",
-                "FILE:2: column 5 \"tara capacity\": \"big\" is not a number of 0 or more with at "
-                "most three decimals, such as 1.5"},
+                notANumber("FILE:2: column 5", "tara capacity", "big")},
         Refused{"negative capacity", Head + "A,Bottle,1,1,-1,1,pc",
-                "FILE:2: column 5 \"tara capacity\": \"-1\" is not a number of 0 or more with at "
-                "most three decimals, such as 1.5"},
+                notANumber("FILE:2: column 5", "tara capacity", "-1")},
         Refused{"tara with capacity 0", Head + "A,Bottle,1,1,0,1,pc",
                 R"(FILE:2: column 5 "tara capacity": a tara needs a capacity above 0)"},
         Refused{"tara without capacity", Head + "A,Bottle,1,1,,1,pc",
@@ -152,13 +178,11 @@ INSTANTIATE_TEST_SUITE_P(
                 "FILE:2: column 5 \"tara capacity\": \"0.5\" is for a tara, which has the tara "
                 "mode 1"},
         Refused{"pack in words", Head + "A,Chips,1,0,0,dozen,pc",
-                "FILE:2: column 6 \"pack\": \"dozen\" is not a number of 0 or more with at most "
-                "three decimals, such as 1.5"},
+                notANumber("FILE:2: column 6", "pack", "dozen")},
         Refused{"pack of 0", Head + "A,Chips,1,0,0,0,pc",
                 R"(FILE:2: column 6 "pack": "0" is not above 0)"},
         Refused{"negative pack", Head + "A,Chips,1,0,0,-2,pc",
-                "FILE:2: column 6 \"pack\": \"-2\" is not a number of 0 or more with at most three "
-                "decimals, such as 1.5"}));
+                notANumber("FILE:2: column 6", "pack", "-2")}));
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, CatalogueRefusal,
@@ -183,21 +207,23 @@ INSTANTIATE_TEST_SUITE_P(
                 "FILE:2: column 2 \"name\": a quote stands alone: put the field in quotes and "
                 "double those within"},
         Refused{"row behind quoted line breaks",
-                Head + "A,\"Chips\n\nbig\",1,0,0,1,\"p\r\nc\"\r\n\r\nB,Fish,no,0,0,1,pc",
-                R"(FILE:7: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
+                "note," + Head
+                    + "\"Big\n\none\r\ncrisp\",A,Chips,1,0,0,1,pc\r\n\r\n,B,Fish,no,0,0,1,pc",
+                notAnAmount("FILE:7: column 4", "price", "no")},
         Refused{"row with quoted line breaks before the bad field",
-                Head + "\n\"A\n\",\"Chips\n\nbig\",no,0,0,1,pc",
-                R"(FILE:3: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
-        Refused{"row behind line ends of CR",
-                QByteArray(Head + "\"A\",\"Chips\nbig\",1,0,0,1,pc\n\nB,Fish,no,0,0,1,pc")
-                    .replace('\n', '\r'),
-                R"(FILE:5: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
+                "note," + Head + "\n\"Big\n\none\",\"A\n\",Chips,no,0,0,1,pc",
+                notAnAmount("FILE:3: column 4", "price", "no")},
+        Refused{
+            "row behind line ends of CR",
+            QByteArray("note," + Head + "\"Big\none\",A,Chips,1,0,0,1,pc\n\n,B,Fish,no,0,0,1,pc")
+                .replace('\n', '\r'),
+            notAnAmount("FILE:5: column 4", "price", "no")},
         Refused{"two bad rows, the second with a stray quote",
                 Head + "A,Chips,no,0,0,1,pc\nB,Fi\"sh,1,0,0,1,pc",
-                R"(FILE:2: column 3 "price": "no" is not an amount of 0 or more, such as 12.50)"},
+                notAnAmount("FILE:2: column 3", "price", "no")},
         Refused{"Russian column in another place",
                 "прим.;единица;код;название;цена;режим тары;ёмкость тары;упаковка\n;;A;Ч;x;;;",
-                R"(FILE:2: column 5 "цена": "x" is not an amount of 0 or more, such as 12.50)"}));
+                notAnAmount("FILE:2: column 5", "цена", "x")}));
 
 INSTANTIATE_TEST_SUITE_P(
     Headers, CatalogueRefusal,

@@ -40,12 +40,20 @@ TEST_F(SettingsFile, ByteOrderMarkAndComments_MeanNothing)
     EXPECT_FALSE(config.getBool(key, true));
 }
 
-TEST_F(SettingsFile, KeyUnderAnotherSection_BringsTheOneThatIsMeant)
+TEST_F(SettingsFile, UnknownSection_IsNamedWithItsLineAlsoWhenEmpty)
 {
-    write("[Goods]\nallowSaleEmptyTara=false\n");
+    for (const QByteArray file : {"[Goods]", "[Goods]\nallowSaleEmptyTara=false\n",
+                                  "[Goods]\n[PackagingControl]\nallowSaleEmptyTara=false\n"}) {
+        write(file);
+        EXPECT_EQ(read(), path + ":1: no section [Goods]; there is [PackagingControl]");
+        EXPECT_TRUE(config.getBool(key, true));
+    }
+    write("[PackagingControl]\n[]\n");
+    EXPECT_EQ(read(), path + ":2: no section []; there is [PackagingControl]");
+}
 
-    EXPECT_EQ(read(),
-              path + ":2: no setting \"Goods:allowSaleEmptyTara\"; did you mean '" + key + "'?");
+TEST_F(SettingsFile, KeyWithoutItsSection_BringsTheOneThatIsMeant)
+{
     EXPECT_EQ(till::settingFault("allowSaleEmptyTara", "false")->values.value(1), key);
     EXPECT_EQ(till::settingFault("colour", "false")->values.size(), 1);
 }
@@ -57,8 +65,8 @@ TEST_F(SettingsFile, UnknownKey_IsNamedWithItsLineAndTheNearestOne)
                           + ":3: no setting \"PackagingControl:allowSaleEmtyTara\"; did you mean "
                             "'PackagingControl:allowSaleEmptyTara'?");
     EXPECT_TRUE(config.getBool(key, true));
-    write("[Other]\nthing=no\n");
-    EXPECT_EQ(read(), path + ":2: no setting \"Other:thing\"");
+    write("[PackagingControl]\nthing=no\n");
+    EXPECT_EQ(read(), path + ":2: no setting \"PackagingControl:thing\"");
 }
 
 TEST_F(SettingsFile, EmptyFile_HoldsNothing)
