@@ -3,6 +3,7 @@
 #include <QtCore/QList>
 
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
 
 namespace till {
@@ -32,7 +33,7 @@ QString nearest(const QString &word, const QStringList &known)
     QString found;
     qsizetype least = std::max<qsizetype>(word.size() / 3, 1) + 1;
     for (const QString &candidate : known) {
-        if (candidate.size() > word.size() + least)
+        if (std::abs(candidate.size() - word.size()) >= least)
             continue;
         const qsizetype wrong = distance(word.toLower(), candidate.toLower());
         if (wrong < least) {

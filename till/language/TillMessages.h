@@ -23,6 +23,7 @@
     MESSAGE(tillReceiptIsOpen, "Чек уже открыт: оплатите или отмените его")                        \
     MESSAGE(tillNoReceipt, "Нет открытого чека")                                                   \
     MESSAGE(tillNoArticle, "В каталоге нет товара \"%1\"")                                         \
+    MESSAGE(tillNoArticleButNear, "В каталоге нет товара \"%1\"; может быть, %2?")                 \
     MESSAGE(tillNoPosition, "В чеке нет позиции %1")                                               \
     MESSAGE(tillPositionStornoed, "Позиция %1 сторнирована")                                       \
     MESSAGE(tillCountTooSmall, "Количество должно быть больше 0")                                  \

@@ -76,6 +76,10 @@ Storno the tara and go on to payment?</translation>
         <translation>no article &quot;%1&quot; in the catalogue</translation>
     </message>
     <message>
+        <source>tillNoArticleButNear</source>
+        <translation>no article &quot;%1&quot; in the catalogue; did you mean &apos;%2&apos;?</translation>
+    </message>
+    <message>
         <source>tillNoPosition</source>
         <translation>the receipt has no position %1</translation>
     </message>

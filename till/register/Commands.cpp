@@ -5,6 +5,7 @@
 
 #include "host/ActionArguments.h"
 #include "host/Quantity.h"
+#include "till/language/Nearest.h"
 #include "till/language/TillMessages.h"
 #include "till/receipt/Limits.h"
 
@@ -28,6 +29,18 @@ QVariantList toVariants(const QList<Value> &values)
     for (const Value &value : values)
         list.append(value);
     return list;
+}
+
+//! Of a code that no article has.
+Outcome noArticle(const QString &code, const Catalogue &catalogue)
+{
+    QStringList codes;
+    const auto articles = catalogue.articles();
+    for (const auto &article : articles)
+        codes.append(article->data.code);
+    const QString meant = nearest(code, codes);
+    return meant.isEmpty() ? Outcome::mistake(messages::tillNoArticle(), {code})
+                           : Outcome::mistake(messages::tillNoArticleButNear(), {code, meant});
 }
 
 //! Of a command that would leave \a count in a position, and so exceed a limit.
@@ -54,7 +67,7 @@ Outcome Register::execute(const command::Add &add)
         return Outcome::mistake(messages::tillNoReceipt());
     const auto article = m_catalogue.find(add.article);
     if (!article)
-        return Outcome::mistake(messages::tillNoArticle(), {add.article});
+        return noArticle(add.article, m_catalogue);
     if (add.count <= 0)
         return Outcome::mistake(messages::tillCountTooSmall());
     if (!m_receipt->hasPlaceFor(article->data, add.count))

@@ -25,7 +25,7 @@ TEST_F(Error, FromAPipe_HasItsLineAlsoUnderQuiet)
 {
     const QByteArray lines = "open\n\n# CHOPS\nadd CHOPS\nadd CHIPS\nqty 2 1\n";
     const std::string errors = "till: standard input:4: add CHOPS: no article \"CHOPS\" in the "
-                               "catalogue\n"
+                               "catalogue; did you mean 'CHIPS'?\n"
                                "till: standard input:6: qty 2 1: the receipt has no position 2\n";
     EXPECT_EQ(errorOf(lines), errors);
     EXPECT_EQ(errorOf(lines, {"--lang", "en", "--quiet"}), errors);

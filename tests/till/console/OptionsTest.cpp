@@ -86,8 +86,9 @@ TEST_F(Options, FailedScript_EndsWith1FileAndLine)
     const QString script = write("s.till", "open\nadd CHOPS\n");
     const RunResult failed = run({"play", script});
     EXPECT_EQ(failed.status, 1);
-    EXPECT_EQ(failed.err,
-              "till: " + script.toStdString() + ":2: add CHOPS: В каталоге нет товара \"CHOPS\"\n");
+    EXPECT_EQ(failed.err, "till: " + script.toStdString()
+                              + ":2: add CHOPS: В каталоге нет товара \"CHOPS\"; "
+                                "может быть, CHIPS?\n");
 }
 
 TEST_F(Options, Demo_PlaysEveryScriptOfTheShop)
@@ -154,7 +155,8 @@ TEST_F(Options, PipedRegister_CarriesOutItsInput)
     EXPECT_THAT(good.out, HasSubstr("129.90"));
     const RunResult bad = run({"--db", database()}, "add CHOPS\nadd BAG\nshow\n");
     EXPECT_EQ(bad.status, 1);
-    EXPECT_EQ(bad.err, "till: стандартный ввод:1: add CHOPS: В каталоге нет товара \"CHOPS\"\n");
+    EXPECT_EQ(bad.err, "till: стандартный ввод:1: add CHOPS: В каталоге нет товара \"CHOPS\"; "
+                       "может быть, CHIPS?\n");
     EXPECT_THAT(bad.out, HasSubstr("164.90"));
 }
 

@@ -50,7 +50,7 @@ TEST_F(PlayReport, Junit_TellsOfEachScript)
                 HasSubstr("name=\"&lt;bad&gt; &amp; #1.till\" classname=\"" + at + "/a b\""));
     EXPECT_THAT(xml.toStdString(),
                 HasSubstr("#1.till:2: add CHOPS: no article &quot;CHOPS&quot; in the "
-                          "catalogue\" type=\"failed\">"));
+                          "catalogue; did you mean 'CHIPS'?\" type=\"failed\">"));
     EXPECT_THAT(xml.toStdString(),
                 HasSubstr("<system-out>&gt; open\n&gt; add CHOPS\n</system-out>"));
     EXPECT_THAT(xml.toStdString(), HasSubstr("bytes.till: not UTF-8 text\" type=\"wrong\">"));
@@ -131,7 +131,8 @@ TEST_F(PlayReport, Tap_TellsOfEachScriptAndNothingElse)
                             + "/a b/<bad> & #1.till:2\n"
                               "# command   add CHOPS\n"
                               "# expected  accepted\n"
-                              "# found     no article \"CHOPS\" in the catalogue\n"
+                              "# found     no article \"CHOPS\" in the catalogue; did you mean "
+                              "'CHIPS'?\n"
                               "not ok 3 - "
                             + at
                             + "/bytes.till\n"

@@ -46,7 +46,8 @@ TEST_F(Play, Dash_IsStandardInput)
     EXPECT_EQ(played({"-"}, good).out, "[1/1] -\n1 of 1 scripts held; expectations: 2\n");
     const RunResult failed = played({"-"}, bad);
     EXPECT_EQ(failed.status, 1);
-    EXPECT_EQ(failed.err, "till: -:2: add CHOPS: no article \"CHOPS\" in the catalogue\n");
+    EXPECT_EQ(failed.err, "till: -:2: add CHOPS: no article \"CHOPS\" in the catalogue; "
+                          "did you mean 'CHIPS'?\n");
 }
 
 TEST_F(Play, ScriptsThatDoNotHold_AreInTheTable)
@@ -65,7 +66,8 @@ TEST_F(Play, ScriptsThatDoNotHold_AreInTheTable)
                          + "bad.till:2\n"
                            "command   add CHOPS\n"
                            "expected  accepted\n"
-                           "found     no article \"CHOPS\" in the catalogue\n"
+                           "found     no article \"CHOPS\" in the catalogue; did you "
+                           "mean 'CHIPS'?\n"
                            "\n"
                            "failed    "
                          + at

@@ -77,7 +77,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Mistake{"Command", "ad CHIPS", "no command \"ad\"; did you mean 'add'?"},
         Mistake{"OpenQuote", "add \"CHIPS", "a quote is not closed"},
-        Mistake{"AddArticle", "add CHOPS", "no article \"CHOPS\" in the catalogue"},
+        Mistake{"AddArticle", "add SOAP", "no article \"SOAP\" in the catalogue"},
+        Mistake{"AddNearArticle", "add can3",
+                "no article \"can3\" in the catalogue; did you mean 'CAN3'?"},
         Mistake{"AddQuantity", "add CHIPS many", many.c_str()},
         Mistake{"AddFourDecimals", "add CHIPS 1.0005", fourDecimals.c_str()},
         Mistake{"AddTooManyWords", "add CHIPS 1 2", "usage: add ARTICLE [QUANTITY]"},

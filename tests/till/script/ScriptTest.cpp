@@ -37,7 +37,9 @@ TEST_F(ScriptRun, GoodScript_IsPlayedToItsEnd)
 TEST_F(ScriptRun, FirstFailure_StopsWithFileAndLine)
 {
     EXPECT_EQ(play("open\n\n# nothing\nadd CHOPS\nadd CHIPS\n"),
-              path() + ":4: add CHOPS: no article \"CHOPS\" in the catalogue");
+              path()
+                  + ":4: add CHOPS: no article \"CHOPS\" in the catalogue; "
+                    "did you mean 'CHIPS'?");
     expect({"positions 0"});
 }
 
@@ -114,7 +116,9 @@ TEST_F(ScriptRun, FaultInAnIncludedFile_HasItsNameAndLine)
     const QString common = directory.filePath("common.till");
     overwrite(common, "open\nadd CHOPS\n");
     EXPECT_EQ(play("include common.till\n"),
-              common + ":2: add CHOPS: no article \"CHOPS\" in the catalogue");
+              common
+                  + ":2: add CHOPS: no article \"CHOPS\" in the catalogue; "
+                    "did you mean 'CHIPS'?");
     EXPECT_EQ(noted("script", "file"), QVariantList({common, common}));
     overwrite(common, "answer yes");
     EXPECT_EQ(play("include common.till"),
