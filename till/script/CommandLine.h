@@ -82,6 +82,7 @@ private:
     Message whyDeclined() const;
     QStringList candidatesFor(const QStringList &words) const;
     QStringList secondWords(const QString &command) const;
+    QStringList expectedWords(const QStringList &words) const;
     QStringList articleCodes() const;
     QStringList positionNumbers() const;
 

@@ -1,7 +1,5 @@
 #include "till/script/Comparison.h"
 
-#include "till/words/Words.h"
-
 namespace till {
 
 Outcome differs(const QString &what, const QString &expected, const QString &found,
@@ -19,14 +17,12 @@ Outcome compare(const QString &what, const QString &expected, const QString &fou
 
 Outcome compareQuantity(const QString &what, const QString &expected, double found)
 {
-    const std::optional<double> number = parseQuantity(expected);
-    return number ? compare(what, toText(*number), toText(found)) : notANumber(expected);
+    return compare(what, toText(parseQuantity(expected).value_or(0.0)), toText(found));
 }
 
 Outcome compareMoney(const QString &what, const QString &expected, Kopecks found)
 {
-    const std::optional<Kopecks> money = parseMoney(expected);
-    return money ? compare(what, toText(*money), toText(found)) : notMoney(expected);
+    return compare(what, toText(parseMoney(expected).value_or(0)), toText(found));
 }
 
 bool isNone(const QStringList &words)

@@ -2,30 +2,14 @@
 
 #include "till/script/CommandLine.h"
 
-#include <algorithm>
-
 namespace till {
 
 namespace {
 
-using Candidates = QStringList;
-
-//! What can stand as the word \a place behind "expect WHAT".
-Candidates expectedWords(const QString &what, qsizetype place)
+QStringList without(QStringList candidates, const QStringList &words)
 {
-    if (place == 0 && what == "state")
-        return {"none", "open", "subtotal", "closed", "cancelled"};
-    if (place == 0 && what == "control")
-        return {"active", "suspended", "none"};
-    if (place == 0 && QStringList{"message", "question", "log"}.contains(what))
-        return {"none"};
-    if (place == 1 && what == "position")
-        return {"none", "stornoed", "live", "quantity", "base", "sum", "article"};
-    if (place == 1 && what == "tara")
-        return {"none", "capacity", "free"};
-    if (place == 1 && what == "goods")
-        return {"none", "in", "unplaced"};
-    return {};
+    candidates.removeIf([&words](const QString &candidate) { return words.contains(candidate); });
+    return candidates;
 }
 
 } // namespace
@@ -49,14 +33,11 @@ QStringList CommandLine::candidatesFor(const QStringList &words) const
     const QString second = words[1].toLower();
     const qsizetype place = words.size() - 1; // of the word that is typed
     if (command == "expect" && place > 1 && ends.contains(second))
-        return candidatesFor(words.mid(2));
-    if (command == "expect" && place > 1) {
-        const bool isPosition =
-            place == 2 && QStringList{"position", "tara", "goods"}.contains(second);
-        return isPosition ? positionNumbers() : expectedWords(second, place - 2);
-    }
+        return without(candidatesFor(words.mid(2)), {"expect"}); // which is no command to expect
+    if (command == "expect" && place > 1)
+        return expectedWords(words.mid(1, place - 1));
     if (command == "unite")
-        return positionNumbers();
+        return without(positionNumbers(), words.mid(1, place - 1));
     if (command == "answer")
         return {"yes", "no"};
     if (command == "set" && place == 2)
@@ -78,6 +59,20 @@ QStringList CommandLine::secondWords(const QString &command) const
         return Expectations::names();
     return QStringList{"qty", "storno", "split"}.contains(command) ? positionNumbers()
                                                                    : QStringList();
+}
+
+//! What can stand behind "expect" and \a words.
+QStringList CommandLine::expectedWords(const QStringList &words) const
+{
+    const auto next = Expectations::next(words);
+    if (!next)
+        return {};
+    if (next->kind == ExpectedForm::PositionNumber)
+        return positionNumbers();
+    if (next->kind == ExpectedForm::Code)
+        return articleCodes();
+    const bool isText = next->kind == ExpectedForm::Text;
+    return isText && words.size() == 1 ? QStringList{"none"} : next->names;
 }
 
 QStringList CommandLine::articleCodes() const

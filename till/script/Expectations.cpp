@@ -1,7 +1,6 @@
 #include "till/script/Expectations.h"
 
 #include "till/script/Comparison.h"
-#include "till/words/Words.h"
 
 #include <algorithm>
 
@@ -43,9 +42,7 @@ Outcome checkPart(const Position &position, const QString &part, const QString &
         return compareQuantity(what, value, position.getBquant());
     if (part == "sum")
         return compareMoney(what, value, position.sum());
-    if (part == "article")
-        return compare(what, value, position.article().code);
-    return notOneOf(part, {"quantity", "base", "sum", "article", "stornoed", "live"});
+    return compare(what, value, position.article().code);
 }
 
 //! How a command ended, in the word by which "expect" is told so; a failure cannot be expected.
@@ -100,11 +97,9 @@ Outcome Expectations::command(const QString &end, const QStringList &words) cons
 
 Outcome Expectations::position(const QStringList &words) const
 {
-    const std::optional<int> posnum = parsePosnum(words[0]);
-    if (!posnum)
-        return notAPosition(words[0]);
+    const int posnum = words[0].toInt();
     const auto receipt = cashRegister().receipt();
-    const auto line = receipt ? receipt->line(*posnum) : nullptr;
+    const auto line = receipt ? receipt->line(posnum) : nullptr;
     const QString what = "position " + words[0];
     if (isNone(words.mid(1)))
         return line ? differs(what, "none", line->article().code, "article " + line->article().code)
@@ -118,7 +113,7 @@ Outcome Expectations::position(const QStringList &words) const
                 return differs(what, words[i], found);
             continue;
         }
-        const Outcome checked = checkPart(*line, words[i], words.value(i + 1));
+        const Outcome checked = checkPart(*line, words[i], words[i + 1]);
         if (!checked)
             return checked;
         ++i;
@@ -135,20 +130,16 @@ Outcome Expectations::positions(const QStringList &words) const
 
 Outcome Expectations::tara(const QStringList &words) const
 {
-    const std::optional<int> posnum = parsePosnum(words[0]);
-    if (!posnum)
-        return notAPosition(words[0]);
+    const int posnum = words[0].toInt();
     const TaraState state = cashRegister().taraState();
-    const TaraUse *const tara = state.tara(*posnum);
+    const TaraUse *const tara = state.tara(posnum);
     const QString what = "tara " + words[0];
     if (isNone(words.mid(1)))
         return tara ? differs(what, "none", "a record", wordsOf(*tara)) : Outcome::done();
     if (!tara)
         return differs(what, words.mid(1).join(' '), "none");
     for (qsizetype i = 1; i < words.size(); i += 2) {
-        if (words[i] != "capacity" && words[i] != "free")
-            return notOneOf(words[i], {"capacity", "free", "none"});
-        const Outcome checked = compareQuantity(what + ' ' + words[i], words.value(i + 1),
+        const Outcome checked = compareQuantity(what + ' ' + words[i], words[i + 1],
                                                 words[i] == "free" ? tara->free : tara->capacity);
         if (!checked)
             return checked;
@@ -158,32 +149,23 @@ Outcome Expectations::tara(const QStringList &words) const
 
 Outcome Expectations::goods(const QStringList &words) const
 {
-    const std::optional<int> posnum = parsePosnum(words[0]);
-    if (!posnum)
-        return notAPosition(words[0]);
+    const int posnum = words[0].toInt();
     const TaraState state = cashRegister().taraState();
-    const GoodsUse *const goods = state.goodsOf(*posnum);
+    const GoodsUse *const goods = state.goodsOf(posnum);
     const QString what = "goods " + words[0];
     if (isNone(words.mid(1)))
         return goods ? differs(what, "none", "a record", wordsOf(*goods, state)) : Outcome::done();
     if (!goods)
         return differs(what, words.mid(1).join(' '), "none");
+    const auto line = cashRegister().receipt()->line(posnum);
     for (qsizetype i = 1; i < words.size();) {
-        Outcome checked;
-        if (words[i] == "in") {
-            if (!parsePosnum(words.value(i + 1)))
-                return notAPosition(words.value(i + 1));
-            checked = compareQuantity(what + " in " + words.value(i + 1), words.value(i + 2),
-                                      amountIn(state, *goods, words.value(i + 1).toInt()));
-            i += 3;
-        } else if (words[i] == "unplaced") {
-            const auto line = cashRegister().receipt()->line(*posnum);
-            checked = compareQuantity(what + " unplaced", words.value(i + 1),
-                                      goods->unplaced(line ? line->getBquant() : 0.0));
-            i += 2;
-        } else {
-            return notOneOf(words[i], {"in", "unplaced", "none"});
-        }
+        const bool isIn = words[i] == "in";
+        const Outcome checked =
+            isIn ? compareQuantity(what + " in " + words[i + 1], words[i + 2],
+                                   amountIn(state, *goods, words[i + 1].toInt()))
+                 : compareQuantity(what + " unplaced", words[i + 1],
+                                   goods->unplaced(line ? line->getBquant() : 0.0));
+        i += isIn ? 3 : 2;
         if (!checked)
             return checked;
     }

@@ -3,10 +3,12 @@
 
 #include "host/Tr.h"
 #include "till/register/CashDesk.h"
+#include "till/script/ExpectedForm.h"
 
 #include <QtCore/QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace till {
 
@@ -47,6 +49,9 @@ public:
     static QString help(const Translator &translator);
     //! The words that can follow "expect".
     static QStringList names();
+    //! What can follow "expect" and \a words, which begin with what is no command's end; nothing
+    //! where none can.
+    static std::optional<ExpectedForm::Next> next(const QStringList &words);
 
 private:
     using Checker = Outcome (Expectations::*)(const QStringList &words) const;

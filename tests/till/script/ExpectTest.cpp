@@ -44,6 +44,12 @@ TEST_P(Expect, WhatIsNotSo_FailsAndSaysWhy)
     EXPECT_EQ((isOtherwise ? unexpected(line) : mistake(line)).toStdString(), GetParam().text);
 }
 
+constexpr const char *usageOfPosition =
+    "usage: expect position N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...";
+constexpr const char *usageOfTara = "usage: expect tara N none|capacity C|free F...";
+constexpr const char *usageOfGoods =
+    "usage: expect goods N none|in TARA AMOUNT...|unplaced AMOUNT...";
+
 std::string nameOf(const testing::TestParamInfo<Expectation> &info)
 {
     return info.param.name;
@@ -144,17 +150,40 @@ INSTANTIATE_TEST_SUITE_P(
         Expectation{"Nested", "", "accepted expect total 1", "an expectation cannot be expected"},
         Expectation{"WhichCommand", "", "accepted", "which command?"},
         Expectation{"Part", "", "position 3 amount 2",
-                    "\"amount\" is none of: quantity, base, sum, article, stornoed, live"},
+                    "\"amount\" is none of: none, stornoed, live, quantity, base, sum, article"},
         Expectation{"PositionNumber", "", "position x live", "\"x\" is not a position number"},
-        Expectation{"TaraPart", "", "tara 1 size 3", "\"size\" is none of: capacity, free, none"},
+        Expectation{"TaraPart", "", "tara 1 size 3", "\"size\" is none of: none, capacity, free"},
         Expectation{"TaraNumber", "", "tara x free 1", "\"x\" is not a position number"},
-        Expectation{"GoodsPart", "", "goods 3 at 1 2", "\"at\" is none of: in, unplaced, none"},
+        Expectation{"GoodsPart", "", "goods 3 at 1 2", "\"at\" is none of: none, in, unplaced"},
         Expectation{"GoodsTara", "", "goods 3 in x 0", "\"x\" is not a position number"},
         Expectation{"Missing", "", "total", "usage: expect total MONEY"},
         Expectation{"TooMany", "", "positions 3 4", "usage: expect positions COUNT"},
         Expectation{"TooManyStates", "", "state open closed",
                     "usage: expect state none|open|subtotal|closed|cancelled"},
-        Expectation{"NoNumber", "", "tara 1 free", "a number is missing"}),
+        Expectation{"NoCount", "", "positions -1", "usage: expect positions COUNT"},
+        Expectation{"NoCounts", "", "records 1 one", "usage: expect records TARAS GOODS"},
+        Expectation{"NoState", "", "state opened",
+                    "\"opened\" is none of: none, open, subtotal, closed, cancelled"},
+        Expectation{"NoControl", "", "control off", "\"off\" is none of: none, active, suspended"}),
+    nameOf);
+
+//! Of what there is no record too: the words are wrong whatever the receipt is like.
+INSTANTIATE_TEST_SUITE_P(
+    Forms, Expect,
+    testing::Values(
+        Expectation{"PositionWithoutValue", "", "position 9 live quantity", usageOfPosition},
+        Expectation{"PositionNoneAndMore", "", "position 3 none live", usageOfPosition},
+        Expectation{"PositionMoreAndNone", "", "position 3 live none",
+                    "\"none\" is none of: stornoed, live, quantity, base, sum, article"},
+        Expectation{"TaraWithoutNumber", "", "tara 1 free", usageOfTara},
+        Expectation{"TaraNoneAndMore", "", "tara 9 none free 1", usageOfTara},
+        Expectation{"GoodsWithoutAmount", "", "goods 9 in 2", usageOfGoods},
+        Expectation{"GoodsWithoutTara", "", "goods 3 in 1 2 in", usageOfGoods},
+        Expectation{"GoodsNoneAndMore", "", "goods 9 none in 2 1", usageOfGoods},
+        Expectation{"GoodsNumber", "", "goods 9 unplaced many",
+                    "\"many\" is not a number with at most three decimals (1.5 or 1,5)"},
+        Expectation{"Money", "", "position 9 sum much",
+                    "\"much\" is not an amount of money (12.50 or 12,50)"}),
     nameOf);
 
 class ExpectHeard : public TillTest
