@@ -44,9 +44,10 @@ QString nameOf(const QJsonObject &note)
     return asWord(key.isEmpty() ? note["text"].toString().replace('\n', ' ') : key);
 }
 
+//! Appends \a name, unless it is there or says nothing of its own.
 void appendOnce(QStringList &names, const QString &name)
 {
-    if (!name.isEmpty() && !names.contains(name))
+    if (!name.isEmpty() && name != "none" && !names.contains(name))
         names.append(name);
 }
 
@@ -105,8 +106,10 @@ void Recorder::read(const QJsonObject &note)
         leaveOut("a question that no command asked", note["text"].toString());
     else if (kind == "answer" && m_underWay)
         m_underWay->answers.append(note["confirmed"].toBool() ? "yes" : "no");
-    else if (kind == "message" && m_underWay)
+    else if (kind == "message" && m_underWay) {
+        m_underWay->isSilent = false;
         appendOnce(m_underWay->messages, nameOf(note));
+    }
 }
 
 void Recorder::finish()
@@ -206,6 +209,7 @@ void Recorder::tellSwitched(const UnderWay &command)
     for (const QString &line : command.switching)
         m_write(line);
     m_toldSettings = m_settings;
+    tellSaid(command);
     expect(expectationsOf(m_now, &m_told));
     m_told = m_now;
 }
@@ -229,15 +233,20 @@ void Recorder::tell(const UnderWay &command, const QString &outcome)
 
 void Recorder::tellWhatItDid(const UnderWay &command)
 {
-    for (const QString &question : command.questions)
-        expect({"question " + question});
-    for (const QString &message : command.messages)
-        expect({"message " + message});
-    if (command.messages.isEmpty())
+    tellSaid(command);
+    if (command.isSilent)
         expect({"message none"});
     expect(expectationsOf(m_now, &m_told));
     m_told = m_now;
     m_id = m_now.record.id;
+}
+
+void Recorder::tellSaid(const UnderWay &command)
+{
+    for (const QString &question : command.questions)
+        expect({"question " + question});
+    for (const QString &message : command.messages)
+        expect({"message " + message});
 }
 
 void Recorder::tellAnswers(const UnderWay &command)

@@ -39,7 +39,6 @@ public:
     void finish();
 
     int commands() const { return m_commands; }
-    int expectations() const { return m_expectations; }
     //! What no script can say, in English, one text each. It is in the script as a comment, which
     //! will not hold without it.
     const QStringList &unsaid() const { return m_unsaid; }
@@ -56,6 +55,7 @@ private:
         QStringList questions; //!< by their keys, or texts
         QStringList messages;
         QStringList switching; //!< the lines by which a script switches the till off and on again
+        bool isSilent = true;  //!< no message was shown, not even one without a key and a text
         bool hasOpened = false;
     };
 
@@ -68,6 +68,7 @@ private:
     void tellSwitched(const UnderWay &command);
     void tell(const UnderWay &command, const QString &outcome);
     void tellWhatItDid(const UnderWay &command);
+    void tellSaid(const UnderWay &command);
     void tellAnswers(const UnderWay &command);
     void tellEnd();
     void tellCommand(const QString &line);

@@ -73,6 +73,34 @@ TEST_F(Recorded, MessageAndQuestionWithoutAKey_AreExpectedByTheirTexts)
                             "expect message \"Empty  \"\"\"can\"\"\"\"", "expect message k"));
 }
 
+TEST_F(Recorded, MessageThatCannotBeNamed_IsNotExpected)
+{
+    start();
+    open(1);
+    lines.clear();
+    command("subtotal");
+    read(R"({"kind":"message","key":"","text":""})");
+    read(R"({"kind":"message","key":"none","text":"x"})");
+    outcome("done");
+    EXPECT_THAT(lines, ElementsAre("subtotal"));
+}
+
+TEST_F(Recorded, WhatIsSaidWhileTheTillIsSwitched_IsExpected)
+{
+    start();
+    open(1);
+    lines.clear();
+    start(); // by a front without lines
+    read(R"({"kind":"question","key":"q","text":"x"})");
+    read(R"({"kind":"answer","confirmed":true})");
+    read(R"({"kind":"message","key":"m","text":"x"})");
+    takeUp(1);
+    receipt(1, 0);
+    carriedOut("subtotal");
+    EXPECT_THAT(lines, ElementsAre("answer yes", "restart", "expect question q", "expect message m",
+                                   "subtotal", "expect message none"));
+}
+
 TEST_F(Recorded, QuantityAboutHalfwayBetweenThousandths_IsNotExpected)
 {
     start();
