@@ -40,7 +40,7 @@ public:
     int run()
     {
         const Selection &selection = m_options.lookup.selection;
-        if (Progress::isSeen() && !m_options.quiet)
+        if (Progress::isSeen())
             m_progress.start(m_archive.count(selection).value_or(0));
         begin();
         const Result<> listed =

@@ -222,8 +222,8 @@ TEST_F(Lookup, DamagedReceipt_IsNamedAndNothingElseIsToldOfIt)
 {
     sell();
     query("UPDATE receipts SET total = 5 WHERE id = 2");
-    for (const QString form : {"--json", "--csv", "--quiet"}) {
-        const RunResult list = lookUp({"receipts", form});
+    for (const QStringList &form : QList<QStringList>{{"--json"}, {"--csv"}, {}}) {
+        const RunResult list = lookUp(QStringList{"receipts"} + form);
         EXPECT_EQ(list.status, 1);
         EXPECT_EQ(list.err, "till: receipt 2: its header is not as it was stored\n");
         EXPECT_THAT(list.out, Not(HasSubstr("129.90")));
