@@ -37,6 +37,7 @@ public:
         switch (qRound(event.value("position", {}).value<GoodsItemPtr>()->getCquant())) {
         case 11:
             std::fputs("the plugin's last words\n", stderr);
+            std::signal(SIGSEGV, SIG_DFL); // a sanitizer has its own way of ending
             std::raise(SIGSEGV);
             break;
         case 12:
