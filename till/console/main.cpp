@@ -71,12 +71,12 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
     if (isTerminal() && !hasUtf8Locale)
         show(translator.text(
             told("till", "The locale is not UTF-8: texts are written in UTF-8 all the same")));
-    const auto ask = [&](const QString &question) {
+    const auto ask = [&](const QString &question, const CommandLine::Choices &choices) {
         output.print(question);
-        return askOnTerminal(translator);
+        return askOnTerminal(translator, choices);
     };
     CommandLine commands(desk, notes, translator, options.style,
-                         {show, isTerminal() ? ask : std::function<bool(const QString &)>()});
+                         {show, isTerminal() ? ask : decltype(CommandLine::Person::ask)()});
     const QString receipt = commands.renderReceipt();
     if (!receipt.isEmpty())
         show(receipt);

@@ -8,6 +8,10 @@
         <translation>да/нет&gt; </translation>
     </message>
     <message>
+        <source>To say yes: %1. To say no: %2.</source>
+        <translation>Чтобы согласиться: %1. Чтобы отказаться: %2.</translation>
+    </message>
+    <message>
         <source>The till. &apos;help&apos; lists the commands, &apos;quit&apos; leaves.</source>
         <translation>Касса. help — список команд, quit — выход.</translation>
     </message>

@@ -213,7 +213,8 @@ QString CommandLine::leftOver() const
 bool CommandLine::ask(const Question &question)
 {
     if (m_person.ask)
-        return m_person.ask(m_view.renderQuestion(question));
+        return m_person.ask(m_view.renderQuestion(question), {m_translator.text(question.confirm),
+                                                              m_translator.text(question.cancel)});
     m_unanswered.append(question.text.key());
     m_heard.lacksAnswer = true;
     printAnswered(question, false);

@@ -25,12 +25,19 @@ namespace till {
 class CommandLine final : private Front
 {
 public:
+    //! The choices of a question, as the cashier reads them.
+    struct Choices
+    {
+        QString confirm;
+        QString cancel;
+    };
+
     //! How commands reach a person.
     struct Person
     {
         std::function<void(const QString &text)> print; //!< shows whole lines
         //! Asks a person; empty where nobody can be asked. True takes the confirming choice.
-        std::function<bool(const QString &question)> ask;
+        std::function<bool(const QString &question, const Choices &choices)> ask;
     };
 
     //! Installs itself as the front of \a desk. All must outlive this object.

@@ -118,6 +118,54 @@ private:
     bool m_hasDroppedNone = false;
 };
 
+//! The words that answer a question.
+class AnswerWords
+{
+public:
+    explicit AnswerWords(const CommandLine::Choices &choices)
+        : m_shown{choices.confirm.simplified(), choices.cancel.simplified()}
+        , m_yes(alike(m_shown[0], {"yes", "y", "да", "д"}))
+        , m_no(alike(m_shown[1], {"no", "n", "нет", "н"}))
+    {
+    }
+
+    std::optional<bool> read(const QString &typed) const
+    {
+        const QString word = typed.simplified();
+        if (m_yes.contains(word, Qt::CaseInsensitive))
+            return true;
+        return m_no.contains(word, Qt::CaseInsensitive) ? std::optional(false) : std::nullopt;
+    }
+
+    //! Those that are no single letters.
+    QStringList offered() const
+    {
+        QStringList words = m_yes + m_no;
+        words.removeIf([](const QString &word) { return word.size() < 2; });
+        return words;
+    }
+
+    Message usage() const
+    {
+        return told("till", "To say yes: %1. To say no: %2.")
+            .with({m_yes.join(", "), m_no.join(", ")});
+    }
+
+private:
+    //! \a shown and those of \a words that are not shown already, as this choice or the other.
+    QStringList alike(const QString &shown, QStringList words) const
+    {
+        words.removeIf([this](const QString &word) {
+            return word.isEmpty() || m_shown.contains(word, Qt::CaseInsensitive);
+        });
+        return QStringList{shown} + words;
+    }
+
+    const QStringList m_shown;
+    const QStringList m_yes;
+    const QStringList m_no;
+};
+
 } // namespace
 
 bool isTerminal()
@@ -125,18 +173,17 @@ bool isTerminal()
     return isatty(STDIN_FILENO) != 0;
 }
 
-bool askOnTerminal(const Translator &translator)
+bool askOnTerminal(const Translator &translator, const CommandLine::Choices &choices)
 {
+    const AnswerWords words(choices);
     const QString prompt = translator.text(told("till", "yes/no> "));
     for (;;) {
-        const std::optional<TypedLine> typed = readTyped(prompt);
+        const std::optional<TypedLine> typed = readTyped(prompt, words.offered());
         if (!typed || typed->end != TypedLine::Entered)
             return false;
-        const QString answer = typed->text.trimmed().toLower();
-        if (QStringList{"yes", "y", "да", "д"}.contains(answer))
-            return true;
-        if (QStringList{"no", "n", "нет", "н"}.contains(answer))
-            return false;
+        if (const std::optional<bool> answer = words.read(typed->text))
+            return *answer;
+        Output().print(translator.text(words.usage()));
     }
 }
 

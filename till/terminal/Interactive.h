@@ -16,8 +16,9 @@ namespace till {
 bool runInteractive(CommandLine &commands, const Translator &translator, const QString &historyFile,
                     const std::function<void(const QString &text)> &show);
 
-//! Asks on the terminal until there is an answer; no when the input ends.
-bool askOnTerminal(const Translator &translator);
+//! Asks on the terminal until there is an answer, which is one of \a choices or a word for yes or
+//! no, in any letter case; no when the input ends.
+bool askOnTerminal(const Translator &translator, const CommandLine::Choices &choices);
 
 //! Whether there is a person at standard input.
 bool isTerminal();

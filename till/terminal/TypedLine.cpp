@@ -26,13 +26,24 @@ constexpr int ctrlC = 'C' & 0x1f;
 // Readline's functions take no argument of ours.
 const CommandLine *completed = nullptr;
 QStringList wordsBefore; // what stands before the word that is completed
+QStringList answers;     // what can be typed in place of a command
 TypedLine::End howEnded = TypedLine::Entered;
+
+QStringList candidatesFor(const QString &begun)
+{
+    if (answers.isEmpty())
+        return completed->completions(wordsBefore + QStringList{begun});
+    QStringList candidates = answers;
+    candidates.removeIf(
+        [&begun](const QString &answer) { return !answer.startsWith(begun, Qt::CaseInsensitive); });
+    return candidates;
+}
 
 char *nextCompletion(const char *text, int state)
 {
     static QStringList left;
     if (state == 0)
-        left = completed->completions(wordsBefore + QStringList{QString::fromUtf8(text)});
+        left = candidatesFor(QString::fromUtf8(text));
     return left.isEmpty() ? nullptr : strdup(left.takeFirst().toUtf8().constData());
 }
 
@@ -44,6 +55,15 @@ char **complete(const char *text, int start, int)
     wordsBefore = QProcess::splitCommand(before);
     rl_attempted_completion_over = 1; // file names are never wanted
     return rl_completion_matches(text, nextCompletion);
+}
+
+//! Takes \a words for what is typed next: as a whole, where there are any.
+void awaitAnswers(const QStringList &words)
+{
+    answers = words;
+    rl_completer_quote_characters = words.isEmpty() ? "\"" : "";
+    // Like the till's own words: codes hold all other signs.
+    rl_completer_word_break_characters = words.isEmpty() ? " \t\"" : "";
 }
 
 //! Ctrl-C is a key like any other while a line is typed: no signal comes at a wrong moment.
@@ -70,8 +90,6 @@ void openTerminal(CommandLine &commands, const QString &historyFile)
 {
     completed = &commands;
     rl_attempted_completion_function = complete;
-    rl_completer_quote_characters = "\"";
-    rl_completer_word_break_characters = " \t\""; // as the till's own words; codes hold the others
     rl_prep_term_function = prepareTerminal;
     rl_initialize();
     rl_bind_key(ctrlC, dropLine);
@@ -79,7 +97,7 @@ void openTerminal(CommandLine &commands, const QString &historyFile)
     read_history(QFile::encodeName(historyFile).constData());
 }
 
-std::optional<TypedLine> readTyped(const QString &prompt)
+std::optional<TypedLine> readTyped(const QString &prompt, const QStringList &awaited)
 {
     static QStringList pasted; // lines that came in one go and wait
     if (!pasted.isEmpty()) {
@@ -87,6 +105,7 @@ std::optional<TypedLine> readTyped(const QString &prompt)
         return TypedLine{pasted.takeFirst()};
     }
     howEnded = TypedLine::Entered;
+    awaitAnswers(awaited);
     const std::unique_ptr<char, void (*)(void *)> typed(readline(prompt.toUtf8().constData()),
                                                         std::free);
     if (!typed)

@@ -24,9 +24,10 @@ struct TypedLine
 //! and with the history of \a historyFile.
 void openTerminal(CommandLine &commands, const QString &historyFile);
 
-//! Reads a line behind \a prompt. Of several that were pasted in one go each is read by itself.
-//! Nothing at the end of the input, which is Ctrl-D.
-std::optional<TypedLine> readTyped(const QString &prompt);
+//! Reads a line behind \a prompt: a command, or one of \a answers where there are any. Of several
+//! lines that were pasted in one go each is read by itself. Nothing at the end of the input, which
+//! is Ctrl-D.
+std::optional<TypedLine> readTyped(const QString &prompt, const QStringList &answers = {});
 
 //! Adds a line to the history, and to its file at once: a till may end at any moment.
 void remember(const QString &line, const QString &historyFile);

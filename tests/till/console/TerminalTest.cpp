@@ -86,14 +86,51 @@ TEST_F(OnTerminal, Question_IsAskedUntilAnswered)
     enter("add CHIPS");
     terminal->type("storno 1\n");
     EXPECT_THAT(terminal->readTo("да/нет> "), HasSubstr("Сторнировать позицию?"));
-    terminal->type("maybe\n");
-    terminal->readTo("да/нет> ");
+    for (const std::string answer : {"maybe\n", "\n"}) {
+        terminal->type(answer);
+        EXPECT_THAT(
+            terminal->readTo("да/нет> "),
+            HasSubstr("Чтобы согласиться: Да, yes, y, д. Чтобы отказаться: Нет, no, n, н."));
+    }
     terminal->type("нет\n");
     EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("отказано"));
     terminal->type("storno 1\n");
     terminal->readTo("да/нет> ");
     terminal->type("y\n");
     EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("x 1  CHIPS"));
+}
+
+TEST_F(OnTerminal, ChoicesOfAQuestion_AreAnswersAsTheyAreShown)
+{
+    switchOn({"--colour", "never", "--set", "PackagingControl:allowSaleEmptyTara=false"});
+    enter("open");
+    enter("add CAN3");
+    terminal->type("pay\n");
+    EXPECT_THAT(terminal->readTo("да/нет> "), HasSubstr("[ОК] [Отмена]"));
+    terminal->type("отмена\n");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), Not(HasSubstr("Чтобы")));
+    terminal->type("pay\n");
+    terminal->readTo("да/нет> ");
+    terminal->type("ОК\n");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("x 1  CAN3"));
+}
+
+TEST_F(OnTerminal, TabAtAQuestion_OffersItsAnswersOnly)
+{
+    enter("open");
+    enter("add CHIPS");
+    terminal->type("cancel\n");
+    terminal->readTo("да/нет> ");
+    terminal->type("\t\t");
+    const std::string offered = terminal->readTo("да/нет> ");
+    EXPECT_THAT(offered, HasSubstr("Да"));
+    EXPECT_THAT(offered, HasSubstr("Нет"));
+    EXPECT_THAT(offered, HasSubstr("no"));
+    EXPECT_THAT(offered, Not(HasSubstr("storno")));
+    terminal->type("y\t\n");
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("отменён"));
+    terminal->type("op\t\n"); // and then commands again
+    EXPECT_THAT(terminal->readTo(Terminal::prompt), HasSubstr("открыт"));
 }
 
 TEST_F(OnTerminal, Tab_CompletesCommandsArticlesAndPositions)

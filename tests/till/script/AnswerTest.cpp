@@ -17,7 +17,7 @@ protected:
     void askAPerson(bool answer)
     {
         commands.reset();
-        const auto ask = [this, answer](const QString &question) {
+        const auto ask = [this, answer](const QString &question, const CommandLine::Choices &) {
             asked.append(question);
             return answer;
         };
