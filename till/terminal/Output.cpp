@@ -9,18 +9,20 @@
 #include <cstring>
 #include <utility>
 
+#include <unistd.h>
+
 namespace till {
 
 namespace {
 
 int outputError = 0; // the first errno of standard output
 
-bool hasPassingLine = false;
+pid_t passingLineOf = 0; // the process that shows one; what is forked from it prints elsewhere
 constexpr char clearLine[] = "\r\x1b[K";
 
 bool write(const QString &text, std::FILE *file)
 {
-    if (std::exchange(hasPassingLine, false)) {
+    if (std::exchange(passingLineOf, 0) == getpid()) {
         std::fputs(clearLine, stdout);
         std::fflush(stdout);
     }
@@ -46,7 +48,7 @@ void Output::printPassing(const QString &line)
 {
     std::fputs((clearLine + printable(line).toUtf8()).constData(), stdout);
     std::fflush(stdout);
-    hasPassingLine = true;
+    passingLineOf = getpid();
 }
 
 void Output::passOn(const QString &complaints)

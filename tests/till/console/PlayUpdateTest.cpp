@@ -1,4 +1,5 @@
 #include "tests/till/console/PlayFixture.h"
+#include "tests/till/console/Terminal.h"
 
 #include <cstring>
 
@@ -116,6 +117,16 @@ TEST_F(PlayUpdate, IncludedFile_IsLeft)
     EXPECT_EQ(failed.status, 1);
     EXPECT_THAT(failed.err, HasSubstr("common.till:2: expect positions 7: "));
     EXPECT_EQ(contents(common), "open\nexpect positions 7\n");
+}
+
+TEST_F(PlayUpdate, DifferenceOnATerminal_StandsAlone)
+{
+    const std::string one = script("s.till", "open\nexpect positions 7\n").toStdString();
+    Terminal terminal(TILL_PROGRAM, {"--quiet", "play", "--update", one},
+                      directory.path().toStdString(), {{"TERM", "xterm"}});
+    EXPECT_THAT(terminal.readTo("expectations: 1"),
+                HasSubstr("[1/1] s.till\r\x1b[K--- " + one + "\r\n+++ " + one + "\r\n@@ "));
+    EXPECT_EQ(terminal.end(), 0);
 }
 
 TEST_F(PlayUpdate, StandardInput_IsRefused)
