@@ -172,6 +172,17 @@ TEST_F(FromTrace, TillThatWasKilled_EndsWithTheCommandUnderWay)
     holds(write("s.till", QByteArray::fromStdString(done.out)));
 }
 
+TEST_F(FromTrace, PluginThatCrashed_CrashesInTheScript)
+{
+    const RunResult crashed = recorded("open\nadd CHIPS\nadd CHIPS 11\n",
+                                       {"--plugin", FAULTY_PLUGIN, "--trace", path("trace")});
+    EXPECT_EQ(crashed.status, -1);
+    EXPECT_THAT(script(), EndsWith("\nexpect total 129.90\n"));
+    const QString traced = write("s.till", QByteArray::fromStdString(fromTrace(path("trace")).out));
+    EXPECT_THAT(run({"--plugin", FAULTY_PLUGIN, "play", traced}).err,
+                EndsWith(": add CHIPS 11: crashed: SIGSEGV\n"));
+}
+
 TEST_F(FromTrace, WhatIsNoTrace_IsTold)
 {
     const QString other = write("other", "{\"kind\":\"start\"}\nopen\n{}\n");
