@@ -91,7 +91,8 @@ private:
                 Output(m_options.style.colour).print(text);
         };
         tellCopy(desk, m_translator, show);
-        CommandLine commands(desk, m_notes, m_translator, m_options.style, {show, {}});
+        CommandLine commands(desk, m_notes, m_translator, m_options.style,
+                             {show, {}, script.maySave()});
         return script.play(
             commands, [&](const QString &line) { show("> " + line); }, update);
     }

@@ -110,11 +110,12 @@ CommandLine::CommandLine(CashDesk &desk, Notes &notes, const Translator &transla
     , m_person(std::move(person))
     , m_answers(*this,
                 [this](const Question &question, bool answer) { printAnswered(question, answer); })
-    , m_course(notes, desk.isOn() ? desk.describeStart() : QJsonObject())
     , m_installed(desk.front(), m_answers)
     , m_notesHeard(notes.subscribe([this](const QJsonObject &note) { hear(note); }))
     , m_receiptSeen(desk.onReceiptChanged([this] { m_hasTouchedReceipt = true; }))
 {
+    if (m_person.maySave)
+        m_course.emplace(notes, desk.isOn() ? desk.describeStart() : QJsonObject());
 }
 
 Outcome CommandLine::run(const QString &line)

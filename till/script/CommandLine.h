@@ -14,6 +14,7 @@
 #include <QtCore/QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace till {
 
@@ -38,6 +39,7 @@ public:
         std::function<void(const QString &text)> print; //!< shows whole lines
         //! Asks a person; empty where nobody can be asked. True takes the confirming choice.
         std::function<bool(const QString &question, const Choices &choices)> ask;
+        bool maySave = true; //!< "save" may come; for it the course of a receipt is kept
     };
 
     //! Installs itself as the front of \a desk. All must outlive this object.
@@ -126,7 +128,7 @@ private:
     Person m_person;
     Heard m_heard; //!< since the last command that is no "expect", "answer" or "show"
     PreparedAnswers m_answers;
-    const ReceiptCourse m_course;
+    std::optional<ReceiptCourse> m_course;
     QStringList m_unanswered; //!< keys of the questions that nobody was there to answer
     const InstalledFront m_installed;
     Subscription m_notesHeard;

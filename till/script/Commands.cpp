@@ -93,12 +93,12 @@ Outcome CommandLine::expect(const QStringList &words)
 
 Outcome CommandLine::save(const QStringList &words)
 {
-    if (m_course.isEmpty())
+    if (!m_course || m_course->isEmpty())
         return Outcome::mistake(
             told("till", "no receipt was opened since the till was started: nothing to save"));
     QStringList lines;
     Recorder recorder([&lines](const QString &line) { lines.append(line); });
-    m_course.tell(recorder);
+    m_course->tell(recorder);
     recorder.finish();
     if (const Result<> saved = saveScript(words[0], lines); !saved)
         return Outcome::failed(saved.error().text());

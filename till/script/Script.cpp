@@ -70,6 +70,13 @@ qsizetype Script::expectations() const
     });
 }
 
+bool Script::maySave() const
+{
+    return std::any_of(m_lines.cbegin(), m_lines.cend(), [](const ScriptLine &line) {
+        return line.text.contains(QLatin1String("save"), Qt::CaseInsensitive);
+    });
+}
+
 Result<void, ScriptFault> Script::play(CommandLine &commands, const Echo &echo,
                                        ScriptUpdate *update) const
 {

@@ -39,6 +39,9 @@ public:
     //! How many of the lines expect something.
     qsizetype expectations() const;
 
+    //! Whether one of them may save a receipt.
+    bool maySave() const;
+
 private:
     Result<void, ScriptFault> playLines(CommandLine &commands, const Echo &echo,
                                         ScriptUpdate *update) const;
