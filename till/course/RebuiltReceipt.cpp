@@ -23,7 +23,7 @@ LineRecord lineOf(const QJsonObject &note)
 QJsonValue withParts(QJsonArray list, const QJsonValue &parts)
 {
     const QJsonArray all = parts.toArray();
-    for (const QJsonValue &part : all) {
+    for (const QJsonValue part : all) {
         const qsizetype at = std::clamp<qsizetype>(part["at"].toInt(), 0, list.size());
         const qsizetype left = std::max<qsizetype>(list.size() - part["removed"].toInt(), at);
         while (list.size() > left)
