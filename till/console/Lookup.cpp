@@ -25,6 +25,12 @@ QString nameOf(qint64 id)
     return "receipt " + QString::number(id);
 }
 
+//! Where a look at receipts goes: as wide as a terminal, unless programs read it.
+Output outputOf(const Options &options)
+{
+    return options.lookup.form == Form::Text ? Output(options.style.colour) : Output();
+}
+
 //! Receipts being listed: what was told of them goes out in large pieces.
 class Listing
 {
@@ -33,7 +39,7 @@ public:
         : m_options(options)
         , m_archive(archive)
         , m_rows(translator, options.style)
-        , m_output(options.style.colour)
+        , m_output(outputOf(options))
     {
     }
 
@@ -140,7 +146,7 @@ int showReceipt(const Options &options, const Translator &translator, Archive &a
     const QString text = options.lookup.form == Form::Json
                              ? QString::fromUtf8(jsonLine(jsonOf(kept)))
                              : shown(kept, ReceiptView(translator, options.style));
-    Output(options.style.colour).print(text);
+    outputOf(options).print(text);
     return AllWell;
 }
 
@@ -160,9 +166,9 @@ int showJournal(const Options &options, const Translator &translator, Archive &a
     if (journal->isEmpty())
         return fail(CommandFailed,
                     {options.setup.database, "there is no journal of " + nameOf(id)});
-    Output(options.style.colour)
-        .print(options.lookup.form == Form::Json ? linesOf(*journal)
-                                                 : courseText(*journal, translator, options.style));
+    outputOf(options).print(options.lookup.form == Form::Json
+                                ? linesOf(*journal)
+                                : courseText(*journal, translator, options.style));
     return AllWell;
 }
 

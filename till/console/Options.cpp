@@ -1,5 +1,7 @@
 #include "till/console/Options.h"
 
+#include "till/terminal/Output.h"
+
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -7,9 +9,6 @@
 #include <QtCore/QMap>
 #include <QtCore/QStandardPaths>
 
-#include <algorithm>
-
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace till {
@@ -91,14 +90,6 @@ bool wantsColour(const QString &when)
 {
     const bool wanted = qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
     return when == "always" || (when == "auto" && wanted && isatty(STDOUT_FILENO) != 0);
-}
-
-//! The terminal's width, as far as a receipt can follow it.
-int columnsOfOutput()
-{
-    winsize size = {};
-    const bool isKnown = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return isKnown ? std::clamp<int>(size.ws_col, 60, 120) : Style::columnsOfAPipe();
 }
 
 //! Whether \a words can stand after the command \a mode.
@@ -253,7 +244,7 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
     if (!QStringList{"auto", "always", "never"}.contains(parser.value("colour")))
         return Fault{"--colour",
                      '"' + brief(parser.value("colour")) + "\" is none of: auto, always, never"};
-    options.style = {wantsColour(parser.value("colour")), columnsOfOutput};
+    options.style = {wantsColour(parser.value("colour")), Output::columns};
     options.trace = parser.value("trace");
     options.record = parser.value("record");
     if (!options.record.isEmpty() && !options.mode.isEmpty())

@@ -85,7 +85,7 @@ ExitStatus Teller::end()
 void Teller::print(const QString &text) const
 {
     if (!m_options.isSilent())
-        Output().print(text);
+        Output(false).print(text);
 }
 
 //! Says which script comes next, if one does.

@@ -34,9 +34,11 @@ Outcome CommandLine::articles(const QStringList &words)
     const auto found = m_desk.catalogue().containing(words.value(0));
     for (const auto &article : found) {
         const ArticleData &data = article->data;
-        const QString line = leftAligned(printable(data.code), 10) + ' '
-                             + rightAligned(toText(data.price), 10) + ' ' + printable(data.name);
-        print(elided(line, m_view.columns()));
+        const QString code = printable(data.code);
+        const bool hasOwnLine = displayWidth(code) > m_view.columns() / 2;
+        const QString beginning = leftAligned(hasOwnLine ? QString() : code, 10) + ' ';
+        const QString rest = rightAligned(toText(data.price), 10) + ' ' + printable(data.name);
+        print((hasOwnLine ? code + '\n' : QString()) + elided(beginning + rest, m_view.columns()));
     }
     if (found.isEmpty())
         print(m_translator.text(

@@ -183,7 +183,7 @@ bool askOnTerminal(const Translator &translator, const CommandLine::Choices &cho
             return false;
         if (const std::optional<bool> answer = words.read(typed->text))
             return *answer;
-        Output().print(translator.text(words.usage()));
+        Output(false).print(translator.text(words.usage()));
     }
 }
 

@@ -1,14 +1,17 @@
 #include "till/terminal/Output.h"
 
 #include "till/view/DisplayText.h"
+#include "till/view/TextPage.h"
 
 #include <QtCore/qlogging.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <utility>
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace till {
@@ -19,6 +22,19 @@ int outputError = 0; // the first errno of standard output
 
 pid_t passingLineOf = 0; // the process that shows one; what is forked from it prints elsewhere
 constexpr char clearLine[] = "\r\x1b[K";
+
+int columnsOf(std::FILE *file)
+{
+    winsize size = {};
+    const bool isKnown = ioctl(fileno(file), TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? std::clamp<int>(size.ws_col, 60, 120) : Style::columnsOfAPipe();
+}
+
+//! \a text as wide as \a file, which may be no terminal.
+QString fitted(const QString &text, std::FILE *file)
+{
+    return isatty(fileno(file)) != 0 ? wrapped(text, columnsOf(file)) : text;
+}
 
 bool write(const QString &text, std::FILE *file)
 {
@@ -35,11 +51,17 @@ bool write(const QString &text, std::FILE *file)
 
 } // namespace
 
+int Output::columns()
+{
+    return columnsOf(stdout);
+}
+
 void Output::print(const QString &text) const
 {
+    const QString safe = forTerminal(text, m_hasColours);
     // What is longer than the buffer is not left to be flushed.
     const bool isWritten =
-        write(forTerminal(text, m_hasColours), stdout) && std::fflush(stdout) == 0;
+        write(m_isText ? fitted(safe, stdout) : safe, stdout) && std::fflush(stdout) == 0;
     if (!isWritten && outputError == 0)
         outputError = errno;
 }
@@ -53,12 +75,14 @@ void Output::printPassing(const QString &line)
 
 void Output::passOn(const QString &complaints)
 {
-    write(forTerminal(complaints), stderr);
+    write(fitted(forTerminal(complaints), stderr), stderr);
 }
 
 void Output::error(const QString &text)
 {
-    write(forTerminal("till: " + text).replace('\n', ' '), stderr); // a file's name may have one
+    const QString line =
+        forTerminal("till: " + text).replace('\n', ' '); // a file's name may have one
+    write(fitted(line, stderr), stderr);
 }
 
 void Output::installMessageHandler()

@@ -7,15 +7,24 @@ namespace till {
 
 /*!
  * The one way by which texts reach standard output and standard error. Whatever would steer a
- * terminal becomes spaces on it, but for the till's own colours where there are any.
+ * terminal becomes spaces on it, but for the till's own colours where there are any. On a terminal
+ * what is for a person to read is broken at blanks where it is wider.
  */
 class Output
 {
 public:
-    explicit Output(bool hasColours = false)
-        : m_hasColours(hasColours)
+    //! For lines as they stand, which programs read too.
+    Output() = default;
+    //! For texts for a person.
+    explicit Output(bool hasColours)
+        : m_isText(true)
+        , m_hasColours(hasColours)
     {
     }
+
+    //! Columns of the terminal at standard output, as far as a receipt can follow them; those of a
+    //! pipe where there is none.
+    static int columns();
 
     //! Prints whole lines; a last line break is added where there is none.
     void print(const QString &text) const;
@@ -36,7 +45,8 @@ public:
     static QString fault();
 
 private:
-    bool m_hasColours;
+    bool m_isText = false;
+    bool m_hasColours = false;
 };
 
 } // namespace till

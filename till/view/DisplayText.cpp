@@ -60,6 +60,29 @@ QString spaces(int count)
     return QString(std::max(count, 0), QLatin1Char(' '));
 }
 
+int widthWithoutCodes(QString text)
+{
+    static const QRegularExpression code(QStringLiteral("\\e\\[[0-9]*m"));
+    return displayWidth(text.remove(code));
+}
+
+QString wrappedLine(const QString &line, int columns)
+{
+    if (widthWithoutCodes(line) <= columns)
+        return line;
+    static const QRegularExpression beginning(QStringLiteral("^(?:[!?>] )? *"));
+    const QString margin = beginning.match(line).captured();
+    const QStringList words = line.mid(margin.size()).split(QLatin1Char(' '));
+    QStringList lines{margin + words.constFirst()};
+    for (const QString &word : words.mid(1)) {
+        if (widthWithoutCodes(lines.constLast() + QLatin1Char(' ') + word) <= columns)
+            lines.last() += QLatin1Char(' ') + word;
+        else if (!word.isEmpty())
+            lines.append(spaces(displayWidth(margin)) + word);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 int displayWidth(const QString &text)
@@ -108,6 +131,14 @@ QString elided(const QString &text, int width)
         kept += cluster.text;
     }
     return kept + QStringLiteral("…");
+}
+
+QString wrapped(const QString &text, int columns)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString &line : lines)
+        line = wrappedLine(line, columns);
+    return lines.join(QLatin1Char('\n'));
 }
 
 QString leftAligned(const QString &text, int width)

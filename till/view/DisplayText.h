@@ -22,6 +22,10 @@ QString forTerminal(const QString &text, bool ownColours = false);
 //! \a text, or as much of its beginning as fits \a width columns with an ellipsis at the end.
 QString elided(const QString &text, int width);
 
+//! \a text with each line that is wider than \a columns broken at blanks; what goes on is indented
+//! like its beginning. A word that is longer stays whole; codes of `TextPage` take no columns.
+QString wrapped(const QString &text, int columns);
+
 //! \a text with spaces behind it up to \a width columns; longer texts as they stand.
 QString leftAligned(const QString &text, int width);
 

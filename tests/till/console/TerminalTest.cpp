@@ -230,6 +230,47 @@ TEST_F(OnTerminal, Width_IsTheTerminalsWithinLimits)
     }
 }
 
+TEST_F(OnTerminal, LinesWiderThanTheTerminal_AreBrokenAtBlanks)
+{
+    const auto widestOf = [this](const std::string &line) {
+        terminal->type(line + '\n');
+        terminal->readTo(line + "\r\n");
+        return widest(terminal->readTo(Terminal::prompt));
+    };
+    switchOn({"--colour", "never"}, {}, 60);
+    enter("open");
+    enter("add CAN3");
+    for (const char *line : {"add BEER 2", "log", "help expect", "qty 1 1.2345", "help", "nothing"})
+        EXPECT_LE(widestOf(line), 60) << line;
+    const QString script = write("s.till", "say " + QByteArray("word ").repeated(20));
+    terminal.emplace(TILL_PROGRAM, std::vector<std::string>{"play", script.toStdString()},
+                     directory.path().toStdString(), Terminal::Variables(), 60);
+    const std::string words = "word word word word word word word word word word word word";
+    terminal->readTo("\r\n" + words + "\r\nword word");
+    EXPECT_EQ(terminal->end(), 0);
+}
+
+TEST_F(OnTerminal, LongCode_LeavesRoomForPriceAndName)
+{
+    const QByteArray code = QByteArray("LONG-").repeated(16);
+    const QString catalogue = write("c.csv", "code;name;price;tara mode;tara capacity;pack;unit\n"
+                                                 + code + ";Odd;7;0;;1;pc\nS;Short;8;0;;1;pc\n");
+    switchOn({"--colour", "never", "--catalogue", catalogue.toStdString()}, {}, 60);
+    const std::string shown = enter("articles");
+    EXPECT_THAT(shown, HasSubstr(code.toStdString() + "\r\n                 7.00 Odd\r\n"));
+    EXPECT_THAT(shown, HasSubstr("S                8.00 Short\r\n"));
+}
+
+TEST_F(OnTerminal, JsonLines_StayWhole)
+{
+    enter("open");
+    leave();
+    terminal.emplace(TILL_PROGRAM, std::vector<std::string>{"journal", "--json", "1"},
+                     directory.path().toStdString(), Terminal::Variables(), 60);
+    EXPECT_GT(widest(terminal->readTo("}\r\n")), 60);
+    EXPECT_EQ(terminal->end(), 0);
+}
+
 TEST_F(OnTerminal, PastedLines_AreEachACommandAndInTheHistory)
 {
     switchOn({"--colour", "never"}, {{"TERM", "xterm"}});

@@ -57,6 +57,39 @@ TEST(Elided, SignOutsideTheBasicPlane_IsNotCutInTwo)
     EXPECT_EQ(till::elided("🍺🍺🍺", 4), "🍺…");
 }
 
+struct Wrapping
+{
+    const char *text;
+    const char *inTenColumns;
+};
+
+void PrintTo(const Wrapping &wrapping, std::ostream *out)
+{
+    *out << wrapping.text;
+}
+
+class Wrapped : public testing::TestWithParam<Wrapping>
+{
+};
+
+TEST_P(Wrapped, Text_IsBrokenAtBlanks)
+{
+    EXPECT_EQ(till::wrapped(GetParam().text, 10), GetParam().inTenColumns);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Wrapped,
+    testing::Values(Wrapping{"", ""}, Wrapping{"ten signs.", "ten signs."},
+                    Wrapping{"eleven sign", "eleven\nsign"},
+                    Wrapping{"  in the margin", "  in the\n  margin"},
+                    Wrapping{"! Тара частично", "! Тара\n  частично"},
+                    Wrapping{"one line\nand another one\n", "one line\nand\nanother\none\n"},
+                    Wrapping{"a wordlongerthanaline b", "a\nwordlongerthanaline\nb"},
+                    Wrapping{"a     b", "a     b"}, Wrapping{"aaaaaaaa      b", "aaaaaaaa  \nb"},
+                    Wrapping{"漢字漢字 漢字", "漢字漢字\n漢字"},
+                    Wrapping{"\x1b[1mten signs.\x1b[0m", "\x1b[1mten signs.\x1b[0m"},
+                    Wrapping{"\x1b[31meleven sign\x1b[0m", "\x1b[31meleven\nsign\x1b[0m"}));
+
 TEST(DisplayWidth, JoinedSigns_TakeTheColumnsOfOne)
 {
     EXPECT_EQ(till::displayWidth("👨\u200d👩\u200d👧"), 2);
