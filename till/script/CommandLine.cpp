@@ -271,15 +271,6 @@ QList<Usage> CommandLine::usages()
     return usages;
 }
 
-QStringList CommandLine::commandNames()
-{
-    QStringList names;
-    const QList<Usage> all = usages();
-    for (const Usage &usage : all)
-        names.append(usage.name);
-    return names;
-}
-
 Outcome CommandLine::help(const QStringList &words)
 {
     const QString name = words.isEmpty() ? QString() : canonical(words)[0];

@@ -75,6 +75,15 @@ QStringList CommandLine::expectedWords(const QStringList &words) const
     return isText && words.size() == 1 ? QStringList{"none"} : next->names;
 }
 
+QStringList CommandLine::commandNames()
+{
+    QStringList names;
+    const QList<Usage> all = usages();
+    for (const Usage &usage : all)
+        names.append(usage.name);
+    return names;
+}
+
 QStringList CommandLine::articleCodes() const
 {
     QStringList codes;
