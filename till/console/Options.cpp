@@ -165,7 +165,7 @@ QList<ProgramMode> programModes()
 
 QList<QCommandLineOption> programOptions()
 {
-    QList<QCommandLineOption> options{
+    const QList<QCommandLineOption> options{
         {"db", "Keep receipts in FILE (:memory: for nowhere).", "FILE", defaultDatabase()},
         {"catalogue", "Take the articles from the CSV FILE.", "FILE",
          delivered("share/packagingcontrol/catalogue.csv")},
@@ -174,8 +174,8 @@ QList<QCommandLineOption> programOptions()
         {"no-plugin", "Work without a plugin."},
         {"config", "Read settings from the INI FILE.", "FILE"},
         {"set", "Set a setting, such as PackagingControl:allowSaleEmptyTara=false.", "KEY=VALUE"},
-        {"lang", "Language of messages: " + Translator::languages().join(", ") + ".", "LANGUAGE",
-         "ru"},
+        {"lang", "Language of messages: " + Translator::languages().join(", ") + " (default: ru).",
+         "LANGUAGE", "ru"},
         {"record", "Write what is done at the register to FILE as a script.", "FILE"},
         {"trace", "Write what happens to FILE as lines of JSON (- for standard output).", "FILE"},
         {{"colour", "color"}, "Colours: auto, always or never.", "WHEN", "auto"},
@@ -187,10 +187,12 @@ QList<QCommandLineOption> programOptions()
          "Rewrite what the played scripts expect to what is found, and show the difference."},
         {"stop", "End a play at the first script that does not hold."},
         {"quiet", "Print progress only, not the receipts' course."},
+    };
+    const QList<QCommandLineOption> last{
         {{"h", "help"}, "Show this help."},
         {{"v", "version"}, "Show the version."},
     };
-    return options + lookupOptions();
+    return options + lookupOptions() + last;
 }
 
 QStringList exitStatuses()
