@@ -1,6 +1,7 @@
 #include "till/course/Trace.h"
 
 #include "till/course/JsonLine.h"
+#include "till/result/WriteAll.h"
 
 #include <unistd.h>
 
@@ -24,12 +25,7 @@ void Trace::write(QJsonObject note)
 {
     note.insert("line", ++m_lines);
     const QByteArray line = jsonLine(note);
-    qsizetype written = 0;
-    qint64 more = 1;
-    // A disk that gets full takes a part of the line, and says what is wrong when the rest comes.
-    for (; more > 0 && written < line.size(); written += more)
-        more = m_file.write(line.constData() + written, line.size() - written);
-    if (more <= 0 && m_error.isEmpty())
+    if (!writeAll(m_file, line) && m_error.isEmpty())
         m_error =
             (m_file.fileName().isEmpty() ? QStringLiteral("standard output") : m_file.fileName())
             + ": " + m_file.errorString();

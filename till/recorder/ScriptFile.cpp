@@ -1,5 +1,7 @@
 #include "till/recorder/ScriptFile.h"
 
+#include "till/result/WriteAll.h"
+
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
@@ -35,19 +37,25 @@ QString recordedMark()
     return QStringLiteral("# Recorded by the till.");
 }
 
+Result<> replaceScript(const QString &path, const QByteArray &text)
+{
+    QSaveFile file(path);
+    // Without a buffer: commit() does not tell that the disk was full for what it had.
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, text);
+    if (!isWritten || !file.commit())
+        return Fault{path, file.errorString()};
+    return {};
+}
+
 Result<> saveScript(const QString &path, const QStringList &lines)
 {
     if (const Result<> checked = checkScriptFile(path); !checked)
         return checked;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return Fault{path, file.errorString()};
-    file.write(lineOf(recordedMark()));
+    QByteArray text = lineOf(recordedMark());
     for (const QString &line : lines)
-        file.write(lineOf(line));
-    if (!file.commit())
-        return Fault{path, file.errorString()};
-    return {};
+        text += lineOf(line);
+    return replaceScript(path, text);
 }
 
 } // namespace till

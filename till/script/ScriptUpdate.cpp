@@ -1,9 +1,9 @@
 #include "till/script/ScriptUpdate.h"
 
+#include "till/recorder/ScriptFile.h"
 #include "till/words/Words.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QSaveFile>
 
 #include <utility>
 
@@ -98,13 +98,7 @@ Result<> ScriptUpdate::write() const
     QByteArrayList lines = before.readAll().split('\n');
     for (const Change &change : m_changes)
         lines[change.line.number - 1] = change.text.toUtf8();
-    QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly))
-        return Fault{m_path, file.errorString()};
-    file.write(lines.join('\n'));
-    if (!file.commit())
-        return Fault{m_path, file.errorString()};
-    return {};
+    return replaceScript(m_path, lines.join('\n'));
 }
 
 } // namespace till
