@@ -175,14 +175,14 @@ TEST_F(Play, OutputOfJobs_IsInTheOrderOfTheScripts)
 
 TEST_F(Play, QuietOnATerminal_ShowsProgressInOneLine)
 {
-    const std::string good = script("good.till", this->good).toStdString();
-    const std::string bad = script("bad.till", this->bad).toStdString();
-    Terminal terminal(TILL_PROGRAM, {"--lang", "en", "--quiet", "play", good, bad},
+    const std::string one = script("good.till", good).toStdString();
+    const std::string other = script("bad.till", bad).toStdString();
+    Terminal terminal(TILL_PROGRAM, {"--lang", "en", "--quiet", "play", one, other},
                       directory.path().toStdString(), {{"TERM", "xterm"}});
     const std::string clear = "\r\x1b[K";
     EXPECT_THAT(terminal.readTo("expectations: 2\r\n"),
                 testing::StartsWith(clear + "[1/2] good.till" + clear + "[2/2] bad.till" + clear
-                                    + "till: " + bad + ":2: add CHOPS"));
+                                    + "till: " + other + ":2: add CHOPS"));
     EXPECT_EQ(terminal.end(), 1);
 }
 
