@@ -24,10 +24,10 @@ figure "Tests (GCC)" "$(tests_told "$build")"
 # headers. The branches that count are those of the code: each call has one of the compiler's besides,
 # for an exception that passes.
 plugin=$build/plugin/CMakeFiles/PackagingControlObjects.dir
-gcovr --root . --json "$build/plugin.json" --gcov-ignore-parse-errors \
+gcovr -j "$(nproc)" --root . --json "$build/plugin.json" --gcov-ignore-parse-errors \
     --exclude-throw-branches --exclude-unreachable-branches \
     --filter 'plugin/' --filter 'registry/' --filter 'events/' --filter 'triggers/' "$plugin"
-gcovr --root . --json "$build/all.json" --gcov-ignore-parse-errors \
+gcovr -j "$(nproc)" --root . --json "$build/all.json" --gcov-ignore-parse-errors \
     --filter 'host/' --filter 'till/' "$build"
 
 # What is left out of the count would not be covered.
