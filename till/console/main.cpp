@@ -25,7 +25,9 @@
 #include <csignal>
 #include <cstring>
 
+#include <fcntl.h>
 #include <langinfo.h>
+#include <unistd.h>
 
 using namespace till;
 
@@ -193,6 +195,16 @@ int runTraced(Options &options)
     return status == AllWell ? StartFailed : status;
 }
 
+//! Puts something in the place of a standard stream that is closed, where no other file is to get
+//! its number: reading and writing there fails as it would.
+void holdStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+}
+
 //! What the arguments ask for.
 int runArguments(const QStringList &arguments)
 {
@@ -218,6 +230,7 @@ int runArguments(const QStringList &arguments)
 
 int main(int argc, char *argv[])
 {
+    holdStandardStreams();
     std::setlocale(LC_CTYPE, "");
     hasUtf8Locale = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
     if (!hasUtf8Locale) // Qt and the line editing take a sign for a sign then, not for bytes

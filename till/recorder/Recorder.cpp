@@ -117,11 +117,7 @@ void Recorder::finish()
     const UnderWay last = m_underWay.value_or(UnderWay());
     begin({});
     tellEnd();
-    if (!isOfRegister(last.text))
-        return;
-    m_write("# The course of things ends within this command:");
-    tellAnswers(last);
-    tellCommand(last.text);
+    tellCutOff(last);
 }
 
 Message Recorder::report(const QString &path) const
@@ -162,7 +158,9 @@ void Recorder::readVerdict()
     if (m_database != ":memory:")
         return;
     tellEnd();
-    if (m_told.isUnfinished() && !m_isStrange) {
+    const bool isCutOff = m_underWay && tellCutOff(*m_underWay);
+    m_underWay.reset();
+    if (m_told.isUnfinished() && !m_isStrange && !isCutOff) {
         m_write("# Another till goes on, and has no receipt.");
         m_write("answer yes");
         m_write("cancel");
@@ -262,6 +260,17 @@ void Recorder::tellEnd()
         return;
     m_write("# What it came to:");
     expect(expectationsOf(m_told));
+}
+
+//! Of a command that has not ended; false when it is none of the register.
+bool Recorder::tellCutOff(const UnderWay &command)
+{
+    if (!isOfRegister(command.text))
+        return false;
+    m_write("# The course of things ends within this command:");
+    tellAnswers(command);
+    tellCommand(command.text);
+    return true;
 }
 
 void Recorder::tellCommand(const QString &line)

@@ -71,6 +71,7 @@ private:
     void tellSaid(const UnderWay &command);
     void tellAnswers(const UnderWay &command);
     void tellEnd();
+    bool tellCutOff(const UnderWay &command);
     void tellCommand(const QString &line);
     void expect(const QStringList &texts);
     void leaveOut(const QString &why, const QString &text);
