@@ -11,7 +11,6 @@
 #include "till/course/Trace.h"
 #include "till/database/DatabaseFile.h"
 #include "till/recorder/Recording.h"
-#include "till/recorder/ScriptFile.h"
 #include "till/runner/ScriptFiles.h"
 #include "till/terminal/Interactive.h"
 #include "till/terminal/Output.h"
@@ -109,14 +108,16 @@ int openRecorded(const Options &options, Notes &notes, const Translator &transla
     return status;
 }
 
-//! Prints the script of a trace.
+//! Prints the script of a trace, once all of that was read.
 int fromTrace(const QString &path, const Translator &translator)
 {
-    const Output output;
-    output.print(recordedMark());
-    Recorder recorder([&output](const QString &line) { output.print(line); });
+    QString script;
+    RecordedText text([&script](const QString &line) { script += line + '\n'; });
+    Recorder recorder([&text](const QString &line) { text.add(line); });
     if (const Result<> read = readTrace(path, recorder); !read)
         return fail(StartFailed, read.error().text());
+    text.end();
+    Output().print(script);
     return recorder.unsaid().isEmpty()
                ? AllWell
                : fail(CommandFailed, translator.text(recorder.report(path)));

@@ -1,4 +1,5 @@
 #include "tests/till/support/TillFixture.h"
+#include "till/recorder/RecordedText.h"
 #include "till/script/Script.h"
 
 // A receipt that is saved as a script, and the script played.
@@ -14,14 +15,16 @@ using testing::StartsWith;
 class Save : public TillTest
 {
 protected:
-    //! The script of the receipt, behind the mark.
+    //! The script of the receipt, without its first and last line.
     std::string saved()
     {
         done({"save " + file});
         const std::string text = contents(file).toStdString();
         const std::string mark = "# Recorded by the till.\n";
         EXPECT_THAT(text, StartsWith(mark));
-        return text.substr(mark.size());
+        EXPECT_TRUE(RecordedText::isUnchanged(contents(file)));
+        const size_t last = text.rfind("# Recorded to here;");
+        return text.substr(mark.size(), last - mark.size());
     }
 
     //! Why the saved script does not hold on a till that is on nothing yet; empty when it does.
@@ -228,7 +231,25 @@ TEST_F(Save, OtherFile_IsLeftAsItIs)
               file + ": is there already and is no recorded script; name another file");
     EXPECT_EQ(contents(file), "open\n");
     EXPECT_EQ(failed("save " + directory.path()),
-              directory.path() + ": is there already and is no recorded script; name another file");
+              directory.path() + ": is no file of its own; name another file");
+    EXPECT_EQ(failed("save -"), "-: a script is saved to a file; ./- is one of that name");
+}
+
+TEST_F(Save, ScriptThatWasChanged_IsLeftAsItIs)
+{
+    done({"open", "add CHIPS"});
+    saved();
+    saved(); // which takes the place of the one before
+    for (const QByteArray &changed :
+         {contents(file).replace("quantity 1", "quantity 2"), contents(file) + "pay\n",
+          contents(file).chopped(1), QByteArray("# Recorded by the till.\nopen\n")}) {
+        overwrite(file, changed);
+        EXPECT_EQ(failed("save " + file),
+                  file
+                      + ": was changed since it was recorded, or not recorded to its end; "
+                        "name another file, or remove this one");
+        EXPECT_EQ(contents(file), changed);
+    }
 }
 
 TEST_F(Save, FileThatCannotBeWritten_IsAFailure)
