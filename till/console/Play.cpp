@@ -45,6 +45,9 @@ public:
     {
         Verdict verdict;
         verdict.script = path;
+        if (const auto fault = m_options.scriptFaults.constFind(path);
+            fault != m_options.scriptFaults.cend())
+            return ended(verdict, Verdict::Wrong, {{path, *fault}});
         Script script = m_input.script;
         const QByteArray digest = m_options.update ? digestOf(path) : QByteArray();
         const Result<> read = path == "-" ? m_input.read : script.read(path);

@@ -166,10 +166,11 @@ int runTraced(Options &options)
     if (options.mode == "demo")
         options.words = QStringList{delivered("share/packagingcontrol/scripts")};
     if (options.mode == "demo" || options.mode == "play") {
-        const Result<QStringList> scripts = scriptsAt(options.words);
-        if (!scripts)
-            return fail(StartFailed, scripts.error().text());
-        options.words = *scripts;
+        const Result<ScriptFiles> found = scriptsAt(options.words);
+        if (!found)
+            return fail(StartFailed, found.error().text());
+        options.words = found->scripts;
+        options.scriptFaults = found->faults;
     }
     if (!options.junit.isEmpty()) {
         const QStringList inUse = filesInUse(options) + QStringList{options.trace};

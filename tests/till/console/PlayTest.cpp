@@ -21,26 +21,6 @@ TEST_F(Play, ManyScripts_ShowProgressAndStartAnew)
     EXPECT_EQ(done.out, "[1/2] s.till\n[2/2] s.till\n2 of 2 scripts held; expectations: 2\n");
 }
 
-TEST_F(Play, Folder_StandsForTheScriptsBelow)
-{
-    script("all/b.till", good);
-    script("all/a/deep/c.till", good);
-    script("all/a/notes.txt", bad);
-    const RunResult done = played({path("all"), script("z.till", good)});
-    EXPECT_EQ(done.status, 0) << done.err;
-    EXPECT_EQ(done.out, "[1/3] c.till\n[2/3] b.till\n[3/3] z.till\n"
-                        "3 of 3 scripts held; expectations: 6\n");
-}
-
-TEST_F(Play, FolderWithoutScripts_IsSaid)
-{
-    ASSERT_TRUE(QDir().mkdir(path("none")));
-    const RunResult none = played({script("s.till", good), path("none")});
-    EXPECT_EQ(none.status, 3);
-    EXPECT_EQ(none.out, "");
-    EXPECT_EQ(none.err, "till: " + path("none").toStdString() + ": no scripts there\n");
-}
-
 TEST_F(Play, Dash_IsStandardInput)
 {
     EXPECT_EQ(played({"-", "-"}, good).out,
