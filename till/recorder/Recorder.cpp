@@ -37,11 +37,17 @@ bool canBeTyped(const QString &text, bool mistake)
     return read ? toText(*read) == text : mistake;
 }
 
+//! The text of a question or a message, as "expect" has it.
+QString textOf(const QJsonObject &note)
+{
+    return asWord(note["text"].toString().replace('\n', ' '));
+}
+
 //! What is told of a question or a message, as "expect" names it.
 QString nameOf(const QJsonObject &note)
 {
     const QString key = note["key"].toString();
-    return asWord(key.isEmpty() ? note["text"].toString().replace('\n', ' ') : key);
+    return key.isEmpty() ? textOf(note) : asWord(key);
 }
 
 //! Appends \a name, unless it is there or says nothing of its own.
@@ -74,7 +80,7 @@ const QSet<QString> &Recorder::kinds()
 {
     static const QSet<QString> kinds{"start",    "verdict", "command", "outcome",
                                      "question", "answer",  "message", "takeup",
-                                     "position", "data",    "receipt"};
+                                     "position", "data",    "receipt", "loyalty"};
     return kinds;
 }
 
@@ -100,8 +106,11 @@ void Recorder::read(const QJsonObject &note)
         begin({note["text"].toString(), {}, {}, {}, {}});
     else if (kind == "outcome")
         readOutcome(note["outcome"].toString());
-    else if (kind == "question" && m_underWay)
+    else if (kind == "question" && m_underWay) {
         appendOnce(m_underWay->questions, nameOf(note));
+        appendOnce(m_underWay->questions, textOf(note));
+    } else if (kind == "loyalty" && m_underWay)
+        ++m_underWay->loyalty;
     else if (kind == "question")
         leaveOut("a question that no command asked", note["text"].toString());
     else if (kind == "answer" && m_underWay)
@@ -245,6 +254,8 @@ void Recorder::tellSaid(const UnderWay &command)
         expect({"question " + question});
     for (const QString &message : command.messages)
         expect({"message " + message});
+    if (command.loyalty > 0)
+        expect({QString("loyalty %1").arg(command.loyalty)});
 }
 
 void Recorder::tellAnswers(const UnderWay &command)

@@ -63,6 +63,8 @@ TEST_F(PlayUpdate, EachKindOfExpectation_IsMended)
               "position 1 live quantity 1 article CAN3");
     EXPECT_EQ(mended("position 2 sum 1 base 2"), "position 2 sum 210.00 base 1.5");
     EXPECT_EQ(mended("position 1 stornoed"), "position 1 live");
+    EXPECT_EQ(mended("position 1 group 2 live"), "position 1 group none live");
+    EXPECT_EQ(mended("loyalty 3"), "loyalty 0");
     EXPECT_EQ(mended("position 1 none"), "position 1 article CAN3");
     EXPECT_EQ(mended("position 9 live quantity 2"), "position 9 none");
     EXPECT_EQ(mended("positions 9"), "positions 2");

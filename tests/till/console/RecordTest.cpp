@@ -39,7 +39,7 @@ TEST_F(Record, EveryReceipt_IsInAScriptThatHolds)
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "");
     EXPECT_THAT(done.out,
-                EndsWith("\n" + file.toStdString() + ": 8 command(s), 41 expectation(s)\n"));
+                EndsWith("\n" + file.toStdString() + ": 8 command(s), 42 expectation(s)\n"));
     EXPECT_THAT(script(), StartsWith("# Recorded by the till.\n"
                                      "set PackagingControl:allowSaleEmptyTara true\nopen sale\n"));
     EXPECT_THAT(script(), HasSubstr("\nadd CHIPS 1\n"));

@@ -70,6 +70,8 @@ TEST_F(Save, Receipt_IsAScriptThatTellsWhatItDid)
                        "answer yes\n"
                        "storno 1\n"
                        "expect question tillStornoPosition\n"
+                       "expect question \"Сторнировать позицию?\"\n"
+                       "expect loyalty 1\n"
                        "expect message none\n"
                        "expect position 1 stornoed\n"
                        "expect position 2 stornoed\n"
@@ -98,6 +100,16 @@ TEST_F(Save, Answers_AreInTheScript)
     EXPECT_THAT(text, HasSubstr("\nanswer no\nexpect refused subtotal\n"
                                 "expect question packingControlSaleEmptyTara\n"));
     EXPECT_THAT(text, HasSubstr("\nanswer yes\npay 500.00\n"));
+    EXPECT_EQ(played(), "");
+}
+
+TEST_F(Save, GroupOfPieces_IsInTheScript)
+{
+    done({"open", "add CAN3 2", "add BEER 2", "split 2 1"});
+    const std::string text = saved();
+    EXPECT_THAT(text, HasSubstr("\nexpect position 2 quantity 1 sum 140.00 group 2\n"));
+    EXPECT_THAT(text, HasSubstr("\nexpect position 3 article BEER quantity 1 sum 140.00 live group "
+                                "2\n"));
     EXPECT_EQ(played(), "");
 }
 

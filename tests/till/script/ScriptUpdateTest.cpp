@@ -1,5 +1,5 @@
-#include "tests/till/support/FolderTest.h"
 #include "till/script/ScriptUpdate.h"
+#include "tests/till/support/FolderTest.h"
 
 // Changes that are made in a script.
 
