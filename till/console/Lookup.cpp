@@ -8,6 +8,8 @@
 #include "till/reports/ReceiptRows.h"
 #include "till/terminal/Output.h"
 
+#include <QtCore/QJsonDocument>
+
 namespace till {
 
 namespace {
@@ -150,11 +152,16 @@ int showReceipt(const Options &options, const Translator &translator, Archive &a
     return AllWell;
 }
 
+//! In the form of a trace.
 QString linesOf(const QList<JournalEntry> &journal)
 {
     QByteArray lines;
-    for (const JournalEntry &entry : journal)
-        lines += entry.json + '\n';
+    qint64 number = 0;
+    for (const JournalEntry &entry : journal) {
+        QJsonObject note = QJsonDocument::fromJson(entry.json).object();
+        note.insert("line", ++number);
+        lines += jsonLine(note);
+    }
     return QString::fromUtf8(lines);
 }
 
@@ -163,13 +170,17 @@ int showJournal(const Options &options, const Translator &translator, Archive &a
     const auto journal = archive.journal(id);
     if (!journal)
         return fail(StartFailed, journal.error());
-    if (journal->isEmpty())
+    const QList<JournalEntry> &entries = journal->entries;
+    if (entries.isEmpty() && journal->faults.isEmpty())
         return fail(CommandFailed,
                     {options.setup.database, "there is no journal of " + nameOf(id)});
-    outputOf(options).print(options.lookup.form == Form::Json
-                                ? linesOf(*journal)
-                                : courseText(*journal, translator, options.style));
-    return AllWell;
+    if (!entries.isEmpty())
+        outputOf(options).print(options.lookup.form == Form::Json
+                                    ? linesOf(entries)
+                                    : courseText(entries, translator, options.style));
+    for (const QString &fault : journal->faults)
+        Output::error(nameOf(id) + ": " + fault);
+    return journal->faults.isEmpty() ? AllWell : CommandFailed;
 }
 
 } // namespace
