@@ -10,6 +10,10 @@
 
 #include <QtCore/QJsonDocument>
 
+#include <limits>
+
+#include <unistd.h>
+
 namespace till {
 
 namespace {
@@ -33,6 +37,14 @@ Output outputOf(const Options &options)
     return options.lookup.form == Form::Text ? Output(options.style.colour) : Output();
 }
 
+//! Lines of a list are as wide as a terminal; in a pipe nothing is cut.
+Style styleOfList(Style style)
+{
+    if (isatty(STDOUT_FILENO) == 0)
+        style.columns = [] { return std::numeric_limits<int>::max(); };
+    return style;
+}
+
 //! Receipts being listed: what was told of them goes out in large pieces.
 class Listing
 {
@@ -40,7 +52,7 @@ public:
     Listing(const Options &options, const Translator &translator, Archive &archive)
         : m_options(options)
         , m_archive(archive)
-        , m_rows(translator, options.style)
+        , m_rows(translator, styleOfList(options.style))
         , m_output(outputOf(options))
     {
     }

@@ -169,6 +169,13 @@ TEST_F(Lookup, Journal_TellsTheCourse)
     EXPECT_EQ(objects({"journal", "1"})[0].value("type").toInt(), 10000);
 }
 
+TEST_F(Lookup, ListInAPipe_IsNotCut)
+{
+    const QByteArray order(150, 'x');
+    EXPECT_EQ(run({"--db", database()}, "open\norder " + order + '\n').status, 0);
+    EXPECT_THAT(told({"receipts"}), HasSubstr(order.toStdString() + "\n"));
+}
+
 TEST_F(Lookup, RefusalsOfTheRegister_AreInTheJournal)
 {
     EXPECT_EQ(run({"--db", database()}, "open\nsubtotal\nadd CHIPS\nsubtotal\npay 2\ncancel\n"
@@ -286,7 +293,8 @@ TEST_F(Lookup, ReceiptThatWasSetApart_IsMarked)
 {
     sell();
     EXPECT_EQ(lookUp({"set-apart", "3"}).status, 0);
-    EXPECT_THAT(told({"receipts"}), HasSubstr("0.00  set apart: unfinished · Receipt · ope…\n"));
+    EXPECT_THAT(told({"receipts"}),
+                HasSubstr("0.00  set apart: unfinished · Receipt · open · 0 pos.\n"));
     query("UPDATE receipts SET total = 5 WHERE id = 3");
     EXPECT_THAT(told({"receipts"}), HasSubstr("set apart: unfinished"));
     EXPECT_EQ(objects({"receipts"})[2].value("setApart"), "unfinished");
