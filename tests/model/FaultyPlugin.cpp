@@ -1,3 +1,4 @@
+#include "host/LoyaltySystemLayer.h"
 #include "tests/model/BrokenPlugins.h"
 
 // A plugin's file with one of the faults, FAULT, or with none.
@@ -19,6 +20,35 @@ public:
 template <typename Base>
 class Sound : public Base
 {
+};
+
+//! Ties no pieces of a split position together.
+template <typename Base>
+class Ungrouped : public Base
+{
+public:
+    QSharedPointer<PackagingControl::PackagingInfo>
+    createPackagingInfo(const QSharedPointer<GoodsItem> &goods) override
+    {
+        goods->setGroupId(QString());
+        return Base::createPackagingInfo(goods);
+    }
+};
+
+//! Keeps from the loyalty system what becomes of the receipt.
+template <typename Base>
+class Secretive : public Base
+{
+public:
+    void handleEvent(const Event &event) override
+    {
+        LoyaltySystemLayer nobody;
+        auto &slot = Singleton<LoyaltySystemLayer>::instance;
+        LoyaltySystemLayer *const told = slot();
+        slot = &nobody;
+        Base::handleEvent(event);
+        slot = told;
+    }
 };
 
 using Faulty = FAULT<Counting>;

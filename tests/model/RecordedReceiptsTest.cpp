@@ -117,7 +117,8 @@ TEST_F(RecordedReceipts, AtRandom_HoldWhenTheyArePlayed)
 TEST_F(RecordedReceipts, OnBrokenPlugins_DoNotAllHold)
 {
     constexpr int plenty = 50; // batches
-    std::vector<const char *> faults{"Forgetful", "Careless", "Mute", "Stubborn"};
+    std::vector<const char *> faults{"Forgetful", "Careless",  "Mute",
+                                     "Stubborn",  "Ungrouped", "Secretive"};
     for (int batch = 0; batch < plenty && !faults.empty(); ++batch) {
         const QStringList files = record(100);
         const auto isFound = [&](const char *fault) {

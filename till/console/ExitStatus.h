@@ -5,7 +5,7 @@
 
 namespace till {
 
-//! Exit statuses, as docs/till.md lists them.
+//! Exit statuses, as docs/till.md lists them. A play that a signal ends has 128 and its number.
 enum ExitStatus : int {
     AllWell = 0,
     CommandFailed = 1, //!< a command or an expectation did not end well, or damage was found

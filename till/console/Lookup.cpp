@@ -8,6 +8,12 @@
 #include "till/reports/ReceiptRows.h"
 #include "till/terminal/Output.h"
 
+#include <QtCore/QJsonDocument>
+
+#include <limits>
+
+#include <unistd.h>
+
 namespace till {
 
 namespace {
@@ -31,6 +37,14 @@ Output outputOf(const Options &options)
     return options.lookup.form == Form::Text ? Output(options.style.colour) : Output();
 }
 
+//! Lines of a list are as wide as a terminal; in a pipe nothing is cut.
+Style styleOfList(Style style)
+{
+    if (isatty(STDOUT_FILENO) == 0)
+        style.columns = [] { return std::numeric_limits<int>::max(); };
+    return style;
+}
+
 //! Receipts being listed: what was told of them goes out in large pieces.
 class Listing
 {
@@ -38,7 +52,7 @@ public:
     Listing(const Options &options, const Translator &translator, Archive &archive)
         : m_options(options)
         , m_archive(archive)
-        , m_rows(translator, options.style)
+        , m_rows(translator, styleOfList(options.style))
         , m_output(outputOf(options))
     {
     }
@@ -150,11 +164,16 @@ int showReceipt(const Options &options, const Translator &translator, Archive &a
     return AllWell;
 }
 
+//! In the form of a trace.
 QString linesOf(const QList<JournalEntry> &journal)
 {
     QByteArray lines;
-    for (const JournalEntry &entry : journal)
-        lines += entry.json + '\n';
+    qint64 number = 0;
+    for (const JournalEntry &entry : journal) {
+        QJsonObject note = QJsonDocument::fromJson(entry.json).object();
+        note.insert("line", ++number);
+        lines += jsonLine(note);
+    }
     return QString::fromUtf8(lines);
 }
 
@@ -163,13 +182,17 @@ int showJournal(const Options &options, const Translator &translator, Archive &a
     const auto journal = archive.journal(id);
     if (!journal)
         return fail(StartFailed, journal.error());
-    if (journal->isEmpty())
+    const QList<JournalEntry> &entries = journal->entries;
+    if (entries.isEmpty() && journal->faults.isEmpty())
         return fail(CommandFailed,
                     {options.setup.database, "there is no journal of " + nameOf(id)});
-    outputOf(options).print(options.lookup.form == Form::Json
-                                ? linesOf(*journal)
-                                : courseText(*journal, translator, options.style));
-    return AllWell;
+    if (!entries.isEmpty())
+        outputOf(options).print(options.lookup.form == Form::Json
+                                    ? linesOf(entries)
+                                    : courseText(entries, translator, options.style));
+    for (const QString &fault : journal->faults)
+        Output::error(nameOf(id) + ": " + fault);
+    return journal->faults.isEmpty() ? AllWell : CommandFailed;
 }
 
 } // namespace

@@ -81,6 +81,8 @@ Result<> readPlay(const QCommandLineParser &parser, Options &options)
     options.update = parser.isSet("update");
     if (options.update && options.words.contains("-"))
         return Fault{"--update", "standard input cannot be rewritten"};
+    if (options.update && options.trace == "-")
+        return Fault{"--update", "standard output is for the trace", "name a file for the trace"};
     if (options.tap && options.trace == "-")
         return Fault{"--tap", "standard output is for the trace"};
     return {};

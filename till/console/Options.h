@@ -7,6 +7,7 @@
 
 #include <QtCore/QCommandLineOption>
 #include <QtCore/QList>
+#include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -21,10 +22,11 @@ struct Options
     Style style;
     QString language;
     QString trace;
-    QString record;           //!< the file that is written as a script
-    QString mode;             //!< a command of the program's own; empty to open the register
-    QStringList words;        //!< that follow it
-    bool ownDatabase = false; //!< --db was given: scripts play on it too
+    QString record;    //!< the file that is written as a script
+    QString mode;      //!< a command of the program's own; empty to open the register
+    QStringList words; //!< that follow it; of a play, its scripts
+    QMap<QString, QString> scriptFaults; //!< why some of these cannot be read
+    bool ownDatabase = false;            //!< --db was given: scripts play on it too
     bool quiet = false;
     int jobs = 0;    //!< how many scripts are played at a time; 0 for as many as there are cores
     int timeout = 0; //!< seconds that the play of a script may take

@@ -6,7 +6,6 @@
 #include "till/storage/Storage.h"
 #include "till/terminal/Output.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QThread>
 
 namespace till {
@@ -37,15 +36,22 @@ public:
         , m_notes(notes)
         , m_translator(translator)
     {
+        if (options.words.contains("-")) // it is there once, and is read before it takes time
+            m_input.read = m_input.script.read("-");
     }
 
-    //! Plays the script \a path; what it reached is told to \a soFar, if that is anybody.
+    //! Plays the script \a path; what it reached is told to \a soFar.
     Verdict play(const QString &path, const Apart::SoFar &soFar) const
     {
         Verdict verdict;
         verdict.script = path;
-        Script script;
-        if (const Result<> read = script.read(path); !read)
+        if (const auto fault = m_options.scriptFaults.constFind(path);
+            fault != m_options.scriptFaults.cend())
+            return ended(verdict, Verdict::Wrong, {{path, *fault}});
+        Script script = m_input.script;
+        const QByteArray digest = m_options.update ? digestOf(path) : QByteArray();
+        const Result<> read = path == "-" ? m_input.read : script.read(path);
+        if (!read)
             return ended(verdict, Verdict::Wrong, {read.error()});
         verdict.expectations = script.expectations();
         Setup setup = m_options.setup;
@@ -54,11 +60,13 @@ public:
         CashDesk desk(setup, m_notes);
         if (const Result<> started = desk.start(); !started)
             return ended(verdict, Verdict::NotStarted, {started.error()});
-        const Subscription following = soFar ? followed(m_notes, verdict, soFar) : nullptr;
+        const Subscription following = followed(m_notes, verdict, soFar);
         ScriptUpdate update(path);
         const auto played = playOn(desk, script, m_options.update ? &update : nullptr);
+        verdict.changes = played ? update.changes() : QList<LineChange>();
+        verdict.digest = digest;
         if (played)
-            return updated(verdict, update);
+            return verdict;
         const Verdict::End end = played.error().isWrong ? Verdict::Wrong : Verdict::Failed;
         return ended(verdict, end, played.error());
     }
@@ -69,17 +77,6 @@ private:
         verdict.end = end;
         verdict.fault = fault;
         return verdict;
-    }
-
-    //! Shows and writes what is noted for an update.
-    Verdict updated(const Verdict &verdict, const ScriptUpdate &update) const
-    {
-        if (update.difference().isEmpty())
-            return verdict;
-        if (!m_options.isSilent())
-            Output().print(update.difference());
-        const Result<> written = update.write();
-        return written ? verdict : ended(verdict, Verdict::Wrong, {written.error()});
     }
 
     Result<void, ScriptFault> playOn(CashDesk &desk, const Script &script,
@@ -96,13 +93,22 @@ private:
             commands, [&](const QString &line) { show("> " + line); }, update);
     }
 
+    //! What is on standard input.
+    struct Input
+    {
+        Script script;
+        Result<> read;
+    };
+
     const Options &m_options;
     Notes &m_notes;
     const Translator &m_translator;
+    Input m_input;
 };
 
-//! Plays each script in a process of its own; for lines as wide as the terminal of this one.
-void playApart(Options options, Notes &notes, const Translator &translator, Teller &teller)
+//! Plays each script in a process of its own; for lines as wide as the terminal of this one. The
+//! signal by which the till was asked to end meanwhile, or 0.
+int playApart(Options options, Notes &notes, const Translator &translator, Teller &teller)
 {
     static const int columns = options.style.columns();
     options.style.columns = [] { return columns; };
@@ -115,25 +121,16 @@ void playApart(Options options, Notes &notes, const Translator &translator, Tell
                  : options.playsInTurn() ? 1
                                          : QThread::idealThreadCount();
     apart.timeout = std::chrono::seconds(options.timeout);
-    apart.play = [&player](const QString &script, const Apart::SoFar &soFar) {
+    apart.play = [&player, &teller](const QString &script, const Apart::SoFar &soFar) {
+        teller.forget();
         return player.play(script, soFar);
     };
-    playApart(options.words, apart,
-              [&teller](const Verdict &verdict) { return teller.tell(verdict); });
-}
-
-//! Plays all scripts in this process, which is told what is traced.
-void playHere(const Options &options, Notes &notes, const Translator &translator, Teller &teller)
-{
-    const Player player(options, notes, translator);
-    for (const QString &script : options.words) {
-        QElapsedTimer timer;
-        timer.start();
-        Verdict verdict = player.play(script, {});
-        verdict.seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
-        if (!teller.tell(verdict))
-            return;
-    }
+    return playApart(options.words, apart, [&](const Verdict &verdict) {
+        if (verdict.isCutOff) // else its process has noted it
+            notes.add("verdict",
+                      {{"file", verdict.script}, {"held", false}, {"fault", verdict.fault.text()}});
+        return teller.tell(verdict);
+    });
 }
 
 } // namespace
@@ -152,11 +149,10 @@ int play(const Options &options, Notes &notes, const Translator &translator)
         Output::error(begun.error().text());
         return StartFailed;
     }
-    if (options.trace.isEmpty())
-        playApart(options, notes, translator, teller);
-    else
-        playHere(options, notes, translator, teller);
-    return teller.end();
+    const int signal = playApart(options, notes, translator, teller);
+    const ExitStatus status = teller.end();
+    constexpr int endedBySignal = 128; // as shells have it
+    return signal == 0 ? status : endedBySignal + signal;
 }
 
 } // namespace till

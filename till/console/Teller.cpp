@@ -1,5 +1,6 @@
 #include "till/console/Teller.h"
 
+#include "till/result/WriteAll.h"
 #include "till/runner/Junit.h"
 #include "till/runner/Tap.h"
 #include "till/terminal/Output.h"
@@ -31,7 +32,7 @@ Teller::Teller(const Options &options)
 
 Result<> Teller::begin()
 {
-    if (!m_options.junit.isEmpty() && !m_junit.open(QIODevice::WriteOnly))
+    if (!m_options.junit.isEmpty() && !m_junit.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return Fault{m_options.junit, m_junit.errorString()};
     if (m_options.tap)
         Output().print(tapPlan(m_options.words.size()));
@@ -39,41 +40,70 @@ Result<> Teller::begin()
     return {};
 }
 
-bool Teller::tell(const Verdict &verdict)
+bool Teller::tell(Verdict verdict)
 {
+    printCourse(verdict);
+    if (const Result<> updated = update(verdict); !updated) {
+        verdict.end = Verdict::Wrong;
+        verdict.fault = {updated.error()};
+    }
     m_report.add(verdict);
     m_verdicts.append(verdict);
     if (verdict.end == Verdict::Held)
         m_verdicts.last().course.clear(); // nobody asks for it any more
-    print(verdict);
+    printVerdict(verdict);
     if (!goesOn(verdict))
         return false;
     announce();
     return true;
 }
 
-void Teller::print(const Verdict &verdict) const
+void Teller::printCourse(const Verdict &verdict) const
+{
+    if (!m_options.isSilent() && !verdict.course.isEmpty())
+        Output(m_options.style.colour).print(verdict.course);
+    const QString difference = differenceOf(verdict.script, verdict.changes);
+    if (!difference.isEmpty())
+        Output().print(m_options.tap ? tapComment(difference) : difference);
+}
+
+//! What could not be shown is not written.
+Result<> Teller::update(const Verdict &verdict) const
+{
+    if (verdict.changes.isEmpty())
+        return {};
+    if (!Output::fault().isEmpty())
+        return Fault{verdict.script, "is left as it was, as the difference cannot be shown"};
+    return rewrite(verdict.script, verdict.digest, verdict.changes);
+}
+
+void Teller::printVerdict(const Verdict &verdict) const
 {
     if (m_options.tap)
         Output().print(tapLines(m_verdicts.size(), verdict));
-    else if (!verdict.course.isEmpty())
-        Output(m_options.style.colour).print(verdict.course);
     if (!verdict.complaints.isEmpty())
         Output::passOn(verdict.complaints);
     if (verdict.end != Verdict::Held)
         Output::error(verdict.fault.text());
 }
 
+bool Teller::isInterrupted() const
+{
+    return m_report.count(Verdict::Interrupted) > 0;
+}
+
 bool Teller::goesOn(const Verdict &verdict) const
 {
-    return verdict.end != Verdict::NotStarted && (verdict.end == Verdict::Held || !m_options.stop);
+    return verdict.end != Verdict::NotStarted && !isInterrupted()
+           && (verdict.end == Verdict::Held || !m_options.stop);
 }
 
 ExitStatus Teller::end()
 {
-    static constexpr ExitStatus statuses[] = {AllWell, CommandFailed, StartFailed, StartFailed};
+    static constexpr ExitStatus statuses[] = {AllWell, CommandFailed, CommandFailed, StartFailed,
+                                              StartFailed};
     if (m_options.tap && m_verdicts.size() < m_options.words.size())
-        Output().print(tapEnd(m_verdicts.constLast()));
+        Output().print(tapEnd(m_verdicts.isEmpty() ? Verdict() : m_verdicts.constLast()));
     if (m_report.worst() != Verdict::NotStarted)
         print(m_report.table());
     const Result<> written = writeJunit();
@@ -107,7 +137,7 @@ Result<> Teller::writeJunit()
     if (m_options.junit.isEmpty())
         return {};
     const QByteArray xml = junit(m_verdicts, m_options.words);
-    if (m_junit.write(xml) != xml.size() || !m_junit.flush())
+    if (!writeAll(m_junit, xml))
         return Fault{m_options.junit, m_junit.errorString()};
     return {};
 }

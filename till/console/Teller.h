@@ -19,18 +19,25 @@ public:
     //! Readies what has to be there before the first script is played.
     Result<> begin();
 
-    //! Tells of the next script; whether to go on.
-    bool tell(const Verdict &verdict);
+    //! Tells of the next script, and makes the changes in it that it tells of; whether to go on.
+    bool tell(Verdict verdict);
+
+    //! Lets go of its file in a process that does not tell.
+    void forget() { m_junit.close(); }
 
     //! Tells of the whole run; how the program ends.
     ExitStatus end();
 
 private:
-    void print(const Verdict &verdict) const;
+    void printCourse(const Verdict &verdict) const;
+    void printVerdict(const Verdict &verdict) const;
     void print(const QString &text) const;
+    Result<> update(const Verdict &verdict) const;
     void announce() const;
     bool goesOn(const Verdict &verdict) const;
     Result<> writeJunit();
+    //! Whether somebody has ended the run.
+    bool isInterrupted() const;
 
     const Options &m_options;
     Report m_report;

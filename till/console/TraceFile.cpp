@@ -48,11 +48,6 @@ bool isXml(const QByteArray &firstLine)
     return firstLine.startsWith("<?xml");
 }
 
-bool isRecorded(const QByteArray &firstLine)
-{
-    return QString::fromUtf8(firstLine).trimmed() == recordedMark();
-}
-
 //! Whether something is at \a path that would be destroyed: not a pipe or a device like a printer,
 //! nor a file of which the first line says that it is ours.
 bool isOtherFile(const QString &path, IsOurs isOurs)
@@ -95,7 +90,13 @@ Result<> checkJunitFile(const QString &path, const QStringList &inUse)
 
 Result<> checkRecordFile(const QString &path, const QStringList &inUse)
 {
-    return checkFile("--record", path, inUse, isRecorded, "recorded script");
+    const IsOurs any = [](const QByteArray &) { return true; };
+    if (const Result<> checked = checkFile("--record", path, inUse, any, "recorded script");
+        !checked)
+        return checked;
+    if (const Result<> checked = checkRecorded(path); !checked)
+        return Fault{"--record", path + ' ' + checked.error().reason, checked.error().remedy};
+    return {};
 }
 
 } // namespace till

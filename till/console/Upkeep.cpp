@@ -20,10 +20,14 @@ QString summary(const CheckReport &report)
     qsizetype apart = 0;
     for (const OddReceipt &receipt : report.odd)
         apart += receipt.isSetApart ? 1 : 0;
-    return QStringLiteral("%1 whole, %2 damaged, %3 set apart")
-        .arg(report.whole)
-        .arg(report.odd.size() - apart)
-        .arg(apart);
+    const QString counts = QStringLiteral("%1 whole, %2 damaged, %3 set apart")
+                               .arg(report.whole)
+                               .arg(report.odd.size() - apart)
+                               .arg(apart);
+    if (report.hasAll)
+        return counts;
+    const bool hasNone = report.whole == 0 && report.odd.isEmpty();
+    return hasNone ? QStringLiteral("cannot be read") : counts + ", others cannot be read";
 }
 
 //! The lines of the receipt that hold, for whoever has to enter them anew.
@@ -54,6 +58,8 @@ Result<Finding, Failure> checkStored(const QString &database)
     for (const OddReceipt &receipt : report->odd)
         text += row("receipt " + QString::number(receipt.id),
                     (receipt.isSetApart ? "set apart: " : "damaged: ") + receipt.reason);
+    for (const JournalFault &fault : report->journalFaults)
+        text += row("journal of " + QString::number(fault.receipt), fault.reason);
     return Finding{report->isGood() ? AllWell : CommandFailed, text};
 }
 

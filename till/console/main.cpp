@@ -11,7 +11,6 @@
 #include "till/course/Trace.h"
 #include "till/database/DatabaseFile.h"
 #include "till/recorder/Recording.h"
-#include "till/recorder/ScriptFile.h"
 #include "till/runner/ScriptFiles.h"
 #include "till/terminal/Interactive.h"
 #include "till/terminal/Output.h"
@@ -25,7 +24,9 @@
 #include <csignal>
 #include <cstring>
 
+#include <fcntl.h>
 #include <langinfo.h>
+#include <unistd.h>
 
 using namespace till;
 
@@ -107,14 +108,16 @@ int openRecorded(const Options &options, Notes &notes, const Translator &transla
     return status;
 }
 
-//! Prints the script of a trace.
+//! Prints the script of a trace, once all of that was read.
 int fromTrace(const QString &path, const Translator &translator)
 {
-    const Output output;
-    output.print(recordedMark());
-    Recorder recorder([&output](const QString &line) { output.print(line); });
+    QString script;
+    RecordedText text([&script](const QString &line) { script += line + '\n'; });
+    Recorder recorder([&text](const QString &line) { text.add(line); });
     if (const Result<> read = readTrace(path, recorder); !read)
         return fail(StartFailed, read.error().text());
+    text.end();
+    Output().print(script);
     return recorder.unsaid().isEmpty()
                ? AllWell
                : fail(CommandFailed, translator.text(recorder.report(path)));
@@ -163,10 +166,11 @@ int runTraced(Options &options)
     if (options.mode == "demo")
         options.words = QStringList{delivered("share/packagingcontrol/scripts")};
     if (options.mode == "demo" || options.mode == "play") {
-        const Result<QStringList> scripts = scriptsAt(options.words);
-        if (!scripts)
-            return fail(StartFailed, scripts.error().text());
-        options.words = *scripts;
+        const Result<ScriptFiles> found = scriptsAt(options.words);
+        if (!found)
+            return fail(StartFailed, found.error().text());
+        options.words = found->scripts;
+        options.scriptFaults = found->faults;
     }
     if (!options.junit.isEmpty()) {
         const QStringList inUse = filesInUse(options) + QStringList{options.trace};
@@ -191,6 +195,16 @@ int runTraced(Options &options)
         return status;
     Output::error(trace->error());
     return status == AllWell ? StartFailed : status;
+}
+
+//! Puts something in the place of a standard stream that is closed, where no other file is to get
+//! its number: reading and writing there fails as it would.
+void holdStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
 }
 
 //! What the arguments ask for.
@@ -218,6 +232,7 @@ int runArguments(const QStringList &arguments)
 
 int main(int argc, char *argv[])
 {
+    holdStandardStreams();
     std::setlocale(LC_CTYPE, "");
     hasUtf8Locale = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
     if (!hasUtf8Locale) // Qt and the line editing take a sign for a sign then, not for bytes

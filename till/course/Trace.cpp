@@ -3,17 +3,30 @@
 #include "till/course/JsonLine.h"
 #include "till/result/WriteAll.h"
 
+#include <cerrno>
+#include <cstring>
+#include <new>
+
+#include <fcntl.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace till {
 
 Result<std::unique_ptr<Trace>> Trace::start(Notes &notes, const QString &path)
 {
-    std::unique_ptr<Trace> trace(new Trace);
+    void *const memory =
+        mmap(nullptr, sizeof(Shared), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED)
+        return Fault{path, QString::fromLocal8Bit(strerror(errno))};
+    std::unique_ptr<Trace> trace(new Trace(*new (memory) Shared));
     trace->m_file.setFileName(path);
     const auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    const bool opened = path == QLatin1String("-") ? trace->m_file.open(STDOUT_FILENO, mode)
-                                                   : trace->m_file.open(mode | QIODevice::Truncate);
+    // Standard output itself is another file in a process that plays a script.
+    const bool opened = path == QLatin1String("-")
+                            ? trace->m_file.open(fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0), mode,
+                                                 QFileDevice::AutoCloseHandle)
+                            : trace->m_file.open(mode | QIODevice::Truncate);
     if (!opened)
         return Fault{path, trace->m_file.errorString()};
     trace->m_subscription = notes.subscribe(
@@ -21,14 +34,26 @@ Result<std::unique_ptr<Trace>> Trace::start(Notes &notes, const QString &path)
     return trace;
 }
 
+Trace::Trace(Shared &shared)
+    : m_shared(&shared)
+{
+}
+
+Trace::~Trace()
+{
+    munmap(m_shared, sizeof(Shared));
+}
+
 void Trace::write(QJsonObject note)
 {
-    note.insert("line", ++m_lines);
+    note.insert("line", ++m_shared->lines);
     const QByteArray line = jsonLine(note);
-    if (!writeAll(m_file, line) && m_error.isEmpty())
-        m_error =
-            (m_file.fileName().isEmpty() ? QStringLiteral("standard output") : m_file.fileName())
-            + ": " + m_file.errorString();
+    if (writeAll(m_file, line) || m_shared->error[0] != '\0')
+        return;
+    const QString file =
+        m_file.fileName().isEmpty() ? QStringLiteral("standard output") : m_file.fileName();
+    qstrncpy(m_shared->error, (file + ": " + m_file.errorString()).toUtf8().constData(),
+             sizeof(m_shared->error));
 }
 
 } // namespace till

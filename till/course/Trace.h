@@ -11,7 +11,7 @@
 namespace till {
 
 //! Writes every note as one line of JSON, in order. Each line is numbered and written at
-//! once.
+//! once. What is forked from this process goes on in the same file, with the same numbers.
 class Trace
 {
 public:
@@ -23,16 +23,23 @@ public:
      * receipt has all of it from the next take-up on.
      */
     static Result<std::unique_ptr<Trace>> start(Notes &notes, const QString &path);
+    ~Trace();
     //! Why a line could not be written, with the path; empty as long as all were.
-    QString error() const { return m_error; }
+    QString error() const { return QString::fromUtf8(m_shared->error); }
 
 private:
-    Trace() = default;
+    //! What this process and those that are forked from it have in common.
+    struct Shared
+    {
+        qint64 lines = 0;
+        char error[4096] = "";
+    };
+
+    explicit Trace(Shared &shared);
     void write(QJsonObject note);
 
+    Shared *const m_shared;
     QFile m_file;
-    QString m_error;
-    qint64 m_lines = 0;
     Subscription m_subscription;
 };
 

@@ -42,6 +42,13 @@ bool hasOtherNames(const QFileInfo &file)
            && status.st_nlink > 1;
 }
 
+//! The log of a till that opened it by that name would not be found.
+QString otherName()
+{
+    return QStringLiteral("this file has another name too (a hard link), by which another till "
+                          "could open it at the same time");
+}
+
 QString folderFault(const QFileInfo &folder)
 {
     if (!folder.isDir())
@@ -90,8 +97,7 @@ QString placeFault(const QString &path)
     if (file.exists() && !file.isWritable())
         return QStringLiteral("this file may not be written");
     if (hasOtherNames(file))
-        return QStringLiteral("this file has another name too (a hard link), by which another till "
-                              "could open it at the same time");
+        return otherName();
     if (const QString fault = folderFault(QFileInfo(file.absolutePath())); !fault.isEmpty())
         return fault;
     // SQLite would take such a file for a new database and delete the log, with the receipts. (A
@@ -107,6 +113,8 @@ QString readingFault(const QString &path)
     const QFileInfo file(path);
     if (!file.exists())
         return QStringLiteral("there is no such file");
+    if (file.isFile() && hasOtherNames(file))
+        return otherName();
     if (hasLog(path) && !isFolderWritable(path)) // an index of the log is made beside it
         return QStringLiteral("it is not read with its log %1-wal where nothing may be written: "
                               "copy both to another directory")

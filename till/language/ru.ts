@@ -96,10 +96,6 @@
         <translation>чек не открывали</translation>
     </message>
     <message>
-        <source>N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...</source>
-        <translation>N none|stornoed|live|quantity К|base К|sum ДЕНЬГИ|article КОД...</translation>
-    </message>
-    <message>
         <source>a position, and what is in it</source>
         <translation>позиция и что в ней</translation>
     </message>
@@ -450,6 +446,14 @@
     <message>
         <source>damaged: %1</source>
         <translation>повреждён: %1</translation>
+    </message>
+    <message>
+        <source>N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE|group none|FIRST...</source>
+        <translation>N none|stornoed|live|quantity К|base К|sum ДЕНЬГИ|article КОД|group none|ПЕРВАЯ...</translation>
+    </message>
+    <message>
+        <source>how often the last command told the loyalty system of the receipt</source>
+        <translation>сколько раз последняя команда сообщила о чеке системе лояльности</translation>
     </message>
 </context>
 </TS>

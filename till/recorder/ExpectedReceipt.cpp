@@ -40,6 +40,24 @@ void addPart(QStringList &words, const QString &part, double quantity)
         words += {part, toText(quantity)};
 }
 
+/*!
+ * What can be asked of the groups of \a lines: by the number of each that is in one, that of the
+ * first in it. The name of a group is another one each time.
+ */
+QHash<int, int> groupsOf(const QList<LineRecord> &lines)
+{
+    QHash<QString, int> firsts;
+    QHash<int, int> groups;
+    for (const LineRecord &line : lines) {
+        if (line.groupId.isEmpty())
+            continue;
+        if (!firsts.contains(line.groupId))
+            firsts.insert(line.groupId, line.posnum);
+        groups.insert(line.posnum, firsts.value(line.groupId));
+    }
+    return groups;
+}
+
 //! What is expected of \a line where it differs from \a before, which is null when it is new.
 QStringList partsOf(const LineRecord &line, const LineRecord *before)
 {
@@ -77,6 +95,7 @@ public:
         : m_record(receipt.record)
         , m_state(taraStateOf(receipt))
         , m_index(m_state)
+        , m_groups(groupsOf(m_record.lines))
     {
         for (const LineRecord &line : m_record.lines)
             m_lines.insert(line.posnum, &line);
@@ -85,6 +104,8 @@ public:
 
     const TaraState &state() const { return m_state; }
     const LineRecord *line(int posnum) const { return m_lines.value(posnum); }
+    //! The number of the first line in its group; 0 when it is in none.
+    int groupOf(int posnum) const { return m_groups.value(posnum); }
     const TaraUse *tara(int posnum) const { return m_index.tara(posnum); }
     const GoodsUse *goods(int posnum) const { return m_index.goodsOf(posnum); }
 
@@ -110,6 +131,7 @@ private:
     const ReceiptRecord m_record;
     const TaraState m_state;
     const TaraIndex m_index;
+    const QHash<int, int> m_groups;
     QHash<int, const LineRecord *> m_lines;
 };
 
@@ -196,8 +218,13 @@ QStringList expectationsOf(const ExpectedReceipt &now, const ExpectedReceipt *be
         texts.append(stateOf(now));
     if (!before)
         texts.append(QString("positions %1").arg(now.livePositions()));
-    for (const LineRecord &line : now.record.lines)
-        append(texts, "position", line.posnum, partsOf(line, beforeLooked.line(line.posnum)));
+    for (const LineRecord &line : now.record.lines) {
+        QStringList words = partsOf(line, beforeLooked.line(line.posnum));
+        const int group = nowLooked.groupOf(line.posnum);
+        if (group != beforeLooked.groupOf(line.posnum))
+            words += {"group", group == 0 ? QStringLiteral("none") : QString::number(group)};
+        append(texts, "position", line.posnum, words);
+    }
     appendTaras(texts, nowLooked, beforeLooked);
     appendGoods(texts, nowLooked, beforeLooked);
     if (!before || recordsOf(nowLooked.state()) != recordsOf(beforeLooked.state()))

@@ -37,11 +37,17 @@ bool canBeTyped(const QString &text, bool mistake)
     return read ? toText(*read) == text : mistake;
 }
 
+//! The text of a question or a message, as "expect" has it.
+QString textOf(const QJsonObject &note)
+{
+    return asWord(note["text"].toString().replace('\n', ' '));
+}
+
 //! What is told of a question or a message, as "expect" names it.
 QString nameOf(const QJsonObject &note)
 {
     const QString key = note["key"].toString();
-    return asWord(key.isEmpty() ? note["text"].toString().replace('\n', ' ') : key);
+    return key.isEmpty() ? textOf(note) : asWord(key);
 }
 
 //! Appends \a name, unless it is there or says nothing of its own.
@@ -74,7 +80,7 @@ const QSet<QString> &Recorder::kinds()
 {
     static const QSet<QString> kinds{"start",    "verdict", "command", "outcome",
                                      "question", "answer",  "message", "takeup",
-                                     "position", "data",    "receipt"};
+                                     "position", "data",    "receipt", "loyalty"};
     return kinds;
 }
 
@@ -100,8 +106,11 @@ void Recorder::read(const QJsonObject &note)
         begin({note["text"].toString(), {}, {}, {}, {}});
     else if (kind == "outcome")
         readOutcome(note["outcome"].toString());
-    else if (kind == "question" && m_underWay)
+    else if (kind == "question" && m_underWay) {
         appendOnce(m_underWay->questions, nameOf(note));
+        appendOnce(m_underWay->questions, textOf(note));
+    } else if (kind == "loyalty" && m_underWay)
+        ++m_underWay->loyalty;
     else if (kind == "question")
         leaveOut("a question that no command asked", note["text"].toString());
     else if (kind == "answer" && m_underWay)
@@ -117,11 +126,7 @@ void Recorder::finish()
     const UnderWay last = m_underWay.value_or(UnderWay());
     begin({});
     tellEnd();
-    if (!isOfRegister(last.text))
-        return;
-    m_write("# The course of things ends within this command:");
-    tellAnswers(last);
-    tellCommand(last.text);
+    tellCutOff(last);
 }
 
 Message Recorder::report(const QString &path) const
@@ -162,7 +167,9 @@ void Recorder::readVerdict()
     if (m_database != ":memory:")
         return;
     tellEnd();
-    if (m_told.isUnfinished() && !m_isStrange) {
+    const bool isCutOff = m_underWay && tellCutOff(*m_underWay);
+    m_underWay.reset();
+    if (m_told.isUnfinished() && !m_isStrange && !isCutOff) {
         m_write("# Another till goes on, and has no receipt.");
         m_write("answer yes");
         m_write("cancel");
@@ -247,6 +254,8 @@ void Recorder::tellSaid(const UnderWay &command)
         expect({"question " + question});
     for (const QString &message : command.messages)
         expect({"message " + message});
+    if (command.loyalty > 0)
+        expect({QString("loyalty %1").arg(command.loyalty)});
 }
 
 void Recorder::tellAnswers(const UnderWay &command)
@@ -262,6 +271,17 @@ void Recorder::tellEnd()
         return;
     m_write("# What it came to:");
     expect(expectationsOf(m_told));
+}
+
+//! Of a command that has not ended; false when it is none of the register.
+bool Recorder::tellCutOff(const UnderWay &command)
+{
+    if (!isOfRegister(command.text))
+        return false;
+    m_write("# The course of things ends within this command:");
+    tellAnswers(command);
+    tellCommand(command.text);
+    return true;
 }
 
 void Recorder::tellCommand(const QString &line)

@@ -52,11 +52,12 @@ private:
     {
         QString text;
         QStringList answers;
-        QStringList questions; //!< by their keys, or texts
+        QStringList questions; //!< their keys and texts
         QStringList messages;
         QStringList switching; //!< the lines by which a script switches the till off and on again
         bool isSilent = true;  //!< no message was shown, not even one without a key and a text
         bool hasOpened = false;
+        int loyalty = 0; //!< how often the loyalty system was told
     };
 
     void readStart(const QJsonObject &note);
@@ -71,6 +72,7 @@ private:
     void tellSaid(const UnderWay &command);
     void tellAnswers(const UnderWay &command);
     void tellEnd();
+    bool tellCutOff(const UnderWay &command);
     void tellCommand(const QString &line);
     void expect(const QStringList &texts);
     void leaveOut(const QString &why, const QString &text);

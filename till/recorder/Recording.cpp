@@ -1,15 +1,16 @@
 #include "till/recorder/Recording.h"
 
-#include "till/recorder/ScriptFile.h"
+#include "till/result/WriteAll.h"
 
 namespace till {
 
 Result<std::unique_ptr<Recording>> Recording::start(Notes &notes, const QString &path)
 {
     std::unique_ptr<Recording> recording(new Recording(path));
-    if (!recording->m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    const auto mode = QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered;
+    if (!recording->m_file.open(mode))
         return Fault{path, recording->m_file.errorString()};
-    recording->write(recordedMark());
+    recording->m_text.emplace([r = recording.get()](const QString &line) { r->write(line); });
     recording->m_subscription = notes.subscribe(
         [r = recording.get()](const QJsonObject &note) { r->m_recorder.read(note); },
         Notes::Of::CourseAndStates);
@@ -18,7 +19,7 @@ Result<std::unique_ptr<Recording>> Recording::start(Notes &notes, const QString 
 
 Recording::Recording(const QString &path)
     : m_file(path)
-    , m_recorder([this](const QString &line) { write(line); })
+    , m_recorder([this](const QString &line) { m_text->add(line); })
 {
 }
 
@@ -26,13 +27,12 @@ void Recording::finish()
 {
     m_subscription.reset();
     m_recorder.finish();
+    m_text->end();
 }
 
 void Recording::write(const QString &line)
 {
-    const QByteArray bytes = line.toUtf8() + '\n';
-    const bool isWritten = m_file.write(bytes) == bytes.size() && m_file.flush();
-    if (!isWritten && m_error.isEmpty())
+    if (!writeAll(m_file, line.toUtf8() + '\n') && m_error.isEmpty())
         m_error = m_file.fileName() + ": " + m_file.errorString();
 }
 

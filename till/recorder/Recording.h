@@ -2,12 +2,14 @@
 #define TILL_RECORDER_RECORDING_H
 
 #include "till/course/Notes.h"
+#include "till/recorder/RecordedText.h"
 #include "till/recorder/Recorder.h"
 #include "till/result/Result.h"
 
 #include <QtCore/QFile>
 
 #include <memory>
+#include <optional>
 
 namespace till {
 
@@ -35,6 +37,7 @@ private:
 
     QFile m_file;
     QString m_error;
+    std::optional<RecordedText> m_text; //!< once the file is open
     Recorder m_recorder;
     Subscription m_subscription;
 };

@@ -1,40 +1,48 @@
 #include "till/recorder/ScriptFile.h"
 
+#include "till/recorder/RecordedText.h"
 #include "till/result/WriteAll.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace till {
 
 namespace {
 
-QByteArray lineOf(const QString &line)
+//! Whether a standard stream of this process goes to the file with that \a status.
+bool isStandardStream(const struct stat &status)
 {
-    return line.toUtf8() + '\n';
-}
-
-//! Whether nothing is at \a path yet, or a script that was recorded before.
-Result<> checkScriptFile(const QString &path)
-{
-    if (!QFileInfo::exists(path))
-        return {};
-    const Fault other{path, "is there already and is no recorded script", "name another file"};
-    QFile file(path);
-    if (!QFileInfo(path).isFile())
-        return other;
-    if (!file.open(QIODevice::ReadOnly))
-        return Fault{path, file.errorString()};
-    const QByteArray mark = lineOf(recordedMark());
-    return file.size() == 0 || file.read(mark.size()) == mark ? Result<>() : other;
+    const auto leadsThere = [&status](int stream) {
+        struct stat other = {};
+        return fstat(stream, &other) == 0 && other.st_dev == status.st_dev
+               && other.st_ino == status.st_ino;
+    };
+    return leadsThere(STDIN_FILENO) || leadsThere(STDOUT_FILENO) || leadsThere(STDERR_FILENO);
 }
 
 } // namespace
 
-QString recordedMark()
+Result<> checkRecorded(const QString &path)
 {
-    return QStringLiteral("# Recorded by the till.");
+    if (path == QLatin1String("-"))
+        return Fault{path, "a script is saved to a file", "./- is one of that name"};
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0 || status.st_size == 0)
+        return {};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Fault{path, file.errorString()};
+    const QByteArray text = file.readAll();
+    if (!text.startsWith(RecordedText::mark().toUtf8() + '\n'))
+        return Fault{path, "is there already and is no recorded script", "name another file"};
+    if (!RecordedText::isUnchanged(text))
+        return Fault{path, "was changed since it was recorded, or not recorded to its end",
+                     "name another file, or remove this one"};
+    return {};
 }
 
 Result<> replaceScript(const QString &path, const QByteArray &text)
@@ -50,12 +58,18 @@ Result<> replaceScript(const QString &path, const QByteArray &text)
 
 Result<> saveScript(const QString &path, const QStringList &lines)
 {
-    if (const Result<> checked = checkScriptFile(path); !checked)
+    struct stat status = {};
+    const bool isThere = stat(QFile::encodeName(path).constData(), &status) == 0;
+    if (isThere && (!S_ISREG(status.st_mode) || isStandardStream(status)))
+        return Fault{path, "is no file of its own", "name another file"};
+    if (const Result<> checked = checkRecorded(path); !checked)
         return checked;
-    QByteArray text = lineOf(recordedMark());
+    QByteArray bytes;
+    RecordedText text([&bytes](const QString &line) { bytes += line.toUtf8() + '\n'; });
     for (const QString &line : lines)
-        text += lineOf(line);
-    return replaceScript(path, text);
+        text.add(line);
+    text.end();
+    return replaceScript(path, bytes);
 }
 
 } // namespace till

@@ -7,14 +7,15 @@
 
 namespace till {
 
-//! The first line of a recorded script, by which it is known for one.
-QString recordedMark();
+//! Whether a recorded script may take the place of what is at \a path: nothing, or one that was
+//! recorded to its end and not changed since.
+Result<> checkRecorded(const QString &path);
 
 //! Puts \a text in the place of what the file \a path has, whole or not at all.
 Result<> replaceScript(const QString &path, const QByteArray &text);
 
-//! Writes a recorded script of \a lines to \a path, whole or not at all, unless something is there
-//! already that is no recorded script.
+//! Writes a recorded script of \a lines to \a path, whole or not at all, unless `checkRecorded()`
+//! speaks against it or it is no regular file of its own.
 Result<> saveScript(const QString &path, const QStringList &lines);
 
 } // namespace till

@@ -14,14 +14,20 @@ public:
     Q_DISABLE_COPY_MOVE(Journal)
 
     //! A command begins. What was noted before it belongs to none, and is forgotten.
-    void begin() { m_entries.clear(); }
+    void begin()
+    {
+        m_entries.clear();
+        m_command = {};
+    }
     //! What was collected since the command began.
     QList<JournalEntry> take() { return std::exchange(m_entries, {}); }
 
 private:
     void collect(const QJsonObject &note);
+    void keep(const QJsonObject &note);
 
     QList<JournalEntry> m_entries;
+    QJsonObject m_command; //!< the one under way, unless it is kept
     Subscription m_subscription;
 };
 

@@ -109,7 +109,9 @@ public:
     void tell(const JournalEntry &entry)
     {
         const QJsonObject note = QJsonDocument::fromJson(entry.json).object();
-        if (entry.kind == QLatin1String("action"))
+        if (entry.kind == QLatin1String("command"))
+            tellCommand(note.value("text").toString());
+        else if (entry.kind == QLatin1String("action"))
             tellAction(entry.depth, wordsOf(note));
         else if (entry.kind == QLatin1String("question"))
             write(entry.depth, QStringLiteral("? ") + textOf(note), Paint::Cyan);
@@ -124,10 +126,21 @@ public:
     QString text() const { return m_page.text(); }
 
 private:
+    //! Of which the register itself has something to say.
+    void tellCommand(const QString &words)
+    {
+        m_command.clear();
+        write(1, words, Paint::Plain);
+        m_command = words;
+        m_deepest = 2;
+    }
+
     void tellAction(int depth, const QString &words)
     {
+        const bool isToldOf = words == std::exchange(m_command, {});
         m_deepest = depth + 1;
-        write(depth, words, Paint::Plain);
+        if (!isToldOf)
+            write(depth, words, Paint::Plain);
     }
 
     void tellMessage(int depth, const QString &text)
@@ -164,17 +177,19 @@ private:
     void write(int depth, const QString &text, Paint paint)
     {
         constexpr int step = 2;
+        const int deeper = m_command.isEmpty() ? 0 : 1; // than the command itself
         QList<Piece> words;
         const QStringList split = printable(text).split(QLatin1Char(' '));
         for (const QString &word : split)
             words.append({word, paint});
-        m_page.writePieces(words, step * std::max(0, std::min(depth, m_deepest) - 1));
+        m_page.writePieces(words, step * std::max(0, std::min(depth + deeper, m_deepest) - 1));
     }
 
     const Translator &m_translator;
     TextPage m_page;
     int m_deepest = 1; //!< of what belongs to the last action
     QString m_said;    //!< the last message
+    QString m_command; //!< that the register itself has something to say of
 };
 
 } // namespace

@@ -1,13 +1,12 @@
 #include "till/runner/Child.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
 
-#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -22,45 +21,66 @@ QString signalName(int number)
     return name ? QStringLiteral("SIG") + name : "signal " + QString::number(number);
 }
 
+Fault notMade(const QString &script)
+{
+    return {script, QString("no process can be made for it: %1").arg(strerror(errno))};
+}
+
+//! What is kept of \a file, which says itself that it is not all.
+QString textOf(const MemoryFile &file)
+{
+    QString text = QString::fromUtf8(file.contents());
+    if (file.isCut())
+        text += QString("\n… what came behind %1 MiB is left out\n").arg(MemoryFile::kept >> 20);
+    return text;
+}
+
 } // namespace
 
-MemoryFile::MemoryFile()
-    : m_handle(memfd_create("till", MFD_CLOEXEC))
-{
-}
-
-MemoryFile::~MemoryFile()
-{
-    close(m_handle);
-}
-
-QByteArray MemoryFile::contents() const
-{
-    QFile file;
-    const bool isOpen = file.open(m_handle, QIODevice::ReadOnly) && file.seek(0);
-    return isOpen ? file.readAll() : QByteArray();
-}
-
-Child::Child(const QString &script, const Apart &apart)
+Child::Child(const QString &script, std::chrono::seconds timeout)
     : m_script(script)
-    , m_timeout(apart.timeout)
+    , m_timeout(timeout)
 {
-    m_process = fork();
-    if (m_process == 0)
-        play(apart);
+}
+
+Result<std::unique_ptr<Child>> Child::start(const QString &script, const Apart &apart,
+                                            const std::function<void()> &enter)
+{
+    std::unique_ptr<Child> child(new Child(script, apart.timeout));
+    for (const MemoryFile *const file :
+         {&child->m_course, &child->m_complaints, &child->m_verdicts})
+        if (!file->isOpen())
+            return notMade(script);
+    const pid_t process = fork();
+    if (process < 0)
+        return notMade(script);
+    if (process == 0) {
+        enter();
+        child->play(apart);
+    }
+    child->m_process = process;
+    setpgid(process, process); // whichever of both comes first
+    return child;
 }
 
 Child::~Child()
 {
-    if (m_process > 0) {
-        ::kill(m_process, SIGKILL);
-        waitpid(m_process, nullptr, 0);
-    }
+    if (m_process > 0)
+        end();
+}
+
+void Child::forget()
+{
+    m_course.close();
+    m_complaints.close();
+    m_verdicts.close();
 }
 
 void Child::play(const Apart &apart) const
 {
+    setpgid(0, 0);                    // what is started from here is ended with it
     prctl(PR_SET_PDEATHSIG, SIGKILL); // nobody would end it where it hangs
+    std::signal(SIGTTIN, SIG_IGN);    // a look at the terminal finds nothing, and does not wait
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
@@ -74,32 +94,54 @@ void Child::write(const Verdict &verdict, bool isLast) const
 {
     QJsonObject json = toJson(verdict);
     json.insert("isLast", isLast);
-    const QByteArray line = QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n';
-    if (::write(m_verdicts.handle(), line.constData(), line.size()) != line.size())
+    const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n';
+    if (lseek(m_verdicts.handle(), 0, SEEK_CUR) > MemoryFile::kept / 2)
+        lseek(m_verdicts.handle(), 0, SEEK_SET); // nobody asks for those before
+    if (::write(m_verdicts.handle(), text.constData(), text.size()) != text.size())
         std::_Exit(EXIT_FAILURE); // which is no good end
 }
 
 void Child::kill()
 {
-    m_isLate = true;
-    ::kill(m_process, SIGKILL);
+    m_how = QString("hangs: ended by SIGKILL after %1 s").arg(m_timeout.count());
+    ::kill(-m_process, SIGKILL);
 }
 
 std::optional<Verdict> Child::verdict()
 {
-    int status = 0;
-    if (m_process < 0)
-        return Verdict{
-            m_script, Verdict::NotStarted, {{m_script, "no process can be made for it"}}};
-    if (waitpid(m_process, &status, WNOHANG) == 0)
+    siginfo_t info = {};
+    constexpr int look = WEXITED | WNOHANG | WNOWAIT;
+    if (waitid(P_PID, static_cast<id_t>(m_process), &info, look) != 0 || info.si_pid == 0)
         return {};
+    return ended(end());
+}
+
+Verdict Child::interrupt(int signal)
+{
+    m_how = "interrupted by " + signalName(signal);
+    m_end = Verdict::Interrupted;
+    return ended(end());
+}
+
+//! Ends the process with all that was started from it; its status. Its number is not given to
+//! another before it is asked for.
+int Child::end()
+{
+    int status = 0;
+    ::kill(-m_process, SIGKILL);
+    waitpid(m_process, &status, 0);
     m_process = -1;
+    return status;
+}
+
+Verdict Child::ended(int status) const
+{
     Verdict verdict = read(status);
     verdict.script = m_script;
     verdict.seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - m_started).count();
-    verdict.course = QString::fromUtf8(m_course.contents());
-    verdict.complaints = QString::fromUtf8(m_complaints.contents());
+    verdict.course = textOf(m_course);
+    verdict.complaints = textOf(m_complaints);
     return verdict;
 }
 
@@ -119,16 +161,17 @@ Verdict Child::withoutEnd(Verdict soFar, const QString &how) const
     if (fault.place.isEmpty())
         fault.place = m_script;
     fault.reason = fault.command.isEmpty() ? how : fault.command + ": " + how;
-    fault.expected = "accepted";
+    fault.expected = fault.command.isEmpty() ? QString() : "accepted";
     fault.found = how;
-    soFar.end = Verdict::Failed;
+    soFar.end = m_end;
+    soFar.isCutOff = true;
     return soFar;
 }
 
 QString Child::howItEnded(int status) const
 {
-    if (m_isLate)
-        return QString("hangs: ended by SIGKILL after %1 s").arg(m_timeout.count());
+    if (!m_how.isEmpty())
+        return m_how;
     if (WIFSIGNALED(status))
         return "crashed: " + signalName(WTERMSIG(status));
     return QString("the process ended with status %1 before the script").arg(WEXITSTATUS(status));

@@ -19,6 +19,13 @@ QString plain(QString text)
     return forTerminal(text.remove(unfit));
 }
 
+QString typeOf(Verdict::End end)
+{
+    return end == Verdict::Failed        ? "failed"
+           : end == Verdict::Interrupted ? "interrupted"
+                                         : "wrong";
+}
+
 class Writer
 {
 public:
@@ -68,7 +75,7 @@ private:
         if (verdict.end != Verdict::Held) {
             m_xml.writeStartElement(verdict.end == Verdict::Failed ? "failure" : "error");
             write("message", verdict.fault.text());
-            write("type", verdict.end == Verdict::Failed ? "failed" : "wrong");
+            write("type", typeOf(verdict.end));
             m_xml.writeCharacters(plain(rowsOf(verdict)));
             m_xml.writeEndElement();
             writeOutput("system-out", verdict.course);

@@ -8,7 +8,8 @@ namespace till {
 /*!
  * What became of \a scripts as JUnit XML, for the servers that read it; docs/junit.xsd describes
  * it. The \a verdicts are those of the first of them; the others were not played. A script that
- * failed is a failure, one that is wrong or for which the till did not start an error.
+ * failed is a failure, one that is wrong, was interrupted or for which the till did not start an
+ * error.
  */
 QByteArray junit(const QList<Verdict> &verdicts, const QStringList &scripts);
 

@@ -1,49 +1,17 @@
 #include "till/runner/PlayApart.h"
 
 #include "till/runner/Child.h"
-
-#include <QtCore/QtGlobal>
+#include "till/runner/Signals.h"
 
 #include <algorithm>
-#include <csignal>
 #include <map>
-#include <memory>
+#include <utility>
 
 namespace till {
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-//! While it lives, the end of a child process waits to be asked for.
-class ChildrenAreHeard
-{
-public:
-    ChildrenAreHeard()
-    {
-        std::signal(SIGCHLD, SIG_DFL); // whoever started this one may have had no use for it
-        sigemptyset(&m_signal);
-        sigaddset(&m_signal, SIGCHLD);
-        sigprocmask(SIG_BLOCK, &m_signal, &m_before);
-    }
-    ~ChildrenAreHeard() { sigprocmask(SIG_SETMASK, &m_before, nullptr); }
-    Q_DISABLE_COPY_MOVE(ChildrenAreHeard)
-
-    //! Returns when one has ended, or at \a deadline at the latest.
-    void waitUntil(Clock::time_point deadline) const
-    {
-        using namespace std::chrono;
-        const auto left = std::max(deadline - Clock::now(), Clock::duration::zero());
-        const auto whole = duration_cast<seconds>(left);
-        const timespec wait{static_cast<std::time_t>(whole.count()),
-                            static_cast<long>(nanoseconds(left - whole).count())};
-        sigtimedwait(&m_signal, nullptr, &wait);
-    }
-
-private:
-    sigset_t m_signal;
-    sigset_t m_before;
-};
 
 //! The plays under way, and the verdicts that wait for one before them.
 class Plays
@@ -55,8 +23,8 @@ public:
     {
     }
 
-    //! The verdict of the next script in order.
-    Verdict next()
+    //! The verdict of the next script in order; nothing when a signal came before it was known.
+    std::optional<Verdict> next()
     {
         for (;;) {
             const auto known = m_known.find(m_told);
@@ -65,16 +33,44 @@ public:
                 return m_known.extract(known).mapped();
             }
             begin();
-            if (!collect())
-                waitOrKill();
+            const bool hasMore = collect();
+            m_signal = hasMore ? m_signals.ending() : waitOrKill();
+            if (m_signal != 0)
+                return {};
         }
+    }
+
+    //! The signal that came; 0 when none did.
+    int signal() const { return m_signal; }
+
+    //! The verdict of the next script that was begun, which is ended for the signal if it has to
+    //! be; nothing when there is none any more.
+    std::optional<Verdict> nextInterrupted()
+    {
+        const qsizetype next = m_told++;
+        if (const auto known = m_known.find(next); known != m_known.end())
+            return m_known.extract(known).mapped();
+        if (const auto running = m_running.find(next); running != m_running.end())
+            return m_running.extract(running).mapped()->interrupt(m_signal);
+        return {};
     }
 
 private:
     void begin()
     {
+        const auto enter = [this] {
+            for (const auto &other : m_running)
+                other.second->forget();
+        };
         while (m_begun < m_scripts.size() && std::ssize(m_running) < m_apart.jobs) {
-            m_running.emplace(m_begun, std::make_unique<Child>(m_scripts[m_begun], m_apart));
+            auto child = Child::start(m_scripts[m_begun], m_apart, enter);
+            if (!child && !m_running.empty())
+                return; // one that ends makes room
+            if (child)
+                m_running.emplace(m_begun, std::move(*child));
+            else
+                m_known.emplace(m_begun,
+                                Verdict{m_scripts[m_begun], Verdict::NotStarted, {child.error()}});
             ++m_begun;
         }
     }
@@ -88,40 +84,51 @@ private:
                                  return verdict
                                         && m_known.emplace(child.first, std::move(*verdict)).second;
                              })
-               > 0;
+                   > 0
+               || m_known.contains(m_told);
     }
 
-    void waitOrKill()
+    //! The signal that came meanwhile, or 0.
+    int waitOrKill()
     {
         const auto first = std::min_element(
             m_running.begin(), m_running.end(), [](const auto &one, const auto &other) {
                 return one.second->deadline() < other.second->deadline();
             });
-        if (first->second->deadline() <= Clock::now())
-            first->second->kill();
-        else
-            m_heard.waitUntil(first->second->deadline());
+        if (first->second->deadline() > Clock::now())
+            return m_signals.waitUntil(first->second->deadline());
+        first->second->kill();
+        return 0;
     }
 
     const QStringList &m_scripts;
     const Apart &m_apart;
-    const ChildrenAreHeard m_heard;
+    const Signals m_signals;
     std::map<qsizetype, std::unique_ptr<Child>> m_running;
     std::map<qsizetype, Verdict> m_known;
     qsizetype m_begun = 0;
     qsizetype m_told = 0;
+    int m_signal = 0;
 };
 
 } // namespace
 
-void playApart(const QStringList &scripts, const Apart &apart,
-               const std::function<bool(const Verdict &verdict)> &tell)
+int playApart(const QStringList &scripts, const Apart &apart,
+              const std::function<bool(const Verdict &verdict)> &tell)
 {
     Plays plays(scripts, apart);
     for (qsizetype i = 0; i < scripts.size(); ++i) {
-        if (!tell(plays.next()))
-            return;
+        const auto verdict = plays.next();
+        if (!verdict)
+            break;
+        if (!tell(*verdict))
+            return 0;
     }
+    if (plays.signal() == 0)
+        return 0;
+    while (const auto verdict = plays.nextInterrupted())
+        tell(*verdict);
+    return plays.signal();
 }
 
 } // namespace till

@@ -14,11 +14,20 @@ QString row(const QString &what, const QString &text)
 
 } // namespace
 
+QString wordOf(Verdict::End end)
+{
+    static const QString words[] = {"held", "failed", "not ended", "wrong", "not begun"};
+    return words[end];
+}
+
 QString rowsOf(const Verdict &verdict)
 {
     const ScriptFault &fault = verdict.fault;
-    return row(verdict.end == Verdict::Failed ? "failed" : "wrong", fault.place)
-           + row("command", fault.command) + row("expected", fault.expected)
+    const bool isElsewhere =
+        fault.place != verdict.script && !fault.place.startsWith(verdict.script + ':');
+    return row(wordOf(verdict.end), fault.place)
+           + row("script", isElsewhere ? verdict.script : QString()) + row("command", fault.command)
+           + row("expected", fault.expected)
            + row("found", fault.found.isEmpty() ? fault.reason : fault.found);
 }
 
@@ -47,8 +56,10 @@ QString Report::table() const
     };
     add(m_ends[Verdict::Failed], "failed");
     add(m_ends[Verdict::Wrong], "wrong");
-    add(m_scripts - m_ends[Verdict::Held] - m_ends[Verdict::Failed] - m_ends[Verdict::Wrong],
-        "not played");
+    add(m_ends[Verdict::Interrupted], "interrupted");
+    const qsizetype played = m_ends[Verdict::Held] + m_ends[Verdict::Failed]
+                             + m_ends[Verdict::Wrong] + m_ends[Verdict::Interrupted];
+    add(m_scripts - played, "not played");
     return (m_rows.isEmpty() ? QString() : '\n' + m_rows) + sum
            + "; expectations: " + QString::number(m_expectations);
 }

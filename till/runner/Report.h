@@ -5,8 +5,11 @@
 
 namespace till {
 
+//! How a script ended, for a row of a table.
+QString wordOf(Verdict::End end);
+
 //! What did not hold of a script that did not: its place, command, what was expected and found, a
-//! line each.
+//! line each; and the script itself where the place is in a file that it includes.
 QString rowsOf(const Verdict &verdict);
 
 //! What is said of a script without expectations.
@@ -27,6 +30,9 @@ public:
     //! What did not hold, where and why; which scripts check nothing; and how many there are of
     //! each.
     QString table() const;
+
+    //! How many ended so.
+    qsizetype count(Verdict::End end) const { return m_ends[end]; }
 
     //! The worst end so far.
     Verdict::End worst() const { return m_worst; }

@@ -9,6 +9,11 @@ QString tapPlan(qsizetype scripts)
     return QString("TAP version 13\n1..%1\n").arg(scripts);
 }
 
+QString tapComment(const QString &text)
+{
+    return "# " + text.trimmed().replace('\n', "\n# ") + '\n';
+}
+
 QString tapLines(qsizetype number, const Verdict &verdict)
 {
     const bool held = verdict.end == Verdict::Held;
@@ -17,7 +22,7 @@ QString tapLines(qsizetype number, const Verdict &verdict)
     const QString more =
         held ? verdict.expectations == 0 ? checksNothing() : QString() : rowsOf(verdict).trimmed();
     if (!more.isEmpty())
-        text += "# " + QString(more).replace('\n', "\n# ") + '\n';
+        text += tapComment(more);
     return text;
 }
 

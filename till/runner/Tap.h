@@ -9,6 +9,9 @@ namespace till {
 
 QString tapPlan(qsizetype scripts);
 
+//! Lines that mean nothing to a program.
+QString tapComment(const QString &text);
+
 //! The line of the script \a number, from 1, and what is wrong with it as comments behind it.
 QString tapLines(qsizetype number, const Verdict &verdict);
 

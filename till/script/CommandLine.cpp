@@ -240,6 +240,8 @@ void CommandLine::hear(const QJsonObject &note)
     const QString text = note.value("text").toString();
     if (kind == QLatin1String("log"))
         m_heard.log.append(text);
+    if (kind == QLatin1String("loyalty"))
+        ++m_heard.loyalty;
     if (kind == QLatin1String("message"))
         m_heard.messages.append({note.value("key").toString(), text});
     if (kind == QLatin1String("question"))

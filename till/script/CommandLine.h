@@ -56,6 +56,10 @@ public:
      * answer. Empty when all is well.
      */
     QString leftOver() const;
+    //! How many answers wait for a question.
+    qsizetype answersWaiting() const { return m_answers.waiting(); }
+    //! How many questions nobody was there to answer.
+    qsizetype questionsUnanswered() const { return m_unanswered.size(); }
 
     //! Where it is told what happens.
     Notes &notes() { return m_notes; }

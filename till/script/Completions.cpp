@@ -69,6 +69,8 @@ QStringList CommandLine::expectedWords(const QStringList &words) const
         return {};
     if (next->kind == ExpectedForm::PositionNumber)
         return positionNumbers();
+    if (next->kind == ExpectedForm::PositionOrNone)
+        return positionNumbers() + QStringList{"none"};
     if (next->kind == ExpectedForm::Code)
         return articleCodes();
     const bool isText = next->kind == ExpectedForm::Text;

@@ -46,7 +46,8 @@ const QList<Expectations::Row> &Expectations::rows()
 {
     static const QList<Row> table{
         {{"position",
-          told("till", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE..."),
+          told("till", "N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE|group "
+                       "none|FIRST..."),
           told("till", "a position, and what is in it"), 2, Usage::any},
          {{Kind::PositionNumber},
           {{"stornoed"},
@@ -54,7 +55,8 @@ const QList<Expectations::Row> &Expectations::rows()
            {"quantity", {Kind::Quantity}},
            {"base", {Kind::Quantity}},
            {"sum", {Kind::Money}},
-           {"article", {Kind::Code}}},
+           {"article", {Kind::Code}},
+           {"group", {Kind::PositionOrNone}}},
           true},
          &Expectations::position},
         {{"positions", told("till", "COUNT"), told("till", "how many positions are not stornoed"),
@@ -88,6 +90,10 @@ const QList<Expectations::Row> &Expectations::rows()
           told("till", "a question that the last command asked"), 1, Usage::any},
          {{Kind::Text}},
          &Expectations::question},
+        {{"loyalty", told("till", "COUNT"),
+          told("till", "how often the last command told the loyalty system of the receipt"), 1, 1},
+         {{Kind::Count}},
+         &Expectations::loyalty},
         {{"log", told("till", "none|TEXT"),
           told("till", "a line that the plugin logged for the last command"), 1, Usage::any},
          {{Kind::Text}},

@@ -33,7 +33,20 @@ Outcome checkSaid(const QString &what, const QStringList &words, const QList<tr:
                            said.isEmpty() ? QString() : said.constLast().key());
 }
 
-Outcome checkPart(const Position &position, const QString &part, const QString &value)
+//! The number of the first position of the group that \a position belongs to, or "none".
+QString groupOf(const Position &position, const Receipt &receipt)
+{
+    const QString group = position.getGroupId();
+    const auto lines = receipt.lines();
+    const auto first = std::find_if(lines.cbegin(), lines.cend(), [&group](const auto &line) {
+        return line->getGroupId() == group;
+    });
+    return group.isEmpty() || first == lines.cend() ? QStringLiteral("none")
+                                                    : QString::number((*first)->getPosnum());
+}
+
+Outcome checkPart(const Position &position, const Receipt &receipt, const QString &part,
+                  const QString &value)
 {
     const QString what = QString("position %1 %2").arg(position.getPosnum()).arg(part);
     if (part == "quantity")
@@ -42,6 +55,8 @@ Outcome checkPart(const Position &position, const QString &part, const QString &
         return compareQuantity(what, value, position.getBquant());
     if (part == "sum")
         return compareMoney(what, value, position.sum());
+    if (part == "group")
+        return compare(what, value, groupOf(position, receipt));
     return compare(what, value, position.article().code);
 }
 
@@ -113,7 +128,7 @@ Outcome Expectations::position(const QStringList &words) const
                 return differs(what, words[i], found);
             continue;
         }
-        const Outcome checked = checkPart(*line, words[i], words[i + 1]);
+        const Outcome checked = checkPart(*line, *receipt, words[i], words[i + 1]);
         if (!checked)
             return checked;
         ++i;
@@ -193,6 +208,11 @@ Outcome Expectations::message(const QStringList &words) const
 Outcome Expectations::question(const QStringList &words) const
 {
     return checkSaid("question", words, m_heard.questions);
+}
+
+Outcome Expectations::loyalty(const QStringList &words) const
+{
+    return compare("loyalty", QString::number(words[0].toInt()), QString::number(m_heard.loyalty));
 }
 
 Outcome Expectations::log(const QStringList &words) const

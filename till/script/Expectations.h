@@ -18,6 +18,7 @@ struct Heard
     QList<tr::Tr> messages;
     QList<tr::Tr> questions;
     QStringList log;
+    int loyalty = 0;          //!< how often the loyalty system was told
     bool lacksAnswer = false; //!< nobody was there to answer the last question
 };
 
@@ -68,6 +69,7 @@ private:
     Outcome total(const QStringList &words) const;
     Outcome message(const QStringList &words) const;
     Outcome question(const QStringList &words) const;
+    Outcome loyalty(const QStringList &words) const;
     Outcome log(const QStringList &words) const;
     Outcome state(const QStringList &words) const;
     Outcome control(const QStringList &words) const;

@@ -20,7 +20,9 @@ bool isCount(const QString &word)
 //! The mistake in a \a word that is to be of that \a kind; done when there is none.
 Outcome checkWord(Kind kind, const QString &word, const Outcome &usage)
 {
-    if (kind == Kind::PositionNumber && !parsePosnum(word))
+    const bool isNumber =
+        kind == Kind::PositionNumber || (kind == Kind::PositionOrNone && word != "none");
+    if (isNumber && !parsePosnum(word))
         return notAPosition(word);
     if (kind == Kind::Quantity && !parseQuantity(word))
         return notANumber(word);

@@ -16,7 +16,8 @@ struct ExpectedForm
     enum Kind {
         PartName, //!< the name of a part, or "none" in place of all parts
         PositionNumber,
-        Count, //!< a whole number, 0 or more
+        PositionOrNone, //!< the number of a position, or "none"
+        Count,          //!< a whole number, 0 or more
         Quantity,
         Money,
         Code, //!< of an article

@@ -3,6 +3,7 @@
 #include "till/words/Words.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace till {
 
@@ -42,6 +43,34 @@ ScriptFault behindQuit(const ScriptLine &line)
     const QString why = "stands behind 'quit', where nothing is carried out";
     return {{line.place(), command + ": " + why}, command, {}, why, true};
 }
+
+//! The lines that gave the answers, and asked the questions, that are left over.
+class Loose
+{
+public:
+    //! \a line was carried out.
+    void look(const CommandLine &commands, const ScriptLine &line)
+    {
+        if (commands.questionsUnanswered() > 0 && !m_asking)
+            m_asking = line;
+        while (m_answering.size() > commands.answersWaiting())
+            m_answering.removeFirst();
+        while (m_answering.size() < commands.answersWaiting())
+            m_answering.append(line);
+    }
+
+    //! The fault that \a left is left over.
+    ScriptFault fault(const QString &left) const
+    {
+        const ScriptLine line = m_asking ? *m_asking : m_answering.value(0);
+        const QString command = brief(line.text.trimmed());
+        return {{line.place(), command + ": " + left}, command, {}, left};
+    }
+
+private:
+    QList<ScriptLine> m_answering; //!< for each answer that waits
+    std::optional<ScriptLine> m_asking;
+};
 
 //! What is wrong with a line that ended so; of a refusal also its key.
 QString why(const CommandLine &commands, const Outcome &outcome)
@@ -90,6 +119,7 @@ Result<void, ScriptFault> Script::play(CommandLine &commands, const Echo &echo,
 Result<void, ScriptFault> Script::playLines(CommandLine &commands, const Echo &echo,
                                             ScriptUpdate *update) const
 {
+    Loose loose;
     for (const ScriptLine &line : m_lines) {
         if (commands.hasQuit() && line.isCommand())
             return behindQuit(line);
@@ -100,9 +130,10 @@ Result<void, ScriptFault> Script::playLines(CommandLine &commands, const Echo &e
         const Outcome outcome = commands.run(line.text);
         if (!outcome && !(update && update->mend(commands, line, outcome)))
             return faultOf(line, outcome, why(commands, outcome));
+        loose.look(commands, line);
     }
     if (const QString left = commands.leftOver(); !left.isEmpty())
-        return ScriptFault{{m_lines.constLast().place(), left}};
+        return loose.fault(left);
     return {};
 }
 

@@ -3,6 +3,7 @@
 #include "till/recorder/ScriptFile.h"
 #include "till/words/Words.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QFile>
 
 #include <utility>
@@ -57,7 +58,46 @@ QString withoutEnd(const QString &line)
     return line.endsWith('\r') ? line.chopped(1) : line;
 }
 
+QByteArray digested(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+}
+
 } // namespace
+
+QString differenceOf(const QString &path, const QList<LineChange> &changes)
+{
+    QString text;
+    for (const LineChange &change : changes)
+        text += QString("@@ -%1 +%1 @@\n-%2\n+%3\n")
+                    .arg(QString::number(change.number), withoutEnd(change.before),
+                         withoutEnd(change.after));
+    return text.isEmpty() ? QString() : QString("--- %1\n+++ %1\n").arg(path) + text;
+}
+
+QByteArray digestOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? digested(file.readAll()) : QByteArray();
+}
+
+Result<> rewrite(const QString &path, const QByteArray &digest, const QList<LineChange> &changes)
+{
+    static const QByteArray mark("\xef\xbb\xbf"); // of UTF-8, which is no part of the first line
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Fault{path, file.errorString()};
+    const QByteArray text = file.readAll();
+    if (digested(text) != digest)
+        return Fault{path, "was changed while it was played", "play it again"};
+    const bool isMarked = text.startsWith(mark);
+    QByteArrayList lines = (isMarked ? text.mid(mark.size()) : text).split('\n');
+    for (const LineChange &change : changes) {
+        if (change.number > 0 && change.number <= lines.size())
+            lines[change.number - 1] = change.after.toUtf8();
+    }
+    return replaceScript(path, (isMarked ? mark : QByteArray()) + lines.join('\n'));
+}
 
 bool ScriptUpdate::mend(CommandLine &commands, const ScriptLine &line, const Outcome &outcome)
 {
@@ -76,29 +116,8 @@ bool ScriptUpdate::mend(CommandLine &commands, const ScriptLine &line, const Out
             return false;
         words = holding(words, again);
     }
-    m_changes.append({line, written(line.text, words)});
+    m_changes.append({line.number, line.text, written(line.text, words)});
     return true;
-}
-
-QString ScriptUpdate::difference() const
-{
-    QString text;
-    for (const Change &change : m_changes)
-        text += QString("@@ -%1 +%1 @@\n-%2\n+%3\n")
-                    .arg(QString::number(change.line.number), withoutEnd(change.line.text),
-                         withoutEnd(change.text));
-    return text.isEmpty() ? QString() : QString("--- %1\n+++ %1\n").arg(m_path) + text;
-}
-
-Result<> ScriptUpdate::write() const
-{
-    QFile before(m_path);
-    if (!before.open(QIODevice::ReadOnly))
-        return Fault{m_path, before.errorString()};
-    QByteArrayList lines = before.readAll().split('\n');
-    for (const Change &change : m_changes)
-        lines[change.line.number - 1] = change.text.toUtf8();
-    return replaceScript(m_path, lines.join('\n'));
 }
 
 } // namespace till

@@ -6,6 +6,24 @@
 
 namespace till {
 
+//! A line of a file that another takes the place of.
+struct LineChange
+{
+    qsizetype number = 0; //!< in the file, from 1
+    QString before;
+    QString after;
+};
+
+//! \a changes of the file \a path, as `diff -U0` tells them; empty when there are none.
+QString differenceOf(const QString &path, const QList<LineChange> &changes);
+
+//! What tells whether the file \a path is as it was before; empty when it cannot be read.
+QByteArray digestOf(const QString &path);
+
+//! Makes \a changes in the file \a path, all of them or none. It must be as it was when \a digest
+//! was taken.
+Result<> rewrite(const QString &path, const QByteArray &digest, const QList<LineChange> &changes);
+
 //! What was found, put in the place of what a script expects.
 class ScriptUpdate
 {
@@ -19,21 +37,12 @@ public:
     //! Whether another expectation, which holds, can stand for \a line, which ended so; notes it.
     bool mend(CommandLine &commands, const ScriptLine &line, const Outcome &outcome);
 
-    //! What is noted, as `diff -U0` tells it; empty when nothing is.
-    QString difference() const;
-
-    //! Writes what is noted to the file: all of it, or nothing.
-    Result<> write() const;
+    //! What is noted.
+    const QList<LineChange> &changes() const { return m_changes; }
 
 private:
-    struct Change
-    {
-        ScriptLine line;
-        QString text;
-    };
-
     QString m_path;
-    QList<Change> m_changes;
+    QList<LineChange> m_changes;
 };
 
 } // namespace till

@@ -119,13 +119,19 @@ Result<std::optional<KeptReceipt>> Archive::receipt(qint64 id, const QString &pl
     return std::optional(kept(*read, {}));
 }
 
-Result<QList<JournalEntry>> Archive::journal(qint64 id)
+Result<KeptJournal> Archive::journal(qint64 id)
 {
     m_database->forgetFault();
-    QList<JournalEntry> entries = readJournal(*m_database, id);
+    KeptJournal journal;
+    eachOfJournal(*m_database, id, [&journal](const JournalRow &row) {
+        if (row.fault.isEmpty())
+            journal.entries.append(row.entry);
+        else
+            journal.faults.append(row.fault);
+    });
     if (m_database->hasFailed())
         return m_database->fault();
-    return entries;
+    return journal;
 }
 
 KeptReceipt Archive::kept(const ReadReceipt &read, const QString &fault) const

@@ -46,6 +46,13 @@ struct KeptReceipt
     QString setApart;     //!< why it was set apart; empty when it was not
 };
 
+//! What was done to a receipt, as it is kept.
+struct KeptJournal
+{
+    QList<JournalEntry> entries; //!< that hold
+    QStringList faults;          //!< of the others
+};
+
 /*!
  * The receipts of a database, to be looked up while a till has it open or without one. Everything
  * is as of one moment, the first look, however long the looks go on; a till is not held up by them.
@@ -73,7 +80,7 @@ public:
     Result<std::optional<KeptReceipt>> receipt(qint64 id, const QString &plugin);
 
     //! What was done to that receipt, oldest first; empty for an unknown number.
-    Result<QList<JournalEntry>> journal(qint64 id);
+    Result<KeptJournal> journal(qint64 id);
 
 private:
     explicit Archive(std::unique_ptr<Database> database);

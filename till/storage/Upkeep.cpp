@@ -1,6 +1,7 @@
 #include "till/storage/Upkeep.h"
 
 #include "till/database/Database.h"
+#include "till/storage/JournalRows.h"
 #include "till/storage/ReceiptReader.h"
 #include "till/storage/Schema.h"
 #include "till/storage/SetApart.h"
@@ -44,6 +45,11 @@ void checkReceipts(Database &database, CheckReport &report)
 {
     const QMap<qint64, QString> apart = receiptsSetApart(database);
     const QList<qint64> all = numbers(database);
+    if (database.hasFailed()) {
+        report.hasAll = false;
+        report.fileFault = report.fileFault.isEmpty() ? takeReason(database) : report.fileFault;
+        database.forgetFault();
+    }
     for (const qint64 id : all) {
         if (const auto reason = apart.constFind(id); reason != apart.cend())
             report.odd.append({id, true, *reason});
@@ -52,13 +58,17 @@ void checkReceipts(Database &database, CheckReport &report)
         else
             ++report.whole;
     }
+    eachOfJournal(database, {}, [&](const JournalRow &row) {
+        if (!row.fault.isEmpty() && !apart.contains(row.receipt))
+            report.journalFaults.append({row.receipt, row.fault});
+    });
 }
 
 } // namespace
 
 bool CheckReport::isGood() const
 {
-    return fileFault.isEmpty()
+    return fileFault.isEmpty() && hasAll && journalFaults.isEmpty()
            && std::all_of(odd.cbegin(), odd.cend(),
                           [](const OddReceipt &receipt) { return receipt.isSetApart; });
 }

@@ -20,12 +20,21 @@ struct OddReceipt
     QString reason; //!< what is wrong with it, or was when it was set apart
 };
 
+//! A row of a journal that does not hold.
+struct JournalFault
+{
+    qint64 receipt = 0;
+    QString reason;
+};
+
 //! What a check of a database found.
 struct CheckReport
 {
     QString fileFault; //!< of the file itself, by SQLite's own check; empty when there is none
     qint64 whole = 0;  //!< receipts that hold
     QList<OddReceipt> odd;
+    bool hasAll = true;                //!< else the file is so damaged that some were not found
+    QList<JournalFault> journalFaults; //!< of receipts that are not set apart
 
     //! Nothing is damaged but what was set apart.
     bool isGood() const;

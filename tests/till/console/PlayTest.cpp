@@ -21,28 +21,10 @@ TEST_F(Play, ManyScripts_ShowProgressAndStartAnew)
     EXPECT_EQ(done.out, "[1/2] s.till\n[2/2] s.till\n2 of 2 scripts held; expectations: 2\n");
 }
 
-TEST_F(Play, Folder_StandsForTheScriptsBelow)
-{
-    script("all/b.till", good);
-    script("all/a/deep/c.till", good);
-    script("all/a/notes.txt", bad);
-    const RunResult done = played({path("all"), script("z.till", good)});
-    EXPECT_EQ(done.status, 0) << done.err;
-    EXPECT_EQ(done.out, "[1/3] c.till\n[2/3] b.till\n[3/3] z.till\n"
-                        "3 of 3 scripts held; expectations: 6\n");
-}
-
-TEST_F(Play, FolderWithoutScripts_IsSaid)
-{
-    ASSERT_TRUE(QDir().mkdir(path("none")));
-    const RunResult none = played({script("s.till", good), path("none")});
-    EXPECT_EQ(none.status, 3);
-    EXPECT_EQ(none.out, "");
-    EXPECT_EQ(none.err, "till: " + path("none").toStdString() + ": no scripts there\n");
-}
-
 TEST_F(Play, Dash_IsStandardInput)
 {
+    EXPECT_EQ(played({"-", "-"}, good).out,
+              "[1/2] -\n[2/2] -\n2 of 2 scripts held; expectations: 4\n");
     EXPECT_EQ(played({"-"}, good).out, "[1/1] -\n1 of 1 scripts held; expectations: 2\n");
     const RunResult failed = played({"-"}, bad);
     EXPECT_EQ(failed.status, 1);
@@ -83,7 +65,8 @@ TEST_F(Play, ScriptsThatDoNotHold_AreInTheTable)
                            "\n"
                            "failed    "
                          + at
-                         + "answer.till:3\n"
+                         + "answer.till:2\n"
+                           "command   answer yes\n"
                            "found     1 answer(s) were given that nobody asked for\n"
                            "\n"
                            "1 of 5 scripts held, 3 failed, 1 wrong; expectations: 4\n"));
@@ -142,6 +125,39 @@ TEST_F(Play, IncludedExpectations_Count)
                 EndsWith("1 of 1 scripts held; expectations: 3\n"));
     EXPECT_THAT(played({"-"}, QByteArray("include ") + path("common.till").toUtf8()).out,
                 EndsWith("1 of 1 scripts held; expectations: 2\n"));
+}
+
+TEST_F(Play, FaultInAnIncludedFile_NamesTheScriptToo)
+{
+    const std::string common = script("common.till", bad).toStdString();
+    const QString one = script("s.till", "include common.till\n");
+    EXPECT_THAT(played({one}).out, HasSubstr("failed    " + common + ":2\nscript    "
+                                             + one.toStdString() + "\ncommand   add CHOPS\n"));
+}
+
+TEST_F(Play, TooFewFiles_PlayFewerAtATime)
+{
+    const QStringList scripts(12, script("s.till", good));
+    QProcess shell;
+    shell.start("sh", QStringList{"-c", "ulimit -n 20; exec \"$@\"", "sh", TILL_PROGRAM, "--quiet",
+                                  "--jobs", "12", "play"}
+                          + scripts);
+    ASSERT_TRUE(shell.waitForFinished(patience));
+    EXPECT_EQ(shell.exitCode(), 0) << shell.readAllStandardError().toStdString();
+    EXPECT_THAT(shell.readAllStandardOutput().toStdString(), HasSubstr("12 of 12 scripts held"));
+}
+
+TEST_F(Play, ClosedStandardStreams_GiveTheirNumbersToNoFile)
+{
+    const QString one = script("s.till", good);
+    QProcess shell;
+    shell.start("sh", {"-c", "exec \"$@\" <&- >&-", "sh", TILL_PROGRAM, "--junit", path("j.xml"),
+                       "play", one});
+    ASSERT_TRUE(shell.waitForFinished(patience));
+    EXPECT_EQ(shell.exitCode(), 3);
+    EXPECT_EQ(shell.readAllStandardError().toStdString(),
+              "till: standard output: Bad file descriptor\n");
+    EXPECT_THAT(contents(path("j.xml")).toStdString(), HasSubstr("failures=\"0\" errors=\"0\""));
 }
 
 TEST_F(Play, TillThatDoesNotStart_EndsThePlay)
@@ -219,62 +235,6 @@ TEST_F(Play, SharedDatabase_IsPlayedInTurn)
     }
     EXPECT_EQ(played({"--db", database(), "--jobs", "1", second}).status, 1);
     EXPECT_EQ(played({"--db", ":memory:", "--jobs", "2", first, first}).status, 0);
-}
-
-//! With a plugin that goes wrong when it is told so many pieces.
-class PlayOfFaulty : public PlayTest
-{
-protected:
-    QString adding(int pieces) const
-    {
-        return script(QString("%1.till").arg(pieces),
-                      "open\nexpect accepted add CHIPS " + QByteArray::number(pieces) + '\n');
-    }
-    RunResult played(const QStringList &arguments) const
-    {
-        return PlayTest::played(QStringList{"--plugin", FAULTY_PLUGIN} + arguments);
-    }
-};
-
-TEST_F(PlayOfFaulty, Crash_FailsItsScriptAloneWithItsSignal)
-{
-    const RunResult failed = played({"--jobs", "2", adding(1), adding(11), adding(12), adding(2)});
-    EXPECT_EQ(failed.status, 1);
-    EXPECT_THAT(failed.out, HasSubstr("failed    " + path("11.till").toStdString()
-                                      + ":2\n"
-                                        "command   add CHIPS 11\n"
-                                        "expected  accepted\n"
-                                        "found     crashed: SIGSEGV\n"));
-    EXPECT_THAT(failed.out, HasSubstr("found     crashed: SIGABRT\n"));
-    EXPECT_THAT(failed.out, EndsWith("2 of 4 scripts held, 2 failed; expectations: 4\n"));
-    const std::string at = "till: " + path("").toStdString();
-    EXPECT_EQ(failed.err, "the plugin's last words\n" + at
-                              + "/11.till:2: add CHIPS 11: crashed: SIGSEGV\n" + at
-                              + "/12.till:2: add CHIPS 12: crashed: SIGABRT\n");
-}
-
-TEST_F(PlayOfFaulty, Hang_IsEndedAndTheOthersArePlayed)
-{
-    const RunResult failed =
-        played({"--jobs", "2", "--timeout", "1", adding(13), adding(13), adding(13)});
-    EXPECT_EQ(failed.status, 1);
-    EXPECT_THAT(failed.err, HasSubstr(": hangs: ended by SIGKILL after 1 s\n"));
-    EXPECT_THAT(failed.out, EndsWith("0 of 3 scripts held, 3 failed; expectations: 3\n"));
-}
-
-TEST_F(PlayOfFaulty, ExitInAPlugin_IsNoGoodEnd)
-{
-    const RunResult failed = played({adding(14), adding(2)});
-    EXPECT_EQ(failed.status, 1);
-    EXPECT_THAT(failed.err,
-                HasSubstr("add CHIPS 14: the process ended with status 0 before the script\n"));
-    EXPECT_THAT(failed.out, EndsWith("1 of 2 scripts held, 1 failed; expectations: 2\n"));
-}
-
-TEST_F(PlayOfFaulty, CourseBeforeACrash_IsShown)
-{
-    const RunResult failed = run({"--plugin", FAULTY_PLUGIN, "play", adding(11)});
-    EXPECT_THAT(failed.out, HasSubstr("> open\n> add CHIPS 11\n"));
 }
 
 } // namespace

@@ -63,6 +63,8 @@ TEST_F(PlayUpdate, EachKindOfExpectation_IsMended)
               "position 1 live quantity 1 article CAN3");
     EXPECT_EQ(mended("position 2 sum 1 base 2"), "position 2 sum 210.00 base 1.5");
     EXPECT_EQ(mended("position 1 stornoed"), "position 1 live");
+    EXPECT_EQ(mended("position 1 group 2 live"), "position 1 group none live");
+    EXPECT_EQ(mended("loyalty 3"), "loyalty 0");
     EXPECT_EQ(mended("position 1 none"), "position 1 article CAN3");
     EXPECT_EQ(mended("position 9 live quantity 2"), "position 9 none");
     EXPECT_EQ(mended("positions 9"), "positions 2");
@@ -127,6 +129,46 @@ TEST_F(PlayUpdate, DifferenceOnATerminal_StandsAlone)
     EXPECT_THAT(terminal.readTo("expectations: 1"),
                 HasSubstr("[1/1] s.till\r\x1b[K--- " + one + "\r\n+++ " + one + "\r\n@@ "));
     EXPECT_EQ(terminal.end(), 0);
+}
+
+TEST_F(PlayUpdate, DifferenceThatCannotBeShown_IsNotMade)
+{
+    const QByteArray text = "open\nexpect positions 7\n";
+    const QString one = script("s.till", text);
+    QProcess shell;
+    shell.start("sh", {"-c", "exec \"$@\" > /dev/full", "sh", TILL_PROGRAM, "--quiet", "play",
+                       "--update", one});
+    ASSERT_TRUE(shell.waitForFinished(patience));
+    EXPECT_EQ(shell.exitCode(), 3);
+    EXPECT_EQ(contents(one), text);
+    EXPECT_THAT(shell.readAllStandardError().toStdString(),
+                HasSubstr("s.till: is left as it was, as the difference cannot be shown"));
+}
+
+TEST_F(PlayUpdate, DifferenceInTap_IsAComment)
+{
+    const QString one = script("s.till", "open\nexpect positions 7\n");
+    const std::string at = one.toStdString();
+    EXPECT_EQ(run({"--tap", "play", "--update", one}).out,
+              "TAP version 13\n1..1\n# --- " + at + "\n# +++ " + at
+                  + "\n# @@ -2 +2 @@\n# -expect positions 7\n# +expect positions 0\nok 1 - " + at
+                  + "\n");
+}
+
+TEST_F(PlayUpdate, TraceOnStandardOutput_IsRefused)
+{
+    const RunResult refused = run({"--trace", "-", "--update", "play", script("s.till", good)});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.err, "till: --update: standard output is for the trace; name a file for the "
+                           "trace\n");
+}
+
+TEST_F(PlayUpdate, FirstLineBehindAMarkOfUtf8_IsMended)
+{
+    EXPECT_EQ(updated("\xef\xbb\xbf"
+                      "expect state open\n"),
+              "\xef\xbb\xbf"
+              "expect state none\n");
 }
 
 TEST_F(PlayUpdate, StandardInput_IsRefused)

@@ -39,7 +39,7 @@ TEST_F(Record, EveryReceipt_IsInAScriptThatHolds)
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "");
     EXPECT_THAT(done.out,
-                EndsWith("\n" + file.toStdString() + ": 8 command(s), 41 expectation(s)\n"));
+                EndsWith("\n" + file.toStdString() + ": 8 command(s), 42 expectation(s)\n"));
     EXPECT_THAT(script(), StartsWith("# Recorded by the till.\n"
                                      "set PackagingControl:allowSaleEmptyTara true\nopen sale\n"));
     EXPECT_THAT(script(), HasSubstr("\nadd CHIPS 1\n"));
@@ -71,8 +71,39 @@ TEST_F(Record, OtherFile_IsRefusedAndLeft)
     const RunResult done = recorded(twoReceipts);
     EXPECT_EQ(done.status, 2);
     EXPECT_EQ(done.err, "till: --record: " + file.toStdString()
-                            + " is there already and is no recorded script\n");
+                            + " is there already and is no recorded script; name another file\n");
     EXPECT_EQ(script(), "open\n");
+}
+
+TEST_F(Record, RecordedScriptThatWasChanged_IsRefusedAndLeft)
+{
+    recorded("open\nadd CHIPS\n");
+    const QByteArray changed = contents(file).replace("CHIPS", "BAG");
+    overwrite(file, changed);
+    const RunResult done = recorded(twoReceipts);
+    EXPECT_EQ(done.status, 2);
+    EXPECT_EQ(done.err, "till: --record: " + file.toStdString()
+                            + " was changed since it was recorded, or not recorded to its end; "
+                              "name another file, or remove this one\n");
+    EXPECT_EQ(contents(file), changed);
+}
+
+TEST_F(Record, Dash_IsNoFile)
+{
+    const RunResult done = run({"--db", ":memory:", "--record", "-"}, "open\n");
+    EXPECT_EQ(done.status, 2);
+    EXPECT_EQ(done.err, "till: --record: - a script is saved to a file; ./- is one of that name\n");
+}
+
+TEST_F(Record, SaveToAStandardStream_IsRefused)
+{
+    const RunResult done = run({"--db", ":memory:", "--lang", "en"}, "open\nsave /dev/stdout\n");
+    EXPECT_EQ(done.status, 1);
+    EXPECT_THAT(done.err, EndsWith("/dev/stdout: is no file of its own; name another file\n"));
+    const RunResult played =
+        run({"--lang", "en", "play", write("s.till", "open\nsave /dev/stdout\n")});
+    EXPECT_EQ(played.status, 1);
+    EXPECT_THAT(played.err, HasSubstr("/dev/stdout: is no file of its own; name another file\n"));
 }
 
 TEST_F(Record, FileInUse_IsRefused)
@@ -167,8 +198,8 @@ TEST_F(FromTrace, TillThatWasKilled_EndsWithTheCommandUnderWay)
     ASSERT_GT(command, 0);
     const RunResult done = fromTrace(write("cut", whole.left(command + 200)));
     EXPECT_EQ(done.status, 0);
-    EXPECT_THAT(done.out, EndsWith("\n# The course of things ends within this command:\n"
-                                   "add CAN3 1\n"));
+    EXPECT_THAT(done.out, HasSubstr("\n# The course of things ends within this command:\n"
+                                    "add CAN3 1\n# Recorded to here;"));
     holds(write("s.till", QByteArray::fromStdString(done.out)));
 }
 
@@ -187,6 +218,7 @@ TEST_F(FromTrace, WhatIsNoTrace_IsTold)
 {
     const QString other = write("other", "{\"kind\":\"start\"}\nopen\n{}\n");
     EXPECT_EQ(fromTrace(other).status, 3);
+    EXPECT_EQ(fromTrace(other).out, "");
     EXPECT_EQ(fromTrace(other).err, "till: " + other.toStdString() + ":2: no line of a trace\n");
     const QString empty = write("empty", "");
     EXPECT_EQ(fromTrace(empty).err, "till: " + empty.toStdString() + ": an empty trace\n");

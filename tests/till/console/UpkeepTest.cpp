@@ -43,6 +43,18 @@ TEST_F(Upkeep, CheckWithoutADatabase_IsAFileThatCannotBeUsed)
     EXPECT_THAT(checked.err, HasSubstr("no such file"));
 }
 
+TEST_F(Upkeep, CheckOfAFileThatCannotBeRead_CountsNothing)
+{
+    sell();
+    QByteArray bytes = contents(database());
+    constexpr qsizetype page = 4096;
+    overwrite(database(), bytes.replace(page, 200, QByteArray(200, '\xa5')));
+    const RunResult checked = check();
+    EXPECT_EQ(checked.status, 1);
+    EXPECT_THAT(checked.out, StartsWith("file            the database is damaged ("));
+    EXPECT_THAT(checked.out, HasSubstr("\nreceipts        cannot be read\n"));
+}
+
 TEST_F(Upkeep, DamagedReceipt_IsRefusedThenSetApartAndAnotherOpened)
 {
     sell();
@@ -119,7 +131,17 @@ TEST_F(Upkeep, DatabaseWithASecondName_IsOpenedUnderNeither)
         EXPECT_EQ(refused.status, 3);
         EXPECT_THAT(refused.err, HasSubstr("has another name too (a hard link)"));
     }
-    EXPECT_EQ(check().status, 0);
+    for (const QStringList &reading : {QStringList{"receipts"},
+                                       {"receipt", "1"},
+                                       {"journal", "1"},
+                                       {"check"},
+                                       {"backup", "b"}}) {
+        const RunResult refused = run(QStringList{"--db", other} + reading);
+        EXPECT_EQ(refused.status, 3);
+        EXPECT_EQ(refused.err, "till: " + other.toStdString()
+                                   + ": this file has another name too (a hard link), by which "
+                                     "another till could open it at the same time\n");
+    }
 }
 
 TEST_F(Upkeep, SetApartOfWhatIsNoReceiptToSetApart_IsRefused)

@@ -1,9 +1,11 @@
-"""Validates the traces of scripts: validate_traces.py TILL SCHEMA SCRIPT..."""
+"""Validates the traces of scripts, and the journals of the receipts that they leave:
+validate_traces.py TILL SCHEMA SCRIPT..."""
 
 import copy
 import json
 import subprocess
 import sys
+import tempfile
 
 from jsonschema import Draft202012Validator
 
@@ -12,6 +14,16 @@ def trace_of(till, script):
     played = subprocess.run([till, "--trace", "-", "play", script], check=True,
                             stdout=subprocess.PIPE)
     return [json.loads(line) for line in played.stdout.splitlines()]
+
+
+def journal_of(till, script):
+    with tempfile.TemporaryDirectory() as folder:
+        database = f"{folder}/till.sqlite"
+        subprocess.run([till, "--db", database, "--quiet", "play", script], check=True,
+                       stdout=subprocess.DEVNULL)
+        told = subprocess.run([till, "--db", database, "journal", "1", "--json"], check=True,
+                              stdout=subprocess.PIPE)
+        return [json.loads(line) for line in told.stdout.splitlines()]
 
 
 def spoilt(note):
@@ -33,6 +45,12 @@ def main():
             kinds.setdefault(note["kind"], note)
             for error in validator.iter_errors(note):
                 sys.exit(f"{script}: line {note['line']}: {error.message}")
+        journal = journal_of(till, script)
+        for number, note in enumerate(journal, 1):
+            for error in validator.iter_errors(note):
+                sys.exit(f"{script}: line {number} of its journal: {error.message}")
+        if [note["line"] for note in journal] != list(range(1, len(journal) + 1)):
+            sys.exit(f"{script}: lines of its journal are not numbered")
     # A schema that takes everything would say nothing.
     optional = {("event", "position"), ("outcome", "by"), ("action", "count")}
     for kind, note in kinds.items():

@@ -69,11 +69,15 @@ void TraceReader::read(const QJsonObject &note)
 {
     static const QStringList kept{"action", "trigger", "result", "question", "answer", "message"};
     const QString kind = note["kind"].toString();
-    if (kept.contains(kind)) {
-        QJsonObject entry = note;
+    const auto keep = [this](QJsonObject entry) {
         entry.remove("line");
         m_unstored.append(QJsonDocument(entry).toJson(QJsonDocument::Compact));
-    }
+    };
+    if (note["depth"].toInt() == 1 && (kind == "question" || kind == "message")
+        && !m_unkept.isEmpty())
+        keep(std::exchange(m_unkept, {}));
+    if (kept.contains(kind))
+        keep(note);
     if (kind == "takeup")
         readTakeup(note);
     else if (kind == "outcome")
@@ -95,6 +99,7 @@ void TraceReader::readCommand(const QJsonObject &note, const QString &kind)
 {
     if (kind == "command") {
         m_command = note["text"].toString();
+        m_unkept = note;
         m_unstored.clear(); // what was told before it belongs to no command
         m_stage = Stage::Acting;
     } else if (m_actions.isEmpty() && (kind == "message" || kind == "answer")) {

@@ -97,6 +97,7 @@ private:
     ToldReceipt m_underWay;
     ToldReceipt m_takenUp;
     QList<ToldReceipt> m_finished;
+    QJsonObject m_unkept;      //!< the note of the command under way, unless the journal has it
     QByteArrayList m_unstored; //!< journal notes of the command under way, until a save
     QList<QJsonObject> m_actions;
     QString m_command;

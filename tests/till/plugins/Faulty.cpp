@@ -10,7 +10,19 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <fcntl.h>
 #include <unistd.h>
+
+//! Leaves a process that holds the file "alive" at home open for writing.
+void leaveAProcess()
+{
+    const int file = open((qgetenv("HOME") + "/alive").constData(), O_WRONLY | O_CLOEXEC);
+    if (fork() == 0) {
+        for (;;)
+            pause();
+    }
+    close(file);
+}
 
 //! A plugin of the host's that goes wrong when so many pieces are added.
 class Faulty : public BaseActivityListener, public BasicPlugin, public DocumentWatcher
@@ -47,6 +59,12 @@ public:
                 pause();
         case 14:
             std::exit(EXIT_SUCCESS);
+        case 15:
+            leaveAProcess();
+            break;
+        case 16:
+            for (;;)
+                std::fputs("the plugin goes on and on\n", stdout);
         default:
             break;
         }

@@ -97,8 +97,9 @@ TEST_F(Recorded, WhatIsSaidWhileTheTillIsSwitched_IsExpected)
     takeUp(1);
     receipt(1, 0);
     carriedOut("subtotal");
-    EXPECT_THAT(lines, ElementsAre("answer yes", "restart", "expect question q", "expect message m",
-                                   "subtotal", "expect message none"));
+    EXPECT_THAT(lines,
+                ElementsAre("answer yes", "restart", "expect question q", "expect question x",
+                            "expect message m", "subtotal", "expect message none"));
 }
 
 TEST_F(Recorded, QuantityAboutHalfwayBetweenThousandths_IsNotExpected)

@@ -1,4 +1,5 @@
 #include "tests/till/support/TillFixture.h"
+#include "till/recorder/RecordedText.h"
 #include "till/script/Script.h"
 
 // A receipt that is saved as a script, and the script played.
@@ -14,14 +15,16 @@ using testing::StartsWith;
 class Save : public TillTest
 {
 protected:
-    //! The script of the receipt, behind the mark.
+    //! The script of the receipt, without its first and last line.
     std::string saved()
     {
         done({"save " + file});
         const std::string text = contents(file).toStdString();
         const std::string mark = "# Recorded by the till.\n";
         EXPECT_THAT(text, StartsWith(mark));
-        return text.substr(mark.size());
+        EXPECT_TRUE(RecordedText::isUnchanged(contents(file)));
+        const size_t last = text.rfind("# Recorded to here;");
+        return text.substr(mark.size(), last - mark.size());
     }
 
     //! Why the saved script does not hold on a till that is on nothing yet; empty when it does.
@@ -67,6 +70,8 @@ TEST_F(Save, Receipt_IsAScriptThatTellsWhatItDid)
                        "answer yes\n"
                        "storno 1\n"
                        "expect question tillStornoPosition\n"
+                       "expect question \"Сторнировать позицию?\"\n"
+                       "expect loyalty 1\n"
                        "expect message none\n"
                        "expect position 1 stornoed\n"
                        "expect position 2 stornoed\n"
@@ -95,6 +100,16 @@ TEST_F(Save, Answers_AreInTheScript)
     EXPECT_THAT(text, HasSubstr("\nanswer no\nexpect refused subtotal\n"
                                 "expect question packingControlSaleEmptyTara\n"));
     EXPECT_THAT(text, HasSubstr("\nanswer yes\npay 500.00\n"));
+    EXPECT_EQ(played(), "");
+}
+
+TEST_F(Save, GroupOfPieces_IsInTheScript)
+{
+    done({"open", "add CAN3 2", "add BEER 2", "split 2 1"});
+    const std::string text = saved();
+    EXPECT_THAT(text, HasSubstr("\nexpect position 2 quantity 1 sum 140.00 group 2\n"));
+    EXPECT_THAT(text, HasSubstr("\nexpect position 3 article BEER quantity 1 sum 140.00 live group "
+                                "2\n"));
     EXPECT_EQ(played(), "");
 }
 
@@ -228,7 +243,25 @@ TEST_F(Save, OtherFile_IsLeftAsItIs)
               file + ": is there already and is no recorded script; name another file");
     EXPECT_EQ(contents(file), "open\n");
     EXPECT_EQ(failed("save " + directory.path()),
-              directory.path() + ": is there already and is no recorded script; name another file");
+              directory.path() + ": is no file of its own; name another file");
+    EXPECT_EQ(failed("save -"), "-: a script is saved to a file; ./- is one of that name");
+}
+
+TEST_F(Save, ScriptThatWasChanged_IsLeftAsItIs)
+{
+    done({"open", "add CHIPS"});
+    saved();
+    saved(); // which takes the place of the one before
+    for (const QByteArray &changed :
+         {contents(file).replace("quantity 1", "quantity 2"), contents(file) + "pay\n",
+          contents(file).chopped(1), QByteArray("# Recorded by the till.\nopen\n")}) {
+        overwrite(file, changed);
+        EXPECT_EQ(failed("save " + file),
+                  file
+                      + ": was changed since it was recorded, or not recorded to its end; "
+                        "name another file, or remove this one");
+        EXPECT_EQ(contents(file), changed);
+    }
 }
 
 TEST_F(Save, FileThatCannotBeWritten_IsAFailure)

@@ -21,9 +21,10 @@ protected:
 TEST_F(Completion, ExpectedWords_GoOnUpToTheLast)
 {
     EXPECT_EQ(offered("expect position "), "1 2 3");
-    EXPECT_EQ(offered("expect position 1 "), "none stornoed live quantity base sum article");
-    EXPECT_EQ(offered("expect position 1 live "), "stornoed live quantity base sum article");
+    EXPECT_EQ(offered("expect position 1 "), "none stornoed live quantity base sum article group");
+    EXPECT_EQ(offered("expect position 1 live "), "stornoed live quantity base sum article group");
     EXPECT_EQ(offered("expect position 1 article BEER"), "BEER BEER3");
+    EXPECT_EQ(offered("expect position 1 group "), "1 2 3 none");
     EXPECT_EQ(offered("expect goods 2 "), "none in unplaced");
     EXPECT_EQ(offered("EXPECT Goods 2 in "), "1 2 3");
     EXPECT_EQ(offered("expect goods 2 in 1 2 u"), "unplaced");

@@ -44,8 +44,8 @@ TEST_P(Expect, WhatIsNotSo_FailsAndSaysWhy)
     EXPECT_EQ((isOtherwise ? unexpected(line) : mistake(line)).toStdString(), GetParam().text);
 }
 
-constexpr const char *usageOfPosition =
-    "usage: expect position N none|stornoed|live|quantity Q|base Q|sum MONEY|article CODE...";
+constexpr const char *usageOfPosition = "usage: expect position N none|stornoed|live|quantity "
+                                        "Q|base Q|sum MONEY|article CODE|group none|FIRST...";
 constexpr const char *usageOfTara = "usage: expect tara N none|capacity C|free F...";
 constexpr const char *usageOfGoods =
     "usage: expect goods N none|in TARA AMOUNT...|unplaced AMOUNT...";
@@ -124,6 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "message: expected none, found packingControlTaraAlmostFull"},
         Expectation{"Question", "question none", "question tillCancelReceipt",
                     "question: expected \"tillCancelReceipt\", found none"},
+        Expectation{"Loyalty", "loyalty 0", "loyalty 1", "loyalty: expected 1, found 0"},
         Expectation{"Log", "log none", "log \"Добавлена тара\"",
                     "log: expected \"Добавлена тара\", found none"}),
     nameOf);
@@ -150,7 +151,8 @@ INSTANTIATE_TEST_SUITE_P(
         Expectation{"Nested", "", "accepted expect total 1", "an expectation cannot be expected"},
         Expectation{"WhichCommand", "", "accepted", "which command?"},
         Expectation{"Part", "", "position 3 amount 2",
-                    "\"amount\" is none of: none, stornoed, live, quantity, base, sum, article"},
+                    "\"amount\" is none of: none, stornoed, live, quantity, base, sum, article, "
+                    "group"},
         Expectation{"PositionNumber", "", "position x live", "\"x\" is not a position number"},
         Expectation{"TaraPart", "", "tara 1 size 3", "\"size\" is none of: none, capacity, free"},
         Expectation{"TaraNumber", "", "tara x free 1", "\"x\" is not a position number"},
@@ -174,7 +176,7 @@ INSTANTIATE_TEST_SUITE_P(
         Expectation{"PositionWithoutValue", "", "position 9 live quantity", usageOfPosition},
         Expectation{"PositionNoneAndMore", "", "position 3 none live", usageOfPosition},
         Expectation{"PositionMoreAndNone", "", "position 3 live none",
-                    "\"none\" is none of: stornoed, live, quantity, base, sum, article"},
+                    "\"none\" is none of: stornoed, live, quantity, base, sum, article, group"},
         Expectation{"TaraWithoutNumber", "", "tara 1 free", usageOfTara},
         Expectation{"TaraNoneAndMore", "", "tara 9 none free 1", usageOfTara},
         Expectation{"GoodsWithoutAmount", "", "goods 9 in 2", usageOfGoods},
@@ -196,6 +198,24 @@ TEST_F(ExpectHeard, Question_IsFoundByKeyAndText)
     expect({"question tillStornoPosition", "question Сторнировать позицию?"});
     EXPECT_EQ(unexpected("expect question none"),
               QString("question: expected none, found tillStornoPosition"));
+}
+
+TEST_F(ExpectHeard, Loyalty_CountsTheLastCommand)
+{
+    done({"open", "add CAN3", "answer yes", "storno 1"});
+    expect({"loyalty 1"});
+    EXPECT_EQ(unexpected("expect loyalty 0"), QString("loyalty: expected 0, found 1"));
+}
+
+TEST_F(ExpectHeard, PiecesOfASplitPosition_AreInOneGroup)
+{
+    done({"open", "add CHIPS", "add CAN3 2", "add BEER 2", "split 3 1"});
+    expect({"position 3 group 3", "position 4 group 3 live", "position 1 group none"});
+    EXPECT_EQ(unexpected("expect position 4 group none"),
+              QString("position 4 group: expected none, found 3"));
+    EXPECT_EQ(unexpected("expect position 1 group 3"),
+              QString("position 1 group: expected 3, found none"));
+    mistake("expect position 1 group one");
 }
 
 TEST_F(ExpectHeard, Log_FindsALineOfTheLastCommand)

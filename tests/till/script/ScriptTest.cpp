@@ -64,13 +64,19 @@ TEST_F(ScriptRun, FailedExpectation_StopsWithBothValues)
 TEST_F(ScriptRun, MissingAnswer_IsWrongAtTheEnd)
 {
     EXPECT_EQ(play("open\nadd CHIPS\nexpect refused storno 1\n"),
-              path() + ":4: no answer was given to: tillStornoPosition");
+              path() + ":3: expect refused storno 1: no answer was given to: tillStornoPosition");
 }
 
 TEST_F(ScriptRun, UnusedAnswer_IsWrongAtTheEnd)
 {
     EXPECT_EQ(play("open\nanswer yes"),
-              path() + ":2: 1 answer(s) were given that nobody asked for");
+              path() + ":2: answer yes: 1 answer(s) were given that nobody asked for");
+}
+
+TEST_F(ScriptRun, UnusedAnswer_IsToldAtItsOwnLine)
+{
+    EXPECT_EQ(play("open\nadd CHIPS\nanswer yes\nstorno 1\nanswer no yes\nexpect positions 0\n"),
+              path() + ":5: answer no yes: 2 answer(s) were given that nobody asked for");
 }
 
 TEST_F(ScriptRun, Commands_AreEchoedAndWatchersAreNot)
@@ -122,7 +128,7 @@ TEST_F(ScriptRun, FaultInAnIncludedFile_HasItsNameAndLine)
     EXPECT_EQ(noted("script", "file"), QVariantList({common, common}));
     overwrite(common, "answer yes");
     EXPECT_EQ(play("include common.till"),
-              common + ":1: 1 answer(s) were given that nobody asked for");
+              common + ":1: answer yes: 1 answer(s) were given that nobody asked for");
     start(setup(), QStringLiteral("en"));
     overwrite(common, "quit\n");
     EXPECT_EQ(play("include common.till\nopen\n"),

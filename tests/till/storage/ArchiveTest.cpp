@@ -86,7 +86,7 @@ TEST_F(ArchiveTest, Receipt_IsTheOneThatWasSaved)
     EXPECT_EQ(receipt.positions, 2);
     EXPECT_EQ(receipt.opened.timeSpec(), Qt::LocalTime);
     EXPECT_LE(receipt.opened, receipt.ended);
-    EXPECT_EQ(must(kept->journal(1)).size(), 2);
+    EXPECT_EQ(must(kept->journal(1)).faults.size(), 2); // which are no notes of a register
 }
 
 TEST_F(ArchiveTest, WhatIsNotThere_IsNothing)
@@ -94,7 +94,8 @@ TEST_F(ArchiveTest, WhatIsNotThere_IsNothing)
     leaveUnfinished(1);
     const auto kept = archive();
     EXPECT_FALSE(must(kept->receipt(2, "PackagingControl")));
-    EXPECT_TRUE(must(kept->journal(2)).isEmpty());
+    EXPECT_TRUE(must(kept->journal(2)).faults.isEmpty());
+    EXPECT_TRUE(must(kept->journal(2)).entries.isEmpty());
     EXPECT_FALSE(receiptOf(*kept, 1).ended.isValid());
 }
 
