@@ -94,7 +94,7 @@ void TillWindow::layOut()
     halves->setChildrenCollapsible(false);
     halves->addWidget(left);
     halves->addWidget(right);
-    halves->setSizes({520, 500});
+    halves->setSizes({540, 480});
     auto *const cashDesk = new QWidget;
     auto *const all = new QVBoxLayout(cashDesk);
     all->setContentsMargins(4, 0, 4, 4);

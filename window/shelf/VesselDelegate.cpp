@@ -91,6 +91,7 @@ void VesselDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     painter->save();
     painter->setFont(option.font);
     const QRect inside = option.rect.adjusted(padding, padding, -padding, -padding);
+    painter->fillRect(option.rect, option.palette.color(QPalette::Base));
     if (option.state.testFlag(QStyle::State_Selected)) {
         QColor selected = option.palette.color(QPalette::Highlight);
         selected.setAlphaF(0.25F);
