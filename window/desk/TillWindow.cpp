@@ -185,6 +185,8 @@ void TillWindow::translate()
 
 void TillWindow::switchOn()
 {
+    if (m_desk.isOn() || m_desk.isBusy())
+        return;
     if (const Result<> started = m_desk.start(); !started) {
         m_fault.tellStart(started.error());
         m_pages.setCurrentIndex(1);

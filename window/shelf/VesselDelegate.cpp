@@ -29,7 +29,7 @@ QRectF vesselIn(const QRectF &room, double capacity, double greatest)
 
 void drawLayer(QPainter &painter, const QRectF &area, const GoodsLook &look, bool isDimmed)
 {
-    painter.setOpacity(isDimmed ? 0.25 : 1.0);
+    painter.setOpacity(isDimmed ? 0.4 : 1.0);
     look.fill(painter, area);
     painter.setOpacity(1.0);
 }

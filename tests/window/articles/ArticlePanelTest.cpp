@@ -52,7 +52,7 @@ TEST_F(ArticlePanelTest, TouchedTile_IsAdded)
 {
     touchTile("CAN3");
 
-    EXPECT_EQ(commands(), (QStringList{"open: done", "add CAN3: done"}));
+    EXPECT_EQ(commands(), (QStringList{"open sale: done", "add CAN3 1: done"}));
     EXPECT_EQ(said(1), "CAN3 Канистра 3 л\n0 / 3, empty");
 }
 
@@ -119,14 +119,14 @@ TEST_F(ArticlePanelTest, FoundTile_IsAddedByKeys)
     press(Qt::Key_Down);
     press(Qt::Key_Return);
 
-    EXPECT_EQ(commands().constLast(), "add KVASS: done");
+    EXPECT_EQ(commands().constLast(), "add KVASS 1: done");
 }
 
 TEST_F(ArticlePanelTest, ScannedCode_IsAdded_AndTheFieldIsEmpty)
 {
     scan("PET1");
 
-    EXPECT_EQ(commands().constLast(), "add PET1: done");
+    EXPECT_EQ(commands().constLast(), "add PET1 1: done");
     EXPECT_EQ(code().text(), "");
 }
 
@@ -141,8 +141,8 @@ TEST_F(ArticlePanelTest, UnknownCode_IsRefused_AndStaysToBeTypedOver)
 {
     scan("PET11");
 
-    EXPECT_EQ(commands().constLast(), "add PET11: mistake");
-    EXPECT_EQ(told(), "The catalogue has no article \"PET11\"; did you mean PET1?");
+    EXPECT_EQ(commands().constLast(), "add PET11 1: mistake");
+    EXPECT_EQ(told(), "no article \"PET11\" in the catalogue; did you mean 'PET1'?");
     EXPECT_EQ(code().selectedText(), "PET11");
 }
 
@@ -155,7 +155,7 @@ TEST_F(ArticlePanelTest, ScannerThatTypesElsewhere_IsHeard)
     type("BEER");
     press(Qt::Key_Return);
 
-    EXPECT_EQ(commands().constLast(), "add BEER: done");
+    EXPECT_EQ(commands().constLast(), "add BEER 1: done");
 }
 
 TEST_F(ArticlePanelTest, Accessible_EveryTileSaysNameCodeAndPrice)

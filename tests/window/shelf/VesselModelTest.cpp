@@ -80,9 +80,9 @@ TEST_F(VesselModelTest, FreeCapacity_IsToldInFigures)
     model.show(shelf(1, 0.5), false);
 
     EXPECT_EQ(model.amountsAt(0), "1.5 / 2");
-    EXPECT_EQ(model.fillTextAt(0).text, "0.5 free");
+    EXPECT_EQ(model.fillTextAt(0).text, "free 0.5");
     EXPECT_EQ(model.index(0).data(Qt::AccessibleTextRole),
-              "1 Jar\n1.5 / 2, 0.5 free: pos. 3 — 1, pos. 4 — 0.5");
+              "1 Jar\n1.5 / 2, free 0.5: pos. 3 — 1, pos. 4 — 0.5");
 }
 
 TEST_F(VesselModelTest, OverfullVessel_SaysSoAsAWarning)

@@ -2,6 +2,7 @@
 
 #include "window/articles/ArticleModel.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListView>
@@ -137,13 +138,30 @@ void WindowTest::enter(const QString &text)
     type(text);
     press(Qt::Key_Return);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+}
+
+void WindowTest::openMenu(const QList<Qt::Key> &keys)
+{
+    QMetaObject::invokeMethod(
+        window.get(),
+        [&] {
+            for (const Qt::Key key : keys)
+                QTest::keyClick(QApplication::activePopupWidget(), key);
+        },
+        Qt::QueuedConnection);
+    click(QStringLiteral("menu")); // returns when the menu is closed
 }
 
 void WindowTest::meet(QWidget &question)
 {
     questions.append(question.findChild<QLabel *>(QStringLiteral("text"))->text());
+    const QPointer<QWidget> asked = &question;
     if (whileAsked)
         std::exchange(whileAsked, {})(question);
+    if (!asked || !asked->isVisible())
+        return;
     const bool isConfirmed = !m_answers.isEmpty() && m_answers.takeFirst();
     click(*question.findChild<QPushButton *>(isConfirmed ? QStringLiteral("confirm")
                                                          : QStringLiteral("cancel")));

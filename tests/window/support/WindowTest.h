@@ -1,6 +1,7 @@
 #ifndef TESTS_WINDOW_SUPPORT_WINDOWTEST_H
 #define TESTS_WINDOW_SUPPORT_WINDOWTEST_H
 
+#include "tests/support/Printers.h"
 #include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Results.h"
 #include "till/course/Notes.h"
@@ -55,6 +56,8 @@ protected:
     void select(const QList<int> &posnums);
     //! Types into the dialog that is open, and Enter.
     void enter(const QString &text);
+    //! Clicks on the menu, in which these keys are pressed.
+    void openMenu(const QList<Qt::Key> &keys);
     //! The next questions will be answered so, with a click; any further one with no.
     void answer(const QList<bool> &answers) { m_answers += answers; }
     //! What is called instead, when a question stands there, before it is answered.
