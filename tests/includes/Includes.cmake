@@ -40,13 +40,16 @@ may_include(till/runner ${known_by_till/script} till/script)
 may_include(till/terminal ${known_by_till/script} till/script till/database)
 may_include(till/console ${known_by_till/terminal} till/terminal till/runner till/reports)
 
+# The window knows the till but for what is a terminal's, and its own modules before each.
+may_include(window/look ${known_by_till/register} till/register till/view)
+
 # Sets FOLDER to the folder that PATH, which an include names, leads into: empty for what is not the
 # project's.
 function(folder_of path result)
-    string(REGEX MATCH "^(till/[^/]+|[^/]+)/" folder "${path}")
+    string(REGEX MATCH "^((till|window)/[^/]+|[^/]+)/" folder "${path}")
     string(REGEX REPLACE "/$" "" folder "${folder}")
-    set(ours till plugin registry events triggers tests bench fuzz ${folders})
-    if(NOT folder IN_LIST ours AND NOT folder MATCHES "^till/")
+    set(ours till window plugin registry events triggers tests bench fuzz ${folders})
+    if(NOT folder IN_LIST ours AND NOT folder MATCHES "^(till|window)/")
         set(folder "")
     endif()
     set(${result} "${folder}" PARENT_SCOPE)
@@ -73,8 +76,8 @@ foreach(folder ${folders})
     endforeach()
 endforeach()
 
-# Every module of the till has its line above.
-file(GLOB modules RELATIVE ${ROOT} ${ROOT}/till/*/CMakeLists.txt)
+# Every module of the till and of its window has its line above.
+file(GLOB modules RELATIVE ${ROOT} ${ROOT}/till/*/CMakeLists.txt ${ROOT}/window/*/CMakeLists.txt)
 foreach(module ${modules})
     cmake_path(GET module PARENT_PATH module)
     if(NOT module IN_LIST folders)
