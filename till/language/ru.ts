@@ -451,5 +451,197 @@
         <source>damaged: %1</source>
         <translation>повреждён: %1</translation>
     </message>
+    <message>
+        <source>Course (F9)</source>
+        <translation>Ход событий (F9)</translation>
+    </message>
+    <message>
+        <source>What happened, command by command</source>
+        <translation>Что произошло, команда за командой</translation>
+    </message>
+    <message>
+        <source>Filter: what the lines contain</source>
+        <translation>Фильтр: что содержат строки</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Следить</translation>
+    </message>
+    <message>
+        <source>Unfold the newest command, and fold the one before</source>
+        <translation>Раскрывать последнюю команду, а предыдущую сворачивать</translation>
+    </message>
+    <message>
+        <source>Copy as JSON</source>
+        <translation>Копировать как JSON</translation>
+    </message>
+    <message>
+        <source>Copy the lines that a trace has of what is selected, or of all that is shown</source>
+        <translation>Скопировать строки трассы о выделенном, а без выделения — обо всём, что показано</translation>
+    </message>
+    <message>
+        <source>The last %1 commands are kept.</source>
+        <translation>Хранятся последние команды: %1.</translation>
+    </message>
+    <message>
+        <source>The last %1 commands are kept; %2 before them are gone.</source>
+        <translation>Хранятся последние команды: %1; более ранних забыто: %2.</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Что произошло</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>Чем кончилось</translation>
+    </message>
+    <message>
+        <source>event 19: position %1 was added</source>
+        <translation>событие 19: добавлена поз. %1</translation>
+    </message>
+    <message>
+        <source>event 21: position %1 was stornoed</source>
+        <translation>событие 21: сторнирована поз. %1</translation>
+    </message>
+    <message>
+        <source>event 26: the cashier changed the quantity of position %1</source>
+        <translation>событие 26: кассир изменил количество поз. %1</translation>
+    </message>
+    <message>
+        <source>event 252: the program changed the quantity of position %1</source>
+        <translation>событие 252: программа изменила количество поз. %1</translation>
+    </message>
+    <message>
+        <source>event 29: an error</source>
+        <translation>событие 29: ошибка</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>событие %1</translation>
+    </message>
+    <message>
+        <source>asked for by the plugin: %1</source>
+        <translation>по просьбе плагина: %1</translation>
+    </message>
+    <message>
+        <source>trigger before %1, priority %2</source>
+        <translation>триггер перед %1, приоритет %2</translation>
+    </message>
+    <message>
+        <source>trigger after %1, priority %2</source>
+        <translation>триггер после %1, приоритет %2</translation>
+    </message>
+    <message>
+        <source>log: %1</source>
+        <translation>журнал: %1</translation>
+    </message>
+    <message>
+        <source>position %1: %2, stornoed</source>
+        <translation>поз. %1: %2, сторнирована</translation>
+    </message>
+    <message>
+        <source>position %1: %2 × %3</source>
+        <translation>поз. %1: %2 × %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>и ещё %1</translation>
+    </message>
+    <message>
+        <source>data of %1: %2</source>
+        <translation>данные %1: %2</translation>
+    </message>
+    <message>
+        <source>receipt %1: %2, total %3</source>
+        <translation>чек %1: %2, итого %3</translation>
+    </message>
+    <message>
+        <source>another receipt, or none, is the current one</source>
+        <translation>текущим стал другой чек или никакой</translation>
+    </message>
+    <message>
+        <source>receipt %1 is taken up</source>
+        <translation>взят чек %1</translation>
+    </message>
+    <message>
+        <source>the document is switched on again</source>
+        <translation>документ снова включён</translation>
+    </message>
+    <message>
+        <source>the document is switched off</source>
+        <translation>документ выключен</translation>
+    </message>
+    <message>
+        <source>the loyalty system is told</source>
+        <translation>сообщено системе лояльности</translation>
+    </message>
+    <message>
+        <source>the till is switched on</source>
+        <translation>касса включена</translation>
+    </message>
+    <message>
+        <source>script %1, line %2</source>
+        <translation>сценарий %1, строка %2</translation>
+    </message>
+    <message>
+        <source>script %1 holds</source>
+        <translation>сценарий %1 выполнен</translation>
+    </message>
+    <message>
+        <source>script %1 does not hold: %2</source>
+        <translation>сценарий %1 не выполнен: %2</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>сделано</translation>
+    </message>
+    <message>
+        <source>mistake</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>not done</source>
+        <translation>не сделано</translation>
+    </message>
+    <message>
+        <source>not as expected</source>
+        <translation>не так, как ожидалось</translation>
+    </message>
+    <message>
+        <source>carried out</source>
+        <translation>выполнено</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>продолжать</translation>
+    </message>
+    <message>
+        <source>trigger under way</source>
+        <translation>триггер выполняется</translation>
+    </message>
+    <message>
+        <source>tara %1: no longer noted</source>
+        <translation>тара %1: записи больше нет</translation>
+    </message>
+    <message>
+        <source>tara %1: free %2 of %3</source>
+        <translation>тара %1: свободно %2 из %3</translation>
+    </message>
+    <message>
+        <source>tara %1: free %2 → %3 of %4</source>
+        <translation>тара %1: свободно %2 → %3 из %4</translation>
+    </message>
+    <message>
+        <source>goods %1: no longer noted</source>
+        <translation>товар %1: записи больше нет</translation>
+    </message>
+    <message>
+        <source>goods %1: in no tara</source>
+        <translation>товар %1: не в таре</translation>
+    </message>
+    <message>
+        <source>goods %1: in tara %2</source>
+        <translation>товар %1: в таре %2</translation>
+    </message>
 </context>
 </TS>
