@@ -643,5 +643,9 @@
         <source>goods %1: in tara %2</source>
         <translation>товар %1: в таре %2</translation>
     </message>
+    <message>
+        <source>tara %1: capacity %2 → %3, free %4</source>
+        <translation>тара %1: вместимость %2 → %3, свободно %4</translation>
+    </message>
 </context>
 </TS>

@@ -50,8 +50,9 @@ void CourseDock::layOut()
     m_tree->setModel(m_shown);
     m_tree->setUniformRowHeights(true);
     m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_tree->header()->setSectionResizeMode(CourseModel::What, QHeaderView::Interactive);
-    m_tree->header()->resizeSection(CourseModel::What, 330);
+    m_tree->header()->setStretchLastSection(false);
+    m_tree->header()->setSectionResizeMode(CourseModel::What, QHeaderView::Stretch);
+    m_tree->header()->resizeSection(CourseModel::End, 210);
     m_kept->setWordWrap(true);
 
     auto *const above = new QHBoxLayout;
@@ -127,14 +128,16 @@ void CourseDock::follow(const QModelIndex &parent)
 {
     if (!m_follow->isChecked())
         return;
-    const int last = m_shown->rowCount() - 1;
-    if (!parent.isValid()) {
-        if (m_filter->text().isEmpty() && last > 0)
-            m_tree->collapse(m_shown->index(last - 1, 0));
-        m_tree->scrollToBottom();
-        return;
+    QModelIndex command = parent;
+    while (command.parent().isValid())
+        command = command.parent();
+    if (command.isValid() && command != m_unfolded) {
+        if (m_filter->text().isEmpty())
+            m_tree->collapse(m_unfolded);
+        m_unfolded = command;
     }
-    m_tree->expand(parent);
+    if (parent.isValid())
+        m_tree->expand(parent);
     m_tree->scrollToBottom();
 }
 

@@ -3,6 +3,7 @@
 
 #include "window/course/CourseModel.h"
 
+#include <QtCore/QPersistentModelIndex>
 #include <QtWidgets/QDockWidget>
 
 QT_BEGIN_NAMESPACE
@@ -50,6 +51,7 @@ private:
     QPushButton *const m_copy;
     QTreeView *const m_tree;
     QLabel *const m_kept;
+    QPersistentModelIndex m_unfolded; //!< the newest command in which something happened
 };
 
 } // namespace till

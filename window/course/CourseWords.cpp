@@ -7,10 +7,10 @@
 #include "till/reports/CourseText.h"
 #include "till/view/DisplayText.h"
 #include "till/view/ReceiptText.h"
+#include "window/course/QuotedText.h"
 #include "window/course/TaraChanges.h"
 
 #include <QtCore/QFileInfo>
-#include <QtCore/QRegularExpression>
 
 namespace till {
 
@@ -19,45 +19,6 @@ namespace {
 QString number(const QJsonObject &note, const char *field)
 {
     return QString::number(note[QLatin1String(field)].toInteger());
-}
-
-//! The Russian pattern of the register's message with that key, as an expression that finds its
-//! values; empty when it has none.
-QString valuesOf(const QString &key)
-{
-    static const QHash<QString, QString> expressions = [] {
-        QHash<QString, QString> found;
-        const QList<tr::Tr> messages = messages::all();
-        for (const tr::Tr &message : messages) {
-            QString expression = QRegularExpression::escape(message.text());
-            if (expression.contains(QLatin1String("\\%1")))
-                found.insert(message.key(),
-                             expression.replace(QRegularExpression(QStringLiteral("\\\\%[1-9]")),
-                                                QStringLiteral("(.*)")));
-        }
-        return found;
-    }();
-    return expressions.value(key);
-}
-
-//! What \a note quotes, as the message of its key. Notes have it in Russian with its values, which
-//! are found again.
-Message quoted(const QJsonObject &note)
-{
-    const QString text = note["text"].toString();
-    const tr::Tr pattern(note["key"].toString(), text);
-    const QString values = valuesOf(pattern.key());
-    if (values.isEmpty())
-        return {pattern, {}};
-    const QRegularExpression expression(QRegularExpression::anchoredPattern(values));
-    const auto found = expression.match(text);
-    return found.hasMatch() ? Message{pattern, found.capturedTexts().mid(1)}
-                            : Message{tr::Tr(QString(), text), {}};
-}
-
-QString quotedText(const QJsonObject &note, const Translator &translator)
-{
-    return translator.text(quoted(note));
 }
 
 Message eventNamed(const QJsonObject &note)

@@ -39,6 +39,10 @@ Message taraChange(int posnum, const QJsonObject &was, const QJsonObject &is)
     const QString capacity = amount(is, "capacity");
     if (was.isEmpty())
         return told("till", "tara %1: free %2 of %3").with({number, free, capacity});
+    const QString capacityBefore = amount(was, "capacity");
+    if (capacity != capacityBefore)
+        return told("till", "tara %1: capacity %2 → %3, free %4")
+            .with({number, capacityBefore, capacity, free});
     return told("till", "tara %1: free %2 → %3 of %4")
         .with({number, amount(was, "freeCapacity"), free, capacity});
 }

@@ -82,6 +82,7 @@ TEST_F(Course, ActionOfThePlugin_StandsInsideTheEventThatLedToIt)
     EXPECT_TRUE(rowWith(*model, "event 252: the program changed the quantity of position 2", asked)
                     .isValid());
     EXPECT_EQ(cameOf(asked), "carried out");
+    EXPECT_TRUE(rowWith(*model, "tara 1: capacity 3 → 6, free").isValid());
 }
 
 TEST_F(Course, Trigger_HoldsWhatItDid)
@@ -101,7 +102,7 @@ TEST_F(Course, Refusal_SaysWhyInTheLanguageOfTheReader)
 {
     done({"open"});
     EXPECT_EQ(ends(Outcome::Mistake, "qty 7 1").reason.key(), "tillNoPosition");
-    EXPECT_EQ(cameOf(lastCommand()), "mistake: There is no position 7 in the receipt");
+    EXPECT_EQ(cameOf(lastCommand()), "mistake: the receipt has no position 7");
     model->translate(Translator("ru"));
     EXPECT_EQ(cameOf(lastCommand()), "ошибка: В чеке нет позиции 7");
 }
