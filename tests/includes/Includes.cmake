@@ -43,6 +43,8 @@ may_include(till/console ${known_by_till/terminal} till/terminal till/runner til
 # The window knows the till but for what is a terminal's, and its own modules before each.
 may_include(window/look ${known_by_till/register} till/register till/view)
 may_include(window/course ${known_by_till/reports} till/reports)
+may_include(window/archive ${known_by_till/reports} till/reports)
+may_include(window/scripts ${known_by_till/script} till/script window/archive)
 
 # Sets FOLDER to the folder that PATH, which an include names, leads into: empty for what is not the
 # project's.

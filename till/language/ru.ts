@@ -647,5 +647,197 @@
         <source>tara %1: capacity %2 → %3, free %4</source>
         <translation>тара %1: вместимость %2 → %3, свободно %4</translation>
     </message>
+    <message>
+        <source>Course</source>
+        <translation>Ход событий</translation>
+    </message>
+    <message>
+        <source>All receipts</source>
+        <translation>Все чеки</translation>
+    </message>
+    <message>
+        <source>Which receipts are listed</source>
+        <translation>Какие чеки перечислены</translation>
+    </message>
+    <message>
+        <source>Number of a receipt, and Enter</source>
+        <translation>Номер чека и Enter</translation>
+    </message>
+    <message>
+        <source>Read anew</source>
+        <translation>Прочитать заново</translation>
+    </message>
+    <message>
+        <source>Past receipts</source>
+        <translation>Прошлые чеки</translation>
+    </message>
+    <message>
+        <source>The receipt, to be read only</source>
+        <translation>Чек, только для чтения</translation>
+    </message>
+    <message>
+        <source>Receipts: %1</source>
+        <translation>Чеков: %1</translation>
+    </message>
+    <message>
+        <source>Receipts: %1; the newest %2 are listed, others open by their numbers</source>
+        <translation>Чеков: %1; перечислены последние %2, остальные открываются по номеру</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of a receipt</source>
+        <translation>«%1» — не номер чека</translation>
+    </message>
+    <message>
+        <source>There is no receipt %1</source>
+        <translation>Чека %1 нет</translation>
+    </message>
+    <message>
+        <source>Receipt %1 is damaged: %2</source>
+        <translation>Чек %1 повреждён: %2</translation>
+    </message>
+    <message>
+        <source>does not hold</source>
+        <translation>не выполнено</translation>
+    </message>
+    <message>
+        <source>comes next</source>
+        <translation>следующая</translation>
+    </message>
+    <message>
+        <source>expected: %1</source>
+        <translation>ожидалось: %1</translation>
+    </message>
+    <message>
+        <source>found: %1</source>
+        <translation>есть: %1</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Сценарий</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Шаг</translation>
+    </message>
+    <message>
+        <source>Run to the line</source>
+        <translation>Выполнить до строки</translation>
+    </message>
+    <message>
+        <source>To the beginning</source>
+        <translation>В начало</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Сохранить…</translation>
+    </message>
+    <message>
+        <source>The lines of the script</source>
+        <translation>Строки сценария</translation>
+    </message>
+    <message>
+        <source>What the script printed</source>
+        <translation>Что напечатал сценарий</translation>
+    </message>
+    <message>
+        <source>A recording is under way: stop it</source>
+        <translation>Идёт запись: остановите её</translation>
+    </message>
+    <message>
+        <source>The script is running: let it pause</source>
+        <translation>Сценарий выполняется: приостановите его</translation>
+    </message>
+    <message>
+        <source>Open a script first</source>
+        <translation>Сначала откройте сценарий</translation>
+    </message>
+    <message>
+        <source>Select a line that is still to come</source>
+        <translation>Выберите строку, до которой дело ещё не дошло</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Выполнить</translation>
+    </message>
+    <message>
+        <source>Stop recording</source>
+        <translation>Остановить запись</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Open a script of the till&apos;s commands</source>
+        <translation>Открыть сценарий из команд кассы</translation>
+    </message>
+    <message>
+        <source>Play the script on this register; again, once it has ended</source>
+        <translation>Выполнить сценарий на этой кассе; закончившийся — ещё раз</translation>
+    </message>
+    <message>
+        <source>Carry out the next line</source>
+        <translation>Выполнить следующую строку</translation>
+    </message>
+    <message>
+        <source>Play up to the selected line, which comes next then</source>
+        <translation>Выполнить всё до выбранной строки; она будет следующей</translation>
+    </message>
+    <message>
+        <source>Begin with the first line again</source>
+        <translation>Начать снова с первой строки</translation>
+    </message>
+    <message>
+        <source>Keep what is done from now on as a script</source>
+        <translation>Записывать всё, что делается дальше, как сценарий</translation>
+    </message>
+    <message>
+        <source>Write what was recorded to a file</source>
+        <translation>Сохранить записанное в файл</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded yet</source>
+        <translation>Пока ничего не записано</translation>
+    </message>
+    <message>
+        <source>Recording: %1 lines</source>
+        <translation>Идёт запись, строк: %1</translation>
+    </message>
+    <message>
+        <source>No script is open.</source>
+        <translation>Сценарий не открыт.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines</source>
+        <translation>%1: строк %2 из %3</translation>
+    </message>
+    <message>
+        <source>Open a script</source>
+        <translation>Открыть сценарий</translation>
+    </message>
+    <message>
+        <source>Recorded: %1 lines, to be saved</source>
+        <translation>Записано строк: %1; их можно сохранить</translation>
+    </message>
+    <message>
+        <source>Save the script</source>
+        <translation>Сохранить сценарий</translation>
+    </message>
+    <message>
+        <source>Scripts (F10)</source>
+        <translation>Сценарии (F10)</translation>
+    </message>
 </context>
 </TS>
