@@ -85,7 +85,9 @@ QString receiptPage(const KeptReceipt &kept, const QList<JournalEntry> &journal,
     const TaraState taras = TaraState::read(kept.record.pluginData, taraPlugin());
     const ReceiptText text = ReceiptText::of(receipt, taras, controlOf(receipt), translator);
     const QString course = courseText(journal, translator, Style());
-    QString html = element(QStringLiteral("p"), htmlOf(separated(text.header, QStringLiteral(" ·")))) + tableOf(text);
+    QString html =
+        element(QStringLiteral("p"), htmlOf(separated(text.header, QStringLiteral(" ·"))))
+        + tableOf(text);
     if (!course.isEmpty())
         html += element(QStringLiteral("p"),
                         element(QStringLiteral("b"),

@@ -73,7 +73,7 @@ QVariant ScriptModel::data(const QModelIndex &index, int role) const
                                          : textOf(index.row());
     if (index.column() == Mark && (role == Qt::AccessibleTextRole || role == Qt::ToolTipRole))
         return markInWords(index.row());
-    if (role == Qt::FontRole && (hasFailed(index.row()) || index.row() == m_next)) {
+    if (role == Qt::FontRole && (hasFailed(index.row()) || (!m_fault && index.row() == m_next))) {
         QFont font;
         font.setBold(true);
         return font;
