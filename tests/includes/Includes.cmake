@@ -31,6 +31,7 @@ may_include(till/storage ${receipt} till/database)
 may_include(till/plugins host till/result)
 may_include(till/actions ${receipt} log4qt till/language till/course)
 may_include(till/register ${known_by_till/actions} till/actions till/plugins till/storage)
+may_include(till/startup ${known_by_till/register} till/register)
 may_include(till/view ${receipt} till/language)
 may_include(till/reports ${receipt} till/course till/storage till/language till/view)
 may_include(till/words ${known_by_till/register} till/register)
@@ -38,13 +39,21 @@ may_include(till/recorder ${known_by_till/words} till/words)
 may_include(till/script ${known_by_till/recorder} till/recorder till/view)
 may_include(till/runner ${known_by_till/script} till/script)
 may_include(till/terminal ${known_by_till/script} till/script till/database)
-may_include(till/console ${known_by_till/terminal} till/terminal till/runner till/reports)
+may_include(till/console ${known_by_till/terminal} till/terminal till/runner till/reports till/startup)
 
 # The window knows the till but for what is a terminal's, and its own modules before each.
-may_include(window/look ${known_by_till/register} till/register till/view)
+set(look ${known_by_till/register} till/register till/view window/look)
+may_include(window/look ${look})
+may_include(window/receipt ${look})
+may_include(window/articles ${look})
+may_include(window/shelf ${look})
+may_include(window/dialogs ${look})
 may_include(window/course ${known_by_till/reports} till/reports)
 may_include(window/archive ${known_by_till/reports} till/reports)
 may_include(window/scripts ${known_by_till/script} till/script window/archive)
+may_include(window/desk ${look} window/receipt window/articles window/shelf window/dialogs window/course
+    window/scripts)
+may_include(window/program ${look} window/desk till/startup till/database)
 
 # Sets FOLDER to the folder that PATH, which an include names, leads into: empty for what is not the
 # project's.

@@ -13,8 +13,8 @@
 
 namespace till {
 
-//! The application object, through which Qt SQL loads its driver and processes are waited for; a
-//! program that has windows made one already.
+//! The application object, through which Qt SQL loads its driver and processes are waited for, unless
+//! the program has made one.
 class ApplicationEnvironment : public testing::Environment
 {
 public:
@@ -68,8 +68,9 @@ protected:
 private:
     static void failOnMessage(QtMsgType, const QMessageLogContext &context, const QString &text)
     {
-        if (text == QLatin1String("This plugin does not support propagateSizeHints()"))
-            return; // Qt's platform without a display, of every window
+        // Qt's platform without a display says so of every window.
+        if (text.contains(QLatin1String("propagateSizeHints")))
+            return;
         if (context.category == nullptr || std::strcmp(context.category, "packaging") != 0)
             ADD_FAILURE() << "Qt says: " << text.toStdString();
     }
