@@ -48,7 +48,11 @@ may_include(window/receipt ${look})
 may_include(window/articles ${look})
 may_include(window/shelf ${look})
 may_include(window/dialogs ${look})
-may_include(window/desk ${look} window/receipt window/articles window/shelf window/dialogs)
+may_include(window/course ${known_by_till/reports} till/reports)
+may_include(window/archive ${known_by_till/reports} till/reports)
+may_include(window/scripts ${known_by_till/script} till/script window/archive)
+may_include(window/desk ${look} window/receipt window/articles window/shelf window/dialogs window/course
+    window/scripts)
 may_include(window/program ${look} window/desk till/startup till/database)
 
 # Sets FOLDER to the folder that PATH, which an include names, leads into: empty for what is not the

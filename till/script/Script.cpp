@@ -3,6 +3,7 @@
 #include "till/words/Words.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace till {
 
@@ -80,29 +81,50 @@ bool Script::maySave() const
 Result<void, ScriptFault> Script::play(CommandLine &commands, const Echo &echo,
                                        ScriptUpdate *update) const
 {
-    const auto played = playLines(commands, echo, update);
-    commands.notes().add("verdict", {{"file", m_path},
-                                     {"held", played.has_value()},
-                                     {"fault", played ? QString() : played.error().text()}});
+    ScriptPlay play(*this, commands, echo, update);
+    Result<void, ScriptFault> played;
+    while (!play.hasEnded())
+        played = play.step();
     return played;
 }
 
-Result<void, ScriptFault> Script::playLines(CommandLine &commands, const Echo &echo,
-                                            ScriptUpdate *update) const
+ScriptPlay::ScriptPlay(const Script &script, CommandLine &commands, Script::Echo echo,
+                       ScriptUpdate *update)
+    : m_script(script)
+    , m_commands(commands)
+    , m_echo(std::move(echo))
+    , m_update(update)
 {
-    for (const ScriptLine &line : m_lines) {
-        if (commands.hasQuit() && line.isCommand())
-            return behindQuit(line);
-        if (const QString shown = shownCommand(line); !shown.isEmpty())
-            echo(forTerminal(shown));
-        if (line.isCommand())
-            commands.notes().add("script", {{"file", line.file}, {"at", line.number}});
-        const Outcome outcome = commands.run(line.text);
-        if (!outcome && !(update && update->mend(commands, line, outcome)))
-            return faultOf(line, outcome, why(commands, outcome));
-    }
-    if (const QString left = commands.leftOver(); !left.isEmpty())
-        return ScriptFault{{m_lines.constLast().place(), left}};
+}
+
+Result<void, ScriptFault> ScriptPlay::step()
+{
+    if (m_hasEnded)
+        return {};
+    const QList<ScriptLine> &lines = m_script.lines();
+    Result<void, ScriptFault> played = carryOut(lines[m_next++]);
+    const QString left = m_next == lines.size() ? m_commands.leftOver() : QString();
+    if (played && !left.isEmpty())
+        played = ScriptFault{{lines.constLast().place(), left}};
+    m_hasEnded = !played || m_next == lines.size();
+    if (m_hasEnded)
+        m_commands.notes().add("verdict", {{"file", m_script.path()},
+                                           {"held", played.has_value()},
+                                           {"fault", played ? QString() : played.error().text()}});
+    return played;
+}
+
+Result<void, ScriptFault> ScriptPlay::carryOut(const ScriptLine &line)
+{
+    if (m_commands.hasQuit() && line.isCommand())
+        return behindQuit(line);
+    if (const QString shown = shownCommand(line); !shown.isEmpty())
+        m_echo(forTerminal(shown));
+    if (line.isCommand())
+        m_commands.notes().add("script", {{"file", line.file}, {"at", line.number}});
+    const Outcome outcome = m_commands.run(line.text);
+    if (!outcome && !(m_update && m_update->mend(m_commands, line, outcome)))
+        return faultOf(line, outcome, why(m_commands, outcome));
     return {};
 }
 

@@ -2,9 +2,11 @@
 
 #include "till/language/TillMessages.h"
 #include "window/articles/ArticlePanel.h"
+#include "window/course/CourseDock.h"
 #include "window/desk/DeedEntry.h"
 #include "window/dialogs/FaultPage.h"
 #include "window/receipt/ReceiptTable.h"
+#include "window/scripts/ScriptsDock.h"
 #include "window/shelf/Shelf.h"
 
 #include <QtGui/QCloseEvent>
@@ -54,6 +56,8 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     , m_deeds(*new DeedBar(m_translator))
     , m_articles(*new ArticlePanel(m_translator))
     , m_shelf(*new Shelf(m_translator))
+    , m_course(*new CourseDock(notes, m_translator))
+    , m_scripts(*new ScriptsDock(desk, notes, m_translator))
     , m_front(*this, m_strip, m_translator)
     , m_installed(desk.front(), m_front)
     , m_receiptSeen(desk.onReceiptChanged([this] { showReceipt(); }))
@@ -104,6 +108,12 @@ void TillWindow::layOut()
     m_pages.addWidget(cashDesk);
     m_pages.addWidget(&m_fault);
     setCentralWidget(&m_pages);
+    for (QDockWidget *const dock : std::initializer_list<QDockWidget *>{&m_course, &m_scripts}) {
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+        dock->hide();
+        addAction(dock->toggleViewAction()); // so that its key is heard
+    }
+    tabifyDockWidget(&m_course, &m_scripts);
     resize(1024, 600);
 }
 
@@ -115,8 +125,7 @@ void TillWindow::connectParts()
         banner().tell(reason, Banner::Tone::Notice);
     };
     m_table.selected = [this] {
-        const QList<int> posnums = m_table.selectedPositions();
-        m_shelf.setLit(QSet<int>(posnums.cbegin(), posnums.cend()));
+        m_shelf.setLit(selectedGoods());
         showDeedsSoon();
     };
     m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
@@ -126,6 +135,17 @@ void TillWindow::connectParts()
         else
             switchOn();
     };
+}
+
+QSet<int> TillWindow::selectedGoods() const
+{
+    QSet<int> goods;
+    const QList<int> posnums = m_table.selectedPositions();
+    for (const int posnum : posnums) {
+        if (m_table.receipt().shown()->goodsOrdinal(posnum))
+            goods.insert(posnum);
+    }
+    return goods;
 }
 
 void TillWindow::addShortcuts()
@@ -154,6 +174,8 @@ void TillWindow::fillMenu()
     QAction *const moves = menu.addAction(m_translator.text(told("till", "Changes move smoothly")));
     moves->setCheckable(true);
     moves->setChecked(m_shelf.isMoving());
+    menu.addAction(m_course.toggleViewAction());
+    menu.addAction(m_scripts.toggleViewAction());
     connect(moves, &QAction::toggled, this, [this](bool on) { m_shelf.setMoving(on); });
 }
 
@@ -178,6 +200,8 @@ void TillWindow::translate()
     m_deeds.translate(m_translator);
     m_articles.translate(m_translator);
     m_shelf.translate(m_translator);
+    m_course.translate(m_translator);
+    m_scripts.translate(m_translator);
     fillMenu();
     showReceipt();
     showDeeds();

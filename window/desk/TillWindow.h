@@ -15,8 +15,10 @@ QT_END_NAMESPACE
 namespace till {
 
 class ArticlePanel;
+class CourseDock;
 class FaultPage;
 class ReceiptTable;
+class ScriptsDock;
 class Shelf;
 
 /*!
@@ -57,6 +59,7 @@ private:
     void fillMenu();
     void translate();
 
+    QSet<int> selectedGoods() const;
     void showReceipt();
     void showDeeds();
     void showDeedsSoon();
@@ -76,6 +79,8 @@ private:
     DeedBar &m_deeds;
     ArticlePanel &m_articles;
     Shelf &m_shelf;
+    CourseDock &m_course;
+    ScriptsDock &m_scripts;
     WindowFront m_front;
     const InstalledFront m_installed;
     Subscription m_receiptSeen;

@@ -2,7 +2,9 @@
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
 
 namespace till {
@@ -220,7 +222,9 @@ TEST_F(TillWindowTest, EverythingThatCanBeTouched_HasAnAccessibleName)
         if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisibleTo(window.get()))
             continue;
         const auto *const button = qobject_cast<const QAbstractButton *>(widget);
-        const bool hasText = button && !button->text().isEmpty();
+        const auto *const tabs = qobject_cast<const QTabBar *>(widget); // each tab says its own
+        const bool hasText =
+            (button && !button->text().isEmpty()) || (tabs && !tabs->tabText(0).isEmpty());
         EXPECT_TRUE(hasText || !widget->accessibleName().isEmpty())
             << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
     }
@@ -266,6 +270,29 @@ TEST_F(TillWindowTest, WhatWasDone_IsThereAtTheNextStart)
     open(setup());
 
     EXPECT_EQ(said(1), "PET1 Бутылка ПЭТ 1 л\n1 / 1 л, full: pos. 2 — 1");
+}
+
+TEST_F(TillWindowTest, Docks_OpenAndCloseByKeysAndInTheMenu)
+{
+    const auto isShown = [this](const char *className) {
+        const auto docks = window->findChildren<QDockWidget *>();
+        for (const QDockWidget *const dock : docks) {
+            if (dock->windowTitle().startsWith(QLatin1String(className)))
+                return dock->isVisible();
+        }
+        ADD_FAILURE() << className;
+        return false;
+    };
+    EXPECT_FALSE(isShown("Course"));
+
+    press(Qt::Key_F9);
+    EXPECT_TRUE(isShown("Course"));
+    press(Qt::Key_F9);
+    EXPECT_FALSE(isShown("Course"));
+    press(Qt::Key_F10);
+    EXPECT_TRUE(isShown("Scripts"));
+    openMenu({Qt::Key_Up, Qt::Key_Return});
+    EXPECT_FALSE(isShown("Scripts"));
 }
 
 TEST_F(TillWindowTest, Work_IsShownBeforeItBegins)

@@ -77,6 +77,16 @@ TEST_F(ShelfTest, SelectedGoods_LightUpInTheirVessels)
     EXPECT_FALSE(shelf().vessels().isLit(3));
 }
 
+TEST_F(ShelfTest, SelectedTara_LeavesAllVesselsAsTheyAre)
+{
+    scan("CAN3");
+    scan("BEER");
+
+    select({1});
+
+    EXPECT_FALSE(shelf().vessels().lightsAny());
+}
+
 TEST_F(ShelfTest, SelectedVessel_LightsUpTheRowsOfItsGoods)
 {
     scan("PET1");
