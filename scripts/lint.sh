@@ -36,7 +36,7 @@ covered() {
 }
 
 mapfile -t plugin < <(git ls-files 'plugin/*.cpp' 'registry/*.cpp' 'events/*.cpp' 'triggers/*.cpp')
-mapfile -t others < <(git ls-files 'host/*.cpp' 'log4qt/*.cpp' 'till/*.cpp')
+mapfile -t others < <(git ls-files 'host/*.cpp' 'log4qt/*.cpp' 'till/*.cpp' 'window/*.cpp')
 covered '*/plugin/*' "${plugin[@]}"
 covered '*' "${others[@]}"
 

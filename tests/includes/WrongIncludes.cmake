@@ -41,6 +41,11 @@ expect_fault(till/script/A.cpp "#include \"tests/support/FakeHost.h\""
     "till/script/A.cpp includes tests/")
 expect_fault(till/goods/A.cpp "#include \"../receipt/Receipt.h\"" "not named from the project's")
 expect_fault(till/goods/A.cpp "#include \"Money.h\"" "not named from the project's")
+expect_fault(window/look/A.cpp "#include \"till/console/Options.h\""
+    "window/look/A.cpp includes till/console")
+expect_fault(till/view/A.cpp "#include \"window/look/GoodsLook.h\""
+    "till/view/A.cpp includes window/look")
+expect_fault(window/attic/CMakeLists.txt "" "window/attic is not listed")
 expect_fault(till/attic/CMakeLists.txt "" "till/attic is not listed")
 expect_fault(attic/A.cpp "" "no sources in")
 file(REMOVE_RECURSE ${WORK_DIR})

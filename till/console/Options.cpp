@@ -18,7 +18,7 @@ namespace {
 //! What is wrong with a word that says nothing: "" would else mean that there is none.
 Result<> checkEmpty(const QCommandLineParser &parser, const QStringList &words)
 {
-    for (const QString name : {"db", "catalogue", "plugin", "config", "trace", "record", "junit"}) {
+    for (const QString name : {"trace", "record", "junit"}) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return Fault{"--" + name, "no file is named"};
     }
@@ -32,25 +32,8 @@ Result<> checkTogether(const QCommandLineParser &parser, const QString &mode)
 {
     if (parser.isSet("trace") && !QStringList{QString(), "play", "demo"}.contains(mode))
         return Fault{"--trace", '"' + mode + "\" writes none"};
-    if (parser.isSet("no-plugin") && parser.isSet("plugin"))
-        return Fault{"--no-plugin", "--plugin names one"};
     if (parser.isSet("no-plugin") && mode == "info")
         return Fault{"--no-plugin", "\"info\" tells of a plugin"};
-    return {};
-}
-
-//! Reads the settings of --set, up to the first that is no KEY=VALUE.
-Result<> readSettings(const QStringList &assignments, QMap<QString, QString> &settings)
-{
-    for (const QString &assignment : assignments) {
-        const qsizetype equals = assignment.indexOf('=');
-        if (equals <= 0)
-            return Fault{"--set", '"' + brief(assignment) + "\" is not KEY=VALUE"};
-        const QString key = assignment.left(equals);
-        if (const auto fault = settingFault(key, assignment.mid(equals + 1)))
-            return Fault{"--set", Translator("en").text(*fault)};
-        settings.insert(key, assignment.mid(equals + 1));
-    }
     return {};
 }
 
@@ -123,16 +106,6 @@ Result<> checkWords(const QString &mode, const QStringList &words)
 
 } // namespace
 
-QString delivered(const QString &relative)
-{
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../" + relative);
-}
-
-QString defaultDatabase()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/till.sqlite";
-}
-
 QString historyFile()
 {
     return QFileInfo(defaultDatabase()).path() + "/history";
@@ -167,17 +140,7 @@ QList<ProgramMode> programModes()
 
 QList<QCommandLineOption> programOptions()
 {
-    const QList<QCommandLineOption> options{
-        {"db", "Keep receipts in FILE (:memory: for nowhere).", "FILE", defaultDatabase()},
-        {"catalogue", "Take the articles from the CSV FILE.", "FILE",
-         delivered("share/packagingcontrol/catalogue.csv")},
-        {"plugin", "Load the plugin FILE.", "FILE",
-         delivered(QStringLiteral(TILL_PLUGIN_DIR "/PackagingControl.so"))},
-        {"no-plugin", "Work without a plugin."},
-        {"config", "Read settings from the INI FILE.", "FILE"},
-        {"set", "Set a setting, such as PackagingControl:allowSaleEmptyTara=false.", "KEY=VALUE"},
-        {"lang", "Language of messages: " + Translator::languages().join(", ") + " (default: ru).",
-         "LANGUAGE", "ru"},
+    const QList<QCommandLineOption> own{
         {"record", "Write what is done at the register to FILE as a script.", "FILE"},
         {"trace", "Write what happens to FILE as lines of JSON (- for standard output).", "FILE"},
         {{"colour", "color"}, "Colours: auto, always or never.", "WHEN", "auto"},
@@ -194,7 +157,7 @@ QList<QCommandLineOption> programOptions()
         {{"h", "help"}, "Show this help."},
         {{"v", "version"}, "Show the version."},
     };
-    return options + lookupOptions() + last;
+    return setupOptions() + QList{languageOption()} + own + lookupOptions() + last;
 }
 
 QStringList exitStatuses()
@@ -241,10 +204,14 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
         return checked;
     if (Result<> checked = checkTogether(parser, options.mode); !checked)
         return checked;
-    options.language = parser.value("lang");
-    if (!Translator::isKnown(options.language))
-        return Fault{"--lang", '"' + brief(options.language)
-                                   + "\" is none of: " + Translator::languages().join(", ")};
+    const auto setup = readSetup(parser);
+    if (!setup)
+        return setup.error();
+    options.setup = *setup;
+    const auto language = readLanguage(parser);
+    if (!language)
+        return language.error();
+    options.language = *language;
     if (!QStringList{"auto", "always", "never"}.contains(parser.value("colour")))
         return Fault{"--colour",
                      '"' + brief(parser.value("colour")) + "\" is none of: auto, always, never"};
@@ -255,18 +222,13 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
         return Fault{"--record", "what is done at the register is recorded, nothing else"};
     options.quiet = parser.isSet("quiet");
     options.ownDatabase = parser.isSet("db");
-    options.setup = {parser.value("db"),
-                     parser.value("catalogue"),
-                     parser.isSet("no-plugin") ? QString() : parser.value("plugin"),
-                     parser.value("config"),
-                     {}};
     if (Result<> read = readPlay(parser, options); !read)
         return read;
     const auto lookup = readLookup(parser, options.mode);
     if (!lookup)
         return lookup.error();
     options.lookup = *lookup;
-    return readSettings(parser.values("set"), options.setup.settings);
+    return {};
 }
 
 } // namespace till

@@ -2,7 +2,7 @@
 #define TILL_CONSOLE_OPTIONS_H
 
 #include "till/console/LookupOptions.h"
-#include "till/register/CashDesk.h"
+#include "till/startup/SetupOptions.h"
 #include "till/view/ReceiptView.h"
 
 #include <QtCore/QCommandLineOption>
@@ -46,9 +46,6 @@ struct Options
     }
 };
 
-//! Where files of the delivery are, beside the folder of the program.
-QString delivered(const QString &relative);
-QString defaultDatabase();
 //! What was typed on terminals, beside the default database.
 QString historyFile();
 

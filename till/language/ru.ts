@@ -455,5 +455,589 @@
         <source>how often the last command told the loyalty system of the receipt</source>
         <translation>сколько раз последняя команда сообщила о чеке системе лояльности</translation>
     </message>
+    <message>
+        <source>Code, or 3*code</source>
+        <translation>Код или 3*код</translation>
+    </message>
+    <message>
+        <source>Scan or type a code and press Enter. A number and * before it is the quantity; for a tile it is typed here too.</source>
+        <translation>Сканируйте или наберите код и нажмите Enter. Число и * перед ним — количество; для плитки оно набирается здесь же.</translation>
+    </message>
+    <message>
+        <source>Search (F3)</source>
+        <translation>Поиск (F3)</translation>
+    </message>
+    <message>
+        <source>Articles</source>
+        <translation>Товары</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>Tara</source>
+        <translation>Тара</translation>
+    </message>
+    <message>
+        <source>Into tara</source>
+        <translation>В тару</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Прочее</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Количество</translation>
+    </message>
+    <message>
+        <source>Storno</source>
+        <translation>Сторно</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Разделить</translation>
+    </message>
+    <message>
+        <source>Unite</source>
+        <translation>Объединить</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Заказ</translation>
+    </message>
+    <message>
+        <source>Soft-check</source>
+        <translation>Софт-чек</translation>
+    </message>
+    <message>
+        <source>New receipt</source>
+        <translation>Новый чек</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Возврат</translation>
+    </message>
+    <message>
+        <source>Cancel receipt</source>
+        <translation>Отмена чека</translation>
+    </message>
+    <message>
+        <source>Subtotal</source>
+        <translation>Подытог</translation>
+    </message>
+    <message>
+        <source>Pay</source>
+        <translation>Оплата</translation>
+    </message>
+    <message>
+        <source>Select one position in the receipt</source>
+        <translation>Выберите одну позицию чека</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>«%1» — не число</translation>
+    </message>
+    <message>
+        <source>Quantity of position %1</source>
+        <translation>Количество в позиции %1</translation>
+    </message>
+    <message>
+        <source>In pieces, up to three decimals</source>
+        <translation>В штуках, до трёх знаков после точки</translation>
+    </message>
+    <message>
+        <source>Parts to split off position %1</source>
+        <translation>Части, на которые делится позиция %1</translation>
+    </message>
+    <message>
+        <source>As &quot;1+0.5&quot;; what is left stays in the position</source>
+        <translation>Например, 1+0.5; остаток останется в позиции</translation>
+    </message>
+    <message>
+        <source>Number of the order</source>
+        <translation>Номер заказа</translation>
+    </message>
+    <message>
+        <source>Number of the soft-check</source>
+        <translation>Номер софт-чека</translation>
+    </message>
+    <message>
+        <source>To pay: %1. Money given</source>
+        <translation>К оплате: %1. Получено</translation>
+    </message>
+    <message>
+        <source>As it stands, the sum is paid exactly</source>
+        <translation>Если не менять, сумма оплачивается точно</translation>
+    </message>
+    <message>
+        <source>Changes move smoothly</source>
+        <translation>Плавные изменения</translation>
+    </message>
+    <message>
+        <source>Till</source>
+        <translation>Касса</translation>
+    </message>
+    <message>
+        <source>Language (Ctrl+L)</source>
+        <translation>Язык (Ctrl+L)</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Меню</translation>
+    </message>
+    <message>
+        <source>at work, please wait</source>
+        <translation>касса работает, подождите</translation>
+    </message>
+    <message>
+        <source>tara is controlled</source>
+        <translation>тара под контролем</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Ввод</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>The till could not be switched on</source>
+        <translation>Кассу не удалось включить</translation>
+    </message>
+    <message>
+        <source>The command came to nothing; the receipt is as it was before</source>
+        <translation>Команда не выполнена; чек остался прежним</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Что случилось</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Где</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Что делать</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Попробовать снова</translation>
+    </message>
+    <message>
+        <source>Back to the receipt</source>
+        <translation>Вернуться к чеку</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Вопрос</translation>
+    </message>
+    <message>
+        <source>stornoed</source>
+        <translation>сторнировано</translation>
+    </message>
+    <message>
+        <source>Receipt</source>
+        <translation>Чек</translation>
+    </message>
+    <message>
+        <source>no tara in the receipt</source>
+        <translation>в чеке нет тары</translation>
+    </message>
+    <message>
+        <source>Course (F9)</source>
+        <translation>Ход событий (F9)</translation>
+    </message>
+    <message>
+        <source>What happened, command by command</source>
+        <translation>Что произошло, команда за командой</translation>
+    </message>
+    <message>
+        <source>Filter: what the lines contain</source>
+        <translation>Фильтр: что содержат строки</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Следить</translation>
+    </message>
+    <message>
+        <source>Unfold the newest command, and fold the one before</source>
+        <translation>Раскрывать последнюю команду, а предыдущую сворачивать</translation>
+    </message>
+    <message>
+        <source>Copy as JSON</source>
+        <translation>Копировать как JSON</translation>
+    </message>
+    <message>
+        <source>Copy the lines that a trace has of what is selected, or of all that is shown</source>
+        <translation>Скопировать строки трассы о выделенном, а без выделения — обо всём, что показано</translation>
+    </message>
+    <message>
+        <source>The last %1 commands are kept.</source>
+        <translation>Хранятся последние команды: %1.</translation>
+    </message>
+    <message>
+        <source>The last %1 commands are kept; %2 before them are gone.</source>
+        <translation>Хранятся последние команды: %1; более ранних забыто: %2.</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Что произошло</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>Чем кончилось</translation>
+    </message>
+    <message>
+        <source>event 19: position %1 was added</source>
+        <translation>событие 19: добавлена поз. %1</translation>
+    </message>
+    <message>
+        <source>event 21: position %1 was stornoed</source>
+        <translation>событие 21: сторнирована поз. %1</translation>
+    </message>
+    <message>
+        <source>event 26: the cashier changed the quantity of position %1</source>
+        <translation>событие 26: кассир изменил количество поз. %1</translation>
+    </message>
+    <message>
+        <source>event 252: the program changed the quantity of position %1</source>
+        <translation>событие 252: программа изменила количество поз. %1</translation>
+    </message>
+    <message>
+        <source>event 29: an error</source>
+        <translation>событие 29: ошибка</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>событие %1</translation>
+    </message>
+    <message>
+        <source>asked for by the plugin: %1</source>
+        <translation>по просьбе плагина: %1</translation>
+    </message>
+    <message>
+        <source>trigger before %1, priority %2</source>
+        <translation>триггер перед %1, приоритет %2</translation>
+    </message>
+    <message>
+        <source>trigger after %1, priority %2</source>
+        <translation>триггер после %1, приоритет %2</translation>
+    </message>
+    <message>
+        <source>log: %1</source>
+        <translation>журнал: %1</translation>
+    </message>
+    <message>
+        <source>position %1: %2, stornoed</source>
+        <translation>поз. %1: %2, сторнирована</translation>
+    </message>
+    <message>
+        <source>position %1: %2 × %3</source>
+        <translation>поз. %1: %2 × %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>и ещё %1</translation>
+    </message>
+    <message>
+        <source>data of %1: %2</source>
+        <translation>данные %1: %2</translation>
+    </message>
+    <message>
+        <source>receipt %1: %2, total %3</source>
+        <translation>чек %1: %2, итого %3</translation>
+    </message>
+    <message>
+        <source>another receipt, or none, is the current one</source>
+        <translation>текущим стал другой чек или никакой</translation>
+    </message>
+    <message>
+        <source>receipt %1 is taken up</source>
+        <translation>взят чек %1</translation>
+    </message>
+    <message>
+        <source>the document is switched on again</source>
+        <translation>документ снова включён</translation>
+    </message>
+    <message>
+        <source>the document is switched off</source>
+        <translation>документ выключен</translation>
+    </message>
+    <message>
+        <source>the loyalty system is told</source>
+        <translation>сообщено системе лояльности</translation>
+    </message>
+    <message>
+        <source>the till is switched on</source>
+        <translation>касса включена</translation>
+    </message>
+    <message>
+        <source>script %1, line %2</source>
+        <translation>сценарий %1, строка %2</translation>
+    </message>
+    <message>
+        <source>script %1 holds</source>
+        <translation>сценарий %1 выполнен</translation>
+    </message>
+    <message>
+        <source>script %1 does not hold: %2</source>
+        <translation>сценарий %1 не выполнен: %2</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>сделано</translation>
+    </message>
+    <message>
+        <source>mistake</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>not done</source>
+        <translation>не сделано</translation>
+    </message>
+    <message>
+        <source>not as expected</source>
+        <translation>не так, как ожидалось</translation>
+    </message>
+    <message>
+        <source>carried out</source>
+        <translation>выполнено</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>продолжать</translation>
+    </message>
+    <message>
+        <source>trigger under way</source>
+        <translation>триггер выполняется</translation>
+    </message>
+    <message>
+        <source>tara %1: no longer noted</source>
+        <translation>тара %1: записи больше нет</translation>
+    </message>
+    <message>
+        <source>tara %1: free %2 of %3</source>
+        <translation>тара %1: свободно %2 из %3</translation>
+    </message>
+    <message>
+        <source>tara %1: free %2 → %3 of %4</source>
+        <translation>тара %1: свободно %2 → %3 из %4</translation>
+    </message>
+    <message>
+        <source>goods %1: no longer noted</source>
+        <translation>товар %1: записи больше нет</translation>
+    </message>
+    <message>
+        <source>goods %1: in no tara</source>
+        <translation>товар %1: не в таре</translation>
+    </message>
+    <message>
+        <source>goods %1: in tara %2</source>
+        <translation>товар %1: в таре %2</translation>
+    </message>
+    <message>
+        <source>tara %1: capacity %2 → %3, free %4</source>
+        <translation>тара %1: вместимость %2 → %3, свободно %4</translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation>Ход событий</translation>
+    </message>
+    <message>
+        <source>All receipts</source>
+        <translation>Все чеки</translation>
+    </message>
+    <message>
+        <source>Which receipts are listed</source>
+        <translation>Какие чеки перечислены</translation>
+    </message>
+    <message>
+        <source>Number of a receipt, and Enter</source>
+        <translation>Номер чека и Enter</translation>
+    </message>
+    <message>
+        <source>Read anew</source>
+        <translation>Прочитать заново</translation>
+    </message>
+    <message>
+        <source>Past receipts</source>
+        <translation>Прошлые чеки</translation>
+    </message>
+    <message>
+        <source>The receipt, to be read only</source>
+        <translation>Чек, только для чтения</translation>
+    </message>
+    <message>
+        <source>Receipts: %1</source>
+        <translation>Чеков: %1</translation>
+    </message>
+    <message>
+        <source>Receipts: %1; the newest %2 are listed, others open by their numbers</source>
+        <translation>Чеков: %1; перечислены последние %2, остальные открываются по номеру</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of a receipt</source>
+        <translation>«%1» — не номер чека</translation>
+    </message>
+    <message>
+        <source>There is no receipt %1</source>
+        <translation>Чека %1 нет</translation>
+    </message>
+    <message>
+        <source>Receipt %1 is damaged: %2</source>
+        <translation>Чек %1 повреждён: %2</translation>
+    </message>
+    <message>
+        <source>does not hold</source>
+        <translation>не выполнено</translation>
+    </message>
+    <message>
+        <source>comes next</source>
+        <translation>следующая</translation>
+    </message>
+    <message>
+        <source>expected: %1</source>
+        <translation>ожидалось: %1</translation>
+    </message>
+    <message>
+        <source>found: %1</source>
+        <translation>есть: %1</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Сценарий</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Шаг</translation>
+    </message>
+    <message>
+        <source>Run to the line</source>
+        <translation>Выполнить до строки</translation>
+    </message>
+    <message>
+        <source>To the beginning</source>
+        <translation>В начало</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Сохранить…</translation>
+    </message>
+    <message>
+        <source>The lines of the script</source>
+        <translation>Строки сценария</translation>
+    </message>
+    <message>
+        <source>What the script printed</source>
+        <translation>Что напечатал сценарий</translation>
+    </message>
+    <message>
+        <source>A recording is under way: stop it</source>
+        <translation>Идёт запись: остановите её</translation>
+    </message>
+    <message>
+        <source>The script is running: let it pause</source>
+        <translation>Сценарий выполняется: приостановите его</translation>
+    </message>
+    <message>
+        <source>Open a script first</source>
+        <translation>Сначала откройте сценарий</translation>
+    </message>
+    <message>
+        <source>Select a line that is still to come</source>
+        <translation>Выберите строку, до которой дело ещё не дошло</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Выполнить</translation>
+    </message>
+    <message>
+        <source>Stop recording</source>
+        <translation>Остановить запись</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Open a script of the till&apos;s commands</source>
+        <translation>Открыть сценарий из команд кассы</translation>
+    </message>
+    <message>
+        <source>Play the script on this register; again, once it has ended</source>
+        <translation>Выполнить сценарий на этой кассе; закончившийся — ещё раз</translation>
+    </message>
+    <message>
+        <source>Carry out the next line</source>
+        <translation>Выполнить следующую строку</translation>
+    </message>
+    <message>
+        <source>Play up to the selected line, which comes next then</source>
+        <translation>Выполнить всё до выбранной строки; она будет следующей</translation>
+    </message>
+    <message>
+        <source>Begin with the first line again</source>
+        <translation>Начать снова с первой строки</translation>
+    </message>
+    <message>
+        <source>Keep what is done from now on as a script</source>
+        <translation>Записывать всё, что делается дальше, как сценарий</translation>
+    </message>
+    <message>
+        <source>Write what was recorded to a file</source>
+        <translation>Сохранить записанное в файл</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded yet</source>
+        <translation>Пока ничего не записано</translation>
+    </message>
+    <message>
+        <source>Recording: %1 lines</source>
+        <translation>Идёт запись, строк: %1</translation>
+    </message>
+    <message>
+        <source>No script is open.</source>
+        <translation>Сценарий не открыт.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines</source>
+        <translation>%1: строк %2 из %3</translation>
+    </message>
+    <message>
+        <source>Open a script</source>
+        <translation>Открыть сценарий</translation>
+    </message>
+    <message>
+        <source>Recorded: %1 lines, to be saved</source>
+        <translation>Записано строк: %1; их можно сохранить</translation>
+    </message>
+    <message>
+        <source>Save the script</source>
+        <translation>Сохранить сценарий</translation>
+    </message>
+    <message>
+        <source>Scripts (F10)</source>
+        <translation>Сценарии (F10)</translation>
+    </message>
+    <message>
+        <source>Shelf of tara</source>
+        <translation>Полка с тарой</translation>
+    </message>
 </context>
 </TS>

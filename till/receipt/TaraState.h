@@ -29,6 +29,8 @@ struct TaraUse
     QString id;
     double capacity = 0.0;
     double free = 0.0; //!< below 0 when over-full
+
+    bool operator==(const TaraUse &other) const = default;
 };
 
 //! What the plugin noted of one goods position: how much of it is in which tara, by the tara's id.
@@ -36,6 +38,8 @@ struct GoodsUse
 {
     int posnum = 0;
     QMap<QString, double> used;
+
+    bool operator==(const GoodsUse &other) const = default;
 
     //! What is in no tara of a position of \a base units; below 0 what is noted beyond that.
     double unplaced(double base) const;

@@ -81,9 +81,17 @@ Outcome Register::carryOut(const Command &command)
     const UnderWay underWay(*this);
     m_journal.begin();
     m_shown = {};
-    return tellCommand(m_notes, toText(command), [&] {
-        return std::visit([this](const auto &kind) { return execute(kind); }, command);
-    });
+    return tellCommand(m_notes, toText(command), [&] { return begin(command); });
+}
+
+Outcome Register::begin(const Command &command)
+{
+    const Outcome checked = checkIdle(command);
+    if (checked.kind == Outcome::RefusedByRegister)
+        return refuse(checked.reason.pattern);
+    if (!checked)
+        return checked;
+    return std::visit([this](const auto &kind) { return execute(kind); }, command);
 }
 
 TaraState Register::taraState() const

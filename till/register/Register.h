@@ -57,6 +57,12 @@ public:
      */
     Outcome carryOut(const Command &command);
 
+    /*!
+     * What the register would refuse \a command for by itself, as carrying it out would tell; done
+     * when it would begin. What plugins and the cashier make of it shows only then.
+     */
+    Outcome check(const Command &command) const;
+
     //! Whether a command would be refused because something is under way.
     bool isBusy() const { return m_isBusy; }
 
@@ -84,6 +90,8 @@ private:
     void show(const tr::Tr &message) override;
     tr::Tr lastShown() const override { return m_shown; }
 
+    //! Refuses what is wrong with \a command, or else executes it.
+    Outcome begin(const Command &command);
     Outcome execute(const command::Open &open);
     Outcome execute(const command::Add &add);
     Outcome execute(const command::ChangeCount &change);
@@ -104,6 +112,20 @@ private:
     Outcome keep(EContext::Result result);
     //! How a command ended whose last action ended with \a result.
     Outcome outcomeOf(EContext::Result result) const;
+    Outcome checkIdle(const Command &command) const;
+    // Of a command to a receipt that is not finished.
+    Outcome checkOf(const command::Open &) const { return Outcome::done(); }
+    Outcome checkOf(const command::Add &add) const;
+    Outcome checkOf(const command::ChangeCount &change) const;
+    Outcome checkOf(const command::Storno &storno) const;
+    Outcome checkOf(const command::Split &split) const;
+    Outcome checkOf(const command::Unite &unite) const;
+    Outcome checkOf(const command::AttachOrder &order) const;
+    Outcome checkOf(const command::AddSoftCheck &softCheck) const;
+    Outcome checkOf(const command::Subtotal &) const;
+    Outcome checkOf(const command::Pay &) const;
+    Outcome checkOf(const command::Cancel &) const { return Outcome::done(); }
+    Outcome checkNotEmpty() const;
     Outcome checkPosition(int posnum) const;
     //! Ends a command that the register itself refuses: the cashier is shown why.
     Outcome refuse(const tr::Tr &message);

@@ -10,7 +10,6 @@
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 
 #include <algorithm>
 
@@ -64,38 +63,6 @@ QString closingOf(const QJsonObject &action)
     return QStringLiteral("close ") + toText(action.value("tendered").toInteger());
 }
 
-QString wordsOf(const QJsonObject &action)
-{
-    switch (action.value("type").toInt()) {
-    case control::OpenReceipt:
-        return openingOf(action);
-    case control::AddPosition:
-        return wordsOf("add", {action.value("article"), action.value("count")});
-    case control::ApplyModifiers:
-        return changeOf(action);
-    case control::StornoPosition:
-        return wordsOf("storno", {action.value("positionNumber")});
-    case control::RemovePosition:
-        return wordsOf("remove", {action.value("positionNumber")});
-    case control::SplitPositions:
-        return splitOf(action);
-    case control::UnitePositions:
-        return wordsOf("unite", action.value("positions").toArray());
-    case control::AddSoftCheck:
-        return attachmentOf(action);
-    case control::Subtotal:
-        return QStringLiteral("subtotal");
-    case control::Payment:
-        return QStringLiteral("pay");
-    case control::CloseReceipt:
-        return closingOf(action);
-    case control::CancelReceipt:
-        return QStringLiteral("cancel");
-    default:
-        return wordsOf("action", {action.value("type")});
-    }
-}
-
 //! A course being told.
 class Telling
 {
@@ -112,7 +79,7 @@ public:
         if (entry.kind == QLatin1String("command"))
             tellCommand(note.value("text").toString());
         else if (entry.kind == QLatin1String("action"))
-            tellAction(entry.depth, wordsOf(note));
+            tellAction(entry.depth, actionWords(note));
         else if (entry.kind == QLatin1String("question"))
             write(entry.depth, QStringLiteral("? ") + textOf(note), Paint::Cyan);
         else if (entry.kind == QLatin1String("answer"))
@@ -193,6 +160,38 @@ private:
 };
 
 } // namespace
+
+QString actionWords(const QJsonObject &action)
+{
+    switch (action.value("type").toInt()) {
+    case control::OpenReceipt:
+        return openingOf(action);
+    case control::AddPosition:
+        return wordsOf("add", {action.value("article"), action.value("count")});
+    case control::ApplyModifiers:
+        return changeOf(action);
+    case control::StornoPosition:
+        return wordsOf("storno", {action.value("positionNumber")});
+    case control::RemovePosition:
+        return wordsOf("remove", {action.value("positionNumber")});
+    case control::SplitPositions:
+        return splitOf(action);
+    case control::UnitePositions:
+        return wordsOf("unite", action.value("positions").toArray());
+    case control::AddSoftCheck:
+        return attachmentOf(action);
+    case control::Subtotal:
+        return QStringLiteral("subtotal");
+    case control::Payment:
+        return QStringLiteral("pay");
+    case control::CloseReceipt:
+        return closingOf(action);
+    case control::CancelReceipt:
+        return QStringLiteral("cancel");
+    default:
+        return wordsOf("action", {action.value("type")});
+    }
+}
 
 QString courseText(const QList<JournalEntry> &journal, const Translator &translator, Style style)
 {

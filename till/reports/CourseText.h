@@ -4,9 +4,14 @@
 #include "till/storage/Storage.h"
 #include "till/view/TextPage.h"
 
+#include <QtCore/QJsonObject>
+
 namespace till {
 
 class Translator;
+
+//! What the note \a action tells of, in the words of the till's command that does the same.
+QString actionWords(const QJsonObject &action);
 
 /*!
  * What \a journal tells of a receipt's course, for people in one language: the actions, in the

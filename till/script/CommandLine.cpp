@@ -110,7 +110,6 @@ CommandLine::CommandLine(CashDesk &desk, Notes &notes, const Translator &transla
     , m_person(std::move(person))
     , m_answers(*this,
                 [this](const Question &question, bool answer) { printAnswered(question, answer); })
-    , m_installed(desk.front(), m_answers)
     , m_notesHeard(notes.subscribe([this](const QJsonObject &note) { hear(note); }))
     , m_receiptSeen(desk.onReceiptChanged([this] { m_hasTouchedReceipt = true; }))
 {
@@ -128,6 +127,7 @@ Outcome CommandLine::run(const QString &line)
         return Outcome::mistake(told("till", "a quote is not closed"));
     if (words->isEmpty())
         return Outcome::done();
+    const InstalledFront installed(m_desk.front(), m_answers);
     return runWords(*words, line.trimmed());
 }
 

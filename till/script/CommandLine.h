@@ -42,7 +42,7 @@ public:
         bool maySave = true; //!< "save" may come; for it the course of a receipt is kept
     };
 
-    //! Installs itself as the front of \a desk. All must outlive this object.
+    //! While a line is carried out this is the front of \a desk. All must outlive this object.
     CommandLine(CashDesk &desk, Notes &notes, const Translator &translator, Style style,
                 Person person);
     Q_DISABLE_COPY_MOVE(CommandLine)
@@ -134,7 +134,6 @@ private:
     PreparedAnswers m_answers;
     std::optional<ReceiptCourse> m_course;
     QStringList m_unanswered; //!< keys of the questions that nobody was there to answer
-    const InstalledFront m_installed;
     Subscription m_notesHeard;
     Subscription m_receiptSeen;
     bool m_hasTouchedReceipt = false;

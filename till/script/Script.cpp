@@ -3,7 +3,7 @@
 #include "till/words/Words.h"
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace till {
 
@@ -44,34 +44,6 @@ ScriptFault behindQuit(const ScriptLine &line)
     return {{line.place(), command + ": " + why}, command, {}, why, true};
 }
 
-//! The lines that gave the answers, and asked the questions, that are left over.
-class Loose
-{
-public:
-    //! \a line was carried out.
-    void look(const CommandLine &commands, const ScriptLine &line)
-    {
-        if (commands.questionsUnanswered() > 0 && !m_asking)
-            m_asking = line;
-        while (m_answering.size() > commands.answersWaiting())
-            m_answering.removeFirst();
-        while (m_answering.size() < commands.answersWaiting())
-            m_answering.append(line);
-    }
-
-    //! The fault that \a left is left over.
-    ScriptFault fault(const QString &left) const
-    {
-        const ScriptLine line = m_asking ? *m_asking : m_answering.value(0);
-        const QString command = brief(line.text.trimmed());
-        return {{line.place(), command + ": " + left}, command, {}, left};
-    }
-
-private:
-    QList<ScriptLine> m_answering; //!< for each answer that waits
-    std::optional<ScriptLine> m_asking;
-};
-
 //! What is wrong with a line that ended so; of a refusal also its key.
 QString why(const CommandLine &commands, const Outcome &outcome)
 {
@@ -109,32 +81,69 @@ bool Script::maySave() const
 Result<void, ScriptFault> Script::play(CommandLine &commands, const Echo &echo,
                                        ScriptUpdate *update) const
 {
-    const auto played = playLines(commands, echo, update);
-    commands.notes().add("verdict", {{"file", m_path},
-                                     {"held", played.has_value()},
-                                     {"fault", played ? QString() : played.error().text()}});
+    ScriptPlay play(*this, commands, echo, update);
+    Result<void, ScriptFault> played;
+    while (!play.hasEnded())
+        played = play.step();
     return played;
 }
 
-Result<void, ScriptFault> Script::playLines(CommandLine &commands, const Echo &echo,
-                                            ScriptUpdate *update) const
+ScriptPlay::ScriptPlay(const Script &script, CommandLine &commands, Script::Echo echo,
+                       ScriptUpdate *update)
+    : m_script(script)
+    , m_commands(commands)
+    , m_echo(std::move(echo))
+    , m_update(update)
 {
-    Loose loose;
-    for (const ScriptLine &line : m_lines) {
-        if (commands.hasQuit() && line.isCommand())
-            return behindQuit(line);
-        if (const QString shown = shownCommand(line); !shown.isEmpty())
-            echo(forTerminal(shown));
-        if (line.isCommand())
-            commands.notes().add("script", {{"file", line.file}, {"at", line.number}});
-        const Outcome outcome = commands.run(line.text);
-        if (!outcome && !(update && update->mend(commands, line, outcome)))
-            return faultOf(line, outcome, why(commands, outcome));
-        loose.look(commands, line);
-    }
-    if (const QString left = commands.leftOver(); !left.isEmpty())
-        return loose.fault(left);
+}
+
+Result<void, ScriptFault> ScriptPlay::step()
+{
+    if (m_hasEnded)
+        return {};
+    const QList<ScriptLine> &lines = m_script.lines();
+    Result<void, ScriptFault> played = carryOut(lines[m_next++]);
+    const QString left = m_next == lines.size() ? m_commands.leftOver() : QString();
+    if (played && !left.isEmpty())
+        played = faultOfLoose(left);
+    m_hasEnded = !played || m_next == lines.size();
+    if (m_hasEnded)
+        m_commands.notes().add("verdict", {{"file", m_script.path()},
+                                           {"held", played.has_value()},
+                                           {"fault", played ? QString() : played.error().text()}});
+    return played;
+}
+
+Result<void, ScriptFault> ScriptPlay::carryOut(const ScriptLine &line)
+{
+    if (m_commands.hasQuit() && line.isCommand())
+        return behindQuit(line);
+    if (const QString shown = shownCommand(line); !shown.isEmpty())
+        m_echo(forTerminal(shown));
+    if (line.isCommand())
+        m_commands.notes().add("script", {{"file", line.file}, {"at", line.number}});
+    const Outcome outcome = m_commands.run(line.text);
+    if (!outcome && !(m_update && m_update->mend(m_commands, line, outcome)))
+        return faultOf(line, outcome, why(m_commands, outcome));
+    lookForLoose(line);
     return {};
+}
+
+void ScriptPlay::lookForLoose(const ScriptLine &line)
+{
+    if (m_commands.questionsUnanswered() > 0 && !m_asking)
+        m_asking = line;
+    while (m_answering.size() > m_commands.answersWaiting())
+        m_answering.removeFirst();
+    while (m_answering.size() < m_commands.answersWaiting())
+        m_answering.append(line);
+}
+
+ScriptFault ScriptPlay::faultOfLoose(const QString &left) const
+{
+    const ScriptLine line = m_asking ? *m_asking : m_answering.value(0);
+    const QString command = brief(line.text.trimmed());
+    return {{line.place(), command + ": " + left}, command, {}, left};
 }
 
 } // namespace till

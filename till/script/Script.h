@@ -5,6 +5,8 @@
 #include "till/script/ScriptLines.h"
 #include "till/script/ScriptUpdate.h"
 
+#include <optional>
+
 namespace till {
 
 //! Why a script did not hold, and of a line what it is about. All is plain text of one line.
@@ -36,6 +38,10 @@ public:
     Result<void, ScriptFault> play(CommandLine &commands, const Echo &echo,
                                    ScriptUpdate *update = nullptr) const;
 
+    //! All lines, comments too; at least one once it was read.
+    const QList<ScriptLine> &lines() const { return m_lines; }
+    QString path() const { return m_path; }
+
     //! How many of the lines expect something.
     qsizetype expectations() const;
 
@@ -43,11 +49,48 @@ public:
     bool maySave() const;
 
 private:
-    Result<void, ScriptFault> playLines(CommandLine &commands, const Echo &echo,
-                                        ScriptUpdate *update) const;
-
     QString m_path;
     QList<ScriptLine> m_lines;
+};
+
+/*!
+ * A script being carried out, a line at a time, as `Script::play()` does it at once. What happens
+ * in between, other commands too, is the caller's.
+ */
+class ScriptPlay
+{
+public:
+    //! All must outlive this object; \a script was read.
+    ScriptPlay(const Script &script, CommandLine &commands, Script::Echo echo,
+               ScriptUpdate *update = nullptr);
+    Q_DISABLE_COPY_MOVE(ScriptPlay)
+
+    //! The line that comes next, by its place in `Script::lines()`; behind the end, how many
+    //! there are.
+    qsizetype next() const { return m_next; }
+
+    //! Whether it is over: all lines are done, or one did not end well.
+    bool hasEnded() const { return m_hasEnded; }
+
+    //! Carries the next line out; when it has ended nothing. The line that ends it also has what is
+    //! wrong with the script as a whole, and its verdict is noted.
+    Result<void, ScriptFault> step();
+
+private:
+    Result<void, ScriptFault> carryOut(const ScriptLine &line);
+    //! \a line was carried out: which answers wait, and whose question had none?
+    void lookForLoose(const ScriptLine &line);
+    //! The fault that \a left is left over.
+    ScriptFault faultOfLoose(const QString &left) const;
+
+    const Script &m_script;
+    CommandLine &m_commands;
+    const Script::Echo m_echo;
+    ScriptUpdate *const m_update;
+    qsizetype m_next = 0;
+    bool m_hasEnded = false;
+    QList<ScriptLine> m_answering; // for each answer that waits
+    std::optional<ScriptLine> m_asking;
 };
 
 } // namespace till

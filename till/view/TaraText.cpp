@@ -56,15 +56,29 @@ QString unitOf(const ArticleData &article)
 
 QList<Piece> TaraText::ofTara(const TaraUse &tara) const
 {
-    const Fill fill = fillOf(tara);
+    const Fill fill = kindOf(tara);
+    return QList<Piece>{{barOf(tara, fill), paintOf(fill)}} + figuresOf(tara);
+}
+
+QList<Piece> TaraText::figuresOf(const TaraUse &tara) const
+{
     const QList<Piece> contents = contentsOf(tara);
-    QList<Piece> pieces{{barOf(tara, fill), paintOf(fill)},
-                        {toText(usedOf(tara)) + QStringLiteral(" / ")
-                         + amountText(tara.capacity, contentsUnit(tara)) + QLatin1Char(',')},
-                        {fillText(tara, fill), paintOf(fill)}};
+    QList<Piece> pieces{{amountsOf(tara) + QLatin1Char(',')}, fillOf(tara)};
     if (!contents.isEmpty())
         pieces.last().text += QLatin1Char(':');
     return pieces + separated(contents, QStringLiteral(","));
+}
+
+QString TaraText::amountsOf(const TaraUse &tara) const
+{
+    return toText(usedOf(tara)) + QStringLiteral(" / ")
+           + amountText(tara.capacity, contentsUnit(tara));
+}
+
+Piece TaraText::fillOf(const TaraUse &tara) const
+{
+    const Fill fill = kindOf(tara);
+    return {fillText(tara, fill), paintOf(fill)};
 }
 
 QList<Piece> TaraText::ofGoods(const GoodsUse &goods, const Position &position) const
@@ -79,7 +93,7 @@ QList<Piece> TaraText::ofGoods(const GoodsUse &goods, const Position &position) 
     return shares + rest;
 }
 
-TaraText::Fill TaraText::fillOf(const TaraUse &tara)
+TaraText::Fill TaraText::kindOf(const TaraUse &tara)
 {
     if (isShownAsZero(usedOf(tara)))
         return Fill::Empty;

@@ -32,6 +32,12 @@ public:
     //! A bar of how full the tara is, the amounts, and which goods are in it:
     //! "[######....] 3 / 5 л, свободно 2: поз. 3 — 2, поз. 4 — 1".
     QList<Piece> ofTara(const TaraUse &tara) const;
+    //! The same without the bar, for whoever draws one.
+    QList<Piece> figuresOf(const TaraUse &tara) const;
+    //! What is used of the tara's capacity: "3 / 5 л".
+    QString amountsOf(const TaraUse &tara) const;
+    //! How full it is: "свободно 2".
+    Piece fillOf(const TaraUse &tara) const;
 
     //! Which taras the goods of \a position are in and what found no room:
     //! "в таре: поз. 1 — 2, поз. 2 — 1; не размещено 0.5 л". Nothing when nothing is noted.
@@ -39,7 +45,7 @@ public:
 
 private:
     enum class Fill;
-    static Fill fillOf(const TaraUse &tara);
+    static Fill kindOf(const TaraUse &tara);
     static Paint paintOf(Fill fill);
     static QString barOf(const TaraUse &tara, Fill fill);
     QString fillText(const TaraUse &tara, Fill fill) const;

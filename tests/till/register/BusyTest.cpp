@@ -96,11 +96,14 @@ TEST_F(Busy, SwitchingWithinAQuestion_IsRefused)
 
 TEST_F(Busy, LineWithinAQuestion_IsRefused)
 {
-    whenAsked([this] {
+    auto attempting = notes.subscribe([this](const QJsonObject &note) {
+        if (note.value("kind").toString() != "question")
+            return;
         for (const char *line : {"open", "restart", "set A:b c", "expect state open", "help", ""})
             expectBusy(run(line));
     });
-    done({"storno 1"});
+    done({"answer yes", "storno 1"});
+    attempting.reset();
     EXPECT_TRUE(commands->hasTouchedReceipt());
     expectNothingElse();
 }

@@ -1,0 +1,12 @@
+#include <gmock/gmock.h>
+
+#include <QtWidgets/QApplication>
+
+// Tests of the window: with widgets, without a display.
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,16 @@
+#ifndef WINDOW_ARCHIVE_RECEIPTPAGE_H
+#define WINDOW_ARCHIVE_RECEIPTPAGE_H
+
+#include "till/language/Translator.h"
+#include "till/storage/Archive.h"
+
+namespace till {
+
+//! A kept receipt as the register shows it, which must hold, and below it what \a journal tells of
+//! its course: as HTML in one language. Nothing that a receipt holds is taken for markup.
+QString receiptPage(const KeptReceipt &kept, const KeptJournal &journal,
+                    const Translator &translator);
+
+} // namespace till
+
+#endif // WINDOW_ARCHIVE_RECEIPTPAGE_H

@@ -1,0 +1,197 @@
+#include "window/archive/ReceiptsPanel.h"
+
+#include "till/language/TillMessages.h"
+#include "till/reports/ReceiptJson.h"
+#include "till/view/ReceiptText.h"
+#include "window/archive/ReceiptPage.h"
+
+#include <QtGui/QShowEvent>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QTableView>
+#include <QtWidgets/QTextBrowser>
+
+namespace till {
+
+ReceiptsPanel::ReceiptsPanel(std::function<QString()> database, const Translator &translator,
+                             QWidget *parent)
+    : QWidget(parent)
+    , m_database(std::move(database))
+    , m_translator(translator)
+    , m_model(translator)
+    , m_states(new QComboBox)
+    , m_number(new QLineEdit)
+    , m_read(new QPushButton)
+    , m_list(new QTableView)
+    , m_count(new QLabel)
+    , m_page(new QTextBrowser)
+{
+    m_states->setObjectName("receiptStates");
+    m_number->setObjectName("receiptNumber");
+    m_read->setObjectName("receiptsRead");
+    m_list->setObjectName("receiptList");
+    m_count->setObjectName("receiptCount");
+    m_page->setObjectName("receiptPage");
+    layOut();
+    connectAll();
+    tellTexts();
+}
+
+void ReceiptsPanel::layOut()
+{
+    m_states->addItem({});
+    for (const ReceiptState state : {ReceiptState::Open, ReceiptState::Subtotal,
+                                     ReceiptState::Closed, ReceiptState::Cancelled})
+        m_states->addItem({}, static_cast<int>(state));
+    m_number->setMaxLength(18);
+    m_list->setModel(&m_model);
+    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_list->setTabKeyNavigation(false);
+    m_list->setWordWrap(false);
+    m_list->verticalHeader()->hide();
+    m_list->horizontalHeader()->setStretchLastSection(true);
+    m_list->resizeColumnsToContents();
+    m_count->setWordWrap(true);
+    m_page->setOpenLinks(false);
+
+    auto *const above = new QHBoxLayout;
+    above->addWidget(m_states);
+    above->addWidget(m_number, 1);
+    above->addWidget(m_read);
+    auto *const parts = new QSplitter(Qt::Vertical);
+    parts->addWidget(m_list);
+    parts->addWidget(m_page);
+    parts->setStretchFactor(1, 2);
+    auto *const all = new QVBoxLayout(this);
+    all->addLayout(above);
+    all->addWidget(parts, 1);
+    all->addWidget(m_count);
+}
+
+void ReceiptsPanel::connectAll()
+{
+    connect(m_read, &QPushButton::clicked, this, [this] { read(); });
+    connect(m_states, &QComboBox::activated, this, [this] { read(); });
+    connect(m_number, &QLineEdit::returnPressed, this, [this] { find(); });
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &row) {
+                if (row.isValid() && !m_isReading)
+                    open(m_model.numberAt(row.row()));
+            });
+}
+
+void ReceiptsPanel::translate(const Translator &translator)
+{
+    m_translator = translator;
+    m_model.translate(translator);
+    tellTexts();
+    if (m_open != 0)
+        open(m_open);
+}
+
+void ReceiptsPanel::tellTexts()
+{
+    m_states->setItemText(0, m_translator.text(told("till", "All receipts")));
+    for (int item = 1; item < m_states->count(); ++item)
+        m_states->setItemText(
+            item,
+            m_translator.text(nameOf(static_cast<ReceiptState>(m_states->itemData(item).toInt()))));
+    m_states->setAccessibleName(m_translator.text(told("till", "Which receipts are listed")));
+    const QString number = m_translator.text(told("till", "Number of a receipt, and Enter"));
+    m_number->setPlaceholderText(number);
+    m_number->setAccessibleName(number);
+    m_read->setText(m_translator.text(told("till", "Read anew")));
+    m_list->setAccessibleName(m_translator.text(told("till", "Past receipts")));
+    m_page->setAccessibleName(m_translator.text(told("till", "The receipt, to be read only")));
+    tellCount();
+}
+
+void ReceiptsPanel::tellCount()
+{
+    const QString count = QString::number(m_model.count());
+    const QString shown = QString::number(m_model.rowCount());
+    m_count->setText(m_translator.text(
+        m_model.count() == m_model.rowCount()
+            ? told("till", "Receipts: %1").with({count})
+            : told("till", "Receipts: %1; the newest %2 are listed, others open by their numbers")
+                  .with({count, shown})));
+}
+
+void ReceiptsPanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        read();
+}
+
+Selection ReceiptsPanel::selection() const
+{
+    Selection selection;
+    if (const QVariant state = m_states->currentData(); state.isValid())
+        selection.states = {static_cast<ReceiptState>(state.toInt())};
+    return selection;
+}
+
+void ReceiptsPanel::read()
+{
+    m_isReading = true;
+    const auto archive = Archive::open(m_database());
+    const Result<> listed =
+        archive ? m_model.read(**archive, selection()) : Result<>(archive.error());
+    if (!listed) {
+        m_model.clear();
+        tellFault(listed.error().text());
+    }
+    m_list->resizeColumnsToContents();
+    m_list->horizontalHeader()->setStretchLastSection(true);
+    if (const int row = m_model.rowOf(m_open); row >= 0)
+        m_list->setCurrentIndex(m_model.index(row, 0));
+    tellCount();
+    m_isReading = false;
+}
+
+void ReceiptsPanel::find()
+{
+    bool isNumber = false;
+    const qint64 number = m_number->text().trimmed().toLongLong(&isNumber);
+    if (!isNumber)
+        return tellFault(m_translator.text(
+            told("till", "\"%1\" is no number of a receipt").with({brief(m_number->text())})));
+    open(number);
+}
+
+void ReceiptsPanel::open(qint64 number)
+{
+    m_open = 0;
+    const auto archive = Archive::open(m_database());
+    if (!archive)
+        return tellFault(archive.error().text());
+    const auto read = (*archive)->receipt(number, taraPlugin());
+    if (!read)
+        return tellFault(read.error().text());
+    const QString shown = QString::number(number);
+    if (!*read)
+        return tellFault(m_translator.text(told("till", "There is no receipt %1").with({shown})));
+    if (const QString fault = (**read).fault; !fault.isEmpty())
+        return tellFault(
+            m_translator.text(told("till", "Receipt %1 is damaged: %2").with({shown, fault})));
+    const auto journal = (*archive)->journal(number);
+    if (!journal)
+        return tellFault(journal.error().text());
+    m_page->setHtml(receiptPage(**read, *journal, m_translator));
+    m_open = number;
+}
+
+void ReceiptsPanel::tellFault(const QString &text)
+{
+    m_open = 0;
+    m_page->setPlainText(text);
+}
+
+} // namespace till

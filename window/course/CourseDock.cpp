@@ -1,0 +1,156 @@
+#include "window/course/CourseDock.h"
+
+#include <QtCore/QSortFilterProxyModel>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QShortcut>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTreeView>
+
+namespace till {
+
+CourseDock::CourseDock(Notes &notes, const Translator &translator, CourseModel::Limits limits,
+                       QWidget *parent)
+    : QDockWidget(parent)
+    , m_translator(translator)
+    , m_model(notes, translator, limits)
+    , m_shown(new QSortFilterProxyModel(this))
+    , m_filter(new QLineEdit)
+    , m_follow(new QCheckBox)
+    , m_copy(new QPushButton)
+    , m_tree(new QTreeView)
+    , m_kept(new QLabel)
+{
+    setObjectName("course");
+    m_filter->setObjectName("courseFilter");
+    m_follow->setObjectName("courseFollow");
+    m_copy->setObjectName("courseCopy");
+    m_tree->setObjectName("courseTree");
+    m_kept->setObjectName("courseKept");
+    m_shown->setSourceModel(&m_model);
+    m_shown->setRecursiveFilteringEnabled(true);
+    m_shown->setAutoAcceptChildRows(true);
+    m_shown->setFilterKeyColumn(-1);
+    m_shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    toggleViewAction()->setShortcut(Qt::Key_F9);
+    layOut();
+    connectAll();
+    tellTexts();
+}
+
+void CourseDock::layOut()
+{
+    m_filter->setClearButtonEnabled(true);
+    m_follow->setChecked(true);
+    m_tree->setModel(m_shown);
+    m_tree->setUniformRowHeights(true);
+    m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_tree->header()->setStretchLastSection(false);
+    m_tree->header()->setSectionResizeMode(CourseModel::What, QHeaderView::Stretch);
+    m_tree->header()->resizeSection(CourseModel::End, 210);
+    m_kept->setWordWrap(true);
+
+    auto *const above = new QHBoxLayout;
+    above->addWidget(m_filter, 1);
+    above->addWidget(m_follow);
+    above->addWidget(m_copy);
+    auto *const page = new QWidget;
+    auto *const all = new QVBoxLayout(page);
+    all->addLayout(above);
+    all->addWidget(m_tree, 1);
+    all->addWidget(m_kept);
+    setWidget(page);
+}
+
+void CourseDock::connectAll()
+{
+    connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &text) { filter(text); });
+    connect(m_copy, &QPushButton::clicked, this, [this] { copy(); });
+    const auto *const copying =
+        new QShortcut(QKeySequence::Copy, m_tree, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(copying, &QShortcut::activated, this, [this] { copy(); });
+    connect(m_shown, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex &parent) { follow(parent); });
+    connect(&m_model, &QAbstractItemModel::rowsRemoved, this, [this] { tellKept(); });
+    connect(toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
+        if (isShown)
+            m_tree->setFocus();
+    });
+}
+
+void CourseDock::translate(const Translator &translator)
+{
+    m_translator = translator;
+    m_model.translate(translator);
+    tellTexts();
+}
+
+void CourseDock::tellTexts()
+{
+    setWindowTitle(m_translator.text(told("till", "Course (F9)")));
+    m_tree->setAccessibleName(m_translator.text(told("till", "What happened, command by command")));
+    const QString filtering = m_translator.text(told("till", "Filter: what the lines contain"));
+    m_filter->setPlaceholderText(filtering);
+    m_filter->setAccessibleName(filtering);
+    m_follow->setText(m_translator.text(told("till", "Follow")));
+    m_follow->setToolTip(
+        m_translator.text(told("till", "Unfold the newest command, and fold the one before")));
+    m_copy->setText(m_translator.text(told("till", "Copy as JSON")));
+    m_copy->setToolTip(m_translator.text(told(
+        "till", "Copy the lines that a trace has of what is selected, or of all that is shown")));
+    tellKept();
+}
+
+void CourseDock::tellKept()
+{
+    const QString most = QString::number(m_model.limits().commands);
+    m_kept->setText(m_translator.text(
+        m_model.forgotten() == 0
+            ? told("till", "The last %1 commands are kept.").with({most})
+            : told("till", "The last %1 commands are kept; %2 before them are gone.")
+                  .with({most, QString::number(m_model.forgotten())})));
+}
+
+void CourseDock::filter(const QString &text)
+{
+    m_shown->setFilterFixedString(text);
+    if (!text.isEmpty())
+        m_tree->expandAll();
+}
+
+//! Something was added inside of \a parent, or a command.
+void CourseDock::follow(const QModelIndex &parent)
+{
+    if (!m_follow->isChecked())
+        return;
+    QModelIndex command = parent;
+    while (command.parent().isValid())
+        command = command.parent();
+    if (command.isValid() && command != m_unfolded) {
+        if (m_filter->text().isEmpty())
+            m_tree->collapse(m_unfolded);
+        m_unfolded = command;
+    }
+    if (parent.isValid())
+        m_tree->expand(parent);
+    m_tree->scrollToBottom();
+}
+
+void CourseDock::copy() const
+{
+    QModelIndexList indexes = m_tree->selectionModel()->selectedRows();
+    const int all = indexes.isEmpty() ? m_shown->rowCount() : 0;
+    for (int row = 0; row < all; ++row)
+        indexes.append(m_shown->index(row, 0));
+    QModelIndexList sources;
+    for (const QModelIndex &index : std::as_const(indexes))
+        sources.append(m_shown->mapToSource(index));
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(m_model.json(sources)));
+}
+
+} // namespace till

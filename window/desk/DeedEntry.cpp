@@ -1,0 +1,155 @@
+#include "window/desk/DeedEntry.h"
+
+#include "till/language/TillMessages.h"
+
+#include <QtCore/QRegularExpression>
+
+namespace till {
+
+namespace {
+
+//! The command that was entered, or the mistake in it.
+using Entered = Result<Command, Outcome>;
+
+Outcome noNumber(const QString &text)
+{
+    return Outcome::mistake(told("till", "\"%1\" is not a number").with({text}));
+}
+
+Entered quantity(int posnum, const QString &text)
+{
+    const auto count = parseQuantity(text);
+    if (!count)
+        return noNumber(text);
+    return Command(command::ChangeCount{posnum, *count});
+}
+
+//! "1+0.5", or the parts with spaces between them.
+Entered split(int posnum, const QString &text)
+{
+    static const QRegularExpression between(QStringLiteral("[\\s+;]+"));
+    command::Split split{posnum, {}};
+    const QStringList parts = text.split(between, Qt::SkipEmptyParts);
+    for (const QString &part : parts) {
+        const auto count = parseQuantity(part);
+        if (!count)
+            return noNumber(part);
+        split.parts.append(*count);
+    }
+    return Command(split);
+}
+
+//! What is proposed is the sum, which is paid exactly.
+Entered pay(const QString &proposal, const QString &text)
+{
+    const auto tendered = parseMoney(text);
+    if (!tendered)
+        return noNumber(text);
+    return Command(text == proposal ? command::Pay{} : command::Pay{tendered});
+}
+
+Entered enteredFor(Deed deed, int posnum, const QString &proposal, const QString &text)
+{
+    switch (deed) {
+    case Deed::Quantity:
+        return quantity(posnum, text);
+    case Deed::Split:
+        return split(posnum, text);
+    case Deed::Order:
+        return Command(command::AttachOrder{text});
+    case Deed::SoftCheck:
+        return Command(command::AddSoftCheck{text});
+    default:
+        return pay(proposal, text);
+    }
+}
+
+//! What stands in the field before anything is typed.
+QString proposalFor(Deed deed, int posnum, const Receipt &receipt)
+{
+    if (deed == Deed::Pay)
+        return toText(receipt.total());
+    const auto line = receipt.line(posnum);
+    return deed == Deed::Quantity && line ? toText(line->getCquant()) : QString();
+}
+
+struct Asked
+{
+    Message title;
+    Message hint;
+    QString signs;
+};
+
+Asked askedFor(Deed deed, int posnum, const Receipt &receipt)
+{
+    const QStringList position{QString::number(posnum)};
+    switch (deed) {
+    case Deed::Quantity:
+        return {told("till", "Quantity of position %1").with(position),
+                told("till", "In pieces, up to three decimals"), QStringLiteral(".")};
+    case Deed::Split:
+        return {told("till", "Parts to split off position %1").with(position),
+                told("till", "As \"1+0.5\"; what is left stays in the position"),
+                QStringLiteral(".+")};
+    case Deed::Order:
+        return {told("till", "Number of the order"), {}, QString()};
+    case Deed::SoftCheck:
+        return {told("till", "Number of the soft-check"), {}, QString()};
+    default:
+        return {told("till", "To pay: %1. Money given").with({toText(receipt.total())}),
+                told("till", "As it stands, the sum is paid exactly"), QStringLiteral(".")};
+    }
+}
+
+} // namespace
+
+std::optional<Command> commandOf(Deed deed, const QList<int> &selected)
+{
+    switch (deed) {
+    case Deed::OpenSale:
+        return command::Open{Document::Sale};
+    case Deed::OpenReturn:
+        return command::Open{Document::Return};
+    case Deed::Cancel:
+        return command::Cancel{};
+    case Deed::Storno:
+        return command::Storno{selected.value(0)};
+    case Deed::Unite:
+        return command::Unite{selected};
+    case Deed::Subtotal:
+        return command::Subtotal{};
+    case Deed::Quantity:
+    case Deed::Split:
+    case Deed::Order:
+    case Deed::SoftCheck:
+    case Deed::Pay:
+        break;
+    }
+    return {};
+}
+
+EntryDialog::Wanted entryFor(Deed deed, const QList<int> &selected, const Receipt &receipt,
+                             const Translator &translator, const Doer &doer)
+{
+    const int posnum = selected.value(0);
+    const Asked asked = askedFor(deed, posnum, receipt);
+    const QString proposal = proposalFor(deed, posnum, receipt);
+    const auto read = [=](const QString &text) { return enteredFor(deed, posnum, proposal, text); };
+    const auto check = [read, translator, doer](const QString &text) {
+        const Entered entered = read(text);
+        const Outcome outcome = entered ? doer.check(*entered) : entered.error();
+        return outcome ? QString() : outcome.text(translator);
+    };
+    const auto taken = [read, doer](const QString &text) {
+        if (const Entered entered = read(text))
+            doer.carryOut(*entered);
+    };
+    return {translator.text(asked.title),
+            translator.text(asked.hint),
+            proposal,
+            asked.signs,
+            check,
+            taken};
+}
+
+} // namespace till

@@ -1,0 +1,351 @@
+#include "window/desk/TillWindow.h"
+
+#include "till/language/TillMessages.h"
+#include "window/articles/ArticlePanel.h"
+#include "window/course/CourseDock.h"
+#include "window/desk/DeedEntry.h"
+#include "window/dialogs/FaultPage.h"
+#include "window/receipt/ReceiptTable.h"
+#include "window/scripts/ScriptsDock.h"
+#include "window/shelf/Shelf.h"
+
+#include <QtGui/QCloseEvent>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QShortcut>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QToolButton>
+
+namespace till {
+
+namespace {
+
+//! While it lives the window shows that the till is at work.
+class AtWork
+{
+public:
+    AtWork(TopStrip &strip, const QString &text)
+        : m_strip(strip)
+    {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        m_strip.showWork(text);
+    }
+    ~AtWork()
+    {
+        m_strip.showWork({});
+        QGuiApplication::restoreOverrideCursor();
+    }
+    Q_DISABLE_COPY_MOVE(AtWork)
+
+private:
+    TopStrip &m_strip;
+};
+
+} // namespace
+
+TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
+    : m_desk(desk)
+    , m_translator(language)
+    , m_languageCode(language)
+    , m_strip(*new TopStrip)
+    , m_pages(*new QStackedWidget)
+    , m_fault(*new FaultPage(m_translator))
+    , m_table(*new ReceiptTable(m_translator))
+    , m_total(*new QLabel)
+    , m_deeds(*new DeedBar(m_translator))
+    , m_articles(*new ArticlePanel(m_translator))
+    , m_shelf(*new Shelf(m_translator))
+    , m_course(*new CourseDock(notes, m_translator))
+    , m_scripts(*new ScriptsDock(desk, notes, m_translator))
+    , m_front(*this, m_strip, m_translator)
+    , m_installed(desk.front(), m_front)
+    , m_receiptSeen(desk.onReceiptChanged([this] { showReceipt(); }))
+    , m_outcomesHeard(notes.subscribe([this](const QJsonObject &note) { hear(note); }))
+{
+    m_table.setObjectName(QStringLiteral("receipt"));
+    m_shelf.setObjectName(QStringLiteral("shelf"));
+    m_total.setObjectName(QStringLiteral("total"));
+    layOut();
+    connectParts();
+    addShortcuts();
+    translate();
+}
+
+TillWindow::~TillWindow() = default;
+
+void TillWindow::layOut()
+{
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.6);
+    large.setBold(true);
+    m_total.setFont(large);
+    m_total.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto *const left = new QWidget;
+    auto *const receipt = new QVBoxLayout(left);
+    receipt->setContentsMargins(0, 0, 0, 0);
+    receipt->setSpacing(4);
+    receipt->addWidget(&m_table, 1);
+    receipt->addWidget(&m_total);
+    receipt->addWidget(&m_deeds);
+    auto *const right = new QWidget;
+    auto *const goods = new QVBoxLayout(right);
+    goods->setContentsMargins(0, 0, 0, 0);
+    goods->setSpacing(4);
+    goods->addWidget(&m_articles, 1);
+    goods->addWidget(&m_shelf);
+    auto *const halves = new QSplitter;
+    halves->setChildrenCollapsible(false);
+    halves->addWidget(left);
+    halves->addWidget(right);
+    halves->setSizes({540, 480});
+    auto *const cashDesk = new QWidget;
+    auto *const all = new QVBoxLayout(cashDesk);
+    all->setContentsMargins(4, 0, 4, 4);
+    all->setSpacing(4);
+    all->addWidget(&m_strip);
+    all->addWidget(halves, 1);
+    m_pages.addWidget(cashDesk);
+    m_pages.addWidget(&m_fault);
+    setCentralWidget(&m_pages);
+    for (QDockWidget *const dock : std::initializer_list<QDockWidget *>{&m_course, &m_scripts}) {
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+        dock->hide();
+        addAction(dock->toggleViewAction()); // so that its key is heard
+    }
+    tabifyDockWidget(&m_course, &m_scripts);
+    resize(1024, 600);
+}
+
+void TillWindow::connectParts()
+{
+    m_articles.chosen = [this](const QString &code, double count) { return add(code, count); };
+    m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
+    m_deeds.refused = [this](const QString &reason) {
+        banner().tell(reason, Banner::Tone::Notice);
+    };
+    m_table.selected = [this] {
+        m_shelf.setLit(selectedGoods());
+        showDeedsSoon();
+    };
+    m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
+    m_fault.goOn = [this] {
+        if (m_desk.isOn())
+            m_pages.setCurrentIndex(0);
+        else
+            switchOn();
+    };
+}
+
+QSet<int> TillWindow::selectedGoods() const
+{
+    QSet<int> goods;
+    const QList<int> posnums = m_table.selectedPositions();
+    for (const int posnum : posnums) {
+        if (m_table.receipt().shown()->goodsOrdinal(posnum))
+            goods.insert(posnum);
+    }
+    return goods;
+}
+
+void TillWindow::addShortcuts()
+{
+    const auto on = [this](const QKeySequence &key, auto &&act) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, act);
+    };
+    on(Qt::Key_F3, [this] { m_articles.focusSearch(); });
+    on(Qt::Key_Escape, [this] {
+        banner().clear();
+        m_articles.focusCode();
+    });
+    on(Qt::CTRL | Qt::Key_L, [this] { m_strip.language().click(); });
+    connect(&m_strip.language(), &QToolButton::clicked, this, [this] {
+        const QStringList languages = Translator::languages();
+        const auto next = languages.indexOf(m_languageCode) + 1;
+        setLanguage(languages[next % languages.size()]);
+    });
+    m_strip.menu().setMenu(new QMenu(this));
+}
+
+void TillWindow::fillMenu()
+{
+    QMenu &menu = *m_strip.menu().menu();
+    menu.clear();
+    QAction *const moves = menu.addAction(m_translator.text(told("till", "Changes move smoothly")));
+    moves->setCheckable(true);
+    moves->setChecked(m_shelf.isMoving());
+    menu.addAction(m_course.toggleViewAction());
+    menu.addAction(m_scripts.toggleViewAction());
+    connect(moves, &QAction::toggled, this, [this](bool on) { m_shelf.setMoving(on); });
+}
+
+void TillWindow::setLanguage(const QString &language)
+{
+    m_languageCode = language;
+    m_translator = Translator(language);
+    translate();
+}
+
+void TillWindow::translate()
+{
+    const auto say = [this](const Message &message) { return m_translator.text(message); };
+    setWindowTitle(say(told("till", "Till")));
+    m_strip.language().setText(m_languageCode.toUpper());
+    m_strip.language().setAccessibleName(say(told("till", "Language (Ctrl+L)")));
+    m_strip.language().setToolTip(m_strip.language().accessibleName());
+    m_strip.menu().setText(QStringLiteral("☰"));
+    m_strip.menu().setAccessibleName(say(told("till", "Menu")));
+    m_fault.translate(m_translator);
+    m_table.translate(m_translator);
+    m_deeds.translate(m_translator);
+    m_articles.translate(m_translator);
+    m_shelf.translate(m_translator);
+    m_course.translate(m_translator);
+    m_scripts.translate(m_translator);
+    fillMenu();
+    showReceipt();
+    showDeeds();
+}
+
+void TillWindow::switchOn()
+{
+    if (m_desk.isOn() || m_desk.isBusy())
+        return;
+    if (const Result<> started = m_desk.start(); !started) {
+        m_fault.tellStart(started.error());
+        m_pages.setCurrentIndex(1);
+        return;
+    }
+    m_articles.show(m_desk.catalogue());
+    m_pages.setCurrentIndex(0);
+    m_articles.focusCode();
+    showReceipt();
+    showDeeds();
+}
+
+void TillWindow::showReceipt()
+{
+    const auto shown = m_desk.isOn() ? ShownReceipt::of(m_desk.cashRegister()) : nullptr;
+    m_table.show(shown);
+    m_shelf.show(shown);
+    m_strip.show(shown.get(),
+                 m_desk.isOn() ? m_desk.cashRegister().taraControl() : TaraControl::Absent,
+                 m_translator);
+    const Kopecks total = shown ? shown->receipt().total() : 0;
+    m_total.setText(m_translator.text(messages::tillTotal()) + QStringLiteral("  ")
+                    + toText(total));
+}
+
+void TillWindow::showDeeds()
+{
+    m_willShowDeeds = false;
+    const QList<int> selected = m_table.selectedPositions();
+    for (const DeedRow &row : deedRows()) {
+        const Outcome outcome =
+            m_desk.isOn() ? whyNot(row.deed, m_desk.cashRegister(), selected) : Outcome::busy();
+        m_deeds.setReason(row.deed, outcome.text(m_translator));
+    }
+}
+
+//! What is told in the middle of a command is looked at when it is over.
+void TillWindow::showDeedsSoon()
+{
+    if (std::exchange(m_willShowDeeds, true))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this] { showDeeds(); }, Qt::QueuedConnection);
+}
+
+void TillWindow::hear(const QJsonObject &note)
+{
+    const QString kind = note.value(QLatin1String("kind")).toString();
+    if (kind == QLatin1String("message"))
+        m_hasShownMessage = true;
+    if (kind == QLatin1String("outcome"))
+        showDeedsSoon();
+}
+
+Outcome TillWindow::carryOut(const Command &command)
+{
+    if (!m_desk.isOn() || m_desk.isBusy()) {
+        banner().tell(Outcome::busy().text(m_translator), Banner::Tone::Notice);
+        return Outcome::busy();
+    }
+    m_hasShownMessage = false;
+    banner().clear();
+    const Outcome outcome = [&] {
+        const AtWork atWork(m_strip, m_translator.text(told("till", "at work, please wait")));
+        return m_desk.cashRegister().carryOut(command);
+    }();
+    tellOutcome(outcome);
+    showDeeds();
+    return outcome;
+}
+
+void TillWindow::tellOutcome(const Outcome &outcome)
+{
+    if (outcome.kind == Outcome::Failed) {
+        m_fault.tellCommand(outcome.text(m_translator));
+        m_pages.setCurrentIndex(1);
+        return;
+    }
+    if (outcome && outcome.change)
+        banner().tell(m_translator.text(Message{messages::tillChange(), {toText(*outcome.change)}}),
+                      Banner::Tone::Notice);
+    // What the plugin showed stands there already.
+    else if (!outcome && (!m_hasShownMessage || outcome.change))
+        banner().tell(outcome.text(m_translator), Banner::Tone::Warning);
+}
+
+//! Without a receipt one is opened first.
+bool TillWindow::add(const QString &code, double count)
+{
+    if (m_desk.isOn() && m_desk.cashRegister().check(command::Open{})) {
+        if (!carryOut(command::Open{}))
+            return false;
+    }
+    if (!carryOut(command::Add{code, count}))
+        return false;
+    const auto lines = m_desk.cashRegister().receipt()->lines();
+    m_table.selectPosition(lines.constLast()->getPosnum());
+    return true;
+}
+
+void TillWindow::doDeed(Deed deed)
+{
+    const QList<int> selected = m_table.selectedPositions();
+    if (!m_desk.isOn() || m_desk.isBusy())
+        return;
+    if (const auto command = commandOf(deed, selected)) {
+        carryOut(*command);
+        return;
+    }
+    const Doer doer{[this](const Command &command) {
+                        return m_desk.isOn() ? m_desk.cashRegister().check(command)
+                                             : Outcome::busy();
+                    },
+                    [this](const Command &command) { carryOut(command); }};
+    (new EntryDialog(m_translator,
+                     entryFor(deed, selected, *m_desk.cashRegister().receipt(), m_translator, doer),
+                     this))
+        ->open();
+}
+
+void TillWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(!m_desk.isBusy());
+}
+
+//! What nothing else takes is a code.
+void TillWindow::keyPressEvent(QKeyEvent *event)
+{
+    const QString text = event->text();
+    if (!text.isEmpty() && text[0].isPrint())
+        m_articles.typeCode(text);
+    else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+        QCoreApplication::sendEvent(&m_table, event);
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+} // namespace till

@@ -1,0 +1,94 @@
+#ifndef WINDOW_DESK_TILLWINDOW_H
+#define WINDOW_DESK_TILLWINDOW_H
+
+#include "till/register/CashDesk.h"
+#include "window/desk/DeedBar.h"
+#include "window/desk/TopStrip.h"
+#include "window/desk/WindowFront.h"
+
+#include <QtWidgets/QMainWindow>
+
+QT_BEGIN_NAMESPACE
+class QStackedWidget;
+QT_END_NAMESPACE
+
+namespace till {
+
+class ArticlePanel;
+class CourseDock;
+class FaultPage;
+class ReceiptTable;
+class ScriptsDock;
+class Shelf;
+
+/*!
+ * The register in a window. Everything is done through the desk's register, as a command; what is
+ * shown is what was stored.
+ *
+ * While a command is under way, in a question say, nothing in here does anything, and the window
+ * does not close.
+ */
+class TillWindow final : public QMainWindow
+{
+public:
+    //! Of a \a desk that is off or on. Both must outlive the window.
+    TillWindow(CashDesk &desk, Notes &notes, const QString &language);
+    ~TillWindow() override;
+
+    //! Switches the desk on, or tells why that does not work.
+    void switchOn();
+    //! From now on all texts are in \a language.
+    void setLanguage(const QString &language);
+    const Translator &translator() const { return m_translator; }
+
+    //! Carries \a command out, and tells the cashier how it ended where that does not show.
+    Outcome carryOut(const Command &command);
+
+    ReceiptTable &table() { return m_table; }
+    Shelf &shelf() { return m_shelf; }
+    Banner &banner() { return m_strip.banner(); }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void layOut();
+    void connectParts();
+    void addShortcuts();
+    void fillMenu();
+    void translate();
+
+    QSet<int> selectedGoods() const;
+    void showReceipt();
+    void showDeeds();
+    void showDeedsSoon();
+    void hear(const QJsonObject &note);
+    bool add(const QString &code, double count);
+    void doDeed(Deed deed);
+    void tellOutcome(const Outcome &outcome);
+
+    CashDesk &m_desk;
+    Translator m_translator;
+    QString m_languageCode;
+    TopStrip &m_strip;
+    QStackedWidget &m_pages;
+    FaultPage &m_fault;
+    ReceiptTable &m_table;
+    QLabel &m_total;
+    DeedBar &m_deeds;
+    ArticlePanel &m_articles;
+    Shelf &m_shelf;
+    CourseDock &m_course;
+    ScriptsDock &m_scripts;
+    WindowFront m_front;
+    const InstalledFront m_installed;
+    Subscription m_receiptSeen;
+    Subscription m_outcomesHeard;
+    bool m_willShowDeeds = false;
+    bool m_hasShownMessage = false; //!< since the command under way began
+};
+
+} // namespace till
+
+#endif // WINDOW_DESK_TILLWINDOW_H

@@ -1,0 +1,27 @@
+#include "window/desk/WindowFront.h"
+
+#include "window/dialogs/QuestionDialog.h"
+
+#include <QtGui/QGuiApplication>
+
+namespace till {
+
+bool WindowFront::ask(const Question &question)
+{
+    QuestionDialog dialog(m_translator, question, &m_window);
+    // The till waits for the cashier now, not the cashier for the till.
+    const bool isAtWork = QGuiApplication::overrideCursor() != nullptr;
+    if (isAtWork)
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    const bool isConfirmed = dialog.exec() == QDialog::Accepted;
+    if (isAtWork)
+        QGuiApplication::restoreOverrideCursor();
+    return isConfirmed;
+}
+
+void WindowFront::show(const tr::Tr &message)
+{
+    m_strip.banner().tell(m_translator.text(message), Banner::Tone::Warning);
+}
+
+} // namespace till

@@ -1,0 +1,33 @@
+#ifndef WINDOW_DESK_WINDOWFRONT_H
+#define WINDOW_DESK_WINDOWFRONT_H
+
+#include "till/actions/Front.h"
+#include "till/language/Translator.h"
+#include "window/desk/TopStrip.h"
+
+namespace till {
+
+//! Asks the cashier in a dialog of the window, and shows messages in its strip.
+class WindowFront final : public Front
+{
+public:
+    //! All must outlive it; \a translator may change its language.
+    WindowFront(QWidget &window, TopStrip &strip, const Translator &translator)
+        : m_window(window)
+        , m_strip(strip)
+        , m_translator(translator)
+    {
+    }
+
+    bool ask(const Question &question) override;
+    void show(const tr::Tr &message) override;
+
+private:
+    QWidget &m_window;
+    TopStrip &m_strip;
+    const Translator &m_translator;
+};
+
+} // namespace till
+
+#endif // WINDOW_DESK_WINDOWFRONT_H

@@ -1,0 +1,55 @@
+#ifndef WINDOW_DIALOGS_ENTRYDIALOG_H
+#define WINDOW_DIALOGS_ENTRYDIALOG_H
+
+#include "till/language/Translator.h"
+
+#include <QtWidgets/QDialog>
+
+#include <functional>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QLineEdit;
+class QPushButton;
+QT_END_NAMESPACE
+
+namespace till {
+
+/*!
+ * Asks for what a command needs: a quantity, money, a number. It can be typed, or touched on the
+ * pad. Opened with `open()`, it keeps the window from the mouse and the keys, and runs no loop of
+ * its own.
+ */
+class EntryDialog final : public QDialog
+{
+public:
+    //! What is asked for.
+    struct Wanted
+    {
+        QString title;
+        QString hint;     //!< below the field; may be empty
+        QString proposal; //!< what the field begins with, selected
+        QString signs;    //!< beside the digits, each a key of the pad
+        //! What is wrong with what was entered, in words; empty when it can be taken.
+        std::function<QString(const QString &text)> check;
+        std::function<void(const QString &text)> taken;
+    };
+
+    EntryDialog(const Translator &translator, Wanted wanted, QWidget *parent);
+
+private:
+    void layOut(const Translator &translator);
+    QWidget *makePad();
+    QPushButton *makeKey(const QString &sign, const QString &name, std::function<void()> press);
+    void check();
+    void take();
+
+    const Wanted m_wanted;
+    QLineEdit &m_field;
+    QLabel &m_fault;
+    QPushButton &m_confirm;
+};
+
+} // namespace till
+
+#endif // WINDOW_DIALOGS_ENTRYDIALOG_H

@@ -1,0 +1,100 @@
+#include "window/dialogs/FaultPage.h"
+
+#include "window/look/Paints.h"
+
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+namespace till {
+
+FaultPage::FaultPage(const Translator &translator, QWidget *parent)
+    : QWidget(parent)
+    , m_translator(translator)
+    , m_title(*new QLabel(this))
+    , m_placeCaption(*new QLabel(this))
+    , m_place(*new QLabel(this))
+    , m_reasonCaption(*new QLabel(this))
+    , m_reason(*new QLabel(this))
+    , m_remedyCaption(*new QLabel(this))
+    , m_remedy(*new QLabel(this))
+    , m_goOn(*new QPushButton(this))
+{
+    setObjectName(QStringLiteral("faultPage"));
+    m_place.setObjectName(QStringLiteral("place"));
+    m_reason.setObjectName(QStringLiteral("reason"));
+    m_remedy.setObjectName(QStringLiteral("remedy"));
+    m_goOn.setObjectName(QStringLiteral("goOn"));
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.6);
+    m_title.setFont(large);
+    QFont bold = font();
+    bold.setBold(true);
+    auto *const all = new QVBoxLayout(this);
+    all->setContentsMargins(40, 20, 40, 20);
+    all->addStretch();
+    for (QLabel *const label : {&m_title, &m_reasonCaption, &m_reason, &m_placeCaption, &m_place,
+                                &m_remedyCaption, &m_remedy}) {
+        label->setWordWrap(true);
+        label->setTextFormat(Qt::PlainText);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        all->addWidget(label);
+    }
+    for (QLabel *const caption : {&m_placeCaption, &m_reasonCaption, &m_remedyCaption})
+        caption->setFont(bold);
+    m_goOn.setMinimumHeight(touchHeight);
+    m_goOn.setAutoDefault(true);
+    all->addSpacing(16);
+    all->addWidget(&m_goOn, 0, Qt::AlignLeft);
+    all->addStretch();
+    connect(&m_goOn, &QPushButton::clicked, this, [this] {
+        if (goOn)
+            goOn();
+    });
+}
+
+void FaultPage::tellStart(const Fault &fault)
+{
+    m_isOfStart = true;
+    m_fault = fault;
+    fill();
+}
+
+void FaultPage::tellCommand(const QString &words)
+{
+    m_isOfStart = false;
+    m_fault = {{}, words};
+    fill();
+}
+
+void FaultPage::translate(const Translator &translator)
+{
+    m_translator = translator;
+    fill();
+}
+
+void FaultPage::fill()
+{
+    const auto say = [this](const Message &message) { return m_translator.text(message); };
+    m_title.setText(m_isOfStart ? say(told("till", "The till could not be switched on"))
+                                : say(told("till", "The command came to nothing; the receipt is as "
+                                                   "it was before")));
+    setPart(m_reasonCaption, m_reason, told("till", "What is wrong"), m_fault.reason);
+    setPart(m_placeCaption, m_place, told("till", "Where"), m_fault.place);
+    setPart(m_remedyCaption, m_remedy, told("till", "What to do"), m_fault.remedy);
+    m_goOn.setText(m_isOfStart ? say(told("till", "Try again"))
+                               : say(told("till", "Back to the receipt")));
+    setAccessibleName(m_title.text());
+    setAccessibleDescription(m_fault.text());
+    m_goOn.setFocus();
+}
+
+void FaultPage::setPart(QLabel &caption, QLabel &text, const Message &title, const QString &words)
+{
+    caption.setText(m_translator.text(title));
+    text.setText(words);
+    caption.setVisible(!words.isEmpty());
+    text.setVisible(!words.isEmpty());
+}
+
+} // namespace till

@@ -1,0 +1,71 @@
+#include "window/dialogs/QuestionDialog.h"
+
+#include "till/view/DisplayText.h"
+#include "window/look/Paints.h"
+
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
+
+namespace till {
+
+namespace {
+
+//! \a text as a widget shows it: its line breaks stay, other control characters do not.
+QString shown(const QString &text)
+{
+    QStringList lines = text.split(u'\n');
+    for (QString &line : lines)
+        line = printable(line);
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+QuestionDialog::QuestionDialog(const Translator &translator, const Question &question,
+                               QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("question"));
+    setModal(true);
+    setWindowTitle(translator.text(told("till", "Question")));
+    auto *const text = new QLabel(shown(translator.text(question.text)), this);
+    text->setObjectName(QStringLiteral("text"));
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    text->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
+    setAccessibleName(text->text());
+    auto *const icon = new QLabel(this);
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxQuestion).pixmap(size));
+    const auto makeButton = [&](const tr::Tr &choice, const char *name) {
+        // An ampersand in a choice is no mark of a key.
+        auto *const button =
+            new QPushButton(printable(translator.text(choice)).replace(u'&', QLatin1String("&&")));
+        button->setObjectName(QLatin1String(name));
+        button->setAccessibleName(translator.text(choice));
+        button->setMinimumSize(3 * touchHeight, touchHeight);
+        button->setAutoDefault(true);
+        return button;
+    };
+    auto *const confirm = makeButton(question.confirm, "confirm");
+    auto *const cancel = makeButton(question.cancel, "cancel");
+    connect(confirm, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto *const words = new QHBoxLayout;
+    words->addWidget(icon, 0, Qt::AlignTop);
+    words->addWidget(text, 1);
+    auto *const buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(confirm);
+    buttons->addWidget(cancel);
+    auto *const all = new QVBoxLayout(this);
+    all->setSpacing(16);
+    all->addLayout(words);
+    all->addLayout(buttons);
+    cancel->setDefault(true);
+    cancel->setFocus();
+}
+
+} // namespace till

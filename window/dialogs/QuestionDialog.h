@@ -1,0 +1,22 @@
+#ifndef WINDOW_DIALOGS_QUESTIONDIALOG_H
+#define WINDOW_DIALOGS_QUESTIONDIALOG_H
+
+#include "till/language/Translator.h"
+
+#include <QtWidgets/QDialog>
+
+namespace till {
+
+/*!
+ * A question to the cashier, with its own text and its own two choices. What a scanner types in the
+ * meantime must not say yes: the declining choice has the focus, and closing takes it too.
+ */
+class QuestionDialog final : public QDialog
+{
+public:
+    QuestionDialog(const Translator &translator, const Question &question, QWidget *parent);
+};
+
+} // namespace till
+
+#endif // WINDOW_DIALOGS_QUESTIONDIALOG_H

@@ -1,0 +1,24 @@
+#ifndef WINDOW_SHELF_VESSELDELEGATE_H
+#define WINDOW_SHELF_VESSELDELEGATE_H
+
+#include <QtWidgets/QStyledItemDelegate>
+
+namespace till {
+
+//! Draws the taras of a `VesselModel` as vessels: the greater the capacity, the greater the vessel.
+class VesselDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    //! The room of each vessel in \a font, with its texts.
+    static QSize roomSize(const QFont &font);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+};
+
+} // namespace till
+
+#endif // WINDOW_SHELF_VESSELDELEGATE_H
