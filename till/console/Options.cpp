@@ -1,5 +1,6 @@
 #include "till/console/Options.h"
 
+#include "till/console/OptionMeaning.h"
 #include "till/terminal/Output.h"
 
 #include <QtCore/QCommandLineParser>
@@ -241,6 +242,10 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
         return checked;
     if (Result<> checked = checkTogether(parser, options.mode); !checked)
         return checked;
+    if (Result<> checked = checkMeaning(parser, options.mode); !checked)
+        return checked;
+    if (Result<> checked = checkOnce(parser); !checked)
+        return checked;
     options.language = parser.value("lang");
     if (!Translator::isKnown(options.language))
         return Fault{"--lang", '"' + brief(options.language)
@@ -262,7 +267,7 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
                      {}};
     if (Result<> read = readPlay(parser, options); !read)
         return read;
-    const auto lookup = readLookup(parser, options.mode);
+    const auto lookup = readLookup(parser);
     if (!lookup)
         return lookup.error();
     options.lookup = *lookup;

@@ -112,7 +112,7 @@ void Recorder::read(const QJsonObject &note)
     } else if (kind == "loyalty" && m_underWay)
         ++m_underWay->loyalty;
     else if (kind == "question")
-        leaveOut("a question that no command asked", note["text"].toString());
+        leaveOut(told("till", "a question that no command asked"), note["text"].toString());
     else if (kind == "answer" && m_underWay)
         m_underWay->answers.append(note["confirmed"].toBool() ? "yes" : "no");
     else if (kind == "message" && m_underWay) {
@@ -129,15 +129,26 @@ void Recorder::finish()
     tellCutOff(last);
 }
 
+QStringList Recorder::unsaid() const
+{
+    QStringList texts;
+    for (const Unsaid &one : m_unsaid)
+        texts.append(one.why.pattern.text() + ": " + one.text);
+    return texts;
+}
+
 Message Recorder::report(const QString &path) const
 {
     if (m_unsaid.isEmpty())
         return told("till", "%1: %2 command(s), %3 expectation(s)")
             .with({path, QString::number(m_commands), QString::number(m_expectations)});
-    constexpr qsizetype most = 3;
-    const QString first = m_unsaid.mid(0, most).join("; ");
-    return told("till", "%1: a script cannot say: %2")
-        .with({path, m_unsaid.size() > most ? first + "; …" : first});
+    const Unsaid &first = m_unsaid.constFirst();
+    const QStringList values{path, first.why.pattern.text(), first.text,
+                             QString::number(m_unsaid.size() - 1)};
+    return (m_unsaid.size() == 1
+                ? told("till", "%1: a script cannot say: %L2: %3")
+                : told("till", "%1: a script cannot say: %L2: %3; and %4 more, as it tells"))
+        .with(values);
 }
 
 void Recorder::readStart(const QJsonObject &note)
@@ -205,7 +216,7 @@ void Recorder::readOutcome(const QString &outcome)
     else if (isOfRegister(command.text))
         tell(command, outcome);
     else if (outcome == "failed" && switchesTill(command.text))
-        leaveOut("could not be done", command.text);
+        leaveOut(told("till", "could not be done"), command.text);
 }
 
 void Recorder::tellSwitched(const UnderWay &command)
@@ -227,11 +238,11 @@ void Recorder::tell(const UnderWay &command, const QString &outcome)
         {"done", ""}, {"refused", "expect refused "}, {"mistake", "expect mistake "}};
     const bool isMistake = outcome == "mistake";
     if (m_isStrange)
-        return leaveOut("the receipt was opened before this begins", command.text);
+        return leaveOut(told("till", "the receipt was opened before this begins"), command.text);
     if (outcome == "failed")
-        return leaveOut("could not be done", command.text);
+        return leaveOut(told("till", "could not be done"), command.text);
     if (!ends.contains(outcome) || !canBeTyped(command.text, isMistake))
-        return leaveOut("cannot be typed", command.text);
+        return leaveOut(told("till", "cannot be typed"), command.text);
     tellAnswers(command);
     tellCommand(ends[outcome] + command.text);
     if (!isMistake)
@@ -297,10 +308,10 @@ void Recorder::expect(const QStringList &texts)
         m_write("expect " + text);
 }
 
-void Recorder::leaveOut(const QString &why, const QString &text)
+void Recorder::leaveOut(const Message &why, const QString &text)
 {
-    m_unsaid.append(why + ": " + QString(text).replace('\n', ' '));
-    m_write("# " + m_unsaid.constLast());
+    m_unsaid.append({why, QString(text).replace('\n', ' ')});
+    m_write("# " + unsaid().constLast());
 }
 
 } // namespace till

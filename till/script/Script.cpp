@@ -37,10 +37,11 @@ ScriptFault faultOf(const ScriptLine &line, const Outcome &outcome, const QStrin
     return fault;
 }
 
-ScriptFault behindQuit(const ScriptLine &line)
+ScriptFault behindQuit(const CommandLine &commands, const ScriptLine &line)
 {
     const QString command = brief(line.text.trimmed());
-    const QString why = "stands behind 'quit', where nothing is carried out";
+    const QString why = commands.textOf(
+        Outcome::mistake(told("till", "stands behind 'quit', where nothing is carried out")));
     return {{line.place(), command + ": " + why}, command, {}, why, true};
 }
 
@@ -122,7 +123,7 @@ Result<void, ScriptFault> Script::playLines(CommandLine &commands, const Echo &e
     Loose loose;
     for (const ScriptLine &line : m_lines) {
         if (commands.hasQuit() && line.isCommand())
-            return behindQuit(line);
+            return behindQuit(commands, line);
         if (const QString shown = shownCommand(line); !shown.isEmpty())
             echo(forTerminal(shown));
         if (line.isCommand())
