@@ -1,75 +1,11 @@
 #include "till/recorder/Recorder.h"
 
+#include "till/recorder/RecordedWords.h"
 #include "till/words/RegisterWords.h"
-#include "till/words/Words.h"
 
 #include <utility>
 
 namespace till {
-
-namespace {
-
-//! The words of \a text, or none.
-QStringList wordsOf(const QString &text)
-{
-    return splitWords(text).value_or(QStringList());
-}
-
-bool isOfRegister(const QString &text)
-{
-    return rowCalled(wordsOf(text).value(0), registerWords()) != nullptr;
-}
-
-bool switchesTill(const QString &text)
-{
-    return QStringList{"set", "restart"}.contains(wordsOf(text).value(0).toLower());
-}
-
-/*!
- * Whether a script that has the line \a text does what the command did of which it is the text; one
- * that was a \a mistake may be no command at all.
- */
-bool canBeTyped(const QString &text, bool mistake)
-{
-    if (text.contains('\n') || QString::fromUtf8(text.toUtf8()) != text)
-        return false;
-    const ReadCommand read = readCommand(wordsOf(text));
-    return read ? toText(*read) == text : mistake;
-}
-
-//! The text of a question or a message, as "expect" has it.
-QString textOf(const QJsonObject &note)
-{
-    return asWord(note["text"].toString().replace('\n', ' '));
-}
-
-//! What is told of a question or a message, as "expect" names it.
-QString nameOf(const QJsonObject &note)
-{
-    const QString key = note["key"].toString();
-    return key.isEmpty() ? textOf(note) : asWord(key);
-}
-
-//! Appends \a name, unless it is there or says nothing of its own.
-void appendOnce(QStringList &names, const QString &name)
-{
-    if (!name.isEmpty() && name != "none" && !names.contains(name))
-        names.append(name);
-}
-
-//! The lines that bring the settings \a before to \a now.
-QStringList settingLines(const QJsonObject &now, const QJsonObject &before)
-{
-    QStringList lines;
-    for (auto setting = now.begin(); setting != now.end(); ++setting) {
-        if (before[setting.key()] != setting.value())
-            lines.append(
-                joinWords({"set", setting.key(), setting.value().toBool() ? "true" : "false"}));
-    }
-    return lines;
-}
-
-} // namespace
 
 Recorder::Recorder(Write write)
     : m_write(std::move(write))
@@ -86,7 +22,7 @@ const QSet<QString> &Recorder::kinds()
 
 std::optional<Document::Type> Recorder::openedBy(const QString &text)
 {
-    const ReadCommand read = readCommand(wordsOf(text));
+    const ReadCommand read = readCommand(commandWords(text));
     if (!read || !std::holds_alternative<command::Open>(*read))
         return std::nullopt;
     return std::get<command::Open>(*read).type;
@@ -107,8 +43,8 @@ void Recorder::read(const QJsonObject &note)
     else if (kind == "outcome")
         readOutcome(note["outcome"].toString());
     else if (kind == "question" && m_underWay) {
-        appendOnce(m_underWay->questions, nameOf(note));
-        appendOnce(m_underWay->questions, textOf(note));
+        appendOnce(m_underWay->questions, saidName(note));
+        appendOnce(m_underWay->questions, saidText(note));
     } else if (kind == "loyalty" && m_underWay)
         ++m_underWay->loyalty;
     else if (kind == "question")
@@ -117,7 +53,7 @@ void Recorder::read(const QJsonObject &note)
         m_underWay->answers.append(note["confirmed"].toBool() ? "yes" : "no");
     else if (kind == "message" && m_underWay) {
         m_underWay->isSilent = false;
-        appendOnce(m_underWay->messages, nameOf(note));
+        appendOnce(m_underWay->messages, saidName(note));
     }
 }
 

@@ -63,6 +63,10 @@ TEST_F(Options, CompletionOfBash_IsThatOfTheHelp)
     EXPECT_EQ(completed("s"), "set-apart ");
     EXPECT_EQ(completed("--c"), "--catalogue --config --colour --color --csv ");
     EXPECT_EQ(completed("--lang ''"), "ru en ");
+    EXPECT_EQ(completed("--jobs ''"), " ");
+    EXPECT_EQ(completed("check ''"), " ");
+    for (const char *before : {"play ", "--quiet from-trace ", "backup ", "--junit "})
+        EXPECT_EQ(completed(before + write("one", "")), path("one").toStdString() + " ") << before;
     EXPECT_EQ(completed("play " + write("one.till", "")), path("one.till").toStdString() + " ");
 }
 
