@@ -3,7 +3,6 @@
 #include "till/language/Message.h"
 
 #include <QtCore/QCommandLineParser>
-#include <QtCore/QMap>
 
 namespace till {
 
@@ -18,24 +17,6 @@ QString stateWords()
     for (const ReceiptState state : allStates)
         words.append(wordOf(state));
     return words.join(", ");
-}
-
-//! What is wrong with an option that means nothing to \a mode.
-Result<> checkMode(const QCommandLineParser &parser, const QString &mode)
-{
-    static const QStringList ofList{"receipts"};
-    static const QMap<QString, QStringList> modes{
-        {"json", {"receipts", "receipt", "journal"}},
-        {"csv", ofList},
-        {"from", ofList},
-        {"to", ofList},
-        {"state", ofList},
-    };
-    for (auto entry = modes.cbegin(); entry != modes.cend(); ++entry) {
-        if (parser.isSet(entry.key()) && !entry->contains(mode))
-            return Fault{"--" + entry.key(), "means something to " + entry->join(", ") + " alone"};
-    }
-    return {};
 }
 
 Result<QDate> readDay(const QCommandLineParser &parser, const QString &name)
@@ -92,10 +73,8 @@ QList<QCommandLineOption> lookupOptions()
     };
 }
 
-Result<LookupOptions> readLookup(const QCommandLineParser &parser, const QString &mode)
+Result<LookupOptions> readLookup(const QCommandLineParser &parser)
 {
-    if (const Result<> checked = checkMode(parser, mode); !checked)
-        return checked.error();
     if (parser.isSet("json") && parser.isSet("csv"))
         return Fault{"--csv", "not with --json"};
     const auto selection = readSelection(parser);

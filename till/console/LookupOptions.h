@@ -25,9 +25,8 @@ struct LookupOptions
 //! The options for that.
 QList<QCommandLineOption> lookupOptions();
 
-//! Reads them for the command \a mode of the program, to which none may be given that mean nothing
-//! to it.
-Result<LookupOptions> readLookup(const QCommandLineParser &parser, const QString &mode);
+//! Reads them.
+Result<LookupOptions> readLookup(const QCommandLineParser &parser);
 
 } // namespace till
 

@@ -1,5 +1,6 @@
 #include "till/console/Options.h"
 
+#include "till/console/OptionMeaning.h"
 #include "till/terminal/Output.h"
 
 #include <QtCore/QCommandLineParser>
@@ -204,6 +205,10 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
         return checked;
     if (Result<> checked = checkTogether(parser, options.mode); !checked)
         return checked;
+    if (Result<> checked = checkMeaning(parser, options.mode); !checked)
+        return checked;
+    if (Result<> checked = checkOnce(parser); !checked)
+        return checked;
     const auto setup = readSetup(parser);
     if (!setup)
         return setup.error();
@@ -224,7 +229,7 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
     options.ownDatabase = parser.isSet("db");
     if (Result<> read = readPlay(parser, options); !read)
         return read;
-    const auto lookup = readLookup(parser, options.mode);
+    const auto lookup = readLookup(parser);
     if (!lookup)
         return lookup.error();
     options.lookup = *lookup;

@@ -120,6 +120,7 @@ int playApart(Options options, Notes &notes, const Translator &translator, Telle
     apart.jobs = options.jobs > 0        ? options.jobs
                  : options.playsInTurn() ? 1
                                          : QThread::idealThreadCount();
+    apart.translator = translator;
     apart.timeout = std::chrono::seconds(options.timeout);
     apart.play = [&player, &teller](const QString &script, const Apart::SoFar &soFar) {
         teller.forget();
@@ -144,7 +145,7 @@ void tellCopy(const CashDesk &desk, const Translator &translator,
 
 int play(const Options &options, Notes &notes, const Translator &translator)
 {
-    Teller teller(options);
+    Teller teller(options, translator);
     if (const Result<> begun = teller.begin(); !begun) {
         Output::error(begun.error().text());
         return StartFailed;

@@ -22,9 +22,9 @@ bool passes(const Options &options)
 
 } // namespace
 
-Teller::Teller(const Options &options)
+Teller::Teller(const Options &options, const Translator &translator)
     : m_options(options)
-    , m_report(options.words.size())
+    , m_report(options.words.size(), translator)
     , m_junit(options.junit)
     , m_passes(passes(options))
 {

@@ -14,7 +14,7 @@ class Teller
 {
 public:
     //! Of a run of the scripts that are the words of \a options, which must outlive this object.
-    explicit Teller(const Options &options);
+    Teller(const Options &options, const Translator &translator);
 
     //! Readies what has to be there before the first script is played.
     Result<> begin();

@@ -3,11 +3,8 @@
 _till()
 {
     local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} help command="" i
+    help=$("$1" --help 2>/dev/null)
     case $before in
-        --db | --catalogue | --plugin | --config | --record | --trace | --junit)
-            compopt -o filenames
-            mapfile -t COMPREPLY < <(compgen -f -- "$current")
-            return ;;
         --lang)
             mapfile -t COMPREPLY < <(compgen -W 'ru en' -- "$current")
             return ;;
@@ -17,27 +14,32 @@ _till()
         --state)
             mapfile -t COMPREPLY < <(compgen -W 'open subtotal closed cancelled' -- "$current")
             return ;;
-        --set | --jobs | --timeout | --from | --to) return ;;
+        --*)
+            case $(sed -nE "s/^  $before <([A-Z=]+)>.*/\1/p" <<<"$help") in
+                '') ;;
+                FILE)
+                    compopt -o filenames
+                    mapfile -t COMPREPLY < <(compgen -f -- "$current")
+                    return ;;
+                *) return ;;
+            esac ;;
     esac
-    help=$("$1" --help 2>/dev/null)
     if [[ $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(grep -oE '^  +-.*' <<<"$help" | grep -oE -- '--[a-z-]+')" \
             -- "$current")
         return
     fi
     for ((i = 1; i < COMP_CWORD; ++i)); do
-        case ${COMP_WORDS[i]} in
-            play | backup | demo | from-trace | info | check | set-apart | receipts | receipt | journal) command=${COMP_WORDS[i]} ;;
-        esac
+        [[ ${COMP_WORDS[i]} == [a-z]* ]] || continue
+        grep -qE "^  till ${COMP_WORDS[i]}( |\$)" <<<"$help" && command=${COMP_WORDS[i]}
     done
-    case $command in
-        '')
-            mapfile -t COMPREPLY < <(compgen -W "$(sed -nE 's/^  till ([a-z-]+) .*/\1/p' <<<"$help")" \
-                -- "$current") ;;
-        play | backup | from-trace)
-            compopt -o filenames
-            mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
-    esac
+    if [[ -z $command ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$(sed -nE 's/^  till ([a-z-]+) .*/\1/p' <<<"$help")" \
+            -- "$current")
+    elif grep -qE "^  till $command (PATH|FILE|TRACE)" <<<"$help"; then
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+    fi
 }
 
 complete -F _till till

@@ -420,10 +420,6 @@
         <translation>%1: команд: %2, ожиданий: %3</translation>
     </message>
     <message>
-        <source>%1: a script cannot say: %2</source>
-        <translation>%1: сценарием не выразить: %2</translation>
-    </message>
-    <message>
         <source>declined</source>
         <translation>отклонено</translation>
     </message>
@@ -1038,6 +1034,114 @@
     <message>
         <source>Shelf of tara</source>
         <translation>Полка с тарой</translation>
+    </message>
+    <message>
+        <source>a question that no command asked</source>
+        <translation>вопрос, который не задала ни одна команда</translation>
+    </message>
+    <message>
+        <source>%1: a script cannot say: %L2: %3</source>
+        <translation>%1: сценарием не выразить: %L2: %3</translation>
+    </message>
+    <message>
+        <source>%1: a script cannot say: %L2: %3; and %4 more, as it tells</source>
+        <translation>%1: сценарием не выразить: %L2: %3; и ещё: %4, как сказано в нём</translation>
+    </message>
+    <message>
+        <source>could not be done</source>
+        <translation>не удалось выполнить</translation>
+    </message>
+    <message>
+        <source>the receipt was opened before this begins</source>
+        <translation>чек открыт раньше, чем началась запись</translation>
+    </message>
+    <message>
+        <source>cannot be typed</source>
+        <translation>нельзя набрать</translation>
+    </message>
+    <message>
+        <source>… what came behind %1 MiB is left out</source>
+        <translation>… всё после %1 МиБ опущено</translation>
+    </message>
+    <message>
+        <source>hangs: ended by SIGKILL after %1 s</source>
+        <translation>зависание: через %1 с завершён сигналом SIGKILL</translation>
+    </message>
+    <message>
+        <source>interrupted by %1</source>
+        <translation>прерван сигналом %1</translation>
+    </message>
+    <message>
+        <source>crashed: %1</source>
+        <translation>аварийное завершение: %1</translation>
+    </message>
+    <message>
+        <source>the process ended with status %1 before the script</source>
+        <translation>процесс завершился со статусом %1 раньше сценария</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>не прошёл</translation>
+    </message>
+    <message>
+        <source>not ended</source>
+        <translation>прерван</translation>
+    </message>
+    <message>
+        <source>wrong</source>
+        <translation>неверен</translation>
+    </message>
+    <message>
+        <source>not begun</source>
+        <translation>не начат</translation>
+    </message>
+    <message>
+        <source>script</source>
+        <translation>сценарий</translation>
+    </message>
+    <message>
+        <source>command</source>
+        <translation>команда</translation>
+    </message>
+    <message>
+        <source>expected</source>
+        <translation>ожидается</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>найдено</translation>
+    </message>
+    <message>
+        <source>checks nothing, as it expects nothing</source>
+        <translation>ничего не проверяет, так как ничего не ожидает</translation>
+    </message>
+    <message>
+        <source>%1 of %2 scripts held</source>
+        <translation>прошло сценариев: %1 из %2</translation>
+    </message>
+    <message>
+        <source>expectations: %1</source>
+        <translation>проверок: %1</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>не прошло: %1</translation>
+    </message>
+    <message>
+        <source>%1 wrong</source>
+        <translation>неверных: %1</translation>
+    </message>
+    <message>
+        <source>%1 interrupted</source>
+        <translation>прервано: %1</translation>
+    </message>
+    <message>
+        <source>%1 not played</source>
+        <translation>не сыграно: %1</translation>
+    </message>
+    <message>
+        <source>stands behind &apos;quit&apos;, where nothing is carried out</source>
+        <translation>стоит после &apos;quit&apos;, где ничего не выполняется</translation>
     </message>
 </context>
 </TS>

@@ -1,75 +1,11 @@
 #include "till/recorder/Recorder.h"
 
+#include "till/recorder/RecordedWords.h"
 #include "till/words/RegisterWords.h"
-#include "till/words/Words.h"
 
 #include <utility>
 
 namespace till {
-
-namespace {
-
-//! The words of \a text, or none.
-QStringList wordsOf(const QString &text)
-{
-    return splitWords(text).value_or(QStringList());
-}
-
-bool isOfRegister(const QString &text)
-{
-    return rowCalled(wordsOf(text).value(0), registerWords()) != nullptr;
-}
-
-bool switchesTill(const QString &text)
-{
-    return QStringList{"set", "restart"}.contains(wordsOf(text).value(0).toLower());
-}
-
-/*!
- * Whether a script that has the line \a text does what the command did of which it is the text; one
- * that was a \a mistake may be no command at all.
- */
-bool canBeTyped(const QString &text, bool mistake)
-{
-    if (text.contains('\n') || QString::fromUtf8(text.toUtf8()) != text)
-        return false;
-    const ReadCommand read = readCommand(wordsOf(text));
-    return read ? toText(*read) == text : mistake;
-}
-
-//! The text of a question or a message, as "expect" has it.
-QString textOf(const QJsonObject &note)
-{
-    return asWord(note["text"].toString().replace('\n', ' '));
-}
-
-//! What is told of a question or a message, as "expect" names it.
-QString nameOf(const QJsonObject &note)
-{
-    const QString key = note["key"].toString();
-    return key.isEmpty() ? textOf(note) : asWord(key);
-}
-
-//! Appends \a name, unless it is there or says nothing of its own.
-void appendOnce(QStringList &names, const QString &name)
-{
-    if (!name.isEmpty() && name != "none" && !names.contains(name))
-        names.append(name);
-}
-
-//! The lines that bring the settings \a before to \a now.
-QStringList settingLines(const QJsonObject &now, const QJsonObject &before)
-{
-    QStringList lines;
-    for (auto setting = now.begin(); setting != now.end(); ++setting) {
-        if (before[setting.key()] != setting.value())
-            lines.append(
-                joinWords({"set", setting.key(), setting.value().toBool() ? "true" : "false"}));
-    }
-    return lines;
-}
-
-} // namespace
 
 Recorder::Recorder(Write write)
     : m_write(std::move(write))
@@ -86,7 +22,7 @@ const QSet<QString> &Recorder::kinds()
 
 std::optional<Document::Type> Recorder::openedBy(const QString &text)
 {
-    const ReadCommand read = readCommand(wordsOf(text));
+    const ReadCommand read = readCommand(commandWords(text));
     if (!read || !std::holds_alternative<command::Open>(*read))
         return std::nullopt;
     return std::get<command::Open>(*read).type;
@@ -107,17 +43,17 @@ void Recorder::read(const QJsonObject &note)
     else if (kind == "outcome")
         readOutcome(note["outcome"].toString());
     else if (kind == "question" && m_underWay) {
-        appendOnce(m_underWay->questions, nameOf(note));
-        appendOnce(m_underWay->questions, textOf(note));
+        appendOnce(m_underWay->questions, saidName(note));
+        appendOnce(m_underWay->questions, saidText(note));
     } else if (kind == "loyalty" && m_underWay)
         ++m_underWay->loyalty;
     else if (kind == "question")
-        leaveOut("a question that no command asked", note["text"].toString());
+        leaveOut(told("till", "a question that no command asked"), note["text"].toString());
     else if (kind == "answer" && m_underWay)
         m_underWay->answers.append(note["confirmed"].toBool() ? "yes" : "no");
     else if (kind == "message" && m_underWay) {
         m_underWay->isSilent = false;
-        appendOnce(m_underWay->messages, nameOf(note));
+        appendOnce(m_underWay->messages, saidName(note));
     }
 }
 
@@ -129,15 +65,26 @@ void Recorder::finish()
     tellCutOff(last);
 }
 
+QStringList Recorder::unsaid() const
+{
+    QStringList texts;
+    for (const Unsaid &one : m_unsaid)
+        texts.append(one.why.pattern.text() + ": " + one.text);
+    return texts;
+}
+
 Message Recorder::report(const QString &path) const
 {
     if (m_unsaid.isEmpty())
         return told("till", "%1: %2 command(s), %3 expectation(s)")
             .with({path, QString::number(m_commands), QString::number(m_expectations)});
-    constexpr qsizetype most = 3;
-    const QString first = m_unsaid.mid(0, most).join("; ");
-    return told("till", "%1: a script cannot say: %2")
-        .with({path, m_unsaid.size() > most ? first + "; …" : first});
+    const Unsaid &first = m_unsaid.constFirst();
+    const QStringList values{path, first.why.pattern.text(), first.text,
+                             QString::number(m_unsaid.size() - 1)};
+    return (m_unsaid.size() == 1
+                ? told("till", "%1: a script cannot say: %L2: %3")
+                : told("till", "%1: a script cannot say: %L2: %3; and %4 more, as it tells"))
+        .with(values);
 }
 
 void Recorder::readStart(const QJsonObject &note)
@@ -205,7 +152,7 @@ void Recorder::readOutcome(const QString &outcome)
     else if (isOfRegister(command.text))
         tell(command, outcome);
     else if (outcome == "failed" && switchesTill(command.text))
-        leaveOut("could not be done", command.text);
+        leaveOut(told("till", "could not be done"), command.text);
 }
 
 void Recorder::tellSwitched(const UnderWay &command)
@@ -227,11 +174,11 @@ void Recorder::tell(const UnderWay &command, const QString &outcome)
         {"done", ""}, {"refused", "expect refused "}, {"mistake", "expect mistake "}};
     const bool isMistake = outcome == "mistake";
     if (m_isStrange)
-        return leaveOut("the receipt was opened before this begins", command.text);
+        return leaveOut(told("till", "the receipt was opened before this begins"), command.text);
     if (outcome == "failed")
-        return leaveOut("could not be done", command.text);
+        return leaveOut(told("till", "could not be done"), command.text);
     if (!ends.contains(outcome) || !canBeTyped(command.text, isMistake))
-        return leaveOut("cannot be typed", command.text);
+        return leaveOut(told("till", "cannot be typed"), command.text);
     tellAnswers(command);
     tellCommand(ends[outcome] + command.text);
     if (!isMistake)
@@ -297,10 +244,10 @@ void Recorder::expect(const QStringList &texts)
         m_write("expect " + text);
 }
 
-void Recorder::leaveOut(const QString &why, const QString &text)
+void Recorder::leaveOut(const Message &why, const QString &text)
 {
-    m_unsaid.append(why + ": " + QString(text).replace('\n', ' '));
-    m_write("# " + m_unsaid.constLast());
+    m_unsaid.append({why, QString(text).replace('\n', ' ')});
+    m_write("# " + unsaid().constLast());
 }
 
 } // namespace till

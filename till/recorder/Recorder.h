@@ -41,7 +41,7 @@ public:
     int commands() const { return m_commands; }
     //! What no script can say, in English, one text each. It is in the script as a comment, which
     //! will not hold without it.
-    const QStringList &unsaid() const { return m_unsaid; }
+    QStringList unsaid() const;
     //! What there is to tell of the script, which was written to \a path: what is unsaid, or else
     //! how much is in it.
     Message report(const QString &path) const;
@@ -60,6 +60,13 @@ private:
         int loyalty = 0; //!< how often the loyalty system was told
     };
 
+    //! A command, or what was asked, that is left out.
+    struct Unsaid
+    {
+        Message why;
+        QString text;
+    };
+
     void readStart(const QJsonObject &note);
     void begin(const UnderWay &command);
     void readVerdict();
@@ -75,7 +82,7 @@ private:
     bool tellCutOff(const UnderWay &command);
     void tellCommand(const QString &line);
     void expect(const QStringList &texts);
-    void leaveOut(const QString &why, const QString &text);
+    void leaveOut(const Message &why, const QString &text);
 
     Write m_write;
     bool m_isOn = false; //!< a till was started
@@ -89,7 +96,7 @@ private:
     std::optional<UnderWay> m_underWay;
     int m_commands = 0;
     int m_expectations = 0;
-    QStringList m_unsaid;
+    QList<Unsaid> m_unsaid;
 };
 
 } // namespace till

@@ -2,8 +2,8 @@
 #define TILL_RECORDER_RECORDING_H
 
 #include "till/course/Notes.h"
-#include "till/recorder/RecordedText.h"
 #include "till/recorder/Recorder.h"
+#include "till/recorder/ScriptFile.h"
 #include "till/result/Result.h"
 
 #include <QtCore/QFile>

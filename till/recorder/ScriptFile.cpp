@@ -1,10 +1,11 @@
 #include "till/recorder/ScriptFile.h"
 
-#include "till/recorder/RecordedText.h"
 #include "till/result/WriteAll.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QSaveFile>
+
+#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,6 +13,12 @@
 namespace till {
 
 namespace {
+
+QString lastLine(const QByteArray &sum)
+{
+    return QStringLiteral("# Recorded to here; the sum of it is %1.")
+        .arg(QString::fromLatin1(sum.toHex().left(16)));
+}
 
 //! Whether a standard stream of this process goes to the file with that \a status.
 bool isStandardStream(const struct stat &status)
@@ -25,6 +32,36 @@ bool isStandardStream(const struct stat &status)
 }
 
 } // namespace
+
+RecordedText::RecordedText(Write write)
+    : m_write(std::move(write))
+{
+    add(mark());
+}
+
+void RecordedText::add(const QString &line)
+{
+    m_sum.addData(line.toUtf8() + '\n');
+    m_write(line);
+}
+
+void RecordedText::end()
+{
+    m_write(lastLine(m_sum.result()));
+}
+
+QString RecordedText::mark()
+{
+    return QStringLiteral("# Recorded by the till.");
+}
+
+bool RecordedText::isUnchanged(const QByteArray &text)
+{
+    const qsizetype lines = text.lastIndexOf('\n', -2) + 1; // before the last
+    const QByteArray sum = QCryptographicHash::hash(text.left(lines), QCryptographicHash::Sha256);
+    return text.startsWith(mark().toUtf8() + '\n')
+           && text.mid(lines) == lastLine(sum).toUtf8() + '\n';
+}
 
 Result<> checkRecorded(const QString &path)
 {

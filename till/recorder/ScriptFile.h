@@ -3,9 +3,38 @@
 
 #include "till/result/Result.h"
 
+#include <QtCore/QByteArray>
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QStringList>
 
+#include <functional>
+
 namespace till {
+
+//! The lines of a script that is recorded, between one that says so and one with a sum of them all,
+//! by which it is known whether somebody has changed it since.
+class RecordedText
+{
+public:
+    using Write = std::function<void(const QString &line)>;
+
+    //! Gives \a write the first line.
+    explicit RecordedText(Write write);
+    Q_DISABLE_COPY_MOVE(RecordedText)
+
+    void add(const QString &line);
+    //! Gives the last line.
+    void end();
+
+    //! The first line.
+    static QString mark();
+    //! Whether \a text is a script that was recorded to its end, and not changed since.
+    static bool isUnchanged(const QByteArray &text);
+
+private:
+    Write m_write;
+    QCryptographicHash m_sum{QCryptographicHash::Sha256};
+};
 
 //! Whether a recorded script may take the place of what is at \a path: nothing, or one that was
 //! recorded to its end and not changed since.

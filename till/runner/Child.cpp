@@ -27,30 +27,34 @@ Fault notMade(const QString &script)
 }
 
 //! What is kept of \a file, which says itself that it is not all.
-QString textOf(const MemoryFile &file)
+QString textOf(const MemoryFile &file, const Translator &translator)
 {
-    QString text = QString::fromUtf8(file.contents());
-    if (file.isCut())
-        text += QString("\n… what came behind %1 MiB is left out\n").arg(MemoryFile::kept >> 20);
-    return text;
+    const QString text = QString::fromUtf8(file.contents());
+    if (!file.isCut())
+        return text;
+    return text + '\n'
+           + translator.text(told("till", "… what came behind %1 MiB is left out")
+                                 .with({QString::number(MemoryFile::kept >> 20)}))
+           + '\n';
 }
 
 } // namespace
 
-Child::Child(const QString &script, std::chrono::seconds timeout)
+Child::Child(const QString &script, const Apart &apart)
     : m_script(script)
-    , m_timeout(timeout)
+    , m_timeout(apart.timeout)
+    , m_translator(apart.translator)
 {
 }
 
 Result<std::unique_ptr<Child>> Child::start(const QString &script, const Apart &apart,
                                             const std::function<void()> &enter)
 {
-    std::unique_ptr<Child> child(new Child(script, apart.timeout));
-    for (const MemoryFile *const file :
-         {&child->m_course, &child->m_complaints, &child->m_verdicts})
-        if (!file->isOpen())
-            return notMade(script);
+    std::unique_ptr<Child> child(new Child(script, apart));
+    const bool isReady =
+        child->m_course.isOpen() && child->m_complaints.isOpen() && child->m_verdict.isThere();
+    if (!isReady)
+        return notMade(script);
     const pid_t process = fork();
     if (process < 0)
         return notMade(script);
@@ -73,7 +77,6 @@ void Child::forget()
 {
     m_course.close();
     m_complaints.close();
-    m_verdicts.close();
 }
 
 void Child::play(const Apart &apart) const
@@ -94,16 +97,14 @@ void Child::write(const Verdict &verdict, bool isLast) const
 {
     QJsonObject json = toJson(verdict);
     json.insert("isLast", isLast);
-    const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n';
-    if (lseek(m_verdicts.handle(), 0, SEEK_CUR) > MemoryFile::kept / 2)
-        lseek(m_verdicts.handle(), 0, SEEK_SET); // nobody asks for those before
-    if (::write(m_verdicts.handle(), text.constData(), text.size()) != text.size())
+    if (!m_verdict.write(QJsonDocument(json).toJson(QJsonDocument::Compact)))
         std::_Exit(EXIT_FAILURE); // which is no good end
 }
 
 void Child::kill()
 {
-    m_how = QString("hangs: ended by SIGKILL after %1 s").arg(m_timeout.count());
+    m_how = m_translator.text(told("till", "hangs: ended by SIGKILL after %1 s")
+                                  .with({QString::number(m_timeout.count())}));
     ::kill(-m_process, SIGKILL);
 }
 
@@ -118,7 +119,7 @@ std::optional<Verdict> Child::verdict()
 
 Verdict Child::interrupt(int signal)
 {
-    m_how = "interrupted by " + signalName(signal);
+    m_how = m_translator.text(told("till", "interrupted by %1").with({signalName(signal)}));
     m_end = Verdict::Interrupted;
     return ended(end());
 }
@@ -140,15 +141,14 @@ Verdict Child::ended(int status) const
     verdict.script = m_script;
     verdict.seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - m_started).count();
-    verdict.course = textOf(m_course);
-    verdict.complaints = textOf(m_complaints);
+    verdict.course = textOf(m_course, m_translator);
+    verdict.complaints = textOf(m_complaints, m_translator);
     return verdict;
 }
 
 Verdict Child::read(int status) const
 {
-    const QByteArray last = m_verdicts.contents().trimmed().split('\n').constLast();
-    const QJsonObject json = QJsonDocument::fromJson(last).object();
+    const QJsonObject json = QJsonDocument::fromJson(m_verdict.text()).object();
     const Verdict verdict = verdictFrom(json);
     const bool isWhole =
         WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS && json.value("isLast").toBool();
@@ -173,8 +173,9 @@ QString Child::howItEnded(int status) const
     if (!m_how.isEmpty())
         return m_how;
     if (WIFSIGNALED(status))
-        return "crashed: " + signalName(WTERMSIG(status));
-    return QString("the process ended with status %1 before the script").arg(WEXITSTATUS(status));
+        return m_translator.text(told("till", "crashed: %1").with({signalName(WTERMSIG(status))}));
+    return m_translator.text(told("till", "the process ended with status %1 before the script")
+                                 .with({QString::number(WEXITSTATUS(status))}));
 }
 
 } // namespace till

@@ -3,6 +3,7 @@
 
 #include "till/runner/MemoryFile.h"
 #include "till/runner/PlayApart.h"
+#include "till/runner/SharedText.h"
 
 #include <memory>
 #include <optional>
@@ -41,7 +42,7 @@ public:
     void forget();
 
 private:
-    Child(const QString &script, std::chrono::seconds timeout);
+    Child(const QString &script, const Apart &apart);
 
     [[noreturn]] void play(const Apart &apart) const;
     void write(const Verdict &verdict, bool isLast) const;
@@ -53,10 +54,11 @@ private:
 
     const QString m_script;
     const std::chrono::seconds m_timeout;
+    const Translator m_translator;
     const Moment m_started = std::chrono::steady_clock::now();
     MemoryFile m_course;
     MemoryFile m_complaints;
-    MemoryFile m_verdicts;                //!< lines of JSON, the last one counts
+    const SharedText m_verdict;           //!< as JSON
     QString m_how;                        //!< it was ended from here; empty when it was not
     Verdict::End m_end = Verdict::Failed; //!< of a play that did not end by itself
     pid_t m_process = -1;

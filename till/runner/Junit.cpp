@@ -19,6 +19,12 @@ QString plain(QString text)
     return forTerminal(text.remove(unfit));
 }
 
+//! What programs read is in one language.
+Translator english()
+{
+    return Translator(QStringLiteral("en"));
+}
+
 QString typeOf(Verdict::End end)
 {
     return end == Verdict::Failed        ? "failed"
@@ -76,11 +82,11 @@ private:
             m_xml.writeStartElement(verdict.end == Verdict::Failed ? "failure" : "error");
             write("message", verdict.fault.text());
             write("type", typeOf(verdict.end));
-            m_xml.writeCharacters(plain(rowsOf(verdict)));
+            m_xml.writeCharacters(plain(rowsOf(verdict, english())));
             m_xml.writeEndElement();
             writeOutput("system-out", verdict.course);
         } else if (verdict.expectations == 0) {
-            writeOutput("system-out", checksNothing());
+            writeOutput("system-out", checksNothing(english()));
         }
         writeOutput("system-err", verdict.complaints);
         m_xml.writeEndElement();

@@ -15,12 +15,14 @@ namespace {
 // than what is kept of it.
 constexpr qint64 room = MemoryFile::kept + (4 << 20);
 
-//! Closes \a handle if nothing can be written to it only so far.
+//! Lets only so much be written to \a handle, or closes it where that cannot be.
 int limited(int handle)
 {
     if (handle < 0)
         return handle;
-    if (ftruncate(handle, room) == 0 && fcntl(handle, F_ADD_SEALS, F_SEAL_GROW) == 0)
+    const bool hasRoom = ftruncate(handle, room) == 0;
+    if (hasRoom ? fcntl(handle, F_ADD_SEALS, F_SEAL_GROW) == 0
+                : errno == EFBIG) // the process itself has a lower limit
         return handle;
     const int reason = errno;
     ::close(handle);

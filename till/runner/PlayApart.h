@@ -1,6 +1,7 @@
 #ifndef TILL_RUNNER_PLAYAPART_H
 #define TILL_RUNNER_PLAYAPART_H
 
+#include "till/language/Translator.h"
 #include "till/runner/Verdict.h"
 
 #include <chrono>
@@ -15,6 +16,7 @@ struct Apart
 
     int jobs = 1;                     //!< how many at a time at most, at least one
     std::chrono::seconds timeout{60}; //!< after which a play is ended
+    Translator translator;            //!< to the language of the cashier
     //! Plays a script; tells before each line of it what the verdict is if that is the last one.
     std::function<Verdict(const QString &script, const SoFar &soFar)> play;
 };

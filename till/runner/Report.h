@@ -1,27 +1,28 @@
 #ifndef TILL_RUNNER_REPORT_H
 #define TILL_RUNNER_REPORT_H
 
+#include "till/language/Translator.h"
 #include "till/runner/Verdict.h"
+
+#include <utility>
 
 namespace till {
 
-//! How a script ended, for a row of a table.
-QString wordOf(Verdict::End end);
-
 //! What did not hold of a script that did not: its place, command, what was expected and found, a
 //! line each; and the script itself where the place is in a file that it includes.
-QString rowsOf(const Verdict &verdict);
+QString rowsOf(const Verdict &verdict, const Translator &translator);
 
 //! What is said of a script without expectations.
-QString checksNothing();
+QString checksNothing(const Translator &translator);
 
 //! What became of a run of scripts, for people.
 class Report
 {
 public:
     //! Of a run of so many \a scripts.
-    explicit Report(qsizetype scripts)
+    Report(qsizetype scripts, Translator translator)
         : m_scripts(scripts)
+        , m_translator(std::move(translator))
     {
     }
 
@@ -39,6 +40,7 @@ public:
 
 private:
     qsizetype m_scripts;
+    Translator m_translator;
     qsizetype m_expectations = 0;
     qsizetype m_ends[Verdict::NotStarted + 1] = {};
     Verdict::End m_worst = Verdict::Held;

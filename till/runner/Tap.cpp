@@ -16,11 +16,12 @@ QString tapComment(const QString &text)
 
 QString tapLines(qsizetype number, const Verdict &verdict)
 {
+    const Translator english(QStringLiteral("en")); // for programs
     const bool held = verdict.end == Verdict::Held;
     const QString name = printable(verdict.script).replace('\\', "\\\\").replace('#', "\\#");
     QString text = QString("%1 %2 - %3\n").arg(held ? "ok" : "not ok").arg(number).arg(name);
-    const QString more =
-        held ? verdict.expectations == 0 ? checksNothing() : QString() : rowsOf(verdict).trimmed();
+    const QString more = held ? verdict.expectations == 0 ? checksNothing(english) : QString()
+                              : rowsOf(verdict, english).trimmed();
     if (!more.isEmpty())
         text += tapComment(more);
     return text;

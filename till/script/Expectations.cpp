@@ -63,8 +63,8 @@ Outcome checkPart(const Position &position, const Receipt &receipt, const QStrin
 //! How a command ended, in the word by which "expect" is told so; a failure cannot be expected.
 QString endOf(const Outcome &outcome)
 {
-    static const QStringList words{"accepted", "refused",    "refused",        "refused",
-                                   "mistake",  "not stored", "not as expected"};
+    static const QStringList words{"accepted", "refused", "refused",   "refused",
+                                   "mistake",  "failed",  "unexpected"};
     return words[outcome.kind];
 }
 
@@ -80,14 +80,15 @@ QString wordsOf(const TaraUse &tara)
     return "capacity " + toText(tara.capacity) + " free " + toText(tara.free);
 }
 
-QString wordsOf(const GoodsUse &goods, const TaraState &state)
+//! Of goods of which the position has so much in \a base units.
+QString wordsOf(const GoodsUse &goods, const TaraState &state, double base)
 {
     QStringList words;
     for (const TaraUse &tara : state.taras) {
         if (goods.used.contains(tara.id))
             words.append(QString("in %1 %2").arg(tara.posnum).arg(toText(goods.used[tara.id])));
     }
-    return words.isEmpty() ? QStringLiteral("unplaced 0") : words.join(' ');
+    return words.isEmpty() ? "unplaced " + toText(goods.unplaced(base)) : words.join(' ');
 }
 
 } // namespace
@@ -107,6 +108,8 @@ Outcome Expectations::command(const QString &end, const QStringList &words) cons
     const QString why = m_textOf(outcome);
     if (outcome.isRefusal())
         return differs(brief(words.join(' ')), end, why, found); // which begins with what was found
+    if (outcome.kind == Outcome::Failed)                         // which says so
+        return differs(brief(words.join(' ')), end, why, found);
     return differs(brief(words.join(' ')), end, why.isEmpty() ? found : found + ": " + why, found);
 }
 
@@ -150,7 +153,7 @@ Outcome Expectations::tara(const QStringList &words) const
     const TaraUse *const tara = state.tara(posnum);
     const QString what = "tara " + words[0];
     if (isNone(words.mid(1)))
-        return tara ? differs(what, "none", "a record", wordsOf(*tara)) : Outcome::done();
+        return tara ? differs(what, "none", wordsOf(*tara)) : Outcome::done();
     if (!tara)
         return differs(what, words.mid(1).join(' '), "none");
     for (qsizetype i = 1; i < words.size(); i += 2) {
@@ -162,6 +165,12 @@ Outcome Expectations::tara(const QStringList &words) const
     return Outcome::done();
 }
 
+double Expectations::baseOf(int posnum) const
+{
+    const auto line = cashRegister().receipt()->line(posnum);
+    return line ? line->getBquant() : 0.0;
+}
+
 Outcome Expectations::goods(const QStringList &words) const
 {
     const int posnum = words[0].toInt();
@@ -169,17 +178,17 @@ Outcome Expectations::goods(const QStringList &words) const
     const GoodsUse *const goods = state.goodsOf(posnum);
     const QString what = "goods " + words[0];
     if (isNone(words.mid(1)))
-        return goods ? differs(what, "none", "a record", wordsOf(*goods, state)) : Outcome::done();
+        return goods ? differs(what, "none", wordsOf(*goods, state, baseOf(posnum)))
+                     : Outcome::done();
     if (!goods)
         return differs(what, words.mid(1).join(' '), "none");
-    const auto line = cashRegister().receipt()->line(posnum);
     for (qsizetype i = 1; i < words.size();) {
         const bool isIn = words[i] == "in";
-        const Outcome checked =
-            isIn ? compareQuantity(what + " in " + words[i + 1], words[i + 2],
-                                   amountIn(state, *goods, words[i + 1].toInt()))
-                 : compareQuantity(what + " unplaced", words[i + 1],
-                                   goods->unplaced(line ? line->getBquant() : 0.0));
+        const Outcome checked = isIn
+                                    ? compareQuantity(what + " in " + words[i + 1], words[i + 2],
+                                                      amountIn(state, *goods, words[i + 1].toInt()))
+                                    : compareQuantity(what + " unplaced", words[i + 1],
+                                                      goods->unplaced(baseOf(posnum)));
         i += isIn ? 3 : 2;
         if (!checked)
             return checked;

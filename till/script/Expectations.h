@@ -74,6 +74,9 @@ private:
     Outcome state(const QStringList &words) const;
     Outcome control(const QStringList &words) const;
 
+    //! How much the position has, in base units; 0 when there is none.
+    double baseOf(int posnum) const;
+
     const Register &cashRegister() const { return m_desk.cashRegister(); }
 
     const CashDesk &m_desk;

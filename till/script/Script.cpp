@@ -37,10 +37,11 @@ ScriptFault faultOf(const ScriptLine &line, const Outcome &outcome, const QStrin
     return fault;
 }
 
-ScriptFault behindQuit(const ScriptLine &line)
+ScriptFault behindQuit(const CommandLine &commands, const ScriptLine &line)
 {
     const QString command = brief(line.text.trimmed());
-    const QString why = "stands behind 'quit', where nothing is carried out";
+    const QString why = commands.textOf(
+        Outcome::mistake(told("till", "stands behind 'quit', where nothing is carried out")));
     return {{line.place(), command + ": " + why}, command, {}, why, true};
 }
 
@@ -117,7 +118,7 @@ Result<void, ScriptFault> ScriptPlay::step()
 Result<void, ScriptFault> ScriptPlay::carryOut(const ScriptLine &line)
 {
     if (m_commands.hasQuit() && line.isCommand())
-        return behindQuit(line);
+        return behindQuit(m_commands, line);
     if (const QString shown = shownCommand(line); !shown.isEmpty())
         m_echo(forTerminal(shown));
     if (line.isCommand())

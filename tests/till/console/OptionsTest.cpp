@@ -63,6 +63,10 @@ TEST_F(Options, CompletionOfBash_IsThatOfTheHelp)
     EXPECT_EQ(completed("s"), "set-apart ");
     EXPECT_EQ(completed("--c"), "--catalogue --config --colour --color --csv ");
     EXPECT_EQ(completed("--lang ''"), "ru en ");
+    EXPECT_EQ(completed("--jobs ''"), " ");
+    EXPECT_EQ(completed("check ''"), " ");
+    for (const char *before : {"play ", "--quiet from-trace ", "backup ", "--junit "})
+        EXPECT_EQ(completed(before + write("one", "")), path("one").toStdString() + " ") << before;
     EXPECT_EQ(completed("play " + write("one.till", "")), path("one.till").toStdString() + " ");
 }
 
@@ -93,7 +97,7 @@ TEST_F(Options, FailedScript_EndsWith1FileAndLine)
 
 TEST_F(Options, Demo_PlaysEveryScriptOfTheShop)
 {
-    const RunResult demo = run({"demo", "--quiet"});
+    const RunResult demo = run({"--lang", "en", "demo", "--quiet"});
     EXPECT_EQ(demo.status, 0);
     EXPECT_EQ(demo.err, "");
     EXPECT_THAT(demo.out,
@@ -212,9 +216,20 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"NoDatabase", {"--db="}, "--db: no file is named"},
         Wrong{"NoCatalogue", {"--catalogue", ""}, "--catalogue: no file is named"},
         Wrong{"NoScript", {"play", ""}, "a word is empty"},
-        Wrong{"NoJobs", {"--jobs", "0"}, "--jobs: \"0\" is no number from 1 to 86400"},
-        Wrong{"Jobs", {"--jobs", "two"}, "--jobs: \"two\" is no number"},
-        Wrong{"Timeout", {"--timeout", "-1"}, "--timeout: \"-1\" is no number"},
+        Wrong{"NoJobs", {"--jobs", "0", "demo"}, "--jobs: \"0\" is no number from 1 to 86400"},
+        Wrong{"Jobs", {"--jobs", "two", "demo"}, "--jobs: \"two\" is no number"},
+        Wrong{"Timeout", {"--timeout", "-1", "demo"}, "--timeout: \"-1\" is no number"},
+        Wrong{"TapOfInfo", {"info", "--tap"}, "--tap: means something to play, demo alone\n"},
+        Wrong{"JobsOfReceipts", {"receipts", "--jobs", "2"}, "--jobs: means something to play"},
+        Wrong{"UpdateOfDemo", {"demo", "--update"}, "--update: means something to play alone"},
+        Wrong{"CatalogueOfCheck",
+              {"check", "--catalogue", "c.csv"},
+              "--catalogue: means something to the register, play, demo alone"},
+        Wrong{"DatabaseOfATrace", {"from-trace", "t", "--db", "d"}, "--db: means something to the"},
+        Wrong{"FromTwice",
+              {"receipts", "--from", "2026-01-01", "--from", "2026-01-02"},
+              "--from: is given twice\n"},
+        Wrong{"DatabaseTwice", {"--db", "a", "--db", "b"}, "--db: is given twice\n"},
         Wrong{"Set", {"--set", "key"}, "\"key\" is not KEY=VALUE"}),
     [](const auto &row) { return std::string(row.param.name); });
 

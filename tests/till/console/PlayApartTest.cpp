@@ -94,15 +94,16 @@ TEST_F(PlayOfFaulty, TracedPlays_AreApartToo)
 
 TEST_F(PlayOfFaulty, TraceOnStandardOutput_StandsAlone)
 {
-    const RunResult failed =
-        run({"--plugin", FAULTY_PLUGIN, "--timeout", "1", "--trace", "-", "play", adding(16)});
+    const RunResult failed = run({"--lang", "en", "--plugin", FAULTY_PLUGIN, "--timeout", "1",
+                                  "--trace", "-", "play", adding(16)});
     EXPECT_EQ(failed.status, 1);
     EXPECT_EQ(trace(QByteArray::fromStdString(failed.out)).constLast()["kind"], "verdict");
 }
 
 TEST_F(PlayOfFaulty, EndlessOutput_IsKeptToALimitThatIsSaid)
 {
-    const RunResult failed = run({"--plugin", FAULTY_PLUGIN, "--timeout", "1", "play", adding(16)});
+    const RunResult failed =
+        run({"--lang", "en", "--plugin", FAULTY_PLUGIN, "--timeout", "1", "play", adding(16)});
     EXPECT_EQ(failed.status, 1);
     EXPECT_LT(failed.out.size(), 9u << 20);
     EXPECT_THAT(failed.out, HasSubstr("\n… what came behind 8 MiB is left out\n\nfailed "));
@@ -141,6 +142,14 @@ protected:
                 process.readAllStandardError().toStdString()};
     }
 };
+
+TEST_F(PlayOfFaulty, Table_IsInTheLanguageOfTheCashier)
+{
+    const RunResult failed = run({"--quiet", "--plugin", FAULTY_PLUGIN, "play", adding(11)});
+    EXPECT_THAT(failed.out, HasSubstr("не прошёл " + path("11.till").toStdString()));
+    EXPECT_THAT(failed.out, HasSubstr("\nнайдено   аварийное завершение: SIGSEGV\n"));
+    EXPECT_THAT(failed.out, EndsWith("прошло сценариев: 0 из 1, не прошло: 1; проверок: 1\n"));
+}
 
 TEST_F(InterruptedPlay, Table_TellsWhatWasPlayed)
 {

@@ -65,7 +65,8 @@ TEST_F(PlayFolder, FolderThatCannotBeRead_IsWrong)
     shell.start("sh", {"-c",
                        "chmod 0 \"$1\"; shift; [ $(id -u) != 0 ] || set -- setpriv "
                        "--bounding-set=-all --inh-caps=-all \"$@\"; exec \"$@\"",
-                       "sh", path("all/closed"), TILL_PROGRAM, "--quiet", "play", path("all")});
+                       "sh", path("all/closed"), TILL_PROGRAM, "--lang", "en", "--quiet", "play",
+                       path("all")});
     ASSERT_TRUE(shell.waitForFinished(patience));
     const std::string out = shell.readAllStandardOutput().toStdString();
     EXPECT_EQ(chmod(QFile::encodeName(path("all/closed")).constData(), 0700), 0);

@@ -139,8 +139,8 @@ TEST_F(Play, TooFewFiles_PlayFewerAtATime)
 {
     const QStringList scripts(12, script("s.till", good));
     QProcess shell;
-    shell.start("sh", QStringList{"-c", "ulimit -n 20; exec \"$@\"", "sh", TILL_PROGRAM, "--quiet",
-                                  "--jobs", "12", "play"}
+    shell.start("sh", QStringList{"-c", "ulimit -n 20; exec \"$@\"", "sh", TILL_PROGRAM, "--lang",
+                                  "en", "--quiet", "--jobs", "12", "play"}
                           + scripts);
     ASSERT_TRUE(shell.waitForFinished(patience));
     EXPECT_EQ(shell.exitCode(), 0) << shell.readAllStandardError().toStdString();

@@ -124,7 +124,7 @@ TEST_F(PlayUpdate, IncludedFile_IsLeft)
 TEST_F(PlayUpdate, DifferenceOnATerminal_StandsAlone)
 {
     const std::string one = script("s.till", "open\nexpect positions 7\n").toStdString();
-    Terminal terminal(TILL_PROGRAM, {"--quiet", "play", "--update", one},
+    Terminal terminal(TILL_PROGRAM, {"--lang", "en", "--quiet", "play", "--update", one},
                       directory.path().toStdString(), {{"TERM", "xterm"}});
     EXPECT_THAT(terminal.readTo("expectations: 1"),
                 HasSubstr("[1/1] s.till\r\x1b[K--- " + one + "\r\n+++ " + one + "\r\n@@ "));

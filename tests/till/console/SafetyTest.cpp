@@ -265,7 +265,7 @@ TEST_F(FullDevice, ReaderOfTheTraceThatGoes_DoesNotStopTheTill)
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QProcess process;
     // The trace is more than a pipe holds: the play cannot end while the reader reads no more.
-    start(process, {"--trace", pipe, "play",
+    start(process, {"--lang", "en", "--trace", pipe, "play",
                     write("s.till", "open\n" + QByteArray("add CHIPS\n").repeated(300))});
     QFile trace(pipe);
     ASSERT_TRUE(trace.open(QIODevice::ReadOnly));
@@ -287,7 +287,7 @@ TEST_F(FullDevice, PlayThatIsKilled_LeavesNothingBehind)
     const QByteArray before = qgetenv("TMPDIR");
     qputenv("TMPDIR", QFile::encodeName(path("tmp")));
     // The trace is more than a pipe holds: the play cannot end before it is killed.
-    start(process, {"--trace", pipe, "play",
+    start(process, {"--lang", "en", "--trace", pipe, "play",
                     write("s.till", "open\n" + QByteArray("add CHIPS\n").repeated(300))});
     before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
     QFile trace(pipe);

@@ -1,5 +1,5 @@
 #include "tests/till/support/TillFixture.h"
-#include "till/recorder/RecordedText.h"
+#include "till/recorder/ScriptFile.h"
 #include "till/script/Script.h"
 
 // A receipt that is saved as a script, and the script played.
