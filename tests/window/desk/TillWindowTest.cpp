@@ -219,7 +219,7 @@ TEST_F(TillWindowTest, EverythingThatCanBeTouched_HasAnAccessibleName)
     scan("PET1");
     const auto widgets = window->findChildren<QWidget *>();
     for (const QWidget *const widget : widgets) {
-        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisibleTo(window.get()))
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
             continue;
         const auto *const button = qobject_cast<const QAbstractButton *>(widget);
         const auto *const tabs = qobject_cast<const QTabBar *>(widget); // each tab says its own
