@@ -67,20 +67,22 @@ bool VesselModel::hasSameVessels(const QList<Vessel> &others) const
                       });
 }
 
+//! What was in \a vessel up to now; nothing when it is a new one.
+Filling VesselModel::fillingBefore(const Vessel &vessel) const
+{
+    const auto old = std::find_if(m_vessels.cbegin(), m_vessels.cend(), [&](const Vessel &known) {
+        return known.posnum == vessel.posnum && known.name == vessel.name;
+    });
+    return old == m_vessels.cend() ? Filling{vessel.posnum, vessel.now.capacity, {}} : old->now;
+}
+
 void VesselModel::show(const std::shared_ptr<const ShownReceipt> &receipt, bool moves)
 {
     QList<Vessel> vessels = vesselsOf(receipt.get());
     const bool isSame = hasSameVessels(vessels);
     QList<int> moving;
     for (qsizetype row = 0; row < vessels.size(); ++row) {
-        const auto old =
-            std::find_if(m_vessels.cbegin(), m_vessels.cend(), [&](const Vessel &vessel) {
-                return vessel.posnum == vessels[row].posnum;
-            });
-        const bool isKnown = isSame || (old != m_vessels.cend() && old->name == vessels[row].name);
-        const Filling before = isKnown
-                                   ? (isSame ? m_vessels[row].now : old->now)
-                                   : Filling{vessels[row].posnum, vessels[row].now.capacity, {}};
+        const Filling before = isSame ? m_vessels[row].now : fillingBefore(vessels[row]);
         if (!(before == vessels[row].now))
             moving.append(static_cast<int>(row));
         if (moves)

@@ -54,6 +54,7 @@ private:
     };
 
     QList<Vessel> vesselsOf(const ShownReceipt *shown) const;
+    Filling fillingBefore(const Vessel &vessel) const;
     bool hasSameVessels(const QList<Vessel> &others) const;
     void tellChanged(int row) { Q_EMIT dataChanged(index(row), index(row)); }
     void tellAll();
