@@ -1143,5 +1143,9 @@
         <source>stands behind &apos;quit&apos;, where nothing is carried out</source>
         <translation>стоит после &apos;quit&apos;, где ничего не выполняется</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is more than %2, the greatest amount of money</source>
+        <translation>&quot;%1&quot; больше наибольшей суммы, %2</translation>
+    </message>
 </context>
 </TS>

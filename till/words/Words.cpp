@@ -1,9 +1,11 @@
 #include "till/words/Words.h"
 
+#include "till/goods/Money.h"
 #include "till/language/Nearest.h"
 #include "till/register/Command.h"
 
 #include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
 
 namespace till {
 
@@ -53,6 +55,10 @@ Outcome notMoney(const QString &word)
 {
     if (word.isEmpty())
         return Outcome::mistake(told("till", "an amount of money is missing"));
+    static const QRegularExpression form(QStringLiteral("^0*[1-9][0-9]{12,}([.,][0-9]{1,2})?\\z"));
+    if (form.match(word).hasMatch())
+        return Outcome::mistake(told("till", "\"%1\" is more than %2, the greatest amount of money")
+                                    .with({brief(word), toText(greatestAmount)}));
     return Outcome::mistake(
         told("till", "\"%1\" is not an amount of money (12.50 or 12,50)").with({word}));
 }

@@ -96,6 +96,8 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"UnitePosition", "unite 2 both", "\"both\" is not a position number"},
         Mistake{"UniteTooFewWords", "unite 2", "usage: unite POSITION POSITION..."},
         Mistake{"PayMoney", "pay 5.005", "\"5.005\" is not an amount of money (12.50 or 12,50)"},
+        Mistake{"PayTooMuch", "pay 99999999999999",
+                "\"99999999999999\" is more than 999999999999.99, the greatest amount of money"},
         Mistake{"PayNegative", "pay -5", "\"-5\" is not an amount of money (12.50 or 12,50)"},
         Mistake{"AnswerWord", "answer yes maybe", "\"maybe\" is none of: yes, no"},
         Mistake{"HelpCommand", "help ad", "no command \"ad\"; did you mean 'add'?"},
