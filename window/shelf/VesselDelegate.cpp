@@ -86,7 +86,7 @@ QSize VesselDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelI
     const auto *const shelf = qobject_cast<const QAbstractItemView *>(option.widget);
     const int height =
         shelf ? std::max(shelf->viewport()->height(), least.height()) : least.height();
-    return {least.width() * height / least.height(), height};
+    return {least.width() * (2 * least.height() + height) / (3 * least.height()), height};
 }
 
 void VesselDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
