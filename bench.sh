@@ -1,13 +1,25 @@
 #!/usr/bin/env bash
 # Builds the benchmarks as the plugin is delivered, runs them and prints the table of ratios.
-# Arguments go to the table: ./bench.sh --keep writes it into docs/benchmarks.md too.
+#   ./bench.sh                   prints it
+#   ./bench.sh --keep            writes it into docs/benchmarks.md too, with a picture
+#   ./bench.sh --against COMMIT  measures that commit as well, and prints both side by side
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 # shellcheck source=scripts/dependencies.sh
 . scripts/dependencies.sh
 
+other=
+case "$#:${1-}" in
+    0: | 1:--keep) ;;
+    2:--against)
+        other=$(git rev-parse --verify --quiet --short "$2^{commit}") \
+            || { echo "bench.sh: there is no commit $2" >&2; exit 2; } ;;
+    *) sed -n 's/^# \{0,1\}//p' bench.sh | sed -n 2,5p >&2; exit 2 ;;
+esac
+
 need_packages "${build_packages[@]}" "${bench_packages[@]}"
-build=build/bench
+top=$PWD
+build=$top/build/bench
 cmake --preset release -B "$build" -DPACKAGINGCONTROL_BENCH=ON >&2
 cmake --build "$build" --target packaging_bench till >&2
 
@@ -24,7 +36,16 @@ bin/packaging_bench --benchmark_min_time=0.05 --benchmark_repetitions=15 \
     --benchmark_enable_random_interleaving=true --benchmark_out=times.json \
     --benchmark_out_format=json > times.txt
 echo "Playing long receipts ..." >&2
-python3 ../../bench/receipts.py bin/till > receipts.json
+/usr/bin/python3 "$top/bench/receipts.py" bin/till > receipts.json
 strip -o PackagingControl.stripped lib/packagingcontrol/plugins/PackagingControl.so
+cd "$top"
 
-exec python3 ../../bench/table.py "$@"
+# The other commit is measured by its own benchmarks, in a checkout of its own.
+if [ -n "$other" ]; then
+    checkout=$top/build/against/$other
+    [ -e "$checkout" ] || git worktree add --detach "$checkout" "$other" >&2
+    echo "Measuring $other ..." >&2
+    "$checkout/bench.sh" >&2
+    set -- --against "$other" "$checkout/build/bench"
+fi
+exec /usr/bin/python3 bench/table.py "$build" "$@"

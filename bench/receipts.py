@@ -2,7 +2,7 @@
 
 Each way of playing a long one is repeated, in turn with the others, and its processor time is listed in
 seconds; of a trace, its size in bytes. Of a folder of short ones it is the time that passes, by the number
-of jobs.
+of jobs; of a start with a long catalogue the processor time, and the memory in bytes.
 """
 
 import json
@@ -14,6 +14,7 @@ import time
 
 REPETITIONS = 5
 SCRIPTS = 500
+ARTICLES = 100000
 
 
 def script(positions):
@@ -22,7 +23,7 @@ def script(positions):
     return "\n".join(lines) + "\n"
 
 
-def cpu(command, path, piped):
+def usage_of(command, path, piped):
     with open(path if piped else os.devnull, encoding="utf-8") as source:
         process = subprocess.Popen(command if piped else [*command, "play", path], stdin=source,
                                    stdout=subprocess.DEVNULL)
@@ -30,7 +31,22 @@ def cpu(command, path, piped):
     process.returncode = os.waitstatus_to_exitcode(status)
     if process.returncode != 0:
         sys.exit(f"{command}: exit status {process.returncode}")
+    return usage
+
+
+def cpu(command, path, piped):
+    usage = usage_of(command, path, piped)
     return usage.ru_utime + usage.ru_stime
+
+
+def write_catalogue(path):
+    """Tara, goods sold into it and others in turn, with names such as shops have."""
+    with open(path, "w", encoding="utf-8") as file:
+        file.write("code;name;price;tara mode;tara capacity;pack;unit\n")
+        for number in range(ARTICLES):
+            mode, capacity = ((0, ""), (1, "1,5"), (2, ""))[number % 3]
+            file.write(f"ART{number};Товар номер {number} в ассортименте;{number % 900},50;{mode};"
+                       f"{capacity};1;{'л' if mode == 2 else 'шт'}\n")
 
 
 def write_scripts(folder):
@@ -71,6 +87,15 @@ def main():
             for jobs in (1, 2):
                 runs.setdefault(f"jobs/{jobs}", []).append(
                     wall([sys.argv[1], "--quiet", "--jobs", str(jobs), "play", scripts]))
+        catalogue = os.path.join(folder, "catalogue.csv")
+        write_catalogue(catalogue)
+        opened = os.path.join(folder, "opened.till")
+        with open(opened, "w", encoding="utf-8") as file:
+            file.write("open\n")
+        usages = [usage_of([*till, "--catalogue", catalogue], opened, piped=False)
+                  for _ in range(REPETITIONS)]
+        runs["catalogue"] = [usage.ru_utime + usage.ru_stime for usage in usages]
+        runs["catalogueMemory"] = 1024 * max(usage.ru_maxrss for usage in usages)
         trace = os.path.join(folder, "trace")
         cpu([*till, "--trace", trace], paths[400], piped=False)
         runs["trace"] = os.path.getsize(trace)

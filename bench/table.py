@@ -1,241 +1,124 @@
-"""Prints the table of ratios from what bench.sh measured in the current directory.
+"""Prints the table of ratios from what bench.sh measured.
 
-With --keep it also replaces the table in docs/benchmarks.md.
+With --keep it also writes the table, what it means to a shop, the line of this release and the picture
+into docs/. With --against it prints two tables side by side.
 """
 
-import glob
-import json
+import argparse
 import os
 import re
-import statistics
 import subprocess
 import sys
-from dataclasses import dataclass
 
 TOP = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+sys.path.insert(0, TOP)
+from bench.results import Results  # noqa: E402
+from bench.rows import rows_of  # noqa: E402
+from bench.shop import sentences  # noqa: E402
+
 DOCUMENT = os.path.join(TOP, "docs", "benchmarks.md")
+PICTURE = os.path.join(TOP, "docs", "pictures", "command.svg")
+# What stands in the line of a release: rows of the table, by the names of their columns.
+HISTORY = {
+    "event that saves": "event that saves, over building and storing the tree, 100 records",
+    "load": "load and instance, over an empty plugin",
+    "command": "command of the till, over a bare SQLite commit, 100 positions",
+    "receipt": "receipt of 1,000 positions, over the same without the plugin",
+    "two jobs": "500 scripts with one job, over the same with two",
+    "catalogue": "catalogue of 100,000 articles, read at the start",
+    "plugin file": "stripped plugin file",
+}
 
 
-@dataclass
-class Side:
-    """What was measured of one side of a pair, for one call."""
-
-    instructions: float
-    allocations: float
-    times: list  # seconds, one for each repetition
-
-    @property
-    def median(self):
-        return statistics.median(self.times)
-
-    @property
-    def spread(self):
-        """The middle half of the repetitions, as a part of their median."""
-        first, _, third = statistics.quantiles(self.times, n=4)
-        return (third - first) / self.median
-
-
-def read_instructions():
-    totals = {}
-    for path in glob.glob("callgrind.out.*"):
-        with open(path, encoding="utf-8") as profile:
-            text = profile.read()
-        name = re.search(r"^desc: Trigger: Client Request: (.+)$", text, re.M)
-        if name:
-            totals[name[1]] = int(re.search(r"^totals: (\d+)", text, re.M)[1])
-    return totals
-
-
-def read_times():
-    units = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
-    times = {}
-    with open("times.json", encoding="utf-8") as file:
-        for run in json.load(file)["benchmarks"]:
-            if run["run_type"] == "iteration":
-                name = run["run_name"].removesuffix("/real_time").split("/repeats")[0]
-                times.setdefault(name, []).append(run["real_time"] * units[run["time_unit"]])
-    return times
-
-
-def read_sides():
-    instructions, times = read_instructions(), read_times()
-    sides = {}
-    with open("allocations.txt", encoding="utf-8") as file:
-        for line in file:
-            name, calls, allocations = line.split()
-            sides[name] = Side(instructions[name] / int(calls), int(allocations) / int(calls),
-                               times[name])
-    return sides
-
-
-def read_receipts():
-    with open("receipts.json", encoding="utf-8") as file:
-        return json.load(file)
-
-
-def number(value):
-    return f"{value:,.0f}" if value >= 100 else f"{value:.3g}"
-
-
-def time(seconds):
-    for unit, size in (("s", 1), ("ms", 1e-3), ("µs", 1e-6)):
-        if seconds >= size:
-            return f"{seconds / size:.3g} {unit}"
-    return f"{seconds / 1e-9:.3g} ns"
-
-
-def row(*cells):
+def line(*cells):
     return "| " + " | ".join(cells) + " |"
 
 
-class Table:
-    def __init__(self, sides):
-        self.sides = sides
-        self.lines = [row("ratio", "figure", "target", "instructions", "allocations",
-                          "wall time, median", "wall ratio", "spread"),
-                      row("---", *["---:"] * 7)]
-
-    def pair(self, name):
-        return self.sides[name + "/measured"], self.sides[name + "/floor"]
-
-    def add(self, title, name, target, wall=False, spare_allocations=None):
-        """One pair. The figure is the ratio of instructions, or of wall times."""
-        measured, floor = self.pair(name)
-        wall_ratio = measured.median / floor.median
-        figure = wall_ratio if wall else measured.instructions / floor.instructions
-        held = figure <= target
-        goal = f"≤ {target:.2f}" + (" wall" if wall else "")
-        if spare_allocations is not None:
-            held = held and measured.allocations <= floor.allocations + spare_allocations
-            goal += f", allocations ≤ floor + {spare_allocations}"
-        self.lines.append(row(
-            title, f"{figure:.2f}" + ("" if held else " **missed**"), goal,
-            f"{number(measured.instructions)} / {number(floor.instructions)}",
-            f"{number(measured.allocations)} / {number(floor.allocations)}",
-            f"{time(measured.median)} / {time(floor.median)}", f"{wall_ratio:.2f}",
-            f"{measured.spread:.0%} / {floor.spread:.0%}"))
-
-    def add_growth(self, title, room, first, last, target):
-        """What `last` costs beyond `first`, over the same of the floor."""
-        measured, floor = (b.instructions - a.instructions for a, b in zip(
-            self.pair(f"{room}/{first}"), self.pair(f"{room}/{last}")))
-        figure = measured / floor
-        self.lines.append(row(title, f"{figure:.2f}" + ("" if figure <= target else " **missed**"),
-                              f"≤ {target:.2f}", f"{number(measured)} / {number(floor)}",
-                              *[""] * 4))
-
-    def add_size(self, title, path):
-        size = os.path.getsize(path) / 1024
-        self.lines.append(row(title, f"{size:.1f} KiB", "reported", *[""] * 5))
-
-    def add_runs(self, title, measured, floor, target):
-        """The processor time of a program over that of another."""
-        first, second = Side(0, 0, measured), Side(0, 0, floor)
-        figure = first.median / second.median
-        self.lines.append(row(
-            title, f"{figure:.2f}" + ("" if figure <= target else " **missed**"),
-            f"≤ {target:.2f} CPU", "", "", f"{time(first.median)} / {time(second.median)}", "",
-            f"{first.spread:.0%} / {second.spread:.0%}"))
-
-    def add_speed_up(self, title, before, after, target):
-        """How many times as fast a program is; both are times that passed."""
-        first, second = Side(0, 0, before), Side(0, 0, after)
-        figure = first.median / second.median
-        self.lines.append(row(
-            title, f"{figure:.2f}" + ("" if figure >= target else " **missed**"),
-            f"≥ {target:.2f} wall", "", "", f"{time(first.median)} / {time(second.median)}",
-            f"{figure:.2f}", f"{first.spread:.0%} / {second.spread:.0%}"))
-
-    def add_bytes(self, title, size, target):
-        self.lines.append(row(title, f"{size / 1e6:.2f} MB"
-                              + ("" if size <= target else " **missed**"),
-                              f"≤ {target / 1e6:.2f} MB", *[""] * 5))
-
-    def add_reported(self, title, room, first, last):
-        """How many times as much `last` costs as `first`; no target."""
-        (small, small_floor), (large, large_floor) = (
-            self.pair(f"{room}/{n}") for n in (first, last))
-        self.lines.append(row(
-            title, f"{large.instructions / small.instructions:.2f}", "reported",
-            f"{number(large.instructions)} / {number(small.instructions)}",
-            f"{number(large.allocations)} / {number(small.allocations)}",
-            f"{time(large.median)} / {time(small.median)}",
-            f"{large.median / small.median:.2f}", f"{large.spread:.0%} / {small.spread:.0%}"))
+def figure(row):
+    return row.shown + ("" if row.held else " **missed**")
 
 
-def make_table(sides, receipts):
-    table = Table(sides)
-    for n in (10, 100, 1000):
-        table.add(f"event that saves, over building and storing the tree, {n:,} records",
-                  f"save/{n}", 1.15, spare_allocations=2)
-    for n in (10, 100, 1000):
-        table.add(f"the same for an event that also writes a log line, {n:,} records",
-                  f"resize/{n}", 1.15, spare_allocations=2)
-    for n in (10, 100, 1000):
-        table.add(f"the same, where the floor writes the log line too, {n:,} records",
-                  f"resizeLogged/{n}", 1.15, spare_allocations=2)
-    table.add_growth("growth of the first from 10 to 1,000 records, over the floor's growth",
-                     "save", 10, 1000, 1.05)
-    for title, name in (("event of another code", "otherEvent"),
-                        ("idle trigger before subtotal", "subtotal"),
-                        ("idle trigger before modifiers", "modifiers")):
-        table.add(f"{title}, over a bare virtual call", f"{name}/1", 3, wall=True,
-                  spare_allocations=0)
-    table.add("restore of valid data, over a bare walk, 100 records", "restore/100", 1.2)
-    table.add("restore of malformed data, over valid, 100 records", "malformed/100", 1.2)
-    for n in (10, 100, 1000):
-        table.add(f"fill past full taras into the last of {n:,}, over a bare loop",
-                  f"fillLast/{n}", 1.3)
-    for n in (10, 100):
-        table.add(f"fill of all {n:,} taras, over a bare loop", f"fillAll/{n}", 1.3)
-    for n in (10, 100, 1000):
-        table.add(f"fill past full taras into the last of {n:,}, over a loop that writes the log "
-                  "line too", f"fillLastLogged/{n}", 1.3)
-    for n in (10, 100):
-        table.add(f"fill of all {n:,} taras, over a loop that writes the log lines too",
-                  f"fillAllLogged/{n}", 1.3)
-    table.add("load and instance, over an empty plugin", "load/1", 1.1)
-    table.add_size("stripped plugin file", "PackagingControl.stripped")
-    for n in (10, 100, 1000):
-        table.add(f"command of the till, over a bare SQLite commit, {n:,} positions", f"till/{n}",
-                  1.5, wall=True)
-    table.add_reported("growth of a command of the till from 100 to 1,000 positions", "till", 100,
-                       1000)
-    for n, target in ((1000, 4), (4000, 8)):
-        table.add_runs(f"receipt of {n:,} positions, over the same without the plugin",
-                       receipts[f"plugin/{n}"], receipts[f"alone/{n}"], target)
-    table.add_runs("receipt of 1,000 positions from a pipe, over the same played",
-                   receipts["piped/1000"], receipts["plugin/1000"], 1.2)
-    table.add_speed_up("500 scripts with one job, over the same with two", receipts["jobs/1"],
-                       receipts["jobs/2"], 1.7)
-    table.add_bytes("trace of a receipt of 400 positions", receipts["trace"], 7.3e6 / 3)
-    return "\n".join(table.lines)
+def table(rows):
+    return "\n".join([
+        line("ratio", "figure", "target", "instructions", "allocations", "wall time, median",
+             "wall ratio", "spread"),
+        line("---", *["---:"] * 7),
+        *[line(row.title, figure(row), row.goal, *row.cells) for row in rows]])
 
 
-def keep(table):
-    commit = subprocess.run(["git", "-C", TOP, "describe", "--always", "--dirty"], check=True,
-                            capture_output=True, text=True).stdout.strip()
-    system = subprocess.run(["bash", "-c", ". /etc/os-release && echo $NAME $VERSION_ID"],
-                            check=True, capture_output=True, text=True).stdout.strip()
-    system = system.replace("GNU/Linux ", "")
-    compiler = subprocess.run(["g++", "-dumpversion"], check=True, capture_output=True,
-                              text=True).stdout.strip()
-    machine = f"Commit {commit}; {os.cpu_count()} cores, {system}, GCC {compiler}."
+def side_by_side(rows, others, name):
+    """The figures of both, and by how much the first is more."""
+    by_title = {row.title: row for row in others}
+    lines = [line("ratio", "target", "here", name, "change", "instructions here", name,
+                  "wall time here", name),
+             line("---", *["---:"] * 8)]
+    for row in rows:
+        other = by_title.get(row.title)
+        change = f"{row.figure / other.figure - 1:+.1%}" if other else ""
+        lines.append(line(row.title, row.goal, figure(row), other.shown if other else "–", change,
+                          row.cells[0], other.cells[0] if other else "",
+                          row.cells[2], other.cells[2] if other else ""))
+    return "\n".join(lines)
+
+
+def said(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout.strip()
+
+
+def replaced(text, name, content):
+    """`text` with `content` between the marks of `name`."""
+    marks = rf"(<!-- {name} -->\n).*(<!-- end of {name} -->)"
+    if not re.search(marks, text, re.S):
+        sys.exit(f"{DOCUMENT}: no marks of \"{name}\"")
+    return re.sub(marks, lambda found: f"{found[1]}{content}\n{found[2]}", text, flags=re.S)
+
+
+def history(text, rows, commit):
+    """The releases so far, with the line of this one written anew."""
+    with open(os.path.join(TOP, "CMakeLists.txt"), encoding="utf-8") as file:
+        version = re.search(r"^project\(\w+ VERSION ([0-9.]+)", file.read(), re.M)[1]
+    by_title = {row.title: row for row in rows}
+    before = re.search(r"<!-- history -->\n(.*)<!-- end of history -->", text, re.S)[1].splitlines()
+    releases = [release for release in before[2:] if not release.startswith(f"| {version} ")]
+    cells = [by_title[title].shown for title in HISTORY.values()]
+    return "\n".join([line("release", "commit", *HISTORY), line("---", "---", *["---:"] * len(HISTORY)),
+                      *releases, line(version, commit, *cells)])
+
+
+def keep(results, rows):
+    from bench.picture import draw  # needs a package that nothing else here does
+
+    commit = said("git", "-C", TOP, "describe", "--always", "--dirty")
+    system = said("bash", "-c", ". /etc/os-release && echo $NAME $VERSION_ID")
+    machine = (f"Commit {commit}; {os.cpu_count()} cores, {system.replace('GNU/Linux ', '')}, "
+               f"GCC {said('g++', '-dumpversion')}.")
     with open(DOCUMENT, encoding="utf-8") as file:
         text = file.read()
-    text = re.sub(r"(<!-- table -->\n).*(<!-- end of table -->)",
-                  lambda marks: f"{marks[1]}{machine}\n\n{table}\n{marks[2]}", text, flags=re.S)
+    text = replaced(text, "table", f"{machine}\n\n{table(rows)}")
+    text = replaced(text, "shop", "\n".join(f"- {sentence}" for sentence in sentences(results)))
+    text = replaced(text, "history", history(text, rows, commit))
+    os.makedirs(os.path.dirname(PICTURE), exist_ok=True)
+    draw(results, PICTURE)
     with open(DOCUMENT, "w", encoding="utf-8") as file:
         file.write(text)
 
 
 def main():
-    table = make_table(read_sides(), read_receipts())
-    print(table)
-    if sys.argv[1:] == ["--keep"]:
-        keep(table)
-    elif sys.argv[1:]:
-        sys.exit("usage: bench.sh [--keep]")
+    arguments = argparse.ArgumentParser(description="Prints the table of ratios.")
+    arguments.add_argument("directory", help="where it was measured")
+    arguments.add_argument("--keep", action="store_true", help="write it into docs/ too")
+    arguments.add_argument("--against", nargs=2, metavar=("COMMIT", "DIRECTORY"),
+                           help="where another commit was measured")
+    given = arguments.parse_args()
+    results = Results(given.directory)
+    rows = rows_of(results)
+    if given.against:
+        name, directory = given.against
+        print(side_by_side(rows, rows_of(Results(directory), is_part=True), name))
+    else:
+        print(table(rows))
+    if given.keep:
+        keep(results, rows)
 
 
 main()

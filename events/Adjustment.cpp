@@ -78,15 +78,13 @@ void PackagingControl::modifyPackagingUsedCapacity(const QSharedPointer<Packagin
         delta -= used;
 
     for (const auto &tara : std::as_const(taraList)) {
-        if (isZero(delta))
-            break;
         const double free = tara->freeCapacity;
-        const bool fills = isPositive(free) && isPositive(delta);
         // Only over-full taras release: one with free capacity keeps its share when the goods
         // shrink.
-        const bool releases =
-            isNegative(free) && isNegative(delta) && info->usedTara.contains(tara->id);
-        if (!fills && !releases)
+        const bool takesPart = isPositive(delta) ? isPositive(free)
+                                                 : isNegative(free) && isNegative(delta)
+                                                       && info->usedTara.contains(tara->id);
+        if (!takesPart)
             continue;
         const double amount = std::abs(free) < std::abs(delta) ? free : delta;
         logger->info(QStringLiteral("Изменение использованной позицией %1 ёмкости тары %2 на %3"),
@@ -94,6 +92,8 @@ void PackagingControl::modifyPackagingUsedCapacity(const QSharedPointer<Packagin
         tara->freeCapacity -= amount;
         info->usedTara[tara->id] += amount;
         delta -= amount;
+        if (isZero(delta)) // and no other tara takes part
+            break;
     }
 }
 

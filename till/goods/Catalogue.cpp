@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMap>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -106,7 +107,7 @@ private:
     void checkPrintable(Column column, const QString &value) const
     {
         const auto control = std::find_if(value.cbegin(), value.cend(), [](QChar sign) {
-            return sign.category() == QChar::Other_Control;
+            return sign < QChar(0x20) || (sign >= QChar(0x7F) && sign < QChar(0xA0));
         });
         if (control != value.cend())
             refuseColumn(column, QStringLiteral("has the control character U+%1 in it")
@@ -115,9 +116,10 @@ private:
 
     Kopecks price() const
     {
-        if (text(Price).isEmpty())
+        const QString amount = text(Price);
+        if (amount.isEmpty())
             refuseColumn(Price, QStringLiteral("an article needs a price"));
-        const auto price = parseMoney(text(Price));
+        const auto price = parseMoney(amount);
         if (!price)
             refuseText(Price,
                        "is not an amount from 0 to " + toText(greatestAmount) + ", such as 12.50");
@@ -156,9 +158,10 @@ private:
     //! A number of 0 or more.
     double quantity(Column column, double whenEmpty) const
     {
-        if (text(column).isEmpty())
+        const QString value = text(column);
+        if (value.isEmpty())
             return whenEmpty;
-        const auto number = parseQuantity(text(column));
+        const auto number = parseQuantity(value);
         if (!number || *number < 0.0)
             refuseText(column, "is not a number from 0 to " + toText(greatestQuantity)
                                    + " with at most three decimals, such as 1.5");
@@ -188,8 +191,13 @@ QByteArray contents(const QString &path)
 //! How many of our columns the first row names when \a separator is taken for the separator.
 qsizetype columnsFound(const QByteArray &text, char separator)
 {
-    const CsvRows head = readCsv(text, separator, 1);
-    const CsvRow row = head.fault ? head.fault->row : head.rows.value(0);
+    CsvRow row;
+    const auto fault = readCsv(text, separator, [&row](const CsvRow &first) {
+        row = first;
+        return false;
+    });
+    if (fault)
+        row = fault->row;
     return std::count_if(row.fields.cbegin(), row.fields.cend(), [](const auto &field) {
         return CatalogueHeader::columnCalled(field).has_value();
     });
@@ -210,50 +218,47 @@ char separatorOf(const QByteArray &text)
     refuseRow(fault.row.line, QStringLiteral("column %1: %2").arg(index + 1).arg(fault.reason));
 }
 
-QList<ArticleData> readArticles(const QByteArray &text)
-{
-    const CsvRows table = readCsv(text, separatorOf(text));
-    if (table.rows.isEmpty() && table.fault)
-        refuseFault(*table.fault, nullptr);
-    if (table.rows.isEmpty())
-        throw CatalogueRefusal{QStringLiteral("the file is empty")};
-
-    const CatalogueHeader header(table.rows.first());
-    QList<ArticleData> articles;
-    QHash<QString, int> lines;
-    const QList<CsvRow> rows = table.rows.sliced(1);
-    for (const CsvRow &row : rows) {
-        const RowReader reader(header, row);
-        articles.append(reader.read());
-        const QString code = articles.last().code;
-        if (lines.contains(code))
-            reader.refuseColumn(CatalogueHeader::Code,
-                                QStringLiteral("\"%1\" is the code of line %2 already")
-                                    .arg(code)
-                                    .arg(lines.value(code)));
-        lines.insert(code, row.line);
-    }
-    if (table.fault)
-        refuseFault(*table.fault, &header);
-    if (articles.isEmpty())
-        throw CatalogueRefusal{QStringLiteral("there are no articles below the header")};
-    return articles;
-}
-
 } // namespace
 
 Result<Catalogue> Catalogue::load(const QString &path)
 {
     try {
         Catalogue catalogue;
-        const QList<ArticleData> articles = readArticles(contents(path));
-        for (const ArticleData &article : articles)
-            catalogue.add(QSharedPointer<Article>::create(article));
+        catalogue.read(contents(path));
         return catalogue;
     } catch (const CatalogueRefusal &refusal) {
         const QString line = ':' + QString::number(refusal.line);
         return Fault{refusal.line == 0 ? path : path + line, refusal.reason};
     }
+}
+
+void Catalogue::read(const QByteArray &text)
+{
+    std::optional<CatalogueHeader> header;
+    QList<int> lines; // of the articles
+    QSet<QString> units; // each kept once
+    const auto fault = readCsv(text, separatorOf(text), [&](const CsvRow &row) {
+        if (!header) {
+            header.emplace(row);
+            return true;
+        }
+        const RowReader reader(*header, row);
+        ArticleData article = reader.read();
+        article.unit = *units.insert(article.unit);
+        if (!add(article))
+            reader.refuseColumn(CatalogueHeader::Code,
+                                QStringLiteral("\"%1\" is the code of line %2 already")
+                                    .arg(article.code)
+                                    .arg(lines[placeOf(article.code)]));
+        lines.append(row.line);
+        return true;
+    });
+    if (fault)
+        refuseFault(*fault, header ? &*header : nullptr);
+    if (!header)
+        throw CatalogueRefusal{QStringLiteral("the file is empty")};
+    if (m_articles.isEmpty())
+        throw CatalogueRefusal{QStringLiteral("there are no articles below the header")};
 }
 
 QList<QSharedPointer<Article>> Catalogue::containing(const QString &text) const
@@ -267,10 +272,19 @@ QList<QSharedPointer<Article>> Catalogue::containing(const QString &text) const
     return found;
 }
 
-void Catalogue::add(const QSharedPointer<Article> &article)
+bool Catalogue::add(const ArticleData &data)
 {
+    auto &article = m_byCode[data.code];
+    if (article)
+        return false;
+    article = QSharedPointer<Article>::create(data);
     m_articles.append(article);
-    m_byCode.insert(article->data.code, article);
+    return true;
+}
+
+qsizetype Catalogue::placeOf(const QString &code) const
+{
+    return m_articles.indexOf(m_byCode.value(code));
 }
 
 } // namespace till

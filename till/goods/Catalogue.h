@@ -49,7 +49,12 @@ public:
     QList<QSharedPointer<Article>> containing(const QString &text) const;
 
 private:
-    void add(const QSharedPointer<Article> &article);
+    //! Takes the articles of the CSV in \a text; throws a `CatalogueRefusal`.
+    void read(const QByteArray &text);
+    //! False when there is one with its code.
+    bool add(const ArticleData &data);
+    //! Where the article with that code stands among all.
+    qsizetype placeOf(const QString &code) const;
 
     QList<QSharedPointer<Article>> m_articles;
     QHash<QString, QSharedPointer<Article>> m_byCode;

@@ -3,6 +3,7 @@
 #include <csv.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace till {
 
@@ -20,17 +21,22 @@ public:
     ~Reader() { csv_free(&m_parser); }
     Q_DISABLE_COPY_MOVE(Reader)
 
-    CsvRows read(const QByteArray &text, qsizetype maxRows)
+    std::optional<CsvFault> read(const QByteArray &text,
+                                 const std::function<bool(const CsvRow &)> &take)
     {
-        for (qsizetype from = 0; from < text.size() && m_result.rows.size() < maxRows;) {
+        for (qsizetype from = 0; from < text.size();) {
             const qsizetype length = lineLength(text, from);
             if (!parseLine(QByteArrayView(text).sliced(from, length)))
-                return m_result;
+                return m_fault;
+            if (!handOver(take))
+                return {};
             from += length;
         }
-        if (m_result.rows.size() < maxRows && csv_fini(&m_parser, fieldEnded, rowEnded, this) != 0)
+        if (csv_fini(&m_parser, fieldEnded, rowEnded, this) != 0)
             fail(QStringLiteral("the closing quote is missing"));
-        return m_result;
+        else
+            handOver(take);
+        return m_fault;
     }
 
 private:
@@ -60,7 +66,23 @@ private:
         return false;
     }
 
-    void fail(const QString &reason) { m_result.fault = CsvFault{m_row, reason}; }
+    //! Outside the parser, whose C does not expect exceptions. False when no more is wanted.
+    bool handOver(const std::function<bool(const CsvRow &)> &take)
+    {
+        const bool isRow = std::exchange(m_isRowWhole, false);
+        const bool isWanted = !isRow || isBlank(m_row) || take(m_row);
+        if (isRow)
+            m_row.fields.clear();
+        return isWanted;
+    }
+
+    static bool isBlank(const CsvRow &row)
+    {
+        return std::all_of(row.fields.cbegin(), row.fields.cend(),
+                           [](const auto &field) { return field.isEmpty(); });
+    }
+
+    void fail(const QString &reason) { m_fault = CsvFault{m_row, reason}; }
 
     static void fieldEnded(void *field, size_t size, void *reader)
     {
@@ -68,28 +90,28 @@ private:
         row.fields.append(QByteArray(static_cast<const char *>(field), qsizetype(size)).trimmed());
     }
 
+    //! A line ends one row at most.
     static void rowEnded(int, void *reader)
     {
         auto *self = static_cast<Reader *>(reader);
-        const auto &fields = self->m_row.fields;
-        if (!std::all_of(fields.cbegin(), fields.cend(), [](const auto &f) { return f.isEmpty(); }))
-            self->m_result.rows.append(self->m_row);
-        self->m_row.fields.clear();
+        self->m_isRowWhole = true;
         self->m_inRow = false;
     }
 
-    CsvRows m_result;
+    std::optional<CsvFault> m_fault;
     csv_parser m_parser;
     CsvRow m_row;
     int m_line = 0;
     bool m_inRow = false;
+    bool m_isRowWhole = false;
 };
 
 } // namespace
 
-CsvRows readCsv(const QByteArray &text, char separator, qsizetype maxRows)
+std::optional<CsvFault> readCsv(const QByteArray &text, char separator,
+                                const std::function<bool(const CsvRow &)> &take)
 {
-    return Reader(separator).read(text, maxRows);
+    return Reader(separator).read(text, take);
 }
 
 } // namespace till

@@ -5,7 +5,7 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
-#include <limits>
+#include <functional>
 #include <optional>
 
 namespace till {
@@ -24,19 +24,14 @@ struct CsvFault
     QString reason;
 };
 
-//! The rows of a CSV text, up to the first fault.
-struct CsvRows
-{
-    QList<CsvRow> rows; //!< rows of which every field is empty are left out
-    std::optional<CsvFault> fault;
-};
-
 /*!
- * Reads at most \a maxRows rows of \a text, which may end its lines with LF, CR LF or CR. A field
- * that holds quotes, separators or line breaks must be in double quotes, its own quotes doubled.
+ * Reads the rows of \a text, which may end its lines with LF, CR LF or CR, and hands each to \a take
+ * until that answers false; rows of which every field is empty are left out. A field that holds
+ * quotes, separators or line breaks must be in double quotes, its own quotes doubled. The fault, if
+ * any, lies behind the last row that was handed over. What \a take throws comes out of here.
  */
-CsvRows readCsv(const QByteArray &text, char separator,
-                qsizetype maxRows = std::numeric_limits<qsizetype>::max());
+std::optional<CsvFault> readCsv(const QByteArray &text, char separator,
+                                const std::function<bool(const CsvRow &)> &take);
 
 } // namespace till
 

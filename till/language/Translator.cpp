@@ -20,6 +20,17 @@ QString russian()
     return QStringLiteral("ru");
 }
 
+QStringList codesOfFiles()
+{
+    QStringList codes{russian()};
+    const QStringList files = languageFiles().entryList();
+    for (const QString &file : files) {
+        if (const QString code = QFileInfo(file).completeBaseName(); code != russian())
+            codes.append(code);
+    }
+    return codes;
+}
+
 std::shared_ptr<const QTranslator> textsOf(const QString &language)
 {
     static QHash<QString, std::shared_ptr<const QTranslator>> read;
@@ -67,13 +78,8 @@ QString Translator::text(const Message &message) const
 
 QStringList Translator::languages()
 {
-    QStringList languages{russian()};
-    const QStringList files = languageFiles().entryList();
-    for (const QString &file : files) {
-        if (const QString language = QFileInfo(file).completeBaseName(); language != russian())
-            languages.append(language);
-    }
-    return languages;
+    static const QStringList codes = codesOfFiles();
+    return codes;
 }
 
 bool Translator::isKnown(const QString &language)

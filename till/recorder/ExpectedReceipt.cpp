@@ -184,8 +184,7 @@ qsizetype ExpectedReceipt::livePositions() const
 
 bool ExpectedReceipt::isUnfinished() const
 {
-    return isThere && record.state != ReceiptState::Closed
-           && record.state != ReceiptState::Cancelled;
+    return isThere && till::isUnfinished(record.state);
 }
 
 QStringList expectationsOf(const ExpectedReceipt &now, const ExpectedReceipt *before)

@@ -134,8 +134,7 @@ void Register::show(const tr::Tr &message)
 
 bool Register::hasUnfinishedReceipt() const
 {
-    return m_receipt && m_receipt->state() != ReceiptState::Closed
-           && m_receipt->state() != ReceiptState::Cancelled;
+    return m_receipt && isUnfinished(m_receipt->state());
 }
 
 Outcome Register::refuse(const tr::Tr &message)

@@ -20,6 +20,16 @@ class StorageDisk : public StorageTest
 protected:
     const QList<JournalEntry> firstEntry{{0, "open", "{}"}};
     FailingDisk disk{directory.path()};
+
+    //! A database whose last command lies in its log alone, with no room for the file itself.
+    ReceiptRecord leaveInTheLog()
+    {
+        ReceiptRecord record = leaveUnfinished(1);
+        disk.leaveNoRoomIn("till.db");
+        record.order = "only in the log";
+        save(*opened(), record);
+        return record;
+    }
 };
 
 //! By how many bytes there is room for.
@@ -173,10 +183,7 @@ TEST_F(StorageDisk, ReadOnlyPlaceWithADatabase_IsRefusedAndKept)
 
 TEST_F(StorageDisk, ReadOnlyPlaceWithAnInterruptedDatabase_IsRefusedAndKept)
 {
-    ReceiptRecord record = leaveUnfinished(1);
-    disk.leaveNoRoomIn("till.db");
-    record.order = "only in the log";
-    save(*opened(), record);
+    const ReceiptRecord record = leaveInTheLog();
     disk.makeReadOnly();
     EXPECT_EQ(refusal(), path() + ": this file may not be written");
     disk.repair();
@@ -203,10 +210,7 @@ TEST_F(StorageDisk, ReadOnlyPlaceWithADatabase_CanBeLookedInto)
 
 TEST_F(StorageDisk, ReadOnlyPlaceWithAnInterruptedDatabase_IsNotReadWithoutItsLog)
 {
-    ReceiptRecord record = leaveUnfinished(1);
-    disk.leaveNoRoomIn("till.db");
-    record.order = "only in the log";
-    save(*opened(), record);
+    const ReceiptRecord record = leaveInTheLog();
     disk.makeReadOnly();
     EXPECT_EQ(faultText(Archive::open(path())),
               path() + ": it is not read with its log " + path()
