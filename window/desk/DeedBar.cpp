@@ -22,7 +22,6 @@ DeedBar::DeedBar(const Translator &translator, QWidget *parent)
         auto *const button = new QPushButton(this);
         button->setObjectName(QLatin1String(row.name));
         button->setMinimumHeight(touchHeight);
-        button->setMinimumWidth(touchHeight);
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         button->setFocusPolicy(Qt::TabFocus);
         button->installEventFilter(this);
@@ -53,6 +52,9 @@ void DeedBar::describe(const DeedRow &row)
     const QString text = m_translator.text(row.text);
     const QString key = row.key.toString(QKeySequence::NativeText);
     shown.button->setText(text + u'\n' + key);
+    constexpr int frame = 12;
+    const int wanted = shown.button->fontMetrics().horizontalAdvance(text) + frame;
+    shown.button->setMinimumWidth(std::max(wanted, touchHeight));
     shown.button->setAccessibleName(text);
     shown.button->setAccessibleDescription(shown.reason);
     shown.button->setToolTip(shown.reason.isEmpty() ? text + QStringLiteral(" (") + key + u')'

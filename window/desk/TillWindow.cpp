@@ -92,8 +92,8 @@ void TillWindow::layOut()
     auto *const goods = new QVBoxLayout(right);
     goods->setContentsMargins(0, 0, 0, 0);
     goods->setSpacing(4);
-    goods->addWidget(&m_articles, 1);
-    goods->addWidget(&m_shelf);
+    goods->addWidget(&m_articles, 3);
+    goods->addWidget(&m_shelf, 2);
     auto *const halves = new QSplitter;
     halves->setChildrenCollapsible(false);
     halves->addWidget(left);
@@ -292,8 +292,9 @@ void TillWindow::tellOutcome(const Outcome &outcome)
     if (outcome && outcome.change)
         banner().tell(m_translator.text(Message{messages::tillChange(), {toText(*outcome.change)}}),
                       Banner::Tone::Notice);
-    // What the plugin showed stands there already.
-    else if (!outcome && (!m_hasShownMessage || outcome.change))
+    // What the plugin showed stands there already, and whoever said no knows why.
+    else if (!outcome && outcome.kind != Outcome::Declined
+             && (!m_hasShownMessage || outcome.change))
         banner().tell(outcome.text(m_translator), Banner::Tone::Warning);
 }
 

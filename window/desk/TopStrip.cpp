@@ -94,6 +94,11 @@ void TopStrip::showControl(TaraControl control, const Translator &translator)
     m_control.setPalette(colours);
 }
 
+QString TopStrip::work() const
+{
+    return m_work.text();
+}
+
 void TopStrip::showWork(const QString &work)
 {
     m_work.setText(work);

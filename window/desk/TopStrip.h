@@ -32,6 +32,7 @@ public:
     //! Shows that the till is at \a work, at once, although no event is handled meanwhile; or, when
     //! it is empty, that it waits for the cashier.
     void showWork(const QString &work);
+    QString work() const;
 
     Banner &banner() { return m_banner; }
     QToolButton &language() { return m_language; }

@@ -13,7 +13,10 @@ bool WindowFront::ask(const Question &question)
     const bool isAtWork = QGuiApplication::overrideCursor() != nullptr;
     if (isAtWork)
         QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    const QString work = m_strip.work();
+    m_strip.showWork({});
     const bool isConfirmed = dialog.exec() == QDialog::Accepted;
+    m_strip.showWork(work);
     if (isAtWork)
         QGuiApplication::restoreOverrideCursor();
     return isConfirmed;

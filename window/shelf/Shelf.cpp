@@ -18,6 +18,7 @@ Shelf::Shelf(const Translator &translator, QWidget *parent)
     setItemDelegate(new VesselDelegate(this));
     setFlow(LeftToRight);
     setWrapping(false);
+    setResizeMode(Adjust);
     setUniformItemSizes(true);
     setSelectionMode(ExtendedSelection);
     setHorizontalScrollMode(ScrollPerPixel);
@@ -80,8 +81,8 @@ QSet<int> Shelf::goodsOfSelected() const
 
 void Shelf::sizeVessels()
 {
-    const QSize room = VesselDelegate::roomSize(font());
-    setFixedHeight(room.height() + horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
+    const QSize room = VesselDelegate::leastRoom(font());
+    setMinimumHeight(room.height() + horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
 }
 
 void Shelf::paintEvent(QPaintEvent *event)

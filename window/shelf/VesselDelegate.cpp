@@ -4,6 +4,7 @@
 #include "window/shelf/VesselModel.h"
 
 #include <QtGui/QPainter>
+#include <QtWidgets/QAbstractItemView>
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +13,7 @@ namespace till {
 
 namespace {
 
-constexpr double tallest = 84.0; //!< pixels of the greatest vessel
+constexpr double tallest = 84.0; //!< pixels of the greatest vessel in the least room
 constexpr double lowest = 22.0;
 constexpr double overflowRoom = 14.0; //!< above the brim
 constexpr int textLines = 3;
@@ -72,7 +73,7 @@ void drawVessel(QPainter &painter, const QRectF &room, const VesselModel &model,
 
 } // namespace
 
-QSize VesselDelegate::roomSize(const QFont &font)
+QSize VesselDelegate::leastRoom(const QFont &font)
 {
     const QFontMetrics metrics(font);
     return {std::max(metrics.averageCharWidth() * 16, touchHeight),
@@ -81,7 +82,11 @@ QSize VesselDelegate::roomSize(const QFont &font)
 
 QSize VesselDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
-    return roomSize(option.font);
+    const QSize least = leastRoom(option.font);
+    const auto *const shelf = qobject_cast<const QAbstractItemView *>(option.widget);
+    const int height =
+        shelf ? std::max(shelf->viewport()->height(), least.height()) : least.height();
+    return {least.width() * (2 * least.height() + height) / (3 * least.height()), height};
 }
 
 void VesselDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

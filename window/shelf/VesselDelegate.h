@@ -11,8 +11,8 @@ class VesselDelegate final : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    //! The room of each vessel in \a font, with its texts.
-    static QSize roomSize(const QFont &font);
+    //! The least room of a vessel in \a font, with its texts.
+    static QSize leastRoom(const QFont &font);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;

@@ -25,7 +25,7 @@ protected:
         scan("CAN3");
     }
     QString page() const { return find("faultPage").isVisible() ? "fault" : "register"; }
-    QString textOf(const QString &name) const { return find<QLabel>(name).text(); }
+    QString textOf(const QString &name) const { return window->findChild<QLabel *>(name)->text(); }
 };
 
 TEST_F(TillWindowTest, QuestionOfThePlugin_HasItsTextsAndChoices)
@@ -55,6 +55,7 @@ TEST_F(TillWindowTest, DeclinedQuestion_StopsTheCommand)
     click("subtotal");
 
     EXPECT_EQ(commands().constLast(), "subtotal: refused");
+    EXPECT_TRUE(find("header").isVisible());
     EXPECT_EQ(receipt()->state(), ReceiptState::Open);
 }
 
@@ -307,6 +308,8 @@ TEST_F(TillWindowTest, Work_IsShownBeforeItBegins)
 
     EXPECT_FALSE(shown.isEmpty());
     EXPECT_EQ(shown.constFirst(), "at work, please wait");
+    whileAsked = [this](QWidget &) { EXPECT_EQ(textOf("work"), ""); }; // the cashier is waited for
+    click("cancelReceipt");
     EXPECT_EQ(textOf("work"), "");
 }
 

@@ -43,7 +43,7 @@ protected:
         reset.clear();
     }
     QString text(int row, int column) const { return model.index(row, column).data().toString(); }
-    QString said(int row) const
+    QString spoken(int row) const
     {
         return model.index(row, ReceiptModel::ArticleName).data(Qt::AccessibleTextRole).toString();
     }
@@ -89,7 +89,7 @@ TEST_F(ReceiptModelTest, Tara_SaysWhatIsInIt)
 {
     run({command::Add{"PET15"}, command::Add{"BEER", 0.5}, command::Add{"DARK", 0.25}});
 
-    EXPECT_EQ(said(0),
+    EXPECT_EQ(spoken(0),
               "PET15 Бутылка ПЭТ 1,5 л\n0.75 / 1.5 л, free 0.75: pos. 2 — 0.5, pos. 3 — 0.25");
 }
 
@@ -109,17 +109,17 @@ TEST_F(ReceiptModelTest, OtherGoods_HaveNeitherFillingNorLook)
 
     EXPECT_FALSE(model.fillingAt(0));
     EXPECT_FALSE(model.lookAt(0));
-    EXPECT_EQ(said(0), "BAG Пакет подарочный");
+    EXPECT_EQ(spoken(0), "BAG Пакет подарочный");
 }
 
 TEST_F(ReceiptModelTest, Unplaced_IsSaidAsAWarning)
 {
     run({command::Add{"PET1"}, command::Add{"BEER", 3}});
 
-    const QList<Piece> notes = model.notesAt(1);
+    const QList<Piece> said = model.notesAt(1);
 
-    EXPECT_EQ(notes.constLast().text, "not placed 2 л");
-    EXPECT_EQ(notes.constLast().paint, Paint::Red);
+    EXPECT_EQ(said.constLast().text, "not placed 2 л");
+    EXPECT_EQ(said.constLast().paint, Paint::Red);
 }
 
 TEST_F(ReceiptModelTest, StornoedRow_IsMarked)
@@ -135,7 +135,7 @@ TEST_F(ReceiptModelTest, StornoedRow_IsMarked)
     run({command::Storno{1}});
 
     EXPECT_TRUE(model.isStornoed(0));
-    EXPECT_EQ(said(0), "BAG Пакет подарочный\nstornoed");
+    EXPECT_EQ(spoken(0), "BAG Пакет подарочный\nstornoed");
 }
 
 TEST_F(ReceiptModelTest, NewPosition_IsInserted_AndOnlyTheTaraChanges)
@@ -189,7 +189,7 @@ TEST_F(ReceiptModelTest, OtherLanguage_ChangesEveryRow)
     model.translate(Translator(QStringLiteral("ru")));
 
     EXPECT_EQ(changedRows(), (Rows{{0, 0}}));
-    EXPECT_EQ(said(0), "PET1 Бутылка ПЭТ 1 л\n0 / 1, пусто");
+    EXPECT_EQ(spoken(0), "PET1 Бутылка ПЭТ 1 л\n0 / 1, пусто");
     EXPECT_EQ(model.headerData(ReceiptModel::Sum, Qt::Horizontal, Qt::DisplayRole), "Сумма");
 }
 

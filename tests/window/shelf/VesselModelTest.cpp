@@ -1,5 +1,7 @@
 #include "window/shelf/VesselModel.h"
 #include "tests/till/support/FolderTest.h"
+#include "window/look/Paints.h"
+#include "window/shelf/Shelf.h"
 
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>
@@ -92,6 +94,27 @@ TEST_F(VesselModelTest, OverfullVessel_SaysSoAsAWarning)
     EXPECT_EQ(model.fillTextAt(0).text, "over-full by 1");
     EXPECT_EQ(model.fillTextAt(0).paint, Paint::Red);
     EXPECT_GT(model.fillingAt(0).amount(), model.fillingAt(0).capacity);
+}
+
+TEST_F(VesselModelTest, OverfullVessel_RunsOverVisibly)
+{
+    const auto warns = [](const std::shared_ptr<const ShownReceipt> &receipt) {
+        Shelf drawn(Translator(QStringLiteral("en")));
+        drawn.show(receipt);
+        drawn.resize(400, drawn.minimumHeight());
+        const QRect vessels(0, 0, 400, 100); // above the texts
+        const QImage image = drawn.grab(vessels).toImage();
+        const QColor warning = warningColour(drawn.palette());
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y) == warning)
+                    return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_FALSE(warns(shelf(1.5, 0.5)));
+    EXPECT_TRUE(warns(shelf(2, 1)));
 }
 
 TEST_F(VesselModelTest, Change_IsOnItsWay_UntilItArrived)

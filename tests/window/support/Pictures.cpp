@@ -1,9 +1,9 @@
-// Draws the window in several states into the folder that is named, in both languages: what a
-// reader of the docs sees.
+// Draws the window in several states, in both languages, into the folder that PICTURES names: what
+// a reader of the docs sees.
 
 #include "tests/window/support/WindowTest.h"
 
-#include <QtWidgets/QApplication>
+#include <QtGui/QPainter>
 
 namespace till {
 
@@ -12,60 +12,74 @@ namespace {
 class Pictures : public WindowTest
 {
 protected:
-    void draw(const QString &state)
+    //! Draws the window, and \a dialog in its middle.
+    void draw(const QString &state, QWidget *dialog = nullptr)
     {
         QCoreApplication::processEvents();
+        QPixmap picture = window->grab();
+        if (dialog) {
+            QPainter painter(&picture);
+            painter.fillRect(picture.rect(), QColor(0, 0, 0, 90));
+            QRect place = dialog->rect();
+            place.moveCenter(picture.rect().center());
+            painter.drawPixmap(place.topLeft(), dialog->grab());
+            painter.setPen(Qt::black);
+            painter.drawRect(place.adjusted(-1, -1, 0, 0));
+        }
         const QString file =
             QStringLiteral("%1/%2-%3.png").arg(qEnvironmentVariable("PICTURES"), state, language);
-        EXPECT_TRUE(window->grab().save(file)) << file.toStdString();
+        EXPECT_TRUE(picture.save(file)) << file.toStdString();
+    }
+    //! A receipt with shared tara, with goods that found no place, and a position that is stornoed.
+    void fill()
+    {
+        for (const char *const code : {"PET15", "PET1", "GLASS1", "3*BEER", "DARK", "CHIPS",
+                                       "BUCKET5", "2.5*HONEY", "2*PAINT"})
+            scan(code);
+        window->table().clearSelection();
+        select({2});
+        answer({true});
+        click("storno");
+        select({5});
     }
 
     QString language;
 };
 
-TEST_F(Pictures, All)
+class InLanguage : public Pictures, public testing::WithParamInterface<const char *>
 {
-    for (const QString &code : Translator::languages()) {
-        language = code;
-        till::Setup fresh = setup();
-        fresh.database = QStringLiteral(":memory:");
-        open(fresh, code);
-        window->shelf().setMoving(false);
-        draw("empty");
-        scan("PET15");
-        scan("PET1");
-        scan("GLASS1");
-        scan("3*BEER");
-        draw("filled");
-        scan("DARK");
-        scan("CHIPS");
-        scan("BUCKET5");
-        scan("2.5*HONEY");
-        scan("2*PAINT");
-        scan("2*KVASS");
-        select({2});
-        answer({true});
-        click("storno");
-        select({4});
-        draw("stornoed");
-        click("subtotal");
-        whileAsked = [this](QWidget &question) {
-            EXPECT_TRUE(question.grab().save(QStringLiteral("%1/question-%2.png")
-                                                 .arg(qEnvironmentVariable("PICTURES"), language)));
-        };
-        click("cancelReceipt");
-        select({3});
-        click("quantity");
-        EXPECT_TRUE(top().grab().save(
-            QStringLiteral("%1/quantity-%2.png").arg(qEnvironmentVariable("PICTURES"), language)));
-        enter("5");
-        draw("refused");
-        click(window->banner());
-        fresh.catalogue = "/no/such/catalogue.csv";
-        open(fresh, code);
-        draw("fault");
-    }
+};
+
+TEST_P(InLanguage, AreDrawn)
+{
+    language = GetParam();
+    till::Setup fresh = setup();
+    fresh.database = QStringLiteral(":memory:");
+    fresh.settings.insert("PackagingControl:allowSaleEmptyTara", "false");
+    open(fresh, language);
+    window->shelf().setMoving(false);
+    fill();
+    draw("receipt");
+
+    select({3});
+    click("quantity");
+    enter("5");
+    draw("refused");
+    click(window->banner());
+
+    scan("PET05");
+    scan("CAN3");
+    whileAsked = [this](QWidget &question) { draw("question", &question); };
+    click("subtotal");
+
+    openMenu({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+    scan("KVASS");
+    draw("course-small");
+    window->resize(1920, 1080);
+    draw("course");
 }
+
+INSTANTIATE_TEST_SUITE_P(Pictures, InLanguage, testing::Values("ru", "en"));
 
 } // namespace
 
