@@ -2,9 +2,11 @@
 
 #include "till/language/TillMessages.h"
 #include "window/articles/ArticlePanel.h"
+#include "window/course/CourseDock.h"
 #include "window/desk/DeedEntry.h"
 #include "window/dialogs/FaultPage.h"
 #include "window/receipt/ReceiptTable.h"
+#include "window/scripts/ScriptsDock.h"
 #include "window/shelf/Shelf.h"
 
 #include <QtGui/QCloseEvent>
@@ -54,6 +56,8 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     , m_deeds(*new DeedBar(m_translator))
     , m_articles(*new ArticlePanel(m_translator))
     , m_shelf(*new Shelf(m_translator))
+    , m_course(*new CourseDock(notes, m_translator))
+    , m_scripts(*new ScriptsDock(desk, notes, m_translator))
     , m_front(*this, m_strip, m_translator)
     , m_installed(desk.front(), m_front)
     , m_receiptSeen(desk.onReceiptChanged([this] { showReceipt(); }))
@@ -63,6 +67,7 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     m_shelf.setObjectName(QStringLiteral("shelf"));
     m_total.setObjectName(QStringLiteral("total"));
     layOut();
+    addDocks();
     connectParts();
     addShortcuts();
     translate();
@@ -105,6 +110,18 @@ void TillWindow::layOut()
     m_pages.addWidget(&m_fault);
     setCentralWidget(&m_pages);
     resize(1024, 600);
+}
+
+//! They are hidden until their keys or the menu show them.
+void TillWindow::addDocks()
+{
+    const QList<KeyDock *> docks{&m_course, &m_scripts};
+    for (KeyDock *const dock : docks) {
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+        dock->hide();
+        addAction(dock->showAction());
+    }
+    tabifyDockWidget(&m_course, &m_scripts);
 }
 
 void TillWindow::connectParts()
@@ -155,6 +172,8 @@ void TillWindow::fillMenu()
     moves->setCheckable(true);
     moves->setChecked(m_shelf.isMoving());
     connect(moves, &QAction::toggled, this, [this](bool on) { m_shelf.setMoving(on); });
+    menu.addAction(m_course.showAction());
+    menu.addAction(m_scripts.showAction());
 }
 
 void TillWindow::setLanguage(const QString &language)
@@ -178,6 +197,8 @@ void TillWindow::translate()
     m_deeds.translate(m_translator);
     m_articles.translate(m_translator);
     m_shelf.translate(m_translator);
+    m_course.translate(m_translator);
+    m_scripts.translate(m_translator);
     fillMenu();
     showReceipt();
     showDeeds();

@@ -15,8 +15,10 @@ QT_END_NAMESPACE
 namespace till {
 
 class ArticlePanel;
+class CourseDock;
 class FaultPage;
 class ReceiptTable;
+class ScriptsDock;
 class Shelf;
 
 /*!
@@ -53,6 +55,7 @@ protected:
 private:
     void layOut();
     void connectParts();
+    void addDocks();
     void addShortcuts();
     void fillMenu();
     void translate();
@@ -76,6 +79,8 @@ private:
     DeedBar &m_deeds;
     ArticlePanel &m_articles;
     Shelf &m_shelf;
+    CourseDock &m_course;
+    ScriptsDock &m_scripts;
     WindowFront m_front;
     const InstalledFront m_installed;
     Subscription m_receiptSeen;
