@@ -452,6 +452,198 @@
         <translation>повреждён: %1</translation>
     </message>
     <message>
+        <source>Code, or 3*code</source>
+        <translation>Код или 3*код</translation>
+    </message>
+    <message>
+        <source>Scan or type a code and press Enter. A number and * before it is the quantity; for a tile it is typed here too.</source>
+        <translation>Сканируйте или наберите код и нажмите Enter. Число и * перед ним — количество; для плитки оно набирается здесь же.</translation>
+    </message>
+    <message>
+        <source>Search (F3)</source>
+        <translation>Поиск (F3)</translation>
+    </message>
+    <message>
+        <source>Articles</source>
+        <translation>Товары</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>Tara</source>
+        <translation>Тара</translation>
+    </message>
+    <message>
+        <source>Into tara</source>
+        <translation>В тару</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Прочее</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Количество</translation>
+    </message>
+    <message>
+        <source>Storno</source>
+        <translation>Сторно</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Разделить</translation>
+    </message>
+    <message>
+        <source>Unite</source>
+        <translation>Объединить</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Заказ</translation>
+    </message>
+    <message>
+        <source>Soft-check</source>
+        <translation>Софт-чек</translation>
+    </message>
+    <message>
+        <source>New receipt</source>
+        <translation>Новый чек</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Возврат</translation>
+    </message>
+    <message>
+        <source>Cancel receipt</source>
+        <translation>Отмена чека</translation>
+    </message>
+    <message>
+        <source>Subtotal</source>
+        <translation>Подытог</translation>
+    </message>
+    <message>
+        <source>Pay</source>
+        <translation>Оплата</translation>
+    </message>
+    <message>
+        <source>Select one position in the receipt</source>
+        <translation>Выберите одну позицию чека</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>«%1» — не число</translation>
+    </message>
+    <message>
+        <source>Quantity of position %1</source>
+        <translation>Количество в позиции %1</translation>
+    </message>
+    <message>
+        <source>In pieces, up to three decimals</source>
+        <translation>В штуках, до трёх знаков после точки</translation>
+    </message>
+    <message>
+        <source>Parts to split off position %1</source>
+        <translation>Части, на которые делится позиция %1</translation>
+    </message>
+    <message>
+        <source>As &quot;1+0.5&quot;; what is left stays in the position</source>
+        <translation>Например, 1+0.5; остаток останется в позиции</translation>
+    </message>
+    <message>
+        <source>Number of the order</source>
+        <translation>Номер заказа</translation>
+    </message>
+    <message>
+        <source>Number of the soft-check</source>
+        <translation>Номер софт-чека</translation>
+    </message>
+    <message>
+        <source>To pay: %1. Money given</source>
+        <translation>К оплате: %1. Получено</translation>
+    </message>
+    <message>
+        <source>As it stands, the sum is paid exactly</source>
+        <translation>Если не менять, сумма оплачивается точно</translation>
+    </message>
+    <message>
+        <source>Changes move smoothly</source>
+        <translation>Плавные изменения</translation>
+    </message>
+    <message>
+        <source>Till</source>
+        <translation>Касса</translation>
+    </message>
+    <message>
+        <source>Language (Ctrl+L)</source>
+        <translation>Язык (Ctrl+L)</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Меню</translation>
+    </message>
+    <message>
+        <source>at work, please wait</source>
+        <translation>касса работает, подождите</translation>
+    </message>
+    <message>
+        <source>tara is controlled</source>
+        <translation>тара под контролем</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Ввод</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>The till could not be switched on</source>
+        <translation>Кассу не удалось включить</translation>
+    </message>
+    <message>
+        <source>The command came to nothing; the receipt is as it was before</source>
+        <translation>Команда не выполнена; чек остался прежним</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Что случилось</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Где</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Что делать</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Попробовать снова</translation>
+    </message>
+    <message>
+        <source>Back to the receipt</source>
+        <translation>Вернуться к чеку</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Вопрос</translation>
+    </message>
+    <message>
+        <source>stornoed</source>
+        <translation>сторнировано</translation>
+    </message>
+    <message>
+        <source>Receipt</source>
+        <translation>Чек</translation>
+    </message>
+    <message>
+        <source>no tara in the receipt</source>
+        <translation>в чеке нет тары</translation>
+    </message>
+    <message>
         <source>Course (F9)</source>
         <translation>Ход событий (F9)</translation>
     </message>
@@ -838,6 +1030,10 @@
     <message>
         <source>Scripts (F10)</source>
         <translation>Сценарии (F10)</translation>
+    </message>
+    <message>
+        <source>Shelf of tara</source>
+        <translation>Полка с тарой</translation>
     </message>
 </context>
 </TS>

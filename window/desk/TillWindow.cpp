@@ -99,7 +99,7 @@ void TillWindow::layOut()
     halves->setChildrenCollapsible(false);
     halves->addWidget(left);
     halves->addWidget(right);
-    halves->setSizes({520, 500});
+    halves->setSizes({540, 480});
     auto *const cashDesk = new QWidget;
     auto *const all = new QVBoxLayout(cashDesk);
     all->setContentsMargins(4, 0, 4, 4);
@@ -109,6 +109,12 @@ void TillWindow::layOut()
     m_pages.addWidget(cashDesk);
     m_pages.addWidget(&m_fault);
     setCentralWidget(&m_pages);
+    for (QDockWidget *const dock : std::initializer_list<QDockWidget *>{&m_course, &m_scripts}) {
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+        dock->hide();
+        addAction(dock->toggleViewAction()); // so that its key is heard
+    }
+    tabifyDockWidget(&m_course, &m_scripts);
     resize(1024, 600);
 }
 
@@ -132,8 +138,7 @@ void TillWindow::connectParts()
         banner().tell(reason, Banner::Tone::Notice);
     };
     m_table.selected = [this] {
-        const QList<int> posnums = m_table.selectedPositions();
-        m_shelf.setLit(QSet<int>(posnums.cbegin(), posnums.cend()));
+        m_shelf.setLit(selectedGoods());
         showDeedsSoon();
     };
     m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
@@ -143,6 +148,17 @@ void TillWindow::connectParts()
         else
             switchOn();
     };
+}
+
+QSet<int> TillWindow::selectedGoods() const
+{
+    QSet<int> goods;
+    const QList<int> posnums = m_table.selectedPositions();
+    for (const int posnum : posnums) {
+        if (m_table.receipt().shown()->goodsOrdinal(posnum))
+            goods.insert(posnum);
+    }
+    return goods;
 }
 
 void TillWindow::addShortcuts()
@@ -171,6 +187,8 @@ void TillWindow::fillMenu()
     QAction *const moves = menu.addAction(m_translator.text(told("till", "Changes move smoothly")));
     moves->setCheckable(true);
     moves->setChecked(m_shelf.isMoving());
+    menu.addAction(m_course.toggleViewAction());
+    menu.addAction(m_scripts.toggleViewAction());
     connect(moves, &QAction::toggled, this, [this](bool on) { m_shelf.setMoving(on); });
     menu.addAction(m_course.showAction());
     menu.addAction(m_scripts.showAction());
@@ -206,6 +224,8 @@ void TillWindow::translate()
 
 void TillWindow::switchOn()
 {
+    if (m_desk.isOn() || m_desk.isBusy())
+        return;
     if (const Result<> started = m_desk.start(); !started) {
         m_fault.tellStart(started.error());
         m_pages.setCurrentIndex(1);

@@ -60,6 +60,7 @@ private:
     void fillMenu();
     void translate();
 
+    QSet<int> selectedGoods() const;
     void showReceipt();
     void showDeeds();
     void showDeedsSoon();

@@ -39,7 +39,7 @@ TopStrip::TopStrip(QWidget *parent)
     row->setContentsMargins(4, 0, 0, 0);
     row->addWidget(&m_header, 1);
     row->addWidget(&m_work);
-    row->addWidget(&m_control);
+    row->addWidget(&m_control, 0, Qt::AlignVCenter);
     for (QToolButton *const button : {&m_language, &m_menu}) {
         button->setMinimumSize(touchHeight, touchHeight);
         row->addWidget(button);

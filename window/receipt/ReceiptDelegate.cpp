@@ -40,6 +40,7 @@ void drawBar(QPainter &painter, const QRectF &area, const Filling &filling, cons
 
 void drawBackground(QPainter &painter, const QStyleOptionViewItem &option, bool isLit)
 {
+    painter.fillRect(option.rect, option.palette.color(QPalette::Base));
     if (option.state.testFlag(QStyle::State_Selected)) {
         QColor selected = option.palette.color(QPalette::Highlight);
         selected.setAlphaF(0.25F);

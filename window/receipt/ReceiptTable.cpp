@@ -22,7 +22,14 @@ ReceiptTable::ReceiptTable(const Translator &translator, QWidget *parent)
         if (selected)
             selected();
     });
+    connect(&m_receipt, &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex &first, const QModelIndex &last) {
+                widen(first.row(), last.row());
+            });
+    connect(&m_receipt, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex &, int first, int last) { widen(first, last); });
     connect(&m_receipt, &QAbstractItemModel::modelReset, this, [this] {
+        sizeRows();
         if (selected)
             selected();
     });
@@ -46,20 +53,34 @@ void ReceiptTable::setUp()
     sizeRows();
 }
 
-//! Columns are as wide as what usually stands there: to ask every row costs too much.
 void ReceiptTable::sizeRows()
 {
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     const int height = static_cast<const ReceiptDelegate *>(itemDelegate())->rowHeight();
     verticalHeader()->setMinimumSectionSize(height);
     verticalHeader()->setDefaultSectionSize(height);
-    const auto widen = [this](ReceiptModel::Column column, const QString &sample) {
-        setColumnWidth(column, fontMetrics().horizontalAdvance(sample) + 12);
-    };
-    widen(ReceiptModel::Number, QStringLiteral("0000"));
-    widen(ReceiptModel::Count, QStringLiteral("999 шт = 999.999 кг"));
-    widen(ReceiptModel::Price, QStringLiteral("99999.99"));
-    widen(ReceiptModel::Sum, QStringLiteral("9999999.99"));
+    for (const int column :
+         {ReceiptModel::Number, ReceiptModel::Count, ReceiptModel::Price, ReceiptModel::Sum})
+        setColumnWidth(column, 0);
+    widen(0, m_receipt.rowCount() - 1);
+}
+
+//! To ask every row after each change would cost too much.
+void ReceiptTable::widen(int first, int last)
+{
+    constexpr int margins = 12;
+    for (const int column :
+         {ReceiptModel::Number, ReceiptModel::Count, ReceiptModel::Price, ReceiptModel::Sum}) {
+        const QString caption =
+            m_receipt.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        int width = fontMetrics().horizontalAdvance(caption + QStringLiteral("00"));
+        for (int row = first; row <= last; ++row) {
+            const QString text = m_receipt.index(row, column).data().toString();
+            width = std::max(width, fontMetrics().horizontalAdvance(text));
+        }
+        if (width + margins > columnWidth(column))
+            setColumnWidth(column, width + margins);
+    }
 }
 
 void ReceiptTable::show(std::shared_ptr<const ShownReceipt> receipt)

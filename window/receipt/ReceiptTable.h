@@ -37,6 +37,8 @@ protected:
 private:
     void setUp();
     void sizeRows();
+    //! Makes the columns of numbers as wide as these rows need.
+    void widen(int first, int last);
 
     using QTableView::show;
 

@@ -29,7 +29,7 @@ QRectF vesselIn(const QRectF &room, double capacity, double greatest)
 
 void drawLayer(QPainter &painter, const QRectF &area, const GoodsLook &look, bool isDimmed)
 {
-    painter.setOpacity(isDimmed ? 0.25 : 1.0);
+    painter.setOpacity(isDimmed ? 0.4 : 1.0);
     look.fill(painter, area);
     painter.setOpacity(1.0);
 }
@@ -91,6 +91,7 @@ void VesselDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     painter->save();
     painter->setFont(option.font);
     const QRect inside = option.rect.adjusted(padding, padding, -padding, -padding);
+    painter->fillRect(option.rect, option.palette.color(QPalette::Base));
     if (option.state.testFlag(QStyle::State_Selected)) {
         QColor selected = option.palette.color(QPalette::Highlight);
         selected.setAlphaF(0.25F);

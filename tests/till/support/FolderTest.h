@@ -68,8 +68,8 @@ protected:
 private:
     static void failOnMessage(QtMsgType, const QMessageLogContext &context, const QString &text)
     {
-        // Qt's platform without a display says so of every window.
-        if (text.contains(QLatin1String("propagateSizeHints")))
+        // Qt's platform without a display says of windows what it does not do with them.
+        if (text.startsWith(QLatin1String("This plugin does not support")))
             return;
         if (context.category == nullptr || std::strcmp(context.category, "packaging") != 0)
             ADD_FAILURE() << "Qt says: " << text.toStdString();

@@ -1,0 +1,282 @@
+#include "window/desk/Deed.h"
+#include "tests/window/support/WindowTest.h"
+
+#include <QtWidgets/QPushButton>
+
+namespace till {
+
+namespace {
+
+class DeedTest : public WindowTest
+{
+protected:
+    //! Why the button of that name is disabled; empty when it is not.
+    QString reasonOf(const QString &name)
+    {
+        QCoreApplication::processEvents();
+        const QPushButton &button = find<QPushButton>(name);
+        EXPECT_EQ(button.isEnabled(), button.accessibleDescription().isEmpty());
+        if (!button.isEnabled())
+            EXPECT_EQ(button.toolTip(), button.accessibleDescription());
+        return button.accessibleDescription();
+    }
+};
+
+TEST_F(DeedTest, Quantity_IsTypedInADialog)
+{
+    scan("PET1");
+    scan("BEER");
+    click("quantity");
+
+    enter("0.5");
+
+    EXPECT_EQ(commands().constLast(), "qty 2 0.5: done");
+    EXPECT_EQ(rows().index(1, ReceiptModel::Count).data(), "0.5 л");
+}
+
+TEST_F(DeedTest, Quantity_IsTouchedOnThePad)
+{
+    scan("BEER");
+    click("quantity");
+    for (const char *const key : {"key1", "key⌫", "key2", "key.", "key5"})
+        click(key);
+
+    click("confirm");
+
+    EXPECT_EQ(commands().constLast(), "qty 1 2.5: done");
+}
+
+TEST_F(DeedTest, WrongEntry_SaysWhatIsWrong_AndIsNotTaken)
+{
+    scan("BEER");
+    click("quantity");
+
+    enter("much");
+
+    EXPECT_EQ(find<QLabel>("fault").text(), "\"much\" is not a number");
+    EXPECT_FALSE(find<QPushButton>("confirm").isEnabled());
+    click("back");
+    EXPECT_EQ(commands().constLast(), "add BEER 1: done");
+}
+
+TEST_F(DeedTest, EntryBeyondALimit_SaysTheLimit)
+{
+    scan("BEER");
+    click("quantity");
+
+    type("1000000");
+
+    EXPECT_EQ(find<QLabel>("fault").text(), "the quantity must not be above 999999.999");
+}
+
+TEST_F(DeedTest, Storno_AsksAndStrikes)
+{
+    scan("BAG");
+    answer({true});
+
+    click("storno");
+
+    EXPECT_EQ(commands().constLast(), "storno 1: done");
+    EXPECT_TRUE(rows().isStornoed(0));
+}
+
+TEST_F(DeedTest, Split_TakesParts)
+{
+    scan("CAN3");
+    scan("3*BEER");
+    click("split");
+
+    enter("1+0.5");
+
+    EXPECT_EQ(commands().constLast(), "split 2 1 0.5: done");
+    EXPECT_EQ(rows().rowCount(), 4);
+}
+
+TEST_F(DeedTest, Unite_TakesTheSelected)
+{
+    scan("CAN3");
+    scan("BEER");
+    scan("BEER");
+    select({2, 3});
+
+    click("unite");
+
+    EXPECT_EQ(commands().constLast(), "unite 2 3: done");
+}
+
+TEST_F(DeedTest, Order_SuspendsTaraControl)
+{
+    scan("CAN3");
+    click("order");
+
+    enter("A-17");
+
+    EXPECT_EQ(commands().constLast(), "order A-17: done");
+    EXPECT_EQ(find<QLabel>("control").text(), "◐ tara control suspended");
+    EXPECT_EQ(reasonOf("order"), "the receipt has order A-17 already");
+}
+
+TEST_F(DeedTest, SoftCheck_IsAdded)
+{
+    scan("CAN3");
+    click("softCheck");
+
+    enter("5");
+
+    EXPECT_EQ(commands().constLast(), "softcheck 5: done");
+}
+
+TEST_F(DeedTest, Subtotal_IsShownInTheHeader)
+{
+    scan("BAG");
+
+    click("subtotal");
+
+    EXPECT_EQ(find<QLabel>("header").text(), "Receipt No. 1 · subtotal");
+}
+
+TEST_F(DeedTest, PayAsProposed_PaysExactly)
+{
+    scan("BAG");
+    click("pay");
+
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(commands().constLast(), "pay: done");
+    EXPECT_EQ(receipt()->state(), ReceiptState::Closed);
+}
+
+TEST_F(DeedTest, MoneyGiven_GivesChange)
+{
+    scan("BAG");
+    click("pay");
+
+    enter("50");
+
+    EXPECT_EQ(commands().constLast(), "pay 50.00: done");
+    EXPECT_EQ(told(), "Change 15.00");
+}
+
+TEST_F(DeedTest, TooLittleMoney_SaysWhatIsMissing)
+{
+    scan("BAG");
+    click("pay");
+
+    enter("20");
+
+    EXPECT_EQ(commands().constLast(), "pay 20.00: refused");
+    EXPECT_TRUE(told().contains("15.00 missing")) << told().toStdString();
+    EXPECT_EQ(receipt()->state(), ReceiptState::Subtotal);
+}
+
+TEST_F(DeedTest, Cancel_AsksAndCancels)
+{
+    scan("BAG");
+    answer({true});
+
+    click("cancelReceipt");
+
+    EXPECT_EQ(receipt()->state(), ReceiptState::Cancelled);
+    EXPECT_EQ(questions, QStringList{"Cancel the receipt?"});
+}
+
+TEST_F(DeedTest, Return_IsOpened)
+{
+    click("openReturn");
+
+    EXPECT_EQ(commands().constLast(), "open return: done");
+    EXPECT_EQ(receipt()->getType(), Document::Return);
+}
+
+TEST_F(DeedTest, WithoutAReceipt_OnlyANewOneCanBeHad)
+{
+    for (const DeedRow &row : deedRows()) {
+        const bool opens = row.deed == Deed::OpenSale || row.deed == Deed::OpenReturn;
+        EXPECT_EQ(reasonOf(row.name), opens ? "" : "no receipt is open") << row.name;
+    }
+}
+
+TEST_F(DeedTest, EmptyReceipt_CannotBePaid)
+{
+    click("openSale");
+
+    EXPECT_EQ(reasonOf("pay"), "There are no positions in the receipt");
+    EXPECT_EQ(reasonOf("subtotal"), "There are no positions in the receipt");
+    EXPECT_EQ(reasonOf("cancelReceipt"), "");
+    EXPECT_EQ(reasonOf("openSale"), "a receipt is open already: pay or cancel it first");
+}
+
+TEST_F(DeedTest, NothingSelected_CannotBeChanged)
+{
+    scan("BAG");
+    window->table().clearSelection();
+
+    for (const char *const name : {"quantity", "storno", "split"})
+        EXPECT_EQ(reasonOf(name), "Select one position in the receipt") << name;
+}
+
+TEST_F(DeedTest, StornoedPosition_CannotBeChanged)
+{
+    scan("BAG");
+    answer({true});
+    click("storno");
+
+    select({1});
+
+    for (const char *const name : {"quantity", "storno", "split"})
+        EXPECT_EQ(reasonOf(name), "position 1 is stornoed") << name;
+}
+
+TEST_F(DeedTest, DifferentArticles_CannotBeUnited)
+{
+    scan("BAG");
+    scan("CHIPS");
+    EXPECT_EQ(reasonOf("unite"), "at least two positions must be named");
+
+    select({1, 2});
+
+    EXPECT_EQ(reasonOf("unite"), "positions 1 and 2 are of different articles");
+}
+
+TEST_F(DeedTest, DisabledButtonThatIsTouched_SaysWhy)
+{
+    click("pay");
+
+    EXPECT_EQ(told(), "no receipt is open");
+    EXPECT_EQ(commands(), QStringList());
+}
+
+TEST_F(DeedTest, KeyOfWhatIsImpossible_SaysWhy)
+{
+    press(Qt::Key_F12);
+
+    EXPECT_EQ(told(), "no receipt is open");
+    EXPECT_EQ(commands(), QStringList());
+}
+
+TEST_F(DeedTest, WholeReceipt_ByKeysAlone)
+{
+    const auto key = [this](Qt::Key key, const QString &entry) {
+        press(key);
+        enter(entry);
+    };
+    press(Qt::Key_N, Qt::ControlModifier);
+    type("CAN3");
+    press(Qt::Key_Return);
+    type("2*BEER");
+    press(Qt::Key_Return);
+    key(Qt::Key_F2, "2.5");
+    key(Qt::Key_F5, "1");
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_F6);
+    press(Qt::Key_F11);
+    key(Qt::Key_F12, "500");
+
+    EXPECT_EQ(commands(), (QStringList{"open sale: done", "add CAN3 1: done", "add BEER 2: done",
+                                       "qty 2 2.5: done", "split 2 1: done", "unite 2 3: done",
+                                       "subtotal: done", "pay 500.00: done"}));
+}
+
+} // namespace
+
+} // namespace till

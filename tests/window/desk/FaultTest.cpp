@@ -1,0 +1,116 @@
+#include "tests/till/support/FailingDisk.h"
+#include "tests/window/support/WindowTest.h"
+
+#include <QtWidgets/QPushButton>
+
+namespace till {
+
+namespace {
+
+class WindowFaultTest : public WindowTest
+{
+protected:
+    //! Opens a window that must tell of a fault; what it says of it.
+    QString faultOf(const till::Setup &setup)
+    {
+        open(setup);
+        EXPECT_TRUE(find("faultPage").isVisible());
+        EXPECT_FALSE(find("receipt").isVisible());
+        return Fault{textOf("place"), textOf("reason"), textOf("remedy")}.text();
+    }
+    QString textOf(const QString &name) const
+    {
+        const QLabel &label = find<QLabel>(name);
+        EXPECT_EQ(label.isVisible(), !label.text().isEmpty());
+        return label.text();
+    }
+    //! What a console says of it, with the window closed.
+    QString consoleOf(const till::Setup &setup)
+    {
+        close();
+        CashDesk desk(setup, notes);
+        return faultText(desk.start());
+    }
+};
+
+TEST_F(WindowFaultTest, MissingPlugin_IsToldAsOnAConsole)
+{
+    till::Setup without = setup();
+    without.plugin = path("no.so");
+
+    const QString fault = faultOf(without);
+
+    EXPECT_TRUE(fault.contains(path("no.so"))) << fault.toStdString();
+    EXPECT_EQ(fault, consoleOf(without));
+}
+
+TEST_F(WindowFaultTest, DatabaseInUse_IsToldAsOnAConsole)
+{
+    close();
+    const auto storage = must(Storage::open(setup().database));
+
+    const QString fault = faultOf(setup());
+
+    EXPECT_TRUE(fault.contains(setup().database)) << fault.toStdString();
+    EXPECT_EQ(fault, consoleOf(setup()));
+}
+
+TEST_F(WindowFaultTest, OnceTheDatabaseIsFree_TheTillGoesOn)
+{
+    close();
+    auto storage = must(Storage::open(setup().database));
+    faultOf(setup());
+    storage.reset();
+
+    click("goOn");
+    scan("BAG");
+
+    EXPECT_FALSE(find("faultPage").isVisible());
+    EXPECT_EQ(commands().constLast(), "add BAG 1: done");
+}
+
+TEST_F(WindowFaultTest, DamagedDatabase_IsToldAsOnAConsole)
+{
+    close();
+    overwrite(setup().database, "this is no database, however long it is");
+
+    const QString fault = faultOf(setup());
+
+    EXPECT_TRUE(fault.contains(setup().database)) << fault.toStdString();
+    EXPECT_EQ(fault, consoleOf(setup()));
+}
+
+TEST_F(WindowFaultTest, WithoutATill_NothingCanBeDone)
+{
+    till::Setup without = setup();
+    without.catalogue = path("no.csv");
+    faultOf(without);
+
+    press(Qt::Key_F12);
+    press(Qt::Key_N, Qt::ControlModifier);
+    type("BAG");
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(commands(), QStringList());
+}
+
+TEST_F(WindowFaultTest, FullDisk_IsToldOnAPage_AndTheReceiptIsAsBefore)
+{
+    scan("BAG");
+    FailingDisk disk(directory.path());
+    disk.leaveRoomFor(0);
+    scan("PET1");
+    disk.repair();
+
+    EXPECT_TRUE(find("faultPage").isVisible());
+    EXPECT_TRUE(textOf("reason").startsWith("could not be stored"))
+        << textOf("reason").toStdString();
+    click("goOn");
+    EXPECT_EQ(rows().rowCount(), 1);
+    scan("PET1");
+    EXPECT_EQ(rows().rowCount(), 2);
+}
+
+} // namespace
+
+} // namespace till

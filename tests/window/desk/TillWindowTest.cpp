@@ -1,0 +1,315 @@
+#include "tests/window/support/WindowTest.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDockWidget>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QToolButton>
+
+namespace till {
+
+namespace {
+
+class TillWindowTest : public WindowTest
+{
+protected:
+    //! A receipt in which a tara is empty, of which the cashier is asked before subtotal.
+    void makeEmptyTara()
+    {
+        till::Setup strict = setup();
+        strict.settings.insert("PackagingControl:allowSaleEmptyTara", "false");
+        open(strict);
+        scan("PET1");
+        scan("BEER");
+        scan("CAN3");
+    }
+    QString page() const { return find("faultPage").isVisible() ? "fault" : "register"; }
+    QString textOf(const QString &name) const { return find<QLabel>(name).text(); }
+};
+
+TEST_F(TillWindowTest, QuestionOfThePlugin_HasItsTextsAndChoices)
+{
+    makeEmptyTara();
+    QStringList choices;
+    whileAsked = [&](QWidget &question) {
+        EXPECT_TRUE(question.isModal());
+        for (const char *const name : {"confirm", "cancel"})
+            choices.append(question.findChild<QPushButton *>(name)->text());
+    };
+    answer({true});
+
+    click("subtotal");
+
+    EXPECT_EQ(questions.constFirst(),
+              "There is empty tara in the receipt.\nStorno the tara and go on to payment?");
+    EXPECT_EQ(choices, (QStringList{"OK", "Cancel"}));
+    EXPECT_EQ(commands().constLast(), "subtotal: done");
+}
+
+TEST_F(TillWindowTest, DeclinedQuestion_StopsTheCommand)
+{
+    makeEmptyTara();
+    answer({false});
+
+    click("subtotal");
+
+    EXPECT_EQ(commands().constLast(), "subtotal: refused");
+    EXPECT_EQ(receipt()->state(), ReceiptState::Open);
+}
+
+TEST_F(TillWindowTest, ScannerThatTypesIntoAQuestion_DoesNotSayYes)
+{
+    scan("BAG");
+    whileAsked = [this](QWidget &) {
+        type("PET1");
+        press(Qt::Key_Return);
+    };
+
+    click("cancelReceipt");
+
+    EXPECT_EQ(receipt()->state(), ReceiptState::Open);
+    EXPECT_EQ(receipt()->lines().size(), 1);
+}
+
+TEST_F(TillWindowTest, Escape_Declines)
+{
+    scan("BAG");
+    whileAsked = [this](QWidget &) { press(Qt::Key_Escape); };
+
+    click("cancelReceipt");
+
+    EXPECT_EQ(receipt()->state(), ReceiptState::Open);
+}
+
+TEST_F(TillWindowTest, WhileAQuestionStands_TheWindowDoesNotClose)
+{
+    scan("BAG");
+    whileAsked = [this](QWidget &question) {
+        EXPECT_FALSE(window->close());
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_TRUE(question.isVisible());
+    };
+    answer({true});
+
+    click("cancelReceipt");
+
+    EXPECT_EQ(receipt()->state(), ReceiptState::Cancelled);
+    EXPECT_TRUE(window->close());
+}
+
+TEST_F(TillWindowTest, WhileAQuestionStands_NothingElseIsDone)
+{
+    scan("BAG");
+    scan("PET1");
+    whileAsked = [this](QWidget &) {
+        for (const char *const name : {"quantity", "storno", "subtotal", "pay", "openSale"}) {
+            QWidget &button = *window->findChild<QWidget *>(name);
+            QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
+                              button.mapTo(window.get(), button.rect().center()));
+            QTest::mouseClick(&button, Qt::LeftButton); // as if the dialog did not keep it away
+        }
+        for (const Qt::Key key : {Qt::Key_F4, Qt::Key_F11, Qt::Key_F12})
+            QTest::keyClick(window->windowHandle(), key);
+        window->switchOn();
+        EXPECT_EQ(window->carryOut(command::Pay{}).reason.key(), "tillBusy");
+        EXPECT_FALSE(till->stop());
+    };
+    const qsizetype before = commands().size();
+
+    click("cancelReceipt");
+
+    EXPECT_EQ(commands().mid(before), QStringList{"cancel: refused"});
+    EXPECT_EQ(page(), "register");
+    EXPECT_EQ(receipt()->state(), ReceiptState::Open);
+}
+
+TEST_F(TillWindowTest, TimerInAQuestion_DoesAndStoresNothing)
+{
+    scan("BAG");
+    Outcome outcome;
+    whileAsked = [&](QWidget &) {
+        QTimer::singleShot(0, window.get(),
+                           [&] { outcome = window->carryOut(command::Add{"PET1"}); });
+        QCoreApplication::processEvents();
+    };
+
+    click("cancelReceipt");
+
+    EXPECT_EQ(outcome.reason.key(), "tillBusy");
+    EXPECT_EQ(receipt()->lines().size(), 1);
+    EXPECT_EQ(commands().constLast(), "cancel: refused");
+}
+
+TEST_F(TillWindowTest, AfterAQuestion_CommandsCanBeHadAgain)
+{
+    scan("BAG");
+
+    click("cancelReceipt");
+    QCoreApplication::processEvents();
+
+    EXPECT_TRUE(find("pay").isEnabled());
+}
+
+TEST_F(TillWindowTest, RefusalOfThePlugin_IsToldAcrossTheWindow)
+{
+    scan("CAN3");
+    scan("BEER");
+    scan("DARK");
+    select({1});
+    click("quantity");
+
+    enter("2");
+
+    EXPECT_EQ(commands().constLast(), "qty 1 2: refused");
+    EXPECT_EQ(told(), "The tara is used by different goods.\nChanging the quantity is not allowed");
+    EXPECT_TRUE(window->banner().isVisible());
+}
+
+TEST_F(TillWindowTest, Message_GoesByItself)
+{
+    press(Qt::Key_F12);
+    EXPECT_TRUE(window->banner().isTelling());
+
+    window->banner().setLifetime(1);
+
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->banner().isTelling(); }));
+    EXPECT_TRUE(find("header").isVisible());
+}
+
+TEST_F(TillWindowTest, Message_GoesWhenItIsTouched)
+{
+    press(Qt::Key_F12);
+
+    click(window->banner());
+
+    EXPECT_FALSE(window->banner().isTelling());
+}
+
+TEST_F(TillWindowTest, Badge_TellsOfTaraControl)
+{
+    scan("PET1");
+    EXPECT_EQ(textOf("control"), "● tara is controlled");
+
+    till::Setup plain = setup();
+    plain.plugin.clear();
+    open(plain);
+    EXPECT_EQ(textOf("control"), "○ no tara control");
+}
+
+TEST_F(TillWindowTest, Language_ChangesWhileItRuns)
+{
+    scan("PET1");
+    EXPECT_EQ(textOf("header"), "Receipt No. 1 · open");
+
+    click("language");
+
+    EXPECT_EQ(textOf("header"), "Чек № 1 · открыт");
+    EXPECT_EQ(textOf("control"), "● тара под контролем");
+    EXPECT_EQ(find<QPushButton>("quantity").accessibleName(), "Количество");
+    EXPECT_EQ(find<QPushButton>("openSale").toolTip(), "Чек уже открыт: оплатите или отмените его");
+    EXPECT_EQ(said(1), "PET1 Бутылка ПЭТ 1 л\n0 / 1, пусто");
+
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(textOf("header"), "Receipt No. 1 · open");
+}
+
+TEST_F(TillWindowTest, EverythingThatCanBeTouched_HasAnAccessibleName)
+{
+    scan("PET1");
+    const auto widgets = window->findChildren<QWidget *>();
+    for (const QWidget *const widget : widgets) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisibleTo(window.get()))
+            continue;
+        const auto *const button = qobject_cast<const QAbstractButton *>(widget);
+        const auto *const tabs = qobject_cast<const QTabBar *>(widget); // each tab says its own
+        const bool hasText =
+            (button && !button->text().isEmpty()) || (tabs && !tabs->tabText(0).isEmpty());
+        EXPECT_TRUE(hasText || !widget->accessibleName().isEmpty())
+            << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+    }
+}
+
+TEST_F(TillWindowTest, SmallAndLargeScreen_ShowEverything)
+{
+    for (const QSize size : {QSize(1024, 600), QSize(1920, 1080)}) {
+        window->resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->size(), size);
+        for (const char *const name : {"code", "search", "tiles", "receipt", "shelf", "total",
+                                       "pay", "quantity", "menu", "control"}) {
+            const QWidget &widget = find(name);
+            const QRect area(widget.mapTo(window.get(), QPoint()), widget.size());
+            EXPECT_TRUE(window->rect().contains(area)) << name;
+            EXPECT_FALSE(area.isEmpty()) << name;
+        }
+    }
+}
+
+TEST_F(TillWindowTest, LargeFont_IsFollowed)
+{
+    const QFont before = QApplication::font();
+    const int height = window->table().rowHeight(0);
+    scan("PET1");
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 2);
+
+    QApplication::setFont(large);
+    QCoreApplication::processEvents();
+
+    EXPECT_GE(window->table().rowHeight(0), 2 * QFontMetrics(large).height());
+    EXPECT_GT(window->table().rowHeight(0), height);
+    QApplication::setFont(before);
+}
+
+TEST_F(TillWindowTest, WhatWasDone_IsThereAtTheNextStart)
+{
+    scan("PET1");
+    scan("BEER");
+
+    open(setup());
+
+    EXPECT_EQ(said(1), "PET1 Бутылка ПЭТ 1 л\n1 / 1 л, full: pos. 2 — 1");
+}
+
+TEST_F(TillWindowTest, Docks_OpenAndCloseByKeysAndInTheMenu)
+{
+    const auto isShown = [this](const char *className) {
+        const auto docks = window->findChildren<QDockWidget *>();
+        for (const QDockWidget *const dock : docks) {
+            if (dock->windowTitle().startsWith(QLatin1String(className)))
+                return dock->isVisible();
+        }
+        ADD_FAILURE() << className;
+        return false;
+    };
+    EXPECT_FALSE(isShown("Course"));
+
+    press(Qt::Key_F9);
+    EXPECT_TRUE(isShown("Course"));
+    press(Qt::Key_F9);
+    EXPECT_FALSE(isShown("Course"));
+    press(Qt::Key_F10);
+    EXPECT_TRUE(isShown("Scripts"));
+    openMenu({Qt::Key_Up, Qt::Key_Return});
+    EXPECT_FALSE(isShown("Scripts"));
+}
+
+TEST_F(TillWindowTest, Work_IsShownBeforeItBegins)
+{
+    QStringList shown;
+    const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
+        if (note.value("kind") == QLatin1String("action"))
+            shown.append(textOf("work"));
+    });
+
+    scan("PET1");
+
+    EXPECT_FALSE(shown.isEmpty());
+    EXPECT_EQ(shown.constFirst(), "at work, please wait");
+    EXPECT_EQ(textOf("work"), "");
+}
+
+} // namespace
+
+} // namespace till
