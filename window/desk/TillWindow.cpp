@@ -109,12 +109,6 @@ void TillWindow::layOut()
     m_pages.addWidget(cashDesk);
     m_pages.addWidget(&m_fault);
     setCentralWidget(&m_pages);
-    for (QDockWidget *const dock : std::initializer_list<QDockWidget *>{&m_course, &m_scripts}) {
-        addDockWidget(Qt::RightDockWidgetArea, dock);
-        dock->hide();
-        addAction(dock->toggleViewAction()); // so that its key is heard
-    }
-    tabifyDockWidget(&m_course, &m_scripts);
     resize(1024, 600);
 }
 
@@ -187,8 +181,6 @@ void TillWindow::fillMenu()
     QAction *const moves = menu.addAction(m_translator.text(told("till", "Changes move smoothly")));
     moves->setCheckable(true);
     moves->setChecked(m_shelf.isMoving());
-    menu.addAction(m_course.toggleViewAction());
-    menu.addAction(m_scripts.toggleViewAction());
     connect(moves, &QAction::toggled, this, [this](bool on) { m_shelf.setMoving(on); });
     menu.addAction(m_course.showAction());
     menu.addAction(m_scripts.showAction());
