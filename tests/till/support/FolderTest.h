@@ -13,8 +13,8 @@
 
 namespace till {
 
-//! The application object, through which Qt SQL loads its driver and processes are waited for, unless
-//! the program has made one.
+//! The application object, through which Qt SQL loads its driver and processes are waited for,
+//! unless the program has made one.
 class ApplicationEnvironment : public testing::Environment
 {
 public:

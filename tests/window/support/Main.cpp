@@ -2,10 +2,11 @@
 
 #include <QtWidgets/QApplication>
 
-// Tests of the window: with widgets, without a display.
+// Tests of the window: with widgets, without a display unless QT_QPA_PLATFORM names one.
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
