@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds what is needed and plays the sample shop's receipts through the plugin in the till.
 # Arguments go to the till: ./run.sh till opens the register, ./run.sh play FILE plays a script,
-# ./run.sh --help lists everything.
+# ./run.sh --help lists everything. ./run.sh window opens the register in a window.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=scripts/dependencies.sh
@@ -26,9 +26,14 @@ if ! (cd "$top" && cmake --preset release && cmake --build --preset release) 2>&
     exit 1
 fi
 
+program=till
 case "${1-}" in
     "") set -- demo ;;
     till) shift ;;
+    window)
+        program=till-window
+        shift
+        ;;
 esac
 rm -f "$log"
-exec "$top/build/release/bin/till" "$@"
+exec "$top/build/release/bin/$program" "$@"

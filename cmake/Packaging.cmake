@@ -1,4 +1,4 @@
-# What `cmake --build --target package` makes: two Debian packages, and an archive of everything.
+# What `cmake --build --target package` makes: three Debian packages, and an archive of everything.
 
 # The kit, and the page that walks through it, each where the other looks for it.
 set(data ${CMAKE_INSTALL_DATADIR}/packagingcontrol)
@@ -6,6 +6,7 @@ install(DIRECTORY contract DESTINATION ${data} COMPONENT dev)
 install(FILES docs/host-sdk.md DESTINATION ${data}/docs COMPONENT dev)
 
 install(FILES docs/till.md docs/trace.md docs/reports.md DESTINATION share/doc/packagingcontrol)
+install(FILES docs/window.md DESTINATION share/doc/packagingcontrol-window COMPONENT window)
 # Debian's packages have changes and copyright in a form of their own.
 install(FILES CHANGELOG.md DESTINATION share/doc/packagingcontrol COMPONENT archive)
 find_program(PACKAGINGCONTROL_GZIP gzip)
@@ -23,10 +24,10 @@ if(PACKAGINGCONTROL_GZIP)
     )
     add_custom_target(debian_manual ALL DEPENDS ${manual})
     install(FILES ${manual} DESTINATION share/man/man1 COMPONENT runtime EXCLUDE_FROM_ALL)
-    foreach(component runtime dev)
+    foreach(component runtime window dev)
         set(package packagingcontrol)
-        if(component STREQUAL "dev")
-            string(APPEND package -dev)
+        if(NOT component STREQUAL "runtime")
+            string(APPEND package -${component})
         endif()
         install(FILES cmake/debian/copyright ${changelog}.gz DESTINATION share/doc/${package}
             COMPONENT ${component} EXCLUDE_FROM_ALL)
@@ -53,6 +54,9 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL runtime dev)
+if(TARGET till-window)
+    list(APPEND CPACK_COMPONENTS_ALL window)
+endif()
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 
@@ -65,6 +69,17 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
 receipt are in which tara, and what capacity is left. With it comes a
 small cash register, the till, which loads the plugin and runs whole
 receipts through it, and a sample shop.")
+
+# The console asks for no display: Qt's widgets come with the window alone.
+set(CPACK_DEBIAN_WINDOW_PACKAGE_NAME packagingcontrol-window)
+set(CPACK_DEBIAN_WINDOW_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_WINDOW_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/${PACKAGINGCONTROL_LIBRARY_DIR})
+set(CPACK_COMPONENT_WINDOW_DEPENDS runtime)
+set(CPACK_COMPONENT_WINDOW_DESCRIPTION
+"The small cash register of packagingcontrol in a window: articles to touch,
+the receipt, and a shelf with the vessels that show what was poured into
+what.")
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME packagingcontrol-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)

@@ -102,6 +102,11 @@ build_plugin() {
     demo till --plugin /tmp/try/installed/lib/packagingcontrol/plugins/PackagingControl.so
 }
 
+# The window draws itself without a display, as a user who may write nowhere, and says so of its version.
+window_version() {
+    inside setpriv --reuid=65534 --regid=65534 --clear-groups env HOME=/nowhere till-window --version
+}
+
 run_kit() {
     inside cmake -S /usr/share/packagingcontrol/contract -B /tmp/try/kit -G Ninja \
         -DPACKAGINGCONTROL_PLUGIN_FILE=/usr/lib/packagingcontrol/plugins/PackagingControl.so
@@ -109,7 +114,7 @@ run_kit() {
 }
 
 remove_packages() {
-    inside dpkg --purge packagingcontrol-dev packagingcontrol
+    inside dpkg --purge packagingcontrol-dev packagingcontrol-window packagingcontrol
     all_files | diff "$log/before.txt" -
 }
 
@@ -118,6 +123,7 @@ all_files >"$log/before.txt"
 logged unpack unpacked_demo
 logged install install_packages
 logged demo demo till
+logged window window_version
 logged plugin build_plugin
 logged kit run_kit
 tail -n 1 "$log/kit.log"

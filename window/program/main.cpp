@@ -15,12 +15,21 @@ using namespace till;
 namespace {
 
 // As those of the console program.
-enum ExitStatus { AllWell = 0, UsageError = 2 };
+enum ExitStatus { UsageError = 2, StartFailed = 3 };
 
-int fail(const QString &text)
+int fail(ExitStatus status, const QString &text)
 {
-    std::fputs(qPrintable(text + u'\n'), stderr);
-    return UsageError;
+    std::fputs(qPrintable(QStringLiteral("till-window: ") + text + u'\n'), stderr);
+    return status;
+}
+
+bool hasDisplay()
+{
+    for (const char *const variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return true;
+    }
+    return false;
 }
 
 int run(const Setup &setup, const QString &language)
@@ -40,6 +49,9 @@ int run(const Setup &setup, const QString &language)
 int main(int argc, char *argv[])
 {
     std::signal(SIGXFSZ, SIG_IGN); // the write that is too long fails instead, and is told
+    const bool isShown = hasDisplay();
+    if (!isShown) // so that what is wrong can be told
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("till"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TILL_VERSION));
@@ -54,11 +66,18 @@ int main(int argc, char *argv[])
     parser.process(application);
     const auto setup = readSetup(parser);
     if (!setup)
-        return fail(setup.error().text());
+        return fail(UsageError, setup.error().text());
     const auto language = readLanguage(parser);
     if (!language)
-        return fail(language.error().text());
+        return fail(UsageError, language.error().text());
     if (!parser.positionalArguments().isEmpty())
-        return fail(QStringLiteral("one word too many: ") + parser.positionalArguments()[0]);
+        return fail(UsageError, QStringLiteral("\"%1\" is one word too many")
+                                    .arg(brief(parser.positionalArguments()[0])));
+    if (!isShown)
+        return fail(
+            StartFailed,
+            QStringLiteral("there is no display: neither DISPLAY nor WAYLAND_DISPLAY is set; "
+                           "start it on a desktop, or as \"xvfb-run till-window\", or use "
+                           "the console program, till"));
     return run(*setup, *language);
 }

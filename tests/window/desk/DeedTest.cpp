@@ -1,6 +1,7 @@
 #include "window/desk/Deed.h"
 #include "tests/window/support/WindowTest.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtWidgets/QPushButton>
 
 namespace till {
@@ -252,6 +253,17 @@ TEST_F(DeedTest, KeyOfWhatIsImpossible_SaysWhy)
 
     EXPECT_EQ(told(), "no receipt is open");
     EXPECT_EQ(commands(), QStringList());
+}
+
+TEST_F(DeedTest, EachKey_IsInTheDocs)
+{
+    const QString page = QString::fromUtf8(contents(QStringLiteral(DOCS_DIR "/window.md")));
+    for (const DeedRow &row : deedRows()) {
+        const QString key = row.key.toString(QKeySequence::PortableText);
+        EXPECT_TRUE(page.contains(
+            QRegularExpression("\n\\|[^|]*\\b" + QRegularExpression::escape(key) + "\\b")))
+            << key.toStdString();
+    }
 }
 
 TEST_F(DeedTest, WholeReceipt_ByKeysAlone)

@@ -2,11 +2,9 @@
 
 #include "tests/window/scripts/ScriptWindow.h"
 
-#include "till/course/JsonLine.h"
+#include "tests/window/support/TracedCourse.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QJsonArray>
-#include <QtCore/QUuid>
 
 namespace till {
 
@@ -25,49 +23,12 @@ protected:
         return paths;
     }
 
-    //! What is told by \a play, but for times; identifiers are named in the order in which they
-    //! come.
+    //! What is told by \a play.
     QStringList told(const std::function<void()> &play)
     {
         heard.clear();
         play();
-        QHash<QString, QString> names;
-        QStringList lines;
-        for (QJsonObject note : std::as_const(heard)) {
-            note.remove("time");
-            lines.append(QString::fromUtf8(jsonLine(named(note, names).toObject())));
-        }
-        return lines;
-    }
-
-private:
-    //! \a text, or the name of the identifier that it is.
-    static QString named(const QString &text, QHash<QString, QString> &names)
-    {
-        if (QUuid::fromString(text).isNull())
-            return text;
-        if (!names.contains(text))
-            names.insert(text, QString("identifier %1").arg(names.size() + 1));
-        return names[text];
-    }
-    static QJsonValue named(const QJsonValue &value, QHash<QString, QString> &names)
-    {
-        if (value.isString())
-            return named(value.toString(), names);
-        if (value.isArray()) {
-            QJsonArray list;
-            const QJsonArray values = value.toArray();
-            for (const QJsonValue each : values)
-                list.append(named(each, names));
-            return list;
-        }
-        if (!value.isObject())
-            return value;
-        const QJsonObject fields = value.toObject();
-        QJsonObject object;
-        for (auto field = fields.begin(); field != fields.end(); ++field)
-            object.insert(named(field.key(), names), named(field.value(), names));
-        return object;
+        return tracedCourse(heard);
     }
 };
 
