@@ -7,7 +7,7 @@ test_packages=(clang libgtest-dev libgmock-dev librapidcheck-dev binutils locale
     python3-jsonschema libxml2-utils fonts-dejavu-core)
 bench_packages=(libbenchmark-dev libsqlite3-dev valgrind binutils git python3 python3-matplotlib)
 check_packages=(clang clang-format clang-tidy clazy libclang-rt-dev shellcheck git gcovr valgrind)
-picture_packages=(xvfb xauth fonts-dejavu-core)
+picture_packages=(xvfb xauth pngquant optipng fonts-dejavu-core)
 package_packages=(dpkg-dev file git lintian reuse)
 
 is_installed() {

@@ -32,6 +32,7 @@ public:
                   QWidget *parent = nullptr);
 
     void translate(const Translator &translator);
+    QSize sizeHint() const override { return {440, 480}; }
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -10,13 +10,39 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QTreeView>
 
 namespace till {
 
+namespace {
+
+//! As wide as a tree wants to be.
+class Page final : public QWidget
+{
+public:
+    QSize sizeHint() const override { return {440, 480}; }
+};
+
+//! Draws what came of something behind what happened, so that the tree needs one column.
+class WithItsEnd final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = index.data(Qt::AccessibleTextRole).toString();
+    }
+};
+
+} // namespace
+
 CourseDock::CourseDock(Notes &notes, const Translator &translator, CourseModel::Limits limits,
                        QWidget *parent)
-    : QDockWidget(parent)
+    : KeyDock(Qt::Key_F9, parent)
     , m_translator(translator)
     , m_model(notes, translator, limits)
     , m_shown(new QSortFilterProxyModel(this))
@@ -37,7 +63,6 @@ CourseDock::CourseDock(Notes &notes, const Translator &translator, CourseModel::
     m_shown->setAutoAcceptChildRows(true);
     m_shown->setFilterKeyColumn(-1);
     m_shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    toggleViewAction()->setShortcut(Qt::Key_F9);
     layOut();
     connectAll();
     tellTexts();
@@ -50,16 +75,22 @@ void CourseDock::layOut()
     m_tree->setModel(m_shown);
     m_tree->setUniformRowHeights(true);
     m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    constexpr int indentation = 12;
+    m_tree->setIndentation(indentation);
+    m_tree->setItemDelegate(new WithItsEnd(m_tree));
+    m_tree->setColumnHidden(CourseModel::End, true);
+    m_tree->setHeaderHidden(true);
     m_tree->header()->setStretchLastSection(false);
-    m_tree->header()->setSectionResizeMode(CourseModel::What, QHeaderView::Stretch);
-    m_tree->header()->resizeSection(CourseModel::End, 210);
+    m_tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_tree->header()->setResizeContentsPrecision(0);
     m_kept->setWordWrap(true);
 
     auto *const above = new QHBoxLayout;
     above->addWidget(m_filter, 1);
     above->addWidget(m_follow);
     above->addWidget(m_copy);
-    auto *const page = new QWidget;
+    auto *const page = new Page;
+    page->setFocusProxy(m_tree);
     auto *const all = new QVBoxLayout(page);
     all->addLayout(above);
     all->addWidget(m_tree, 1);
@@ -77,10 +108,6 @@ void CourseDock::connectAll()
     connect(m_shown, &QAbstractItemModel::rowsInserted, this,
             [this](const QModelIndex &parent) { follow(parent); });
     connect(&m_model, &QAbstractItemModel::rowsRemoved, this, [this] { tellKept(); });
-    connect(toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
-        if (isShown)
-            m_tree->setFocus();
-    });
 }
 
 void CourseDock::translate(const Translator &translator)
@@ -92,7 +119,7 @@ void CourseDock::translate(const Translator &translator)
 
 void CourseDock::tellTexts()
 {
-    setWindowTitle(m_translator.text(told("till", "Course (F9)")));
+    setTitle(m_translator.text(told("till", "Course (F9)")));
     m_tree->setAccessibleName(m_translator.text(told("till", "What happened, command by command")));
     const QString filtering = m_translator.text(told("till", "Filter: what the lines contain"));
     m_filter->setPlaceholderText(filtering);

@@ -2,9 +2,9 @@
 #define WINDOW_COURSE_COURSEDOCK_H
 
 #include "window/course/CourseModel.h"
+#include "window/look/KeyDock.h"
 
 #include <QtCore/QPersistentModelIndex>
-#include <QtWidgets/QDockWidget>
 
 QT_BEGIN_NAMESPACE
 class QCheckBox;
@@ -18,13 +18,12 @@ QT_END_NAMESPACE
 namespace till {
 
 /*!
- * The course of things in a dock: what happens in the register, told as it happens. F9, the key of
- * its `toggleViewAction()`, shows and hides it; what happens while it is hidden is in it all the
- * same.
+ * The course of things in a dock: what happens in the register, told as it happens, also
+ * while it is hidden. Its key is F9.
  *
  * It only watches: nothing in it does anything to the register.
  */
-class CourseDock final : public QDockWidget
+class CourseDock final : public KeyDock
 {
 public:
     //! \a notes must outlive the dock.

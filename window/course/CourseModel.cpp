@@ -209,7 +209,12 @@ QVariant CourseModel::data(const QModelIndex &index, int role) const
     if (!index.isValid())
         return {};
     const CourseNode &node = nodeAt(index);
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+    if (role == Qt::AccessibleTextRole || role == Qt::ToolTipRole) {
+        const QString end = whatCameOfIt(node, m_translator);
+        const QString what = whatHappened(node, m_translator);
+        return end.isEmpty() ? what : what + QStringLiteral(" — ") + end;
+    }
+    if (role == Qt::DisplayRole)
         return index.column() == What ? whatHappened(node, m_translator)
                                       : whatCameOfIt(node, m_translator);
     if (role == Qt::FontRole && (endedBadly(node) || node.kind() == "event")) {

@@ -52,8 +52,8 @@ void DeedBar::describe(const DeedRow &row)
     const QString text = m_translator.text(row.text);
     const QString key = row.key.toString(QKeySequence::NativeText);
     shown.button->setText(text + u'\n' + key);
-    constexpr int frame = 12;
-    const int wanted = shown.button->fontMetrics().horizontalAdvance(text) + frame;
+    constexpr int edges = 12;
+    const int wanted = shown.button->fontMetrics().horizontalAdvance(text) + edges;
     shown.button->setMinimumWidth(std::max(wanted, touchHeight));
     shown.button->setAccessibleName(text);
     shown.button->setAccessibleDescription(shown.reason);

@@ -67,6 +67,7 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     m_shelf.setObjectName(QStringLiteral("shelf"));
     m_total.setObjectName(QStringLiteral("total"));
     layOut();
+    addDocks();
     connectParts();
     addShortcuts();
     translate();
@@ -108,13 +109,19 @@ void TillWindow::layOut()
     m_pages.addWidget(cashDesk);
     m_pages.addWidget(&m_fault);
     setCentralWidget(&m_pages);
-    for (QDockWidget *const dock : std::initializer_list<QDockWidget *>{&m_course, &m_scripts}) {
+    resize(1024, 600);
+}
+
+//! They are hidden until their keys or the menu show them.
+void TillWindow::addDocks()
+{
+    const QList<KeyDock *> docks{&m_course, &m_scripts};
+    for (KeyDock *const dock : docks) {
         addDockWidget(Qt::RightDockWidgetArea, dock);
         dock->hide();
-        addAction(dock->toggleViewAction()); // so that its key is heard
+        addAction(dock->showAction());
     }
     tabifyDockWidget(&m_course, &m_scripts);
-    resize(1024, 600);
 }
 
 void TillWindow::connectParts()
@@ -174,9 +181,9 @@ void TillWindow::fillMenu()
     QAction *const moves = menu.addAction(m_translator.text(told("till", "Changes move smoothly")));
     moves->setCheckable(true);
     moves->setChecked(m_shelf.isMoving());
-    menu.addAction(m_course.toggleViewAction());
-    menu.addAction(m_scripts.toggleViewAction());
     connect(moves, &QAction::toggled, this, [this](bool on) { m_shelf.setMoving(on); });
+    menu.addAction(m_course.showAction());
+    menu.addAction(m_scripts.showAction());
 }
 
 void TillWindow::setLanguage(const QString &language)

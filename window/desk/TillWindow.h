@@ -55,6 +55,7 @@ protected:
 private:
     void layOut();
     void connectParts();
+    void addDocks();
     void addShortcuts();
     void fillMenu();
     void translate();

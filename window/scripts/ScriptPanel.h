@@ -35,6 +35,7 @@ public:
                 QWidget *parent = nullptr);
 
     void translate(const Translator &translator);
+    QSize sizeHint() const override { return {440, 480}; }
 
     //! How a script to open and a file to save to are asked for: with the desktop's dialogs unless
     //! somebody sets another way.

@@ -3,14 +3,13 @@
 #include "window/archive/ReceiptsPanel.h"
 #include "window/scripts/ScriptPanel.h"
 
-#include <QtGui/QAction>
 #include <QtWidgets/QTabWidget>
 
 namespace till {
 
 ScriptsDock::ScriptsDock(CashDesk &desk, Notes &notes, const Translator &translator,
                          QWidget *parent)
-    : QDockWidget(parent)
+    : KeyDock(Qt::Key_F10, parent)
     , m_tabs(new QTabWidget)
     , m_scripts(new ScriptPanel(desk, notes, translator))
     , m_receipts(new ReceiptsPanel([&desk] { return desk.setup().database; }, translator))
@@ -20,11 +19,6 @@ ScriptsDock::ScriptsDock(CashDesk &desk, Notes &notes, const Translator &transla
     m_tabs->addTab(m_scripts, {});
     m_tabs->addTab(m_receipts, {});
     setWidget(m_tabs);
-    toggleViewAction()->setShortcut(Qt::Key_F10);
-    connect(toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
-        if (isShown)
-            m_tabs->setFocus();
-    });
     tellTexts(translator);
 }
 
@@ -37,7 +31,7 @@ void ScriptsDock::translate(const Translator &translator)
 
 void ScriptsDock::tellTexts(const Translator &translator)
 {
-    setWindowTitle(translator.text(told("till", "Scripts (F10)")));
+    setTitle(translator.text(told("till", "Scripts (F10)")));
     m_tabs->setTabText(0, translator.text(told("till", "Script")));
     m_tabs->setTabText(1, translator.text(told("till", "Past receipts")));
 }

@@ -4,8 +4,7 @@
 #include "till/course/Notes.h"
 #include "till/language/Translator.h"
 #include "till/register/CashDesk.h"
-
-#include <QtWidgets/QDockWidget>
+#include "window/look/KeyDock.h"
 
 QT_BEGIN_NAMESPACE
 class QTabWidget;
@@ -16,9 +15,9 @@ namespace till {
 class ReceiptsPanel;
 class ScriptPanel;
 
-//! A dock with scripts, to be played and recorded, and past receipts, to be looked at. F10, the key
-//! of its `toggleViewAction()`, shows and hides it.
-class ScriptsDock final : public QDockWidget
+//! A dock with scripts, to be played and recorded, and past receipts, to be looked at. Its key is
+//! F10.
+class ScriptsDock final : public KeyDock
 {
 public:
     //! Both must outlive the dock.

@@ -4,7 +4,6 @@
 #include "tests/till/support/TillFixture.h"
 #include "tests/window/support/ModelTexts.h"
 
-#include <QtGui/QAction>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtTest/QTest>
@@ -34,7 +33,7 @@ protected:
         dock = new CourseDock(notes, Translator("en"), limits);
         window = std::make_unique<QMainWindow>();
         window->addDockWidget(Qt::RightDockWidgetArea, dock);
-        window->addAction(dock->toggleViewAction());
+        window->addAction(dock->showAction());
         window->resize(700, 500);
         window->show();
         window->activateWindow();

@@ -3,7 +3,6 @@
 #include "tests/support/Printers.h"
 #include "tests/till/support/TillFixture.h"
 
-#include <QtGui/QAction>
 #include <QtTest/QTest>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QTabBar>
@@ -21,7 +20,7 @@ protected:
     {
         dock = new ScriptsDock(*till, notes, Translator("en"));
         window.addDockWidget(Qt::RightDockWidgetArea, dock);
-        window.addAction(dock->toggleViewAction());
+        window.addAction(dock->showAction());
         window.resize(700, 500);
         window.show();
         window.activateWindow();

@@ -2,7 +2,7 @@
 
 #include <QtWidgets/QApplication>
 
-// Tests of the window: with widgets, without a display.
+// Tests of the window: with widgets, without a display unless QT_QPA_PLATFORM names one.
 int main(int argc, char *argv[])
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
