@@ -11,7 +11,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 need_packages "${build_packages[@]}" "${test_packages[@]}" "${picture_packages[@]}"
 configure_dev >/dev/null
 cmake --build --preset dev --target window_pictures >/dev/null
-PICTURES=$(realpath "${1:-docs/pictures}")
+PICTURES=$(realpath -m "${1:-docs/pictures}")
 export PICTURES
 mkdir -p "$PICTURES"
 # A display of its own, so that they look as on a desktop and the same everywhere.
