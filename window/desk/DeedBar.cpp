@@ -52,9 +52,9 @@ void DeedBar::describe(const DeedRow &row)
     const QString text = m_translator.text(row.text);
     const QString key = row.key.toString(QKeySequence::NativeText);
     shown.button->setText(text + u'\n' + key);
-    constexpr int edges = 12;
-    const int wanted = shown.button->fontMetrics().horizontalAdvance(text) + edges;
-    shown.button->setMinimumWidth(std::max(wanted, touchHeight));
+    constexpr int frame = 12; // of a button, about its text
+    const int textWidth = shown.button->fontMetrics().horizontalAdvance(text);
+    shown.button->setMinimumWidth(std::max(textWidth + frame, touchHeight));
     shown.button->setAccessibleName(text);
     shown.button->setAccessibleDescription(shown.reason);
     shown.button->setToolTip(shown.reason.isEmpty() ? text + QStringLiteral(" (") + key + u')'

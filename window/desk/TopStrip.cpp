@@ -103,10 +103,11 @@ void TopStrip::showWork(const QString &work)
 {
     m_work.setText(work);
     m_work.setAccessibleName(work);
-    if (!isVisible())
+    if (!m_work.isVisible())
         return;
-    m_work.adjustSize();
-    m_work.repaint();
+    QWidget &status = *m_work.parentWidget();
+    status.layout()->activate(); // or it would be drawn where there was room for nothing
+    status.repaint();
 }
 
 } // namespace till

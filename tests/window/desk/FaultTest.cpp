@@ -1,6 +1,9 @@
 #include "tests/till/support/FailingDisk.h"
 #include "tests/window/support/WindowTest.h"
 
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
 #include <QtWidgets/QPushButton>
 
 namespace till {
@@ -23,6 +26,19 @@ protected:
         const QLabel &label = find<QLabel>(name);
         EXPECT_EQ(label.isVisible(), !label.text().isEmpty());
         return label.text();
+    }
+    //! Does \a statement to the database, which nobody has open.
+    void alter(const QString &statement)
+    {
+        const QString connection = QStringLiteral("alter");
+        {
+            auto database = QSqlDatabase::addDatabase("QSQLITE", connection);
+            database.setDatabaseName(setup().database);
+            EXPECT_TRUE(database.open());
+            QSqlQuery query(database);
+            EXPECT_TRUE(query.exec(statement)) << query.lastError().text().toStdString();
+        }
+        QSqlDatabase::removeDatabase(connection);
     }
     //! What a console says of it, with the window closed.
     QString consoleOf(const till::Setup &setup)
@@ -77,6 +93,19 @@ TEST_F(WindowFaultTest, DamagedDatabase_IsToldAsOnAConsole)
     const QString fault = faultOf(setup());
 
     EXPECT_TRUE(fault.contains(setup().database)) << fault.toStdString();
+    EXPECT_EQ(fault, consoleOf(setup()));
+}
+
+TEST_F(WindowFaultTest, DamagedReceipt_IsToldWithItsNumberAndTheWayOn)
+{
+    scan("PET1");
+    close();
+    alter("UPDATE positions SET price = -100");
+
+    const QString fault = faultOf(setup());
+
+    EXPECT_TRUE(fault.contains("receipt 1")) << fault.toStdString();
+    EXPECT_FALSE(textOf("remedy").isEmpty());
     EXPECT_EQ(fault, consoleOf(setup()));
 }
 

@@ -300,8 +300,12 @@ TEST_F(TillWindowTest, Work_IsShownBeforeItBegins)
 {
     QStringList shown;
     const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
-        if (note.value("kind") == QLatin1String("action"))
-            shown.append(textOf("work"));
+        if (note.value("kind") != QLatin1String("action"))
+            return;
+        const QLabel &work = find<QLabel>("work");
+        shown.append(work.text());
+        EXPECT_GE(work.width(), work.sizeHint().width());
+        EXPECT_FALSE(work.geometry().intersects(find("control").geometry()));
     });
 
     scan("PET1");
