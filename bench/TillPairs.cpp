@@ -5,7 +5,7 @@
 #include "till/goods/Catalogue.h"
 #include "till/plugins/PluginLoader.h"
 #include "till/register/Register.h"
-#include "till/storage/Schema.h"
+#include "till/schema/Schema.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

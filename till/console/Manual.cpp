@@ -1,6 +1,6 @@
 #include "till/console/Manual.h"
 
-#include "till/console/Options.h"
+#include "till/options/Options.h"
 #include "till/script/CommandLine.h"
 
 #include <QtCore/QCommandLineParser>

@@ -1,7 +1,7 @@
 #ifndef TILL_CONSOLE_PLAY_H
 #define TILL_CONSOLE_PLAY_H
 
-#include "till/console/Options.h"
+#include "till/options/Options.h"
 #include "till/course/Notes.h"
 
 #include <functional>

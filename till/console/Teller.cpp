@@ -1,8 +1,8 @@
 #include "till/console/Teller.h"
 
 #include "till/result/WriteAll.h"
-#include "till/runner/Junit.h"
-#include "till/runner/Tap.h"
+#include "till/verdicts/Junit.h"
+#include "till/verdicts/Tap.h"
 #include "till/terminal/Output.h"
 
 #include <QtCore/QFileInfo>

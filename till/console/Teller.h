@@ -1,9 +1,9 @@
 #ifndef TILL_CONSOLE_TELLER_H
 #define TILL_CONSOLE_TELLER_H
 
-#include "till/console/ExitStatus.h"
-#include "till/console/Options.h"
-#include "till/runner/Report.h"
+#include "till/options/ExitStatus.h"
+#include "till/options/Options.h"
+#include "till/verdicts/Report.h"
 
 #include <QtCore/QFile>
 

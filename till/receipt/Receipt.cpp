@@ -1,6 +1,6 @@
 #include "till/receipt/Receipt.h"
 
-#include "till/receipt/Limits.h"
+#include "till/goods/Limits.h"
 
 #include <utility>
 

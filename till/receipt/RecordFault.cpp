@@ -1,6 +1,6 @@
 #include "till/receipt/RecordFault.h"
 
-#include "till/receipt/Limits.h"
+#include "till/goods/Limits.h"
 
 #include <QtCore/QSet>
 

@@ -1,6 +1,6 @@
 #include "till/register/CashDesk.h"
 
-#include "till/register/SettingsFile.h"
+#include "till/settings/SettingsFile.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>

@@ -5,7 +5,7 @@
 #include "till/goods/Catalogue.h"
 #include "till/plugins/PluginLoader.h"
 #include "till/register/Register.h"
-#include "till/register/SettingsFile.h"
+#include "till/settings/SettingsFile.h"
 #include "till/storage/Storage.h"
 
 #include <QtCore/QMap>

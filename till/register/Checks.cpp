@@ -2,7 +2,7 @@
 
 #include "till/language/Nearest.h"
 #include "till/language/TillMessages.h"
-#include "till/receipt/Limits.h"
+#include "till/goods/Limits.h"
 #include "till/register/Register.h"
 
 #include <QtCore/QSet>

@@ -1,7 +1,7 @@
 #ifndef TILL_REPORTS_RECEIPTJSON_H
 #define TILL_REPORTS_RECEIPTJSON_H
 
-#include "till/storage/Archive.h"
+#include "till/archive/Archive.h"
 
 #include <QtCore/QJsonObject>
 

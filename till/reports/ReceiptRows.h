@@ -2,7 +2,7 @@
 #define TILL_REPORTS_RECEIPTROWS_H
 
 #include "till/language/Translator.h"
-#include "till/storage/Archive.h"
+#include "till/archive/Archive.h"
 #include "till/view/TextPage.h"
 
 #include <QtCore/QStringList>

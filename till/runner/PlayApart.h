@@ -2,7 +2,7 @@
 #define TILL_RUNNER_PLAYAPART_H
 
 #include "till/language/Translator.h"
-#include "till/runner/Verdict.h"
+#include "till/verdicts/Verdict.h"
 
 #include <chrono>
 #include <functional>

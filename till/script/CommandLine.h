@@ -5,7 +5,7 @@
 #include "till/recorder/ReceiptCourse.h"
 #include "till/register/CashDesk.h"
 #include "till/register/Outcome.h"
-#include "till/script/Expectations.h"
+#include "till/expectations/Expectations.h"
 #include "till/script/PreparedAnswers.h"
 #include "till/view/DisplayText.h"
 #include "till/view/ReceiptView.h"

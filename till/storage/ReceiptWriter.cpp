@@ -2,8 +2,8 @@
 
 #include "till/database/Database.h"
 #include "till/receipt/RecordFault.h"
-#include "till/storage/ReceiptReader.h"
-#include "till/storage/Schema.h"
+#include "till/schema/ReceiptReader.h"
+#include "till/schema/Schema.h"
 
 #include <QtCore/QDateTime>
 

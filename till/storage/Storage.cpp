@@ -2,10 +2,10 @@
 
 #include "till/database/Database.h"
 #include "till/storage/JournalRows.h"
-#include "till/storage/ReceiptReader.h"
+#include "till/schema/ReceiptReader.h"
 #include "till/storage/ReceiptWriter.h"
-#include "till/storage/Schema.h"
-#include "till/storage/SetApart.h"
+#include "till/schema/Schema.h"
+#include "till/schema/SetApart.h"
 
 #include <QtCore/QDateTime>
 

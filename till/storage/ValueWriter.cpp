@@ -2,7 +2,7 @@
 
 #include "till/database/Database.h"
 #include "till/database/VariantBytes.h"
-#include "till/storage/Schema.h"
+#include "till/schema/Schema.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #define WINDOW_ARCHIVE_KEPTRECEIPTSMODEL_H
 
 #include "till/language/Translator.h"
-#include "till/storage/Archive.h"
+#include "till/archive/Archive.h"
 
 #include <QtCore/QAbstractTableModel>
 

@@ -2,7 +2,7 @@
 #define WINDOW_ARCHIVE_RECEIPTPAGE_H
 
 #include "till/language/Translator.h"
-#include "till/storage/Archive.h"
+#include "till/archive/Archive.h"
 
 namespace till {
 

@@ -3,7 +3,7 @@
 #include "tests/till/support/Results.h"
 
 #include "host/Config.h"
-#include "till/register/SettingsFile.h"
+#include "till/settings/SettingsFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

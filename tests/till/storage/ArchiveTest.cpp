@@ -1,4 +1,4 @@
-#include "till/storage/Archive.h"
+#include "till/archive/Archive.h"
 
 #include "tests/till/storage/StorageFixture.h"
 #include "tests/till/support/ManyReceipts.h"

@@ -1,8 +1,8 @@
 #include "tests/till/storage/StorageFixture.h"
 #include "tests/till/storage/UpdateBetween.h"
 #include "tests/till/support/FailingDisk.h"
-#include "till/storage/Archive.h"
-#include "till/storage/Upkeep.h"
+#include "till/archive/Archive.h"
+#include "till/archive/Upkeep.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

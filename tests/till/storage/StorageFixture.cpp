@@ -1,7 +1,7 @@
 #include "tests/till/storage/StorageFixture.h"
 
 #include "tests/support/Printers.h"
-#include "till/receipt/Limits.h"
+#include "till/goods/Limits.h"
 
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>

@@ -1,5 +1,5 @@
 #include "tests/till/storage/StorageFixture.h"
-#include "till/storage/Upkeep.h"
+#include "till/archive/Upkeep.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -1,6 +1,6 @@
 #include "tests/till/storage/StorageFixture.h"
 #include "tests/till/support/FailingDisk.h"
-#include "till/storage/Upkeep.h"
+#include "till/archive/Upkeep.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -3,7 +3,7 @@
 #include "till/database/Database.h"
 #include "till/storage/JournalRows.h"
 #include "till/storage/ReceiptWriter.h"
-#include "till/storage/Schema.h"
+#include "till/schema/Schema.h"
 
 #include <QtCore/QDateTime>
 

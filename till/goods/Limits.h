@@ -1,0 +1,18 @@
+#ifndef TILL_GOODS_LIMITS_H
+#define TILL_GOODS_LIMITS_H
+
+#include "till/goods/Money.h"
+
+namespace till {
+
+//! The greatest count of pieces in a position. What is above is a slip of the finger.
+constexpr double greatestCount = 999'999.999;
+//! The greatest sum of a receipt: what a cashier can type, far from where sums would overflow.
+constexpr Kopecks greatestSum = greatestAmount;
+
+//! Whether \a count pieces can stand in one position. What is not a number cannot.
+bool isCount(double count);
+
+} // namespace till
+
+#endif // TILL_GOODS_LIMITS_H
