@@ -28,10 +28,9 @@ protected:
         }
         const QString file =
             QStringLiteral("%1/%2-%3.png").arg(qEnvironmentVariable("PICTURES"), state, language);
-        // In 256 colours, of which it has no more but for the edges of letters: a small file.
-        const QImage small =
-            picture.toImage().convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
-        EXPECT_TRUE(small.save(file)) << file.toStdString();
+        const QImage opaque = picture.toImage().convertToFormat(QImage::Format_RGB888);
+        constexpr int smallest = 0;
+        EXPECT_TRUE(opaque.save(file, "PNG", smallest)) << file.toStdString();
     }
     //! A receipt with shared tara, with goods that found no place, and a position that is stornoed.
     void fill()
