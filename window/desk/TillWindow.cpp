@@ -75,75 +75,6 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
 
 TillWindow::~TillWindow() = default;
 
-void TillWindow::layOut()
-{
-    QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.6);
-    large.setBold(true);
-    m_total.setFont(large);
-    m_total.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto *const left = new QWidget;
-    auto *const receipt = new QVBoxLayout(left);
-    receipt->setContentsMargins(0, 0, 0, 0);
-    receipt->setSpacing(4);
-    receipt->addWidget(&m_table, 1);
-    receipt->addWidget(&m_total);
-    receipt->addWidget(&m_deeds);
-    auto *const right = new QWidget;
-    auto *const goods = new QVBoxLayout(right);
-    goods->setContentsMargins(0, 0, 0, 0);
-    goods->setSpacing(4);
-    goods->addWidget(&m_articles, 3);
-    goods->addWidget(&m_shelf, 2);
-    auto *const halves = new QSplitter;
-    halves->setChildrenCollapsible(false);
-    halves->addWidget(left);
-    halves->addWidget(right);
-    halves->setSizes({540, 480});
-    auto *const cashDesk = new QWidget;
-    auto *const all = new QVBoxLayout(cashDesk);
-    all->setContentsMargins(4, 0, 4, 4);
-    all->setSpacing(4);
-    all->addWidget(&m_strip);
-    all->addWidget(halves, 1);
-    m_pages.addWidget(cashDesk);
-    m_pages.addWidget(&m_fault);
-    setCentralWidget(&m_pages);
-    resize(1024, 600);
-}
-
-//! They are hidden until their keys or the menu show them.
-void TillWindow::addDocks()
-{
-    const QList<KeyDock *> docks{&m_course, &m_scripts};
-    for (KeyDock *const dock : docks) {
-        addDockWidget(Qt::RightDockWidgetArea, dock);
-        dock->hide();
-        addAction(dock->showAction());
-    }
-    tabifyDockWidget(&m_course, &m_scripts);
-}
-
-void TillWindow::connectParts()
-{
-    m_articles.chosen = [this](const QString &code, double count) { return add(code, count); };
-    m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
-    m_deeds.refused = [this](const QString &reason) {
-        banner().tell(reason, Banner::Tone::Notice);
-    };
-    m_table.selected = [this] {
-        m_shelf.setLit(selectedGoods());
-        showDeedsSoon();
-    };
-    m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
-    m_fault.goOn = [this] {
-        if (m_desk.isOn())
-            m_pages.setCurrentIndex(0);
-        else
-            switchOn();
-    };
-}
-
 QSet<int> TillWindow::selectedGoods() const
 {
     QSet<int> goods;
@@ -155,63 +86,11 @@ QSet<int> TillWindow::selectedGoods() const
     return goods;
 }
 
-void TillWindow::addShortcuts()
-{
-    const auto on = [this](const QKeySequence &key, auto &&act) {
-        connect(new QShortcut(key, this), &QShortcut::activated, this, act);
-    };
-    on(Qt::Key_F3, [this] { m_articles.focusSearch(); });
-    on(Qt::Key_Escape, [this] {
-        banner().clear();
-        m_articles.focusCode();
-    });
-    on(Qt::CTRL | Qt::Key_L, [this] { m_strip.language().click(); });
-    connect(&m_strip.language(), &QToolButton::clicked, this, [this] {
-        const QStringList languages = Translator::languages();
-        const auto next = languages.indexOf(m_languageCode) + 1;
-        setLanguage(languages[next % languages.size()]);
-    });
-    m_strip.menu().setMenu(new QMenu(this));
-}
-
-void TillWindow::fillMenu()
-{
-    QMenu &menu = *m_strip.menu().menu();
-    menu.clear();
-    QAction *const moves = menu.addAction(m_translator.text(told("till", "Changes move smoothly")));
-    moves->setCheckable(true);
-    moves->setChecked(m_shelf.isMoving());
-    connect(moves, &QAction::toggled, this, [this](bool on) { m_shelf.setMoving(on); });
-    menu.addAction(m_course.showAction());
-    menu.addAction(m_scripts.showAction());
-}
-
 void TillWindow::setLanguage(const QString &language)
 {
     m_languageCode = language;
     m_translator = Translator(language);
     translate();
-}
-
-void TillWindow::translate()
-{
-    const auto say = [this](const Message &message) { return m_translator.text(message); };
-    setWindowTitle(say(told("till", "Till")));
-    m_strip.language().setText(m_languageCode.toUpper());
-    m_strip.language().setAccessibleName(say(told("till", "Language (Ctrl+L)")));
-    m_strip.language().setToolTip(m_strip.language().accessibleName());
-    m_strip.menu().setText(QStringLiteral("☰"));
-    m_strip.menu().setAccessibleName(say(told("till", "Menu")));
-    m_fault.translate(m_translator);
-    m_table.translate(m_translator);
-    m_deeds.translate(m_translator);
-    m_articles.translate(m_translator);
-    m_shelf.translate(m_translator);
-    m_course.translate(m_translator);
-    m_scripts.translate(m_translator);
-    fillMenu();
-    showReceipt();
-    showDeeds();
 }
 
 void TillWindow::switchOn()
