@@ -1,10 +1,10 @@
 #include "till/archive/Upkeep.h"
 
 #include "till/database/Database.h"
-#include "till/storage/JournalRows.h"
 #include "till/schema/ReceiptReader.h"
 #include "till/schema/Schema.h"
 #include "till/schema/SetApart.h"
+#include "till/storage/JournalRows.h"
 
 #include <algorithm>
 #include <utility>

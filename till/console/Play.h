@@ -1,8 +1,8 @@
 #ifndef TILL_CONSOLE_PLAY_H
 #define TILL_CONSOLE_PLAY_H
 
-#include "till/options/Options.h"
 #include "till/course/Notes.h"
+#include "till/options/Options.h"
 
 #include <functional>
 

@@ -1,9 +1,9 @@
 #include "till/console/Teller.h"
 
 #include "till/result/WriteAll.h"
+#include "till/terminal/Output.h"
 #include "till/verdicts/Junit.h"
 #include "till/verdicts/Tap.h"
-#include "till/terminal/Output.h"
 
 #include <QtCore/QFileInfo>
 

@@ -2,8 +2,8 @@
 #define TILL_EXPECTATIONS_EXPECTATIONS_H
 
 #include "host/Tr.h"
-#include "till/register/CashDesk.h"
 #include "till/expectations/ExpectedForm.h"
+#include "till/register/CashDesk.h"
 
 #include <QtCore/QStringList>
 

@@ -235,7 +235,7 @@ Result<Catalogue> Catalogue::load(const QString &path)
 void Catalogue::read(const QByteArray &text)
 {
     std::optional<CatalogueHeader> header;
-    QList<int> lines; // of the articles
+    QList<int> lines;    // of the articles
     QSet<QString> units; // each kept once
     const auto fault = readCsv(text, separatorOf(text), [&](const CsvRow &row) {
         if (!header) {

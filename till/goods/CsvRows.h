@@ -25,10 +25,11 @@ struct CsvFault
 };
 
 /*!
- * Reads the rows of \a text, which may end its lines with LF, CR LF or CR, and hands each to \a take
- * until that answers false; rows of which every field is empty are left out. A field that holds
- * quotes, separators or line breaks must be in double quotes, its own quotes doubled. The fault, if
- * any, lies behind the last row that was handed over. What \a take throws comes out of here.
+ * Reads the rows of \a text, which may end its lines with LF, CR LF or CR, and hands each to \a
+ * take until that answers false; rows of which every field is empty are left out. A field that
+ * holds quotes, separators or line breaks must be in double quotes, its own quotes doubled. The
+ * fault, if any, lies behind the last row that was handed over. What \a take throws comes out of
+ * here.
  */
 std::optional<CsvFault> readCsv(const QByteArray &text, char separator,
                                 const std::function<bool(const CsvRow &)> &take);

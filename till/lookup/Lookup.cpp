@@ -1,8 +1,8 @@
 #include "till/lookup/Lookup.h"
 
-#include "till/options/ExitStatus.h"
-#include "till/lookup/Progress.h"
 #include "till/course/JsonLine.h"
+#include "till/lookup/Progress.h"
+#include "till/options/ExitStatus.h"
 #include "till/reports/CourseText.h"
 #include "till/reports/ReceiptJson.h"
 #include "till/reports/ReceiptRows.h"

@@ -1,9 +1,9 @@
 #include "till/lookup/Upkeep.h"
 
+#include "till/archive/Upkeep.h"
 #include "till/database/DatabaseFile.h"
 #include "till/receipt/Receipt.h"
 #include "till/storage/Storage.h"
-#include "till/archive/Upkeep.h"
 
 namespace till {
 

@@ -1,8 +1,8 @@
 // What the register refuses by itself, before anything happens.
 
+#include "till/goods/Limits.h"
 #include "till/language/Nearest.h"
 #include "till/language/TillMessages.h"
-#include "till/goods/Limits.h"
 #include "till/register/Register.h"
 
 #include <QtCore/QSet>

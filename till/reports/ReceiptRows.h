@@ -1,8 +1,8 @@
 #ifndef TILL_REPORTS_RECEIPTROWS_H
 #define TILL_REPORTS_RECEIPTROWS_H
 
-#include "till/language/Translator.h"
 #include "till/archive/Archive.h"
+#include "till/language/Translator.h"
 #include "till/view/TextPage.h"
 
 #include <QtCore/QStringList>

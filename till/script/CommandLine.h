@@ -1,11 +1,11 @@
 #ifndef TILL_SCRIPT_COMMANDLINE_H
 #define TILL_SCRIPT_COMMANDLINE_H
 
+#include "till/expectations/Expectations.h"
 #include "till/language/Translator.h"
 #include "till/recorder/ReceiptCourse.h"
 #include "till/register/CashDesk.h"
 #include "till/register/Outcome.h"
-#include "till/expectations/Expectations.h"
 #include "till/script/PreparedAnswers.h"
 #include "till/view/DisplayText.h"
 #include "till/view/ReceiptView.h"

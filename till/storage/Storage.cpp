@@ -1,11 +1,11 @@
 #include "till/storage/Storage.h"
 
 #include "till/database/Database.h"
-#include "till/storage/JournalRows.h"
 #include "till/schema/ReceiptReader.h"
-#include "till/storage/ReceiptWriter.h"
 #include "till/schema/Schema.h"
 #include "till/schema/SetApart.h"
+#include "till/storage/JournalRows.h"
+#include "till/storage/ReceiptWriter.h"
 
 #include <QtCore/QDateTime>
 

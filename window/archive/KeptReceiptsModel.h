@@ -1,8 +1,8 @@
 #ifndef WINDOW_ARCHIVE_KEPTRECEIPTSMODEL_H
 #define WINDOW_ARCHIVE_KEPTRECEIPTSMODEL_H
 
-#include "till/language/Translator.h"
 #include "till/archive/Archive.h"
+#include "till/language/Translator.h"
 
 #include <QtCore/QAbstractTableModel>
 

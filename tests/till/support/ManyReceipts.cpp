@@ -1,9 +1,9 @@
 #include "tests/till/support/ManyReceipts.h"
 
 #include "till/database/Database.h"
+#include "till/schema/Schema.h"
 #include "till/storage/JournalRows.h"
 #include "till/storage/ReceiptWriter.h"
-#include "till/schema/Schema.h"
 
 #include <QtCore/QDateTime>
 

@@ -1,4 +1,4 @@
-#include "tests/till/console/Terminal.h"
+#include "tests/till/terminal/Terminal.h"
 
 #include "tests/till/console/ProgramFixture.h"
 

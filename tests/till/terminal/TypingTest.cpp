@@ -1,4 +1,4 @@
-#include "tests/till/console/OnTerminal.h"
+#include "tests/till/terminal/OnTerminal.h"
 
 // What a person types on a terminal: commands, answers, and the keys that help with them.
 

@@ -1,4 +1,4 @@
-#include "tests/till/console/PlayFixture.h"
+#include "tests/till/runner/PlayFixture.h"
 
 #include <QtCore/QRegularExpression>
 

@@ -1,4 +1,4 @@
-#include "tests/till/console/OnTerminal.h"
+#include "tests/till/terminal/OnTerminal.h"
 
 // The register on a terminal, before a person.
 

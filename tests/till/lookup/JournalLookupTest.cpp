@@ -1,4 +1,4 @@
-#include "tests/till/console/LookupFixture.h"
+#include "tests/till/lookup/LookupFixture.h"
 
 // The course of a receipt, looked up.
 

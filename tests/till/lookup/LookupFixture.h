@@ -1,5 +1,5 @@
-#ifndef TESTS_TILL_CONSOLE_LOOKUPFIXTURE_H
-#define TESTS_TILL_CONSOLE_LOOKUPFIXTURE_H
+#ifndef TESTS_TILL_LOOKUP_LOOKUPFIXTURE_H
+#define TESTS_TILL_LOOKUP_LOOKUPFIXTURE_H
 
 #include "tests/till/console/ProgramFixture.h"
 #include "tests/till/support/ManyReceipts.h"
@@ -52,4 +52,4 @@ protected:
     }
 };
 
-#endif // TESTS_TILL_CONSOLE_LOOKUPFIXTURE_H
+#endif // TESTS_TILL_LOOKUP_LOOKUPFIXTURE_H

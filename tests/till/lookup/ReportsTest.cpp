@@ -1,4 +1,4 @@
-#include "tests/till/console/LookupFixture.h"
+#include "tests/till/lookup/LookupFixture.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

@@ -1,8 +1,8 @@
-#ifndef TESTS_TILL_CONSOLE_ONTERMINAL_H
-#define TESTS_TILL_CONSOLE_ONTERMINAL_H
+#ifndef TESTS_TILL_TERMINAL_ONTERMINAL_H
+#define TESTS_TILL_TERMINAL_ONTERMINAL_H
 
 #include "tests/till/console/ProgramFixture.h"
-#include "tests/till/console/Terminal.h"
+#include "tests/till/terminal/Terminal.h"
 
 #include <optional>
 
@@ -33,4 +33,4 @@ protected:
     std::string greeting;
 };
 
-#endif // TESTS_TILL_CONSOLE_ONTERMINAL_H
+#endif // TESTS_TILL_TERMINAL_ONTERMINAL_H

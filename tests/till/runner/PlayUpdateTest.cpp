@@ -1,5 +1,5 @@
-#include "tests/till/console/PlayFixture.h"
-#include "tests/till/console/Terminal.h"
+#include "tests/till/runner/PlayFixture.h"
+#include "tests/till/terminal/Terminal.h"
 
 #include <cstring>
 

@@ -1,5 +1,5 @@
-#ifndef TESTS_TILL_CONSOLE_TERMINAL_H
-#define TESTS_TILL_CONSOLE_TERMINAL_H
+#ifndef TESTS_TILL_TERMINAL_TERMINAL_H
+#define TESTS_TILL_TERMINAL_TERMINAL_H
 
 #include <string>
 #include <utility>
@@ -45,4 +45,4 @@ private:
     std::string m_unread;
 };
 
-#endif // TESTS_TILL_CONSOLE_TERMINAL_H
+#endif // TESTS_TILL_TERMINAL_TERMINAL_H

@@ -1,4 +1,4 @@
-#include "tests/till/console/OnTerminal.h"
+#include "tests/till/terminal/OnTerminal.h"
 
 // What is printed on a terminal fits it.
 

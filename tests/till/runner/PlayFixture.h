@@ -1,5 +1,5 @@
-#ifndef TESTS_TILL_CONSOLE_PLAYFIXTURE_H
-#define TESTS_TILL_CONSOLE_PLAYFIXTURE_H
+#ifndef TESTS_TILL_RUNNER_PLAYFIXTURE_H
+#define TESTS_TILL_RUNNER_PLAYFIXTURE_H
 
 #include "tests/till/console/ProgramFixture.h"
 
@@ -25,4 +25,4 @@ protected:
     const QByteArray bad = "open\nadd CHOPS\n";
 };
 
-#endif // TESTS_TILL_CONSOLE_PLAYFIXTURE_H
+#endif // TESTS_TILL_RUNNER_PLAYFIXTURE_H

@@ -1,5 +1,5 @@
-#include "tests/till/console/LookupFixture.h"
-#include "tests/till/console/Terminal.h"
+#include "tests/till/lookup/LookupFixture.h"
+#include "tests/till/terminal/Terminal.h"
 
 // Many receipts are told of, and a till is on meanwhile.
 
