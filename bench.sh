@@ -17,16 +17,16 @@ case "$#:${1-}" in
     *) sed -n 's/^# \{0,1\}//p' bench.sh | sed -n 2,5p >&2; exit 2 ;;
 esac
 
-need_packages "${build_packages[@]}" "${bench_packages[@]}"
+need_packages "${build_packages[@]}" "${test_packages[@]}" "${bench_packages[@]}"
 top=$PWD
 build=$top/build/bench
-cmake --preset release -B "$build" -DPACKAGINGCONTROL_BENCH=ON >&2
-cmake --build "$build" --target packaging_bench till >&2
+cmake --preset release -B "$build" -DPACKAGINGCONTROL_BENCH=ON -DBUILD_TESTING=ON >&2
+cmake --build "$build" --target packaging_bench till window_redraw >&2
 
 # The order of hashes, and with it the instructions, are the same in every run.
 export QT_HASH_SEED=0
 cd "$build"
-rm -f callgrind.out.* allocations.txt times.json
+rm -f callgrind.out.* allocations.txt times.json redraw.txt
 
 echo "Counting instructions ..." >&2
 valgrind --quiet --tool=callgrind --instr-atstart=no \
@@ -37,6 +37,7 @@ bin/packaging_bench --benchmark_min_time=0.05 --benchmark_repetitions=15 \
     --benchmark_out_format=json > times.txt
 echo "Playing long receipts ..." >&2
 /usr/bin/python3 "$top/bench/receipts.py" bin/till > receipts.json
+bin/window_redraw 1000 > redraw.txt
 strip -o PackagingControl.stripped lib/packagingcontrol/plugins/PackagingControl.so
 cd "$top"
 

@@ -22,7 +22,9 @@ class Side:
 
     @property
     def spread(self):
-        """The middle half of the repetitions, as a part of their median."""
+        """The middle half of the repetitions, as a part of their median; nothing of one alone."""
+        if len(self.times) < 2:
+            return 0.0
         first, _, third = statistics.quantiles(self.times, n=4)
         return (third - first) / self.median
 
@@ -35,6 +37,7 @@ class Results:
         self.sides = self._read_sides()
         with open(self._path("receipts.json"), encoding="utf-8") as file:
             self._runs = json.load(file)
+        self._runs.update(self._read_redraw())
 
     def pair(self, name):
         return self.sides[name + "/measured"], self.sides[name + "/floor"]
@@ -52,6 +55,15 @@ class Results:
 
     def _path(self, name):
         return os.path.join(self.directory, name)
+
+    def _read_redraw(self):
+        """Seconds of a command in the window and, apart, of what it is to the register."""
+        try:
+            with open(self._path("redraw.txt"), encoding="utf-8") as file:
+                found = re.search(r": ([0-9.]+) ms, of which ([0-9.]+) ms", file.read())
+        except FileNotFoundError:
+            return {}
+        return {"window": [float(found[1]) / 1e3], "windowless": [float(found[2]) / 1e3]}
 
     def _read_instructions(self):
         totals = {}

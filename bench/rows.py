@@ -112,6 +112,15 @@ class Rows:
                        runs.median <= target, ["", "", time(runs.median), "", f"{runs.spread:.0%}"])
         self._add(make)
 
+    def milliseconds(self, title, measured, part, target):
+        """What passes beside a part of it."""
+        def make():
+            whole, apart = self._results.runs(measured), self._results.runs(part)
+            figure = whole.median - apart.median
+            return Row(title, figure, time(figure), f"< {target * 1e3:.0f} ms wall", figure < target,
+                       ["", "", both(time, whole.median, apart.median), "", ""])
+        self._add(make)
+
     def megabytes(self, title, name, target):
         def make():
             size = self._results.size(name) / 1e6
@@ -167,4 +176,6 @@ def rows_of(results, is_part=False):
     rows.megabytes("trace of a receipt of 400 positions", "trace", 7.3 / 3)
     rows.seconds("catalogue of 100,000 articles, read at the start", "catalogue", 0.25)
     rows.megabytes("memory of the till with that catalogue", "catalogueMemory", 60)
+    rows.milliseconds("redraw of the window after a command, 1,000 positions", "window",
+                      "windowless", 0.016)
     return rows.rows

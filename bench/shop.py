@@ -33,6 +33,8 @@ def sentences(results):
         f"lines, of which {floor('till/10')}, {floor('till/100')}, {floor('till/1000')} is the disk "
         f"and {once('resize/10')}, {once('resize/100')}, {once('resize/1000')} the plugin. The "
         f"picture shows these three.",
+        f"**In the window** such a command is done and drawn after {run('window')} on a receipt of "
+        f"1,000 lines (with the database in memory).",
         f"**A whole receipt of 1,000 lines** takes {run('plugin/1000')} of processor time, "
         f"{run('alone/1000')} without the plugin; of 4,000 lines {run('plugin/4000')} and "
         f"{run('alone/4000')}. Typed by a program through a pipe, the first is "

@@ -15,14 +15,6 @@ bool isDark(const QPalette &palette)
     return palette.color(QPalette::Base).lightness() < 128;
 }
 
-QFont fontOf(const QFont &font, Paint paint)
-{
-    QFont dressed = font;
-    dressed.setBold(paint == Paint::Bold || paint == Paint::Red);
-    dressed.setStrikeOut(paint == Paint::Struck);
-    return dressed;
-}
-
 int widthOf(const QList<Piece> &pieces, const QFont &font)
 {
     int width = 0;
@@ -32,6 +24,14 @@ int widthOf(const QList<Piece> &pieces, const QFont &font)
 }
 
 } // namespace
+
+QFont fontOf(const QFont &font, Paint paint)
+{
+    QFont dressed = font;
+    dressed.setBold(paint == Paint::Bold || paint == Paint::Red);
+    dressed.setStrikeOut(paint == Paint::Struck);
+    return dressed;
+}
 
 QColor warningColour(const QPalette &palette)
 {

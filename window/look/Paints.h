@@ -4,6 +4,7 @@
 #include "till/view/TextPage.h"
 
 #include <QtGui/QColor>
+#include <QtGui/QFont>
 
 class QPainter;
 class QPalette;
@@ -19,6 +20,9 @@ QColor colourOf(Paint paint, const QPalette &palette);
 
 //! The same for a warning: as text, and as what lies below a text.
 QColor warningColour(const QPalette &palette);
+
+//! \a font as \a paint dresses it.
+QFont fontOf(const QFont &font, Paint paint);
 
 //! Writes \a pieces with spaces between them in one line of \a area, in the middle of its height,
 //! elided at its end. Where there is no room for all, those that warn come first.

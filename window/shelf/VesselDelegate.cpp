@@ -16,7 +16,7 @@ namespace {
 constexpr double tallest = 84.0; //!< pixels of the greatest vessel in the least room
 constexpr double lowest = 22.0;
 constexpr double overflowRoom = 14.0; //!< above the brim
-constexpr int textLines = 3;
+constexpr int textLines = 4;          // name, amounts, and two for how full it is
 constexpr int padding = 4;
 
 //! The vessel within \a room, standing on its bottom. Its area follows the capacity.
@@ -109,12 +109,15 @@ void VesselDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
                       textLines * line);
     drawVessel(*painter, QRectF(inside).adjusted(0, 0, 0, -textLines * line - padding), model,
                index.row(), option.palette);
-    const QList<QList<Piece>> lines{{{index.data().toString()}},
-                                    {{model.amountsAt(index.row())}},
-                                    {model.fillTextAt(index.row())}};
+    const QStringList lines{index.data().toString(), model.amountsAt(index.row())};
     for (int number = 0; number < lines.size(); ++number)
         drawPieces(*painter, QRect(texts.left(), texts.top() + number * line, texts.width(), line),
-                   lines[number], option.palette);
+                   {{lines[number]}}, option.palette);
+    const Piece fill = model.fillTextAt(index.row());
+    painter->setFont(fontOf(option.font, fill.paint));
+    painter->setPen(colourOf(fill.paint, option.palette));
+    painter->drawText(texts.adjusted(0, 2 * line, 0, 0), Qt::AlignLeft | Qt::TextWordWrap,
+                      fill.text);
     painter->restore();
 }
 
