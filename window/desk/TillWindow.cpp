@@ -66,6 +66,8 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     m_table.setObjectName(QStringLiteral("receipt"));
     m_shelf.setObjectName(QStringLiteral("shelf"));
     m_total.setObjectName(QStringLiteral("total"));
+    m_deedsSoon.setSingleShot(true);
+    connect(&m_deedsSoon, &QTimer::timeout, this, &TillWindow::showDeeds);
     layOut();
     addDocks();
     connectParts();
@@ -124,7 +126,6 @@ void TillWindow::showReceipt()
 
 void TillWindow::showDeeds()
 {
-    m_willShowDeeds = false;
     const QList<int> selected = m_table.selectedPositions();
     for (const DeedRow &row : deedRows()) {
         const Outcome outcome =
@@ -133,22 +134,13 @@ void TillWindow::showDeeds()
     }
 }
 
-//! What is told in the middle of a command is looked at when it is over.
-void TillWindow::showDeedsSoon()
-{
-    if (std::exchange(m_willShowDeeds, true))
-        return;
-    QMetaObject::invokeMethod(
-        this, [this] { showDeeds(); }, Qt::QueuedConnection);
-}
-
 void TillWindow::hear(const QJsonObject &note)
 {
     const QString kind = note.value(QLatin1String("kind")).toString();
     if (kind == QLatin1String("message"))
         m_hasShownMessage = true;
     if (kind == QLatin1String("outcome"))
-        showDeedsSoon();
+        m_deedsSoon.start();
 }
 
 Outcome TillWindow::carryOut(const Command &command)

@@ -6,6 +6,7 @@
 #include "window/desk/TopStrip.h"
 #include "window/desk/WindowFront.h"
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
 
 QT_BEGIN_NAMESPACE
@@ -63,7 +64,6 @@ private:
     QSet<int> selectedGoods() const;
     void showReceipt();
     void showDeeds();
-    void showDeedsSoon();
     void hear(const QJsonObject &note);
     bool add(const QString &code, double count);
     void doDeed(Deed deed);
@@ -86,7 +86,7 @@ private:
     const InstalledFront m_installed;
     Subscription m_receiptSeen;
     Subscription m_outcomesHeard;
-    bool m_willShowDeeds = false;
+    QTimer m_deedsSoon; //!< what is told in the middle of a command is looked at when it is over
     bool m_hasShownMessage = false; //!< since the command under way began
 };
 

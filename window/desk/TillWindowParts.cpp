@@ -79,7 +79,7 @@ void TillWindow::connectParts()
     };
     m_table.selected = [this] {
         m_shelf.setLit(selectedGoods());
-        showDeedsSoon();
+        m_deedsSoon.start();
     };
     m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
     m_fault.goOn = [this] {

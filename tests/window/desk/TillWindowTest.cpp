@@ -1,11 +1,7 @@
 #include "tests/window/support/WindowTest.h"
 
 #include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabBar>
-#include <QtWidgets/QToolButton>
 
 namespace till {
 
@@ -187,82 +183,6 @@ TEST_F(TillWindowTest, Message_GoesWhenItIsTouched)
     EXPECT_FALSE(window->banner().isTelling());
 }
 
-TEST_F(TillWindowTest, Badge_TellsOfTaraControl)
-{
-    scan("PET1");
-    EXPECT_EQ(textOf("control"), "● tara is controlled");
-
-    till::Setup plain = setup();
-    plain.plugin.clear();
-    open(plain);
-    EXPECT_EQ(textOf("control"), "○ no tara control");
-}
-
-TEST_F(TillWindowTest, Language_ChangesWhileItRuns)
-{
-    scan("PET1");
-    EXPECT_EQ(textOf("header"), "Receipt No. 1 · open");
-
-    click("language");
-
-    EXPECT_EQ(textOf("header"), "Чек № 1 · открыт");
-    EXPECT_EQ(textOf("control"), "● тара под контролем");
-    EXPECT_EQ(find<QPushButton>("quantity").accessibleName(), "Количество");
-    EXPECT_EQ(find<QPushButton>("openSale").toolTip(), "Чек уже открыт: оплатите или отмените его");
-    EXPECT_EQ(said(1), "PET1 Бутылка ПЭТ 1 л\n0 / 1, пусто");
-
-    press(Qt::Key_L, Qt::ControlModifier);
-    EXPECT_EQ(textOf("header"), "Receipt No. 1 · open");
-}
-
-TEST_F(TillWindowTest, EverythingThatCanBeTouched_HasAnAccessibleName)
-{
-    scan("PET1");
-    const auto widgets = window->findChildren<QWidget *>();
-    for (const QWidget *const widget : widgets) {
-        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
-            continue;
-        const auto *const button = qobject_cast<const QAbstractButton *>(widget);
-        // Each tab says its own; Qt keeps a bar without any for docks that are hidden.
-        const bool isTabs = qobject_cast<const QTabBar *>(widget) != nullptr;
-        const bool hasText = isTabs || (button && !button->text().isEmpty());
-        EXPECT_TRUE(hasText || !widget->accessibleName().isEmpty())
-            << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
-    }
-}
-
-TEST_F(TillWindowTest, SmallAndLargeScreen_ShowEverything)
-{
-    for (const QSize size : {QSize(1024, 600), QSize(1920, 1080)}) {
-        window->resize(size);
-        QCoreApplication::processEvents();
-        EXPECT_EQ(window->size(), size);
-        for (const char *const name : {"code", "search", "tiles", "receipt", "shelf", "total",
-                                       "pay", "quantity", "menu", "control"}) {
-            const QWidget &widget = find(name);
-            const QRect area(widget.mapTo(window.get(), QPoint()), widget.size());
-            EXPECT_TRUE(window->rect().contains(area)) << name;
-            EXPECT_FALSE(area.isEmpty()) << name;
-        }
-    }
-}
-
-TEST_F(TillWindowTest, LargeFont_IsFollowed)
-{
-    const QFont before = QApplication::font();
-    const int height = window->table().rowHeight(0);
-    scan("PET1");
-    QFont large = before;
-    large.setPointSizeF(before.pointSizeF() * 2);
-
-    QApplication::setFont(large);
-    QCoreApplication::processEvents();
-
-    EXPECT_GE(window->table().rowHeight(0), 2 * QFontMetrics(large).height());
-    EXPECT_GT(window->table().rowHeight(0), height);
-    QApplication::setFont(before);
-}
-
 TEST_F(TillWindowTest, WhatWasDone_IsThereAtTheNextStart)
 {
     scan("PET1");
@@ -271,29 +191,6 @@ TEST_F(TillWindowTest, WhatWasDone_IsThereAtTheNextStart)
     open(setup());
 
     EXPECT_EQ(said(1), "PET1 Бутылка ПЭТ 1 л\n1 / 1 л, full: pos. 2 — 1");
-}
-
-TEST_F(TillWindowTest, Docks_OpenAndCloseByKeysAndInTheMenu)
-{
-    const auto isShown = [this](const char *className) {
-        const auto docks = window->findChildren<QDockWidget *>();
-        for (const QDockWidget *const dock : docks) {
-            if (dock->windowTitle().startsWith(QLatin1String(className)))
-                return dock->isVisible();
-        }
-        ADD_FAILURE() << className;
-        return false;
-    };
-    EXPECT_FALSE(isShown("Course"));
-
-    press(Qt::Key_F9);
-    EXPECT_TRUE(isShown("Course"));
-    press(Qt::Key_F9);
-    EXPECT_FALSE(isShown("Course"));
-    press(Qt::Key_F10);
-    EXPECT_TRUE(isShown("Scripts"));
-    openMenu({Qt::Key_Up, Qt::Key_Return});
-    EXPECT_FALSE(isShown("Scripts"));
 }
 
 TEST_F(TillWindowTest, Work_IsShownBeforeItBegins)
