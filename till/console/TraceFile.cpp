@@ -71,6 +71,8 @@ Result<> checkFile(const QString &option, const QString &path, const QStringList
         if (!file.isEmpty() && isSameFile(path, file))
             return Fault{option, path + " is a file that the till uses: " + file};
     }
+    if (QFileInfo(path).isFile() && isStandardStream(path))
+        return Fault{option, path + " is a standard stream of the till", "name another file"};
     if (isOtherFile(path, isOurs))
         return Fault{option, path + " is there already and is no " + what};
     return {};

@@ -23,6 +23,9 @@ Result<> readTrace(const QString &path, Recorder &recorder)
                 break; // the till was ended while it wrote
             return Fault{QString("%1:%2").arg(path).arg(number), "no line of a trace"};
         }
+        if (note["line"].toInteger() != number)
+            return Fault{QString("%1:%2").arg(path).arg(number),
+                         "lines of the trace are missing before this one"};
         recorder.read(note);
     }
     if (file.error() != QFileDevice::NoError)

@@ -20,9 +20,13 @@ QString lastLine(const QByteArray &sum)
         .arg(QString::fromLatin1(sum.toHex().left(16)));
 }
 
-//! Whether a standard stream of this process goes to the file with that \a status.
-bool isStandardStream(const struct stat &status)
+} // namespace
+
+bool isStandardStream(const QString &path)
 {
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return false;
     const auto leadsThere = [&status](int stream) {
         struct stat other = {};
         return fstat(stream, &other) == 0 && other.st_dev == status.st_dev
@@ -30,8 +34,6 @@ bool isStandardStream(const struct stat &status)
     };
     return leadsThere(STDIN_FILENO) || leadsThere(STDOUT_FILENO) || leadsThere(STDERR_FILENO);
 }
-
-} // namespace
 
 RecordedText::RecordedText(Write write)
     : m_write(std::move(write))
@@ -97,7 +99,7 @@ Result<> saveScript(const QString &path, const QStringList &lines)
 {
     struct stat status = {};
     const bool isThere = stat(QFile::encodeName(path).constData(), &status) == 0;
-    if (isThere && (!S_ISREG(status.st_mode) || isStandardStream(status)))
+    if (isThere && (!S_ISREG(status.st_mode) || isStandardStream(path)))
         return Fault{path, "is no file of its own", "name another file"};
     if (const Result<> checked = checkRecorded(path); !checked)
         return checked;

@@ -36,6 +36,9 @@ private:
     QCryptographicHash m_sum{QCryptographicHash::Sha256};
 };
 
+//! Whether a standard stream of this process leads to the file \a path.
+bool isStandardStream(const QString &path);
+
 //! Whether a recorded script may take the place of what is at \a path: nothing, or one that was
 //! recorded to its end and not changed since.
 Result<> checkRecorded(const QString &path);

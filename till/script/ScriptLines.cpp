@@ -17,6 +17,8 @@ Result<QString> readText(const QString &path)
     if (path == "-" ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly))
         return Fault{path, file.errorString()};
     const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) // what came before it is no script
+        return Fault{path, file.errorString()};
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder.decode(bytes);
     if (decoder.hasError())

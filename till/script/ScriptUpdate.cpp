@@ -88,6 +88,8 @@ Result<> rewrite(const QString &path, const QByteArray &digest, const QList<Line
     if (!file.open(QIODevice::ReadOnly))
         return Fault{path, file.errorString()};
     const QByteArray text = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return Fault{path, file.errorString()};
     if (digested(text) != digest)
         return Fault{path, "was changed while it was played", "play it again"};
     const bool isMarked = text.startsWith(mark);

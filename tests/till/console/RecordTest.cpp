@@ -202,6 +202,19 @@ TEST_F(FromTrace, TillThatWasKilled_EndsWithTheCommandUnderWay)
     holds(write("s.till", QByteArray::fromStdString(done.out)));
 }
 
+TEST_F(FromTrace, TraceThatLacksLines_IsNoScript)
+{
+    recorded("open\nadd CAN3\n", {"--trace", path("trace")});
+    const QByteArrayList lines = contents(path("trace")).split('\n');
+    const QByteArrayList cut = lines.mid(0, 2) + lines.mid(5);
+    for (const QByteArrayList &part : {cut, lines.mid(3), lines.mid(0, 4) + lines}) {
+        const RunResult done = fromTrace(write("cut", part.join('\n')));
+        EXPECT_EQ(done.status, 3);
+        EXPECT_EQ(done.out, "");
+        EXPECT_THAT(done.err, HasSubstr(": lines of the trace are missing before this one"));
+    }
+}
+
 TEST_F(FromTrace, PluginThatCrashed_CrashesInTheScript)
 {
     const RunResult crashed = recorded("open\nadd CHIPS\nadd CHIPS 11\n",
@@ -215,7 +228,7 @@ TEST_F(FromTrace, PluginThatCrashed_CrashesInTheScript)
 
 TEST_F(FromTrace, WhatIsNoTrace_IsTold)
 {
-    const QString other = write("other", "{\"kind\":\"start\"}\nopen\n{}\n");
+    const QString other = write("other", "{\"line\":1,\"kind\":\"start\"}\nopen\n{}\n");
     EXPECT_EQ(fromTrace(other).status, 3);
     EXPECT_EQ(fromTrace(other).out, "");
     EXPECT_EQ(fromTrace(other).err, "till: " + other.toStdString() + ":2: no line of a trace\n");
@@ -227,9 +240,11 @@ TEST_F(FromTrace, WhatIsNoTrace_IsTold)
 
 TEST_F(FromTrace, WhatAScriptCannotSay_IsTold)
 {
-    const RunResult done = fromTrace(write(
-        "t", "{\"kind\":\"start\"}\n{\"kind\":\"command\",\"text\":\"open sale\"}\n"
-             "{\"kind\":\"takeup\",\"id\":0}\n{\"kind\":\"outcome\",\"outcome\":\"failed\"}\n"));
+    const RunResult done =
+        fromTrace(write("t", "{\"line\":1,\"kind\":\"start\"}\n"
+                             "{\"line\":2,\"kind\":\"command\",\"text\":\"open sale\"}\n"
+                             "{\"line\":3,\"kind\":\"takeup\",\"id\":0}\n"
+                             "{\"line\":4,\"kind\":\"outcome\",\"outcome\":\"failed\"}\n"));
     EXPECT_EQ(done.status, 1);
     EXPECT_EQ(done.err, "till: " + path("t").toStdString()
                             + ": a script cannot say: could not be done: open sale\n");

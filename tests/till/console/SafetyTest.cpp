@@ -40,6 +40,21 @@ TEST_F(TraceFile, Script_IsLeft)
     isRefused(one, {"play", script("other.till"), one}, inUse);
 }
 
+TEST_F(TraceFile, StandardStream_IsLeft)
+{
+    const QString trace = path("t");
+    run({"--db", ":memory:", "--trace", trace}, "open\n");
+    const QByteArray before = contents(trace);
+    QProcess process;
+    process.setStandardInputFile(trace);
+    start(process, {"--db", ":memory:", "--trace", trace});
+    ASSERT_TRUE(process.waitForFinished(patience));
+    EXPECT_EQ(process.exitCode(), 2);
+    EXPECT_THAT(process.readAllStandardError().toStdString(),
+                HasSubstr("/t is a standard stream of the till; name another file"));
+    EXPECT_EQ(contents(trace), before);
+}
+
 TEST_F(TraceFile, Catalogue_IsLeft)
 {
     const QString catalogue = write("c.csv", contents(TILL_SHARE_DIR "/catalogue.csv"));

@@ -32,6 +32,17 @@ TEST_F(Play, Dash_IsStandardInput)
                           "did you mean 'CHIPS'?\n");
 }
 
+TEST_F(Play, ScriptThatCannotBeReadToItsEnd_IsWrong)
+{
+    // A file that can be opened, of which the first byte cannot be read.
+    for (const QString &file :
+         {QStringLiteral("/proc/self/mem"), script("s.till", "open\ninclude /proc/self/mem\n")}) {
+        const RunResult failed = played({file});
+        EXPECT_EQ(failed.status, 3);
+        EXPECT_THAT(failed.err, HasSubstr("Input/output error"));
+    }
+}
+
 TEST_F(Play, ScriptsThatDoNotHold_AreInTheTable)
 {
     const RunResult failed =

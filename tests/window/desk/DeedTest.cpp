@@ -17,8 +17,9 @@ protected:
         QCoreApplication::processEvents();
         const QPushButton &button = find<QPushButton>(name);
         EXPECT_EQ(button.isEnabled(), button.accessibleDescription().isEmpty());
-        if (!button.isEnabled())
+        if (!button.isEnabled()) {
             EXPECT_EQ(button.toolTip(), button.accessibleDescription());
+        }
         return button.accessibleDescription();
     }
 };
@@ -268,7 +269,7 @@ TEST_F(DeedTest, EachKey_IsInTheDocs)
 
 TEST_F(DeedTest, WholeReceipt_ByKeysAlone)
 {
-    const auto key = [this](Qt::Key key, const QString &entry) {
+    const auto say = [this](Qt::Key key, const QString &entry) {
         press(key);
         enter(entry);
     };
@@ -277,12 +278,12 @@ TEST_F(DeedTest, WholeReceipt_ByKeysAlone)
     press(Qt::Key_Return);
     type("2*BEER");
     press(Qt::Key_Return);
-    key(Qt::Key_F2, "2.5");
-    key(Qt::Key_F5, "1");
+    say(Qt::Key_F2, "2.5");
+    say(Qt::Key_F5, "1");
     press(Qt::Key_Down, Qt::ShiftModifier);
     press(Qt::Key_F6);
     press(Qt::Key_F11);
-    key(Qt::Key_F12, "500");
+    say(Qt::Key_F12, "500");
 
     EXPECT_EQ(commands(), (QStringList{"open sale: done", "add CAN3 1: done", "add BEER 2: done",
                                        "qty 2 2.5: done", "split 2 1: done", "unite 2 3: done",
