@@ -5,6 +5,7 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLoggingCategory>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
 #include <csignal>
@@ -40,7 +41,12 @@ int run(const Setup &setup, const QString &language)
     CashDesk desk(setup, notes);
     TillWindow window(desk, notes, language);
     window.switchOn();
-    window.show();
+    // Where its frame would lead beyond the screen it takes what there is.
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    if (screen.width() > window.width() && screen.height() > window.height())
+        window.show();
+    else
+        window.showMaximized();
     return QApplication::exec();
 }
 
