@@ -35,5 +35,5 @@ def draw(results, path):
     axes.set_xlim(0, max(left) * 1.18)
     axes.set_xlabel("one command, milliseconds")
     axes.spines[["top", "right"]].set_visible(False)
-    axes.legend(loc="lower right", frameon=False)
+    axes.legend(loc="upper right", frameon=False)
     figure.savefig(path, metadata={"Date": None, "Creator": None})
