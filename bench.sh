@@ -25,6 +25,7 @@ cmake --build "$build" --target packaging_bench till window_redraw >&2
 
 # The order of hashes, and with it the instructions, are the same in every run.
 export QT_HASH_SEED=0
+export PYTHONDONTWRITEBYTECODE=1 # no files beside the sources
 cd "$build"
 rm -f callgrind.out.* allocations.txt times.json redraw.txt
 
