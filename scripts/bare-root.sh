@@ -32,7 +32,8 @@ enter_root() {
     # Devices and processes, as programs expect them; gone with the script.
     as_root mount --bind /proc "$root/proc"
     as_root mount --bind /dev "$root/dev"
-    trap 'as_root umount "$root/dev" "$root/proc"' EXIT
+    as_root mount --bind /dev/pts "$root/dev/pts" # or no program has a terminal
+    trap 'as_root umount "$root/dev/pts" "$root/dev" "$root/proc"' EXIT
     as_root cp /etc/resolv.conf "$root/etc/resolv.conf"
     inside sh -c '. /etc/os-release && echo "$PRETTY_NAME"'
 }
