@@ -130,6 +130,10 @@ TEST_F(WindowFaultTest, FullDisk_IsToldOnAPage_AndTheReceiptIsAsBefore)
     disk.leaveRoomFor(0);
     scan("PET1");
     disk.repair();
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_TRUE(textOf("reason").startsWith("Не удалось сохранить"))
+        << textOf("reason").toStdString();
+    press(Qt::Key_L, Qt::ControlModifier);
 
     EXPECT_TRUE(find("faultPage").isVisible());
     EXPECT_TRUE(textOf("reason").startsWith("could not be stored"))
