@@ -24,7 +24,7 @@ TEST_F(WindowLooks, Badge_TellsOfTaraControl)
     scan("PET1");
     EXPECT_EQ(textOf("control"), "● tara is controlled");
     carryOut(command::AttachOrder{"7"});
-    EXPECT_EQ(textOf("control"), "◐ tara control is suspended");
+    EXPECT_EQ(textOf("control"), "◐ tara control suspended");
 
     till::Setup plain = setup();
     plain.plugin.clear();
