@@ -16,10 +16,10 @@ PackagingControl::PackagingControl()
 {
     setObjectName(QStringLiteral("PackagingControl"));
     // Names under which events and actions carry the host's types.
-    qRegisterMetaType<Event>("Event");
-    qRegisterMetaType<GoodsItemPtr>("GoodsItemPtr");
-    qRegisterMetaType<GoodsItemPtrList>("GoodsItemPtrList");
-    qRegisterMetaType<Quantity>("Quantity");
+    qRegisterNormalizedMetaType<Event>("Event");
+    qRegisterNormalizedMetaType<GoodsItemPtr>("GoodsItemPtr");
+    qRegisterNormalizedMetaType<GoodsItemPtrList>("GoodsItemPtrList");
+    qRegisterNormalizedMetaType<Quantity>("Quantity");
 }
 
 template <PackagingControl::Callback callback>
