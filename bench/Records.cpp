@@ -63,11 +63,6 @@ Log4Qt::Logger &logger()
     return packaging;
 }
 
-QString toLogText(double value)
-{
-    return QString::number(value, 'f', 3);
-}
-
 QByteArray toBytes(const Document &document)
 {
     QByteArray bytes;

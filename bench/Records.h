@@ -4,6 +4,7 @@
 #include "host/Document.h"
 #include "plugin/PackagingControl.h"
 
+#include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <vector>
@@ -47,8 +48,13 @@ enum class Floor { Bare, WithLogLines };
 //! The logger that the plugin writes to.
 Log4Qt::Logger &logger();
 
-//! \a value as the plugin's log lines show it.
-QString toLogText(double value);
+//! A quantity as the plugin's log lines show it, written when somebody receives the line.
+struct LogText
+{
+    double value;
+
+    operator QString() const { return QString::number(value, 'f', 3); }
+};
 
 //! A tree of variants as bytes, in which differences of types show too.
 QByteArray toBytes(const Document &document);

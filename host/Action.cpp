@@ -23,6 +23,12 @@ QMultiMap<QString, QVariant> Action::getArguments() const
     return m_data->arguments;
 }
 
+const QVariant *Action::find(const QString &key) const
+{
+    const auto found = m_data->arguments.constFind(key);
+    return found == m_data->arguments.cend() ? nullptr : &*found;
+}
+
 void Action::setArgument(const QString &key, const QVariant &value) const
 {
     m_data->arguments.remove(key);

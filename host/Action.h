@@ -11,6 +11,10 @@
 
 namespace control {
 
+namespace args {
+class Basic;
+}
+
 /*!
  * One action of the cashier: its type and named arguments.
  *
@@ -32,6 +36,12 @@ public:
     void setArgument(const QString &key, const QVariant &value) const;
 
 private:
+    friend class args::Basic;
+
+    //! The argument under \a key, the one added last when there are several; null when there is
+    //! none. Valid until an argument is set.
+    const QVariant *find(const QString &key) const;
+
     struct Data;
     QSharedPointer<Data> m_data;
 };

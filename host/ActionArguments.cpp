@@ -28,7 +28,13 @@ const Action &Basic::action() const
 
 QVariant Basic::value(const QString &key) const
 {
-    return m_action.getArguments().value(key);
+    const QVariant *const found = find(key);
+    return found ? *found : QVariant();
+}
+
+const QVariant *Basic::find(const QString &key) const
+{
+    return m_action.find(key);
 }
 
 void Basic::setValue(const QString &key, const QVariant &value) const
@@ -43,7 +49,8 @@ Core::Core(const Action &action)
 
 int Core::positionNumber() const
 {
-    return value(positionNumberKey()).toInt();
+    const QVariant *const number = find(positionNumberKey());
+    return number ? number->toInt() : 0;
 }
 
 void Core::setPositionNumber(int posnum) const
@@ -68,7 +75,8 @@ Storno::Storno(const Action &action)
 
 bool Storno::withoutDialog() const
 {
-    return value(withoutDialogKey()).toBool();
+    const QVariant *const without = find(withoutDialogKey());
+    return without && without->toBool();
 }
 
 void Storno::setWithoutDialog(bool without)

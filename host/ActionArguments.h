@@ -18,6 +18,8 @@ public:
 
 protected:
     QVariant value(const QString &key) const;
+    //! The same without a copy, valid until an argument is set; null when there is none.
+    const QVariant *find(const QString &key) const;
     void setValue(const QString &key, const QVariant &value) const;
 
 private:

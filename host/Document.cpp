@@ -1,7 +1,5 @@
 #include "host/Document.h"
 
-#include <algorithm>
-
 Document::Document(int type)
     : m_type(type)
 {
@@ -21,9 +19,11 @@ QSharedPointer<Order> Document::getOrder() const
 
 QSharedPointer<GoodsItem> Document::getPositionByPosnum(int posnum) const
 {
-    const auto found = std::find_if(m_positions.cbegin(), m_positions.cend(),
-                                    [posnum](const auto &p) { return p->getPosnum() == posnum; });
-    return found == m_positions.cend() ? nullptr : *found;
+    for (const auto &position : m_positions) {
+        if (position->getPosnum() == posnum)
+            return position;
+    }
+    return nullptr;
 }
 
 void Document::setDocumentSwitch(bool on)

@@ -10,48 +10,49 @@
 #include <QtCore/QSet>
 #include <QtCore/QUuid>
 
-#include <functional>
-
 PackagingControl::PackagingControl()
     : BaseActivityListener(nullptr)
     , logger(Log4Qt::LogManager::logger(QStringLiteral("packaging")))
 {
     setObjectName(QStringLiteral("PackagingControl"));
     // Names under which events and actions carry the host's types.
-    qRegisterMetaType<Event>("Event");
-    qRegisterMetaType<GoodsItemPtr>("GoodsItemPtr");
-    qRegisterMetaType<GoodsItemPtrList>("GoodsItemPtrList");
-    qRegisterMetaType<Quantity>("Quantity");
+    qRegisterNormalizedMetaType<Event>("Event");
+    qRegisterNormalizedMetaType<GoodsItemPtr>("GoodsItemPtr");
+    qRegisterNormalizedMetaType<GoodsItemPtrList>("GoodsItemPtrList");
+    qRegisterNormalizedMetaType<Quantity>("Quantity");
+}
+
+template <PackagingControl::Callback callback>
+void PackagingControl::attach(ActionTrigger::Order order, control::EActionType type,
+                              ActionTrigger::Priority priority)
+{
+    addTrigger(ActionTrigger(
+        EContext::Receipt, type, order,
+        [this](const control::Action &action) { return (this->*callback)(action); },
+        ActionTrigger::DefaultResult, priority));
 }
 
 bool PackagingControl::init()
 {
     using This = PackagingControl;
-    attach(ActionTrigger::Before, control::ApplyModifiers, &This::beforeApplyModifiers,
-           ActionTrigger::Normal);
-    attach(ActionTrigger::After, control::SplitPositions, &This::afterSplitPositions,
-           ActionTrigger::Low);
-    attach(ActionTrigger::After, control::UnitePositions, &This::afterUnitePositions,
-           ActionTrigger::Low);
+    attach<&This::beforeApplyModifiers>(ActionTrigger::Before, control::ApplyModifiers,
+                                        ActionTrigger::Normal);
+    attach<&This::afterSplitPositions>(ActionTrigger::After, control::SplitPositions,
+                                       ActionTrigger::Low);
+    attach<&This::afterUnitePositions>(ActionTrigger::After, control::UnitePositions,
+                                       ActionTrigger::Low);
     if (!Singleton<Config>::instance()->getBool(
             QStringLiteral("PackagingControl:allowSaleEmptyTara"), true)) {
         for (const auto type : {control::Subtotal, control::Payment})
-            attach(ActionTrigger::Before, type, &This::beforeSubtotal, ActionTrigger::High);
+            attach<&This::beforeSubtotal>(ActionTrigger::Before, type, ActionTrigger::High);
     }
-    attach(ActionTrigger::After, control::AddSoftCheck, &This::afterSoftcheck,
-           ActionTrigger::Normal);
+    attach<&This::afterSoftcheck>(ActionTrigger::After, control::AddSoftCheck,
+                                  ActionTrigger::Normal);
 
     Singleton<ActivityNotifier>::instance()->subscribe(
         this, {EActivityListener::eventPositionAdded, EActivityListener::eventPositionStorno,
                EActivityListener::eventModifierApplied, EActivityListener::eventModifierApplied2});
     return true;
-}
-
-void PackagingControl::attach(ActionTrigger::Order order, control::EActionType type,
-                              Callback callback, ActionTrigger::Priority priority)
-{
-    addTrigger(ActionTrigger(EContext::Receipt, type, order, std::bind_front(callback, this),
-                             ActionTrigger::DefaultResult, priority));
 }
 
 void PackagingControl::setDocument(const QSharedPointer<AbstractDocument> &newDocument)

@@ -197,9 +197,14 @@ protected:
 private:
     using Callback = EContext::Result (PackagingControl::*)(const control::Action &);
 
-    //! Registers the trigger \a callback before or after actions of \a type.
-    void attach(ActionTrigger::Order order, control::EActionType type, Callback callback,
+    //! Registers the trigger `callback` before or after actions of \a type.
+    template <Callback callback>
+    void attach(ActionTrigger::Order order, control::EActionType type,
                 ActionTrigger::Priority priority);
+    //! Refuses a new quantity for the tara \a position, when it is shared or partly filled.
+    EContext::Result decideOnTara(const QSharedPointer<GoodsItem> &position);
+    //! Asks whether to storno the empty taras, and does so. Cancels on no, or when one fails.
+    EContext::Result decideOnEmptyTara(const control::Action &action);
     //! Forgets \a tara and takes what was poured into it back out of the receipt.
     void dropTara(const QSharedPointer<TaraInfo> &tara);
     //! Takes what was poured into \a tara out of the receipt, as long as that stays current.

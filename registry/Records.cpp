@@ -73,6 +73,9 @@ PackagingControl::getPackagingInfoByPosnum(int posnum) const
 
 bool PackagingControl::isExistsEmptyTara() const
 {
-    return std::any_of(taraList.cbegin(), taraList.cend(),
-                       [](const auto &tara) { return tara->isEmpty(); });
+    for (const auto &tara : taraList) {
+        if (tara->isEmpty())
+            return true;
+    }
+    return false;
 }

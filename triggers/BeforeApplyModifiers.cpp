@@ -24,8 +24,11 @@ tr::Tr partlyFilledTaraMessage()
 EContext::Result PackagingControl::beforeApplyModifiers(const control::Action &action)
 {
     const auto position = findPosition(control::args::Core(action).positionNumber());
-    if (!position || !isTara(position))
-        return EContext::Continue;
+    return position && isTara(position) ? decideOnTara(position) : EContext::Continue;
+}
+
+EContext::Result PackagingControl::decideOnTara(const QSharedPointer<GoodsItem> &position)
+{
     ModifiersContainer *const pending = Singleton<Session>::instance()->getModifiers();
     if (!pending->isSet(modifiers::Quantity))
         return EContext::Continue;

@@ -25,8 +25,11 @@ bool askToStornoEmptyTara()
 
 EContext::Result PackagingControl::beforeSubtotal(const control::Action &action)
 {
-    if (!isExistsEmptyTara())
-        return EContext::Continue;
+    return isExistsEmptyTara() ? decideOnEmptyTara(action) : EContext::Continue;
+}
+
+EContext::Result PackagingControl::decideOnEmptyTara(const control::Action &action)
+{
     const auto receipt = document;
     if (!askToStornoEmptyTara())
         return EContext::Cancel;

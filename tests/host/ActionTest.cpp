@@ -82,6 +82,18 @@ TEST(ActionAccessor, NoPositionNumber_IsZero)
     EXPECT_EQ(Core(Action(control::StornoPosition, {})).positionNumber(), 0);
 }
 
+TEST(ActionAccessor, ManyPositionNumbers_TheOneAddedLastCounts)
+{
+    EXPECT_EQ(Core(Action(control::StornoPosition, {{"positionNumber", 3}, {"positionNumber", 4}}))
+                  .positionNumber(),
+              4);
+}
+
+TEST(ActionAccessor, PositionNumberAsText_IsRead)
+{
+    EXPECT_EQ(Core(Action(control::StornoPosition, {{"positionNumber", "7"}})).positionNumber(), 7);
+}
+
 TEST(ActionAccessor, PositionNumberSetAgain_ReplacesTheFirst)
 {
     const Action action = stornoOf(5);

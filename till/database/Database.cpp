@@ -249,20 +249,31 @@ QVariant Database::valueOf(const QString &sql)
     return {};
 }
 
+bool Database::Statement::prepare(const QString &sql)
+{
+    QString named;
+    for (const QChar sign : sql) {
+        if (sign == QLatin1Char('?'))
+            named += places.emplace_back(QStringLiteral(":%1").arg(places.size()));
+        else
+            named += sign;
+    }
+    query.setForwardOnly(true);
+    return query.prepare(named);
+}
+
 QSqlQuery *Database::run(const QString &sql, const QVariantList &values)
 {
     const auto [entry, isNew] = m_statements.try_emplace(sql, m_database);
-    QSqlQuery &query = entry->second;
-    if (isNew) {
-        query.setForwardOnly(true);
-        if (!query.prepare(sql)) {
-            failWith(query.lastError());
-            m_statements.erase(entry);
-            return nullptr;
-        }
+    auto &[query, places] = entry->second;
+    if (isNew && !entry->second.prepare(sql)) {
+        failWith(query.lastError());
+        m_statements.erase(entry);
+        return nullptr;
     }
+    Q_ASSERT(values.size() == places.size());
     for (qsizetype i = 0; i < values.size(); ++i)
-        query.bindValue(static_cast<int>(i), values[i]);
+        query.bindValue(places.at(i), values.at(i));
     if (query.exec())
         return &query;
     failWith(query.lastError());

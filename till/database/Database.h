@@ -5,6 +5,7 @@
 #include "till/result/Result.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVariant>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQuery>
@@ -102,13 +103,28 @@ private:
     bool waitForOthers(bool waits);
     bool failWith(const QSqlError &error);
 
+    //! A statement that is kept. Its question marks got names: a named place Qt looks up, for a
+    //! numbered one it makes a name each time.
+    struct Statement
+    {
+        explicit Statement(const QSqlDatabase &database)
+            : query(database)
+        {
+        }
+
+        bool prepare(const QString &sql);
+
+        QSqlQuery query;
+        QStringList places; //!< the names, in their order
+    };
+
     QString m_path;
     Access m_access;
     QString m_connection;
     std::optional<Fault> m_fault;
     DatabaseLock m_lock;
     QSqlDatabase m_database;
-    std::map<QString, QSqlQuery> m_statements;
+    std::map<QString, Statement> m_statements;
 };
 
 } // namespace till

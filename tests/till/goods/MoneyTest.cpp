@@ -125,7 +125,8 @@ INSTANTIATE_TEST_SUITE_P(Forms, QuantityText,
                          testing::Values(ReadQuantity{"0", 0.0}, ReadQuantity{"3", 3.0},
                                          ReadQuantity{"1.5", 1.5}, ReadQuantity{"1,5", 1.5},
                                          ReadQuantity{"0.125", 0.125}, ReadQuantity{"-2,5", -2.5},
-                                         ReadQuantity{"010", 10.0},
+                                         ReadQuantity{"010", 10.0}, ReadQuantity{"0.3", 0.3},
+                                         ReadQuantity{"123456789,123", 123456789.123},
                                          ReadQuantity{"999999999.999", 999999999.999}));
 
 class NoQuantityText : public testing::TestWithParam<QString>
