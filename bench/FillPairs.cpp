@@ -29,7 +29,7 @@ void fill(const Taras &taras, PackagingInfo &info, double quantity)
         if constexpr (Kind == Floor::WithLogLines)
             logger().info(
                 QStringLiteral("Изменение использованной позицией %1 ёмкости тары %2 на %3"),
-                info.posnum, tara->posnum, LogText{amount});
+                info.posnum, tara->posnum, toLogText(amount));
         tara->freeCapacity -= amount;
         info.usedTara[tara->id] += amount;
         delta -= amount;

@@ -63,6 +63,11 @@ Log4Qt::Logger &logger()
     return packaging;
 }
 
+QString toLogText(double value)
+{
+    return QString::number(value, 'f', 3);
+}
+
 QByteArray toBytes(const Document &document)
 {
     QByteArray bytes;

@@ -4,7 +4,6 @@
 #include "host/Document.h"
 #include "plugin/PackagingControl.h"
 
-#include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <vector>
@@ -48,13 +47,8 @@ enum class Floor { Bare, WithLogLines };
 //! The logger that the plugin writes to.
 Log4Qt::Logger &logger();
 
-//! A quantity as the plugin's log lines show it, written when somebody receives the line.
-struct LogText
-{
-    double value;
-
-    operator QString() const { return QString::number(value, 'f', 3); }
-};
+//! \a value as the plugin's log lines show it.
+QString toLogText(double value);
 
 //! A tree of variants as bytes, in which differences of types show too.
 QByteArray toBytes(const Document &document);

@@ -81,8 +81,8 @@ public:
         TaraInfo &tara = m_records.taras.back();
         const double capacity = 1.5 - tara.capacity;
         if constexpr (Kind == Floor::WithLogLines)
-            logger().info(QStringLiteral("Изменение ёмкости тары %1 -> %2"), LogText{tara.capacity},
-                          LogText{capacity});
+            logger().info(QStringLiteral("Изменение ёмкости тары %1 -> %2"),
+                          toLogText(tara.capacity), toLogText(capacity));
         tara.capacity = capacity;
         tara.freeCapacity = tara.capacity;
         store(m_records, *m_byHand);

@@ -16,14 +16,11 @@ using packaging::isZero;
 
 namespace {
 
-//! A quantity as the log shows it: three decimals and a point, whatever the locale. It is written
-//! when the line is put together, which it is not when nobody receives it.
-struct LogText
+//! \a value as the log shows it: three decimals and a point, whatever the locale.
+QString toLogText(double value)
 {
-    double value;
-
-    operator QString() const { return QString::number(value, 'f', 3); }
-};
+    return QString::number(value, 'f', 3);
+}
 
 //! Asks the host to run an action of \a type on position \a posnum now. True when it was carried
 //! out.
@@ -51,7 +48,7 @@ bool changeQuantity(GoodsItem &position, double newQuantity, double delta, Log4Q
     logger.info(
         QStringLiteral("Изменение количества позиции %1, размещенной в таре, на %2, в связи с "
                        "изменением тары"),
-        position.getPosnum(), LogText{delta});
+        position.getPosnum(), toLogText(delta));
     Singleton<Session>::instance()->getModifiers()->set(
         modifiers::Quantity, QVariant::fromValue(Quantity(newQuantity, quantModeRecalculated)));
     if (runOnPosition(control::ApplyModifiers, position.getPosnum()))
@@ -67,8 +64,8 @@ void PackagingControl::modifyTaraCapacity(const QSharedPointer<TaraInfo> &tara, 
     const double delta = newCapacity - tara->capacity;
     if (isZero(delta))
         return;
-    logger->info(QStringLiteral("Изменение ёмкости тары %1 -> %2"), LogText{tara->capacity},
-                 LogText{newCapacity});
+    logger->info(QStringLiteral("Изменение ёмкости тары %1 -> %2"), toLogText(tara->capacity),
+                 toLogText(newCapacity));
     tara->capacity = newCapacity;
     tara->freeCapacity += delta;
 }
@@ -91,7 +88,7 @@ void PackagingControl::modifyPackagingUsedCapacity(const QSharedPointer<Packagin
             continue;
         const double amount = std::abs(free) < std::abs(delta) ? free : delta;
         logger->info(QStringLiteral("Изменение использованной позицией %1 ёмкости тары %2 на %3"),
-                     info->posnum, tara->posnum, LogText{amount});
+                     info->posnum, tara->posnum, toLogText(amount));
         tara->freeCapacity -= amount;
         info->usedTara[tara->id] += amount;
         delta -= amount;
