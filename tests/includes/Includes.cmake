@@ -17,7 +17,8 @@ may_include(plugin host log4qt)
 may_include(registry host log4qt plugin)
 may_include(events host log4qt plugin registry)
 may_include(triggers host log4qt plugin registry)
-# The kit that checks a host sees that host and nothing else of the project.
+# The kit that checks a host sees that host, and the logger it brings.
+may_include(contract host log4qt)
 # The till knows the host and Log4Qt, never the plugin; a module of it knows the ones before it that
 # it is made of.
 may_include(till/result)
@@ -67,7 +68,7 @@ may_include(window/program ${look} window/desk till/startup till/database)
 function(folder_of path result)
     string(REGEX MATCH "^((till|window)/[^/]+|[^/]+)/" folder "${path}")
     string(REGEX REPLACE "/$" "" folder "${folder}")
-    set(ours till window plugin registry events triggers tests bench fuzz ${folders})
+    set(ours till window plugin registry events triggers contract tests bench fuzz ${folders})
     if(NOT folder IN_LIST ours AND NOT folder MATCHES "^(till|window)/")
         set(folder "")
     endif()

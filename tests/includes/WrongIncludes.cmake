@@ -24,6 +24,7 @@ expect_fault(till/console/A.cpp "#include \"till/language/A.h\"" "")
 expect_fault(plugin/A.cpp "#include \"A.moc\"" "")
 
 expect_fault(host/A.h "#include \"plugin/PackagingControl.h\"" "host/A.h includes plugin/")
+expect_fault(contract/A.cpp "#include \"plugin/PackagingControl.h\"" "contract/A.cpp includes plugin/")
 expect_fault(host/A.h "#include \"till/goods/Money.h\"" "host/A.h includes till/")
 expect_fault(host/A.cpp "#include <log4qt/logger.h>" "host/A.cpp includes log4qt/")
 expect_fault(registry/A.cpp "#include \"events/EventPosition.h\"" "registry/A.cpp includes events/")

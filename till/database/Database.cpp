@@ -1,5 +1,7 @@
 #include "till/database/Database.h"
 
+#include "till/database/SqlFault.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -14,51 +16,6 @@ namespace {
 
 //! How long others that are at the file for a moment are waited for, in milliseconds.
 constexpr int Patience = 5000;
-
-//! Result codes of SQLite that people can do something about.
-enum Code : int {
-    Busy = 5,
-    Locked = 6,
-    ReadOnly = 8,
-    Corrupt = 11,
-    Full = 13,
-    CannotOpen = 14,
-    NotADatabase = 26,
-};
-
-//! What \a code means to the people at the register; empty when it is nothing they know.
-QString meaningOf(int code)
-{
-    switch (code) {
-    case Busy:
-    case Locked:
-        return QStringLiteral("another program is writing to the database");
-    case ReadOnly:
-        return QStringLiteral("the database cannot be written");
-    case CannotOpen:
-        return QStringLiteral("the database cannot be opened");
-    case Corrupt:
-        return QStringLiteral("the database is damaged");
-    case NotADatabase:
-        return QStringLiteral("not a database of the till, or damaged");
-    case Full:
-        return QStringLiteral("the disk is full");
-    default:
-        return {};
-    }
-}
-
-QString reasonOf(const QSqlError &error)
-{
-    // The low byte is the primary code; the rest tells details.
-    const int code = error.nativeErrorCode().toInt() & 0xff;
-    QString meaning = meaningOf(code);
-    if (meaning.isEmpty())
-        return error.databaseText();
-    if (code != Busy && code != Locked)
-        meaning += QStringLiteral(" (%1)").arg(error.databaseText());
-    return meaning;
-}
 
 } // namespace
 
@@ -107,7 +64,8 @@ bool Database::fail(const QString &reason, const QString &remedy)
 
 bool Database::failWith(const QSqlError &error)
 {
-    return fail(reasonOf(error));
+    const Fault fault = faultOf(error);
+    return fail(fault.reason, fault.remedy);
 }
 
 bool Database::prepare(Access access)
@@ -188,7 +146,8 @@ bool Database::checkFile(Check check)
         return false;
     if (result.toString() != QLatin1String("ok"))
         return fail(QStringLiteral("the database is damaged (%1)")
-                        .arg(result.toString().replace(QLatin1Char('\n'), QLatin1Char(' '))));
+                        .arg(result.toString().replace(QLatin1Char('\n'), QLatin1Char(' '))),
+                    wayOutOfDamage());
     return true;
 }
 
@@ -228,7 +187,7 @@ bool Database::copyTo(const QString &path)
     const bool isWhole = copying.exec();
     if (isWhole && bringToMedium(part) && QFile::rename(part, path) && bringToMedium(path))
         return true;
-    const QString reason = isWhole ? qt_error_string(errno) : reasonOf(copying.lastError());
+    const QString reason = isWhole ? qt_error_string(errno) : faultOf(copying.lastError()).reason;
     QFile::remove(part);
     return failed(reason);
 }

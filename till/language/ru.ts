@@ -468,6 +468,10 @@
         <translation>Устраните названную причину (например, освободите место на диске) и повторите команду</translation>
     </message>
     <message>
+        <source>The script could not be saved</source>
+        <translation>Сценарий не удалось сохранить</translation>
+    </message>
+    <message>
         <source>Delete the last sign</source>
         <translation>Стереть последний знак</translation>
     </message>

@@ -45,7 +45,10 @@ struct Outcome
             value = brief(value);
         return {Mistake, reason, {}};
     }
-    static Outcome failed(const QString &detail) { return {Failed, {}, detail}; }
+    static Outcome failed(const Message &reason, const QString &detail)
+    {
+        return {Failed, reason, detail};
+    }
     //! Of what comes while a command is under way: from within a question, a message or a note.
     static Outcome busy();
 

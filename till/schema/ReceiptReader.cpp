@@ -127,13 +127,17 @@ void failFor(Database &database, qint64 id, const QString &fault, const QString 
     database.fail(QStringLiteral("receipt %1: %2").arg(id).arg(fault), remedy);
 }
 
-//! Says of a receipt that does not hold how to go on without it.
+//! How to go on without a receipt that does not hold.
+QString wayOnWithout(qint64 id)
+{
+    return QStringLiteral(
+               "\"till set-apart %1\" sets this receipt apart, so that another can be opened")
+        .arg(id);
+}
+
 void failWithWayOn(Database &database, qint64 id, const QString &fault)
 {
-    failFor(database, id, fault,
-            QStringLiteral(
-                "\"till set-apart %1\" sets this receipt apart, so that another can be opened")
-                .arg(id));
+    failFor(database, id, fault, wayOnWithout(id));
 }
 
 //! The number that \a sql gives; 0 when it gives none.
@@ -236,7 +240,12 @@ std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database)
                                  "receipt FROM setApart) ORDER BY id DESC LIMIT 1"));
     if (!found && !database.hasFailed() && next != 0)
         found = readIfUnfinished(database, next);
-    return found && !database.hasFailed() ? withValues(database, *found) : std::nullopt;
+    if (!found || database.hasFailed())
+        return std::nullopt;
+    const auto whole = withValues(database, *found);
+    if (!whole) // what it cannot read it has told
+        database.fail(database.fault().reason, wayOnWithout(found->record.id));
+    return whole;
 }
 
 qint64 highestNumber(Database &database)

@@ -71,7 +71,9 @@ Outcome CommandLine::set(const QStringList &words)
     if (const auto fault = settingFault(words[0], words[1]))
         return Outcome::mistake(*fault);
     const Result<> isSet = m_desk.set(words[0], words[1]);
-    return isSet ? Outcome::done() : Outcome::failed(isSet.error().text());
+    return isSet ? Outcome::done()
+                 : Outcome::failed(told("till", "The till could not be switched on"),
+                                   isSet.error().text());
 }
 
 Outcome CommandLine::restart(const QStringList &words)
@@ -80,7 +82,9 @@ Outcome CommandLine::restart(const QStringList &words)
     Result<> restarted = m_desk.stop();
     if (restarted)
         restarted = m_desk.start();
-    return restarted ? Outcome::done() : Outcome::failed(restarted.error().text());
+    return restarted ? Outcome::done()
+                     : Outcome::failed(told("till", "The till could not be switched on"),
+                                       restarted.error().text());
 }
 
 Outcome CommandLine::expect(const QStringList &words)
@@ -103,7 +107,7 @@ Outcome CommandLine::save(const QStringList &words)
     m_course->tell(recorder);
     recorder.finish();
     if (const Result<> saved = saveScript(words[0], lines); !saved)
-        return Outcome::failed(saved.error().text());
+        return Outcome::failed(told("till", "The script could not be saved"), saved.error().text());
     if (!recorder.unsaid().isEmpty())
         return {Outcome::Failed, recorder.report(words[0]), {}};
     print(m_translator.text(recorder.report(words[0])));

@@ -215,7 +215,8 @@ TEST_F(StorageVariant, TypeThatIsNotKnownHere_IsAnErrorThatNamesIt)
     EXPECT_EQ(faultText(opened()->unfinishedReceipt()),
               path()
                   + ": receipt 1: the data of plugin \"plugin\" under \"key\" hold a value "
-                    "of type \"KnownToTheWriter\", which is not known");
+                    "of type \"KnownToTheWriter\", which is not known; \"till set-apart 1\" sets "
+                    "this receipt apart, so that another can be opened");
 }
 
 TEST_F(StorageVariant, TypeWithoutOperators_IsRefused)

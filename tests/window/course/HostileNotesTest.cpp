@@ -1,3 +1,4 @@
+#include "tests/support/Chance.h"
 #include "tests/till/support/FolderTest.h"
 #include "window/course/CourseModel.h"
 
@@ -73,7 +74,7 @@ TEST_F(HostileNotes, AnyOrderOfNotes_KeepsEachOnce)
     static const std::vector<const char *> kinds{
         "command",  "outcome", "action", "result", "event",   "trigger",  "log",
         "question", "answer",  "data",   "script", "verdict", "position", "takeup"};
-    std::mt19937 random(1);
+    std::mt19937 random(static_cast<std::mt19937::result_type>(testSeed()));
     const auto below = [&random](std::size_t end) { return random() % end; };
     constexpr int count = 600;
     for (int i = 0; i < count; ++i)
