@@ -219,7 +219,7 @@ void TillWindow::keyPressEvent(QKeyEvent *event)
     if (!text.isEmpty() && text[0].isPrint())
         m_articles.typeCode(text);
     else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
-        QCoreApplication::sendEvent(&m_table, event);
+        static_cast<QObject &>(m_table).event(event); // sent, it would come back
     else
         QMainWindow::keyPressEvent(event);
 }
