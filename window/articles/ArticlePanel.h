@@ -32,6 +32,8 @@ public:
     void focusSearch();
     //! Types \a text into the code field, as if it had the focus.
     void typeCode(const QString &text);
+    //! Enter in the code field.
+    void enterCode();
 
     /*!
      * Told that so many pieces of the article with that code are to be added: a tile was touched,
@@ -51,7 +53,6 @@ private:
     void layOut();
     void sizeTiles();
     void filter();
-    void enterCode();
     void choose(const QModelIndex &tile);
 
     using QWidget::show;

@@ -54,6 +54,7 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     , m_shelf(*new Shelf(m_translator))
     , m_course(*new CourseDock(notes, m_translator))
     , m_scripts(*new ScriptsDock(desk, notes, m_translator))
+    , m_typing(*this)
     , m_front(*this, m_strip, m_translator)
     , m_installed(desk.front(), m_front)
     , m_receiptSeen(desk.onReceiptChanged([this] { showReceipt(); }))
@@ -212,13 +213,9 @@ void TillWindow::closeEvent(QCloseEvent *event)
     event->setAccepted(!m_desk.isBusy() && m_scripts.mayClose());
 }
 
-//! What nothing else takes is a code.
 void TillWindow::keyPressEvent(QKeyEvent *event)
 {
-    const QString text = event->text();
-    if (!text.isEmpty() && text[0].isPrint())
-        m_articles.typeCode(text);
-    else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
         static_cast<QObject &>(m_table).event(event); // sent, it would come back
     else
         QMainWindow::keyPressEvent(event);

@@ -5,6 +5,7 @@
 #include "window/desk/DeedBar.h"
 #include "window/desk/TopStrip.h"
 #include "window/desk/WindowFront.h"
+#include "window/look/Typing.h"
 
 #include <QtCore/QTimer>
 #include <QtCore/QTranslator>
@@ -84,6 +85,7 @@ private:
     Shelf &m_shelf;
     CourseDock &m_course;
     ScriptsDock &m_scripts;
+    Typing m_typing;
     WindowFront m_front;
     const InstalledFront m_installed;
     Subscription m_receiptSeen;

@@ -74,6 +74,8 @@ void TillWindow::addDocks()
 void TillWindow::connectParts()
 {
     m_articles.chosen = [this](const QString &code, double count) { return add(code, count); };
+    m_typing.typed = [this](const QString &text) { m_articles.typeCode(text); };
+    m_typing.entered = [this] { m_articles.enterCode(); };
     m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
     m_deeds.refused = [this](const QString &reason) {
         banner().tell(reason, Banner::Tone::Notice);

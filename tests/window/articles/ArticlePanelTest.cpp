@@ -2,6 +2,7 @@
 #include "window/articles/ArticleModel.h"
 
 #include <QtTest/QAbstractItemModelTester>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QListView>
 
 namespace till {
@@ -20,6 +21,13 @@ protected:
         for (int row = 0; row < articles.rowCount(); ++row)
             codes.append(articles.articleAt(row).code);
         return codes;
+    }
+    //! What stands in place of tiles; empty when there are any.
+    QString nothing() const
+    {
+        const QLabel &label = find<QLabel>("nothingFound");
+        EXPECT_EQ(label.isVisible(), shownCodes().isEmpty());
+        return label.isVisible() ? label.text() : QString();
     }
     void search(const QString &text)
     {
@@ -156,6 +164,32 @@ TEST_F(ArticlePanelTest, ScannerThatTypesElsewhere_IsHeard)
     press(Qt::Key_Return);
 
     EXPECT_EQ(commands().constLast(), "add BEER 1: done");
+}
+
+TEST_F(ArticlePanelTest, ScannerThatTypesIntoTheTiles_IsHeard)
+{
+    touchTile("CAN3");
+
+    type("BEER");
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(commands().constLast(), "add BEER 1: done");
+    EXPECT_EQ(commands().size(), 3);
+}
+
+TEST_F(ArticlePanelTest, TileReachedByKeys_IsAddedBySpaceAndByEnter)
+{
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+        touchTile("PET1");
+        press(Qt::Key_Right);
+        const auto &articles = static_cast<const ArticleModel &>(*tiles().model());
+        const QString next = articles.articleAt(tiles().currentIndex().row()).code;
+
+        press(key);
+
+        EXPECT_NE(next, "PET1");
+        EXPECT_EQ(commands().constLast(), "add " + next + " 1: done");
+    }
 }
 
 TEST_F(ArticlePanelTest, Accessible_EveryTileSaysNameCodeAndPrice)
