@@ -74,6 +74,11 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
 
 TillWindow::~TillWindow() = default;
 
+bool TillWindow::isAtRegister() const
+{
+    return m_pages.currentIndex() == 0;
+}
+
 QSet<int> TillWindow::selectedGoods() const
 {
     QSet<int> goods;
@@ -215,7 +220,8 @@ void TillWindow::closeEvent(QCloseEvent *event)
 
 void TillWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+    const bool selects = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (selects && isAtRegister())
         static_cast<QObject &>(m_table).event(event); // sent, it would come back
     else
         QMainWindow::keyPressEvent(event);

@@ -63,6 +63,7 @@ private:
     void fillMenu();
     void translate();
 
+    bool isAtRegister() const; //!< rather than at the page that tells of a fault
     QSet<int> selectedGoods() const;
     void showReceipt();
     void showDeeds();

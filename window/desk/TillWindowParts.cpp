@@ -74,8 +74,15 @@ void TillWindow::addDocks()
 void TillWindow::connectParts()
 {
     m_articles.chosen = [this](const QString &code, double count) { return add(code, count); };
-    m_typing.typed = [this](const QString &text) { m_articles.typeCode(text); };
-    m_typing.entered = [this] { m_articles.enterCode(); };
+    // In front of the page that tells of a fault it is lost, and does not turn the page.
+    m_typing.typed = [this](const QString &text) {
+        if (isAtRegister())
+            m_articles.typeCode(text);
+    };
+    m_typing.entered = [this] {
+        if (isAtRegister())
+            m_articles.enterCode();
+    };
     m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
     m_deeds.refused = [this](const QString &reason) {
         banner().tell(reason, Banner::Tone::Notice);
@@ -86,10 +93,10 @@ void TillWindow::connectParts()
     };
     m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
     m_fault.goOn = [this] {
-        if (m_desk.isOn())
-            m_pages.setCurrentIndex(0);
-        else
-            switchOn();
+        if (!m_desk.isOn())
+            return switchOn();
+        m_pages.setCurrentIndex(0);
+        m_articles.focusCode();
     };
 }
 
@@ -98,8 +105,13 @@ void TillWindow::addShortcuts()
     const auto on = [this](const QKeySequence &key, auto &&act) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, act);
     };
-    on(Qt::Key_F3, [this] { m_articles.focusSearch(); });
+    on(Qt::Key_F3, [this] {
+        if (isAtRegister())
+            m_articles.focusSearch();
+    });
     on(Qt::Key_Escape, [this] {
+        if (!isAtRegister())
+            return m_fault.setFocus();
         banner().clear();
         m_articles.focusCode();
     });
