@@ -484,6 +484,18 @@
         <translation>Товары</translation>
     </message>
     <message>
+        <source>No article contains &quot;%1&quot;: clear the search</source>
+        <translation>Нет товаров, содержащих &quot;%1&quot;: очистите поиск</translation>
+    </message>
+    <message>
+        <source>This group has no articles: choose &quot;%L1&quot;</source>
+        <translation>В этой группе нет товаров: выберите &quot;%L1&quot;</translation>
+    </message>
+    <message>
+        <source>No article of this group contains &quot;%1&quot;: choose &quot;%L2&quot;, or clear the search</source>
+        <translation>В этой группе нет товаров, содержащих &quot;%1&quot;: выберите &quot;%L2&quot; или очистите поиск</translation>
+    </message>
+    <message>
         <source>All</source>
         <translation>Все</translation>
     </message>

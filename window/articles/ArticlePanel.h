@@ -8,6 +8,7 @@
 
 QT_BEGIN_NAMESPACE
 class QButtonGroup;
+class QLabel;
 class QLineEdit;
 class QListView;
 QT_END_NAMESPACE
@@ -41,7 +42,6 @@ public:
      * there, selected, so that the next code takes its place.
      */
     std::function<bool(const QString &code, double count)> chosen;
-
     //! Opened with the space bar or Enter too, as any tile is.
     QListView &tiles() { return m_tiles; }
 
@@ -53,6 +53,7 @@ private:
     void layOut();
     void sizeTiles();
     void filter();
+    void tellNothing();
     void choose(const QModelIndex &tile);
 
     using QWidget::show;
@@ -62,6 +63,8 @@ private:
     QLineEdit &m_search;
     QListView &m_tiles;
     QButtonGroup &m_groups;
+    QLabel &m_nothing; //!< stands in place of tiles where there are none
+    Translator m_translator;
 };
 
 } // namespace till

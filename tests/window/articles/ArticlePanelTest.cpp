@@ -192,6 +192,53 @@ TEST_F(ArticlePanelTest, TileReachedByKeys_IsAddedBySpaceAndByEnter)
     }
 }
 
+TEST_F(ArticlePanelTest, SearchWithoutHits_SaysSo_AndTheWayOut)
+{
+    EXPECT_EQ(nothing(), "");
+
+    search("lemonade");
+
+    EXPECT_EQ(nothing(), "No article contains \"lemonade\": clear the search");
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(nothing(), "Нет товаров, содержащих \"lemonade\": очистите поиск");
+}
+
+TEST_F(ArticlePanelTest, SearchWithoutHitsInAGroup_NamesTheGroupsToo)
+{
+    click("group1");
+
+    search("квас");
+
+    EXPECT_EQ(nothing(), "No article of this group contains \"квас\": choose \"All\", or clear the "
+                         "search");
+    click("group0");
+    EXPECT_EQ(nothing(), "");
+}
+
+TEST_F(ArticlePanelTest, GroupWithoutArticles_SaysSo)
+{
+    till::Setup small = setup();
+    small.catalogue = path("small.csv");
+    overwrite(small.catalogue,
+              "code,name,price,tara mode,tara capacity,pack,unit\nBAG,Bag,5,0,,1,\n");
+    open(small);
+
+    click("group1");
+
+    EXPECT_EQ(nothing(), "This group has no articles: choose \"All\"");
+}
+
+TEST_F(ArticlePanelTest, EnterWithoutHits_StaysInTheSearch)
+{
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down}) {
+        search("lemonade");
+
+        press(key);
+
+        EXPECT_TRUE(find("search").hasFocus());
+    }
+}
+
 TEST_F(ArticlePanelTest, Accessible_EveryTileSaysNameCodeAndPrice)
 {
     EXPECT_EQ(tiles().model()->index(0, 0).data(Qt::AccessibleTextRole),
