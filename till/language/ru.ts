@@ -496,6 +496,10 @@
         <translation>В этой группе нет товаров, содержащих &quot;%1&quot;: выберите &quot;%L2&quot; или очистите поиск</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is a quantity: scan or type a code behind it, or touch a tile</source>
+        <translation>&quot;%1&quot; — это количество: отсканируйте или введите за ним код либо коснитесь плитки</translation>
+    </message>
+    <message>
         <source>All</source>
         <translation>Все</translation>
     </message>

@@ -156,6 +156,10 @@ void ArticlePanel::tellNothing()
 void ArticlePanel::enterCode()
 {
     const CodeEntry entry = CodeEntry::read(m_code.text());
+    if (entry.code.isEmpty() && !m_code.text().trimmed().isEmpty() && mistaken)
+        mistaken(
+            told("till", "\"%1\" is a quantity: scan or type a code behind it, or touch a tile")
+                .with({brief(m_code.text().trimmed())}));
     if (entry.code.isEmpty() || !chosen)
         return;
     if (chosen(entry.code, entry.count.value_or(1.0)))

@@ -42,6 +42,9 @@ public:
      * there, selected, so that the next code takes its place.
      */
     std::function<bool(const QString &code, double count)> chosen;
+    //! Told what is wrong with what was entered, when there is no code in it. It stays there.
+    std::function<void(const Message &mistake)> mistaken;
+
     //! Opened with the space bar or Enter too, as any tile is.
     QListView &tiles() { return m_tiles; }
 

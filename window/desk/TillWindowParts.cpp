@@ -83,6 +83,9 @@ void TillWindow::connectParts()
         if (isAtRegister())
             m_articles.enterCode();
     };
+    m_articles.mistaken = [this](const Message &mistake) {
+        banner().tell(m_translator.text(mistake), Banner::Tone::Notice);
+    };
     m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
     m_deeds.refused = [this](const QString &reason) {
         banner().tell(reason, Banner::Tone::Notice);

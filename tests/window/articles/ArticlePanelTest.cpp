@@ -239,6 +239,21 @@ TEST_F(ArticlePanelTest, EnterWithoutHits_StaysInTheSearch)
     }
 }
 
+TEST_F(ArticlePanelTest, QuantityWithoutACode_SaysWhatIsExpected)
+{
+    for (const char *const text : {"3*", "12x"}) {
+        scan(text);
+
+        EXPECT_EQ(told(), QStringLiteral("\"%1\" is a quantity: scan or type a code behind it, or "
+                                         "touch a tile")
+                              .arg(text));
+        EXPECT_EQ(code().text(), text);
+    }
+    EXPECT_EQ(commands(), QStringList());
+    touchTile("BEER");
+    EXPECT_EQ(commands().constLast(), "add BEER 12: done");
+}
+
 TEST_F(ArticlePanelTest, Accessible_EveryTileSaysNameCodeAndPrice)
 {
     EXPECT_EQ(tiles().model()->index(0, 0).data(Qt::AccessibleTextRole),
