@@ -132,7 +132,7 @@ void TillWindow::showDeeds()
     for (const DeedRow &row : deedRows()) {
         const Outcome outcome =
             m_desk.isOn() ? whyNot(row.deed, m_desk.cashRegister(), selected) : Outcome::busy();
-        m_deeds.setReason(row.deed, outcome.text(m_translator));
+        m_deeds.setReason(row.deed, outcome);
     }
 }
 
@@ -148,7 +148,7 @@ void TillWindow::hear(const QJsonObject &note)
 Outcome TillWindow::carryOut(const Command &command)
 {
     if (!m_desk.isOn() || m_desk.isBusy()) {
-        banner().tell(Outcome::busy().text(m_translator), Banner::Tone::Notice);
+        tell(Outcome::busy(), Banner::Tone::Notice);
         return Outcome::busy();
     }
     m_hasShownMessage = false;
@@ -170,12 +170,18 @@ void TillWindow::tellOutcome(const Outcome &outcome)
         return;
     }
     if (outcome && outcome.change)
-        banner().tell(m_translator.text(Message{messages::tillChange(), {toText(*outcome.change)}}),
+        banner().tell(Message{messages::tillChange(), {toText(*outcome.change)}},
                       Banner::Tone::Notice);
     // What the plugin showed stands there already, and whoever said no knows why.
     else if (!outcome && outcome.kind != Outcome::Declined
              && (!m_hasShownMessage || outcome.change))
-        banner().tell(outcome.text(m_translator), Banner::Tone::Warning);
+        tell(outcome, Banner::Tone::Warning);
+}
+
+void TillWindow::tell(const Outcome &outcome, Banner::Tone tone)
+{
+    banner().tell([outcome](const Translator &translator) { return outcome.text(translator); },
+                  tone);
 }
 
 //! Without a receipt one is opened first.

@@ -84,12 +84,10 @@ void TillWindow::connectParts()
             m_articles.enterCode();
     };
     m_articles.mistaken = [this](const Message &mistake) {
-        banner().tell(m_translator.text(mistake), Banner::Tone::Notice);
+        banner().tell(mistake, Banner::Tone::Notice);
     };
     m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
-    m_deeds.refused = [this](const QString &reason) {
-        banner().tell(reason, Banner::Tone::Notice);
-    };
+    m_deeds.refused = [this](const Outcome &whyNot) { tell(whyNot, Banner::Tone::Notice); };
     m_table.selected = [this] {
         m_shelf.setLit(selectedGoods());
         m_deedsSoon.start();
@@ -153,6 +151,7 @@ void TillWindow::translate()
     m_strip.language().setToolTip(m_strip.language().accessibleName());
     m_strip.menu().setText(QStringLiteral("☰"));
     m_strip.menu().setAccessibleName(say(told("till", "Menu")));
+    banner().translate(m_translator);
     m_fault.translate(m_translator);
     m_table.translate(m_translator);
     m_deeds.translate(m_translator);

@@ -24,7 +24,7 @@ bool WindowFront::ask(const Question &question)
 
 void WindowFront::show(const tr::Tr &message)
 {
-    m_strip.banner().tell(m_translator.text(message), Banner::Tone::Warning);
+    m_strip.banner().tell(Message{message, {}}, Banner::Tone::Warning);
 }
 
 } // namespace till

@@ -201,6 +201,29 @@ TEST_F(TillWindowTest, Message_GoesWhenItIsTouched)
     EXPECT_FALSE(window->banner().isTelling());
 }
 
+TEST_F(TillWindowTest, Message_ChangesItsLanguage)
+{
+    const auto inRussian = [this] {
+        press(Qt::Key_L, Qt::ControlModifier);
+        const QString text = told();
+        press(Qt::Key_L, Qt::ControlModifier);
+        return text;
+    };
+    EXPECT_EQ(inRussian(), "");
+    press(Qt::Key_F12);
+    EXPECT_EQ(inRussian(), "Нет открытого чека");
+    scan("PET11");
+    EXPECT_EQ(inRussian(), "В каталоге нет товара \"PET11\"; может быть, PET1?");
+    scan("CAN3");
+    scan("BEER");
+    scan("DARK");
+    select({1});
+    click("quantity");
+    enter("2");
+    EXPECT_TRUE(inRussian().startsWith("Тара используется")) << inRussian().toStdString();
+    EXPECT_TRUE(told().startsWith("The tara is used")) << told().toStdString();
+}
+
 TEST_F(TillWindowTest, WhatWasDone_IsThereAtTheNextStart)
 {
     scan("PET1");

@@ -89,7 +89,8 @@ TEST_F(TypingTest, InTheListOfReceipts_IsACode)
     scan("BAG");
     press(Qt::Key_F10);
     showTab(1);
-    for (const char *const place : {"receiptList", "receiptStates", "receiptPage", "receiptsRead"}) {
+    for (const char *const place :
+         {"receiptList", "receiptStates", "receiptPage", "receiptsRead"}) {
         find(place).setFocus();
         const qsizetype before = commands().size();
 
