@@ -152,6 +152,7 @@ Outcome TillWindow::carryOut(const Command &command)
         return Outcome::busy();
     }
     m_hasShownMessage = false;
+    m_front.takeDeclined();
     banner().clear();
     const Outcome outcome = [&] {
         const AtWork atWork(m_strip, m_translator.text(told("till", "at work, please wait")));
@@ -172,10 +173,23 @@ void TillWindow::tellOutcome(const Outcome &outcome)
     if (outcome && outcome.change)
         banner().tell(Message{messages::tillChange(), {toText(*outcome.change)}},
                       Banner::Tone::Notice);
-    // What the plugin showed stands there already, and whoever said no knows why.
-    else if (!outcome && outcome.kind != Outcome::Declined
-             && (!m_hasShownMessage || outcome.change))
-        tell(outcome, Banner::Tone::Warning);
+    else if (!outcome && (!m_hasShownMessage || outcome.change)) // which stands there already
+        tellRefusal(outcome);
+}
+
+void TillWindow::tellRefusal(const Outcome &outcome)
+{
+    if (!outcome.text(m_translator).isEmpty())
+        return tell(outcome, Banner::Tone::Warning);
+    // Whoever said no knows why, but it may have been a scanner.
+    const auto question = m_front.takeDeclined();
+    if (!question)
+        return;
+    const auto answered = [question = *question](const Translator &translator) {
+        const QString asked = translator.text(question).replace(u'\n', u' ');
+        return translator.text(told("till", "\"%1\" was answered no").with({asked}));
+    };
+    banner().tell(answered, Banner::Tone::Notice);
 }
 
 void TillWindow::tell(const Outcome &outcome, Banner::Tone tone)

@@ -71,6 +71,7 @@ private:
     bool add(const QString &code, double count);
     void doDeed(Deed deed);
     void tellOutcome(const Outcome &outcome);
+    void tellRefusal(const Outcome &outcome);
     void tell(const Outcome &outcome, Banner::Tone tone);
 
     CashDesk &m_desk;

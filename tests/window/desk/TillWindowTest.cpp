@@ -52,7 +52,9 @@ TEST_F(TillWindowTest, DeclinedQuestion_StopsTheCommand)
     click("subtotal");
 
     EXPECT_EQ(commands().constLast(), "subtotal: refused");
-    EXPECT_TRUE(find("header").isVisible());
+    EXPECT_EQ(told(),
+              "\"There is empty tara in the receipt. Storno the tara and go on to payment?\" "
+              "was answered no");
     EXPECT_EQ(receipt()->state(), ReceiptState::Open);
 }
 
@@ -68,6 +70,7 @@ TEST_F(TillWindowTest, ScannerThatTypesIntoAQuestion_DoesNotSayYes)
 
     EXPECT_EQ(receipt()->state(), ReceiptState::Open);
     EXPECT_EQ(receipt()->lines().size(), 1);
+    EXPECT_EQ(told(), "\"Cancel the receipt?\" was answered no");
 }
 
 TEST_F(TillWindowTest, Escape_Declines)
