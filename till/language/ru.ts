@@ -484,6 +484,14 @@
         <translation>Товары</translation>
     </message>
     <message>
+        <source>In %1, up to three decimals</source>
+        <translation>Единица: %1; до трёх знаков после точки</translation>
+    </message>
+    <message>
+        <source>In pieces of %1, up to three decimals</source>
+        <translation>В штуках по %1, до трёх знаков после точки</translation>
+    </message>
+    <message>
         <source>No article contains &quot;%1&quot;: clear the search</source>
         <translation>Нет товаров, содержащих &quot;%1&quot;: очистите поиск</translation>
     </message>

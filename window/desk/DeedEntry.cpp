@@ -1,6 +1,7 @@
 #include "window/desk/DeedEntry.h"
 
 #include "till/language/TillMessages.h"
+#include "till/view/TaraText.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -84,13 +85,26 @@ struct Asked
     QString signs;
 };
 
+//! In what a quantity of \a article is counted.
+Message unitHint(const ArticleData &article)
+{
+    const QString unit = unitOf(article);
+    if (unit.isEmpty())
+        return told("till", "In pieces, up to three decimals");
+    if (article.pack == 1.0)
+        return told("till", "In %1, up to three decimals").with({unit});
+    return told("till", "In pieces of %1, up to three decimals")
+        .with({amountText(article.pack, unit)});
+}
+
 Asked askedFor(Deed deed, int posnum, const Receipt &receipt)
 {
     const QStringList position{QString::number(posnum)};
+    const auto line = receipt.line(posnum);
     switch (deed) {
     case Deed::Quantity:
         return {told("till", "Quantity of position %1").with(position),
-                told("till", "In pieces, up to three decimals"), QStringLiteral(".")};
+                unitHint(line ? line->article() : ArticleData()), QStringLiteral(".")};
     case Deed::Split:
         return {told("till", "Parts to split off position %1").with(position),
                 told("till", "As \"1+0.5\"; what is left stays in the position"),
