@@ -484,6 +484,10 @@
         <translation>Товары</translation>
     </message>
     <message>
+        <source>Position %1: %2</source>
+        <translation>Позиция %1: %2</translation>
+    </message>
+    <message>
         <source>In %1, up to three decimals</source>
         <translation>Единица: %1; до трёх знаков после точки</translation>
     </message>

@@ -1,6 +1,7 @@
 #include "window/desk/DeedEntry.h"
 
 #include "till/language/TillMessages.h"
+#include "till/view/DisplayText.h"
 #include "till/view/TaraText.h"
 
 #include <QtCore/QRegularExpression>
@@ -144,6 +145,16 @@ std::optional<Command> commandOf(Deed deed, const QList<int> &selected)
         break;
     }
     return {};
+}
+
+Message aboutOf(const Command &command, const Receipt &receipt)
+{
+    const auto *const storno = std::get_if<command::Storno>(&command);
+    const auto line = storno ? receipt.line(storno->posnum) : nullptr;
+    if (!line)
+        return {};
+    return told("till", "Position %1: %2")
+        .with({QString::number(storno->posnum), printable(line->article().name)});
 }
 
 EntryDialog::Wanted entryFor(Deed deed, const QList<int> &selected, const Receipt &receipt,

@@ -153,6 +153,8 @@ Outcome TillWindow::carryOut(const Command &command)
     }
     m_hasShownMessage = false;
     m_front.takeDeclined();
+    const auto receipt = m_desk.cashRegister().receipt();
+    m_front.setAbout(receipt ? aboutOf(command, *receipt) : Message());
     banner().clear();
     const Outcome outcome = [&] {
         const AtWork atWork(m_strip, m_translator.text(told("till", "at work, please wait")));

@@ -8,7 +8,7 @@ namespace till {
 
 bool WindowFront::ask(const Question &question)
 {
-    QuestionDialog dialog(m_translator, question, &m_window);
+    QuestionDialog dialog(m_translator, question, m_about, &m_window);
     // The till waits for the cashier now, not the cashier for the till.
     const bool isAtWork = QGuiApplication::overrideCursor() != nullptr;
     if (isAtWork)

@@ -25,6 +25,8 @@ public:
     bool ask(const Question &question) override;
     void show(const tr::Tr &message) override;
 
+    //! What the questions from now on are about; empty when they say it themselves.
+    void setAbout(const Message &about) { m_about = about; }
     //! The question that was answered no last, since this was asked for.
     std::optional<tr::Tr> takeDeclined() { return std::exchange(m_declined, {}); }
 
@@ -32,6 +34,7 @@ private:
     QWidget &m_window;
     TopStrip &m_strip;
     const Translator &m_translator;
+    Message m_about;
     std::optional<tr::Tr> m_declined;
 };
 
