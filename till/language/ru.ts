@@ -488,6 +488,10 @@
         <translation>Позиция %1: %2</translation>
     </message>
     <message>
+        <source>Given %1 · change %2</source>
+        <translation>Получено %1 · сдача %2</translation>
+    </message>
+    <message>
         <source>In %1, up to three decimals</source>
         <translation>Единица: %1; до трёх знаков после точки</translation>
     </message>

@@ -49,6 +49,7 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     , m_fault(*new FaultPage(m_translator))
     , m_table(*new ReceiptTable(m_translator))
     , m_total(*new QLabel)
+    , m_paidLabel(*new QLabel)
     , m_deeds(*new DeedBar(m_translator))
     , m_articles(*new ArticlePanel(m_translator))
     , m_shelf(*new Shelf(m_translator))
@@ -63,6 +64,7 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     m_table.setObjectName(QStringLiteral("receipt"));
     m_shelf.setObjectName(QStringLiteral("shelf"));
     m_total.setObjectName(QStringLiteral("total"));
+    m_paidLabel.setObjectName(QStringLiteral("paid"));
     m_deedsSoon.setSingleShot(true);
     connect(&m_deedsSoon, &QTimer::timeout, this, &TillWindow::showDeeds);
     layOut();
@@ -124,6 +126,10 @@ void TillWindow::showReceipt()
     const Kopecks total = shown ? shown->receipt().total() : 0;
     m_total.setText(m_translator.text(messages::tillTotal()) + QStringLiteral("  ")
                     + toText(total));
+    if (!shown || shown->receipt().state() != ReceiptState::Closed)
+        m_paid = {};
+    m_paidLabel.setText(m_paid == Message() ? QString() : m_translator.text(m_paid));
+    m_paidLabel.setToolTip(m_paidLabel.text());
 }
 
 void TillWindow::showDeeds()
@@ -173,10 +179,17 @@ void TillWindow::tellOutcome(const Outcome &outcome)
         return;
     }
     if (outcome && outcome.change)
-        banner().tell(Message{messages::tillChange(), {toText(*outcome.change)}},
-                      Banner::Tone::Notice);
+        tellChange(*outcome.change);
     else if (!outcome && (!m_hasShownMessage || outcome.change)) // which stands there already
         tellRefusal(outcome);
+}
+
+void TillWindow::tellChange(Kopecks change)
+{
+    banner().tell(Message{messages::tillChange(), {toText(change)}}, Banner::Tone::Notice);
+    const Kopecks given = m_desk.cashRegister().receipt()->total() + change;
+    m_paid = told("till", "Given %1 · change %2").with({toText(given), toText(change)});
+    showReceipt();
 }
 
 void TillWindow::tellRefusal(const Outcome &outcome)

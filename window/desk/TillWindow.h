@@ -71,6 +71,7 @@ private:
     bool add(const QString &code, double count);
     void doDeed(Deed deed);
     void tellOutcome(const Outcome &outcome);
+    void tellChange(Kopecks change);
     void tellRefusal(const Outcome &outcome);
     void tell(const Outcome &outcome, Banner::Tone tone);
 
@@ -83,6 +84,8 @@ private:
     FaultPage &m_fault;
     ReceiptTable &m_table;
     QLabel &m_total;
+    QLabel &m_paidLabel;
+    Message m_paid; //!< money given and change of the receipt that is shown
     DeedBar &m_deeds;
     ArticlePanel &m_articles;
     Shelf &m_shelf;

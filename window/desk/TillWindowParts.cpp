@@ -34,7 +34,11 @@ void TillWindow::layOut()
     receipt->setContentsMargins(0, 0, 0, 0);
     receipt->setSpacing(4);
     receipt->addWidget(&m_table, 1);
-    receipt->addWidget(&m_total);
+    m_paidLabel.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *const sums = new QHBoxLayout;
+    sums->addWidget(&m_paidLabel, 1);
+    sums->addWidget(&m_total);
+    receipt->addLayout(sums);
     receipt->addWidget(&m_deeds);
     auto *const right = new QWidget;
     auto *const goods = new QVBoxLayout(right);

@@ -131,6 +131,31 @@ TEST_F(DeedEntryTest, MoneyGiven_GivesChange)
     EXPECT_EQ(told(), "Change 15.00");
 }
 
+TEST_F(DeedEntryTest, MoneyGiven_StaysBesideTheTotalUntilTheNextReceipt)
+{
+    const auto paid = [this] { return find<QLabel>("paid").text(); };
+    scan("BAG");
+    EXPECT_EQ(paid(), "");
+    click("pay");
+    enter("50");
+    click(window->banner());
+
+    EXPECT_EQ(paid(), "Given 50.00 · change 15.00");
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(paid(), "Получено 50.00 · сдача 15.00");
+    scan("BAG");
+    EXPECT_EQ(paid(), "");
+}
+
+TEST_F(DeedEntryTest, ReceiptPaidExactly_HasNoChange)
+{
+    scan("BAG");
+    click("pay");
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(find<QLabel>("paid").text(), "");
+}
+
 TEST_F(DeedEntryTest, TooLittleMoney_SaysWhatIsMissing)
 {
     scan("BAG");
