@@ -210,6 +210,12 @@ char separatorOf(const QByteArray &text)
     });
 }
 
+//! \a text as it is compared in a search: without its letter case, and with "е" for "ё".
+QString searchable(const QString &text)
+{
+    return text.toCaseFolded().replace(u'ё', u'е');
+}
+
 [[noreturn]] void refuseFault(const CsvFault &fault, const CatalogueHeader *header)
 {
     const qsizetype index = fault.row.fields.size();
@@ -264,10 +270,11 @@ void Catalogue::read(const QByteArray &text)
 QList<QSharedPointer<Article>> Catalogue::containing(const QString &text) const
 {
     QList<QSharedPointer<Article>> found;
+    const QString sought = searchable(text);
     std::copy_if(m_articles.cbegin(), m_articles.cend(), std::back_inserter(found),
-                 [&text](const QSharedPointer<Article> &article) {
-                     return article->data.code.contains(text, Qt::CaseInsensitive)
-                            || article->data.name.contains(text, Qt::CaseInsensitive);
+                 [&sought](const QSharedPointer<Article> &article) {
+                     return searchable(article->data.code).contains(sought)
+                            || searchable(article->data.name).contains(sought);
                  });
     return found;
 }

@@ -45,7 +45,8 @@ public:
     //! Every article, in the order of the file.
     QList<QSharedPointer<Article>> articles() const { return m_articles; }
 
-    //! Those whose code or name contains \a text in any letter case, in the order of the file.
+    //! Those whose code or name contains \a text in any letter case and with "ё" or "е", in the
+    //! order of the file.
     QList<QSharedPointer<Article>> containing(const QString &text) const;
 
 private:

@@ -492,6 +492,38 @@
         <translation>Товары</translation>
     </message>
     <message>
+        <source>Position %1: %2</source>
+        <translation>Позиция %1: %2</translation>
+    </message>
+    <message>
+        <source>Given %1 · change %2</source>
+        <translation>Получено %1 · сдача %2</translation>
+    </message>
+    <message>
+        <source>In %1, up to three decimals</source>
+        <translation>Единица: %1; до трёх знаков после точки</translation>
+    </message>
+    <message>
+        <source>In pieces of %1, up to three decimals</source>
+        <translation>В штуках по %1, до трёх знаков после точки</translation>
+    </message>
+    <message>
+        <source>No article contains &quot;%1&quot;: clear the search</source>
+        <translation>Нет товаров, содержащих &quot;%1&quot;: очистите поиск</translation>
+    </message>
+    <message>
+        <source>This group has no articles: choose &quot;%L1&quot;</source>
+        <translation>В этой группе нет товаров: выберите &quot;%L1&quot;</translation>
+    </message>
+    <message>
+        <source>No article of this group contains &quot;%1&quot;: choose &quot;%L2&quot;, or clear the search</source>
+        <translation>В этой группе нет товаров, содержащих &quot;%1&quot;: выберите &quot;%L2&quot; или очистите поиск</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a quantity: scan or type a code behind it, or touch a tile</source>
+        <translation>&quot;%1&quot; — это количество: отсканируйте или введите за ним код либо коснитесь плитки</translation>
+    </message>
+    <message>
         <source>All</source>
         <translation>Все</translation>
     </message>

@@ -39,9 +39,11 @@ void ArticleModel::fill()
         return;
     beginResetModel();
     m_articles = m_text.isEmpty() ? m_catalogue->articles() : m_catalogue->containing(m_text);
+    const qsizetype inAllGroups = m_articles.size();
     if (m_group != Group::All)
         m_articles.removeIf(
             [this](const auto &article) { return groupOf(article->data) != m_group; });
+    m_hasInOtherGroups = m_articles.size() < inAllGroups;
     endResetModel();
 }
 

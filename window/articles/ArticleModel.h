@@ -16,8 +16,13 @@ public:
 
     //! Shows the articles of \a catalogue, which must outlive its being shown.
     void show(const Catalogue &catalogue);
-    //! Leaves those of \a group that contain \a text in code or name, in any letter case.
+    //! Leaves those of \a group that contain \a text in code or name, as a search of the catalogue.
     void filter(Group group, const QString &text);
+
+    //! Whether there is a catalogue.
+    bool isShowing() const { return m_catalogue; }
+    //! Whether articles of other groups contain the text.
+    bool hasInOtherGroups() const { return m_hasInOtherGroups; }
 
     const ArticleData &articleAt(int row) const { return m_articles[row]->data; }
 
@@ -31,6 +36,7 @@ private:
     Group m_group = Group::All;
     QString m_text;
     QList<QSharedPointer<Article>> m_articles;
+    bool m_hasInOtherGroups = false;
 };
 
 } // namespace till

@@ -8,6 +8,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QScrollBar>
@@ -21,10 +22,13 @@ ArticlePanel::ArticlePanel(const Translator &translator, QWidget *parent)
     , m_search(*new QLineEdit(this))
     , m_tiles(*new QListView(this))
     , m_groups(*new QButtonGroup(this))
+    , m_nothing(*new QLabel(&m_tiles))
+    , m_translator(translator)
 {
     m_code.setObjectName(QStringLiteral("code"));
     m_search.setObjectName(QStringLiteral("search"));
     m_tiles.setObjectName(QStringLiteral("tiles"));
+    m_nothing.setObjectName(QStringLiteral("nothingFound"));
     layOut();
     translate(translator);
     connect(&m_code, &QLineEdit::returnPressed, this, [this] { enterCode(); });
@@ -65,6 +69,11 @@ void ArticlePanel::layOut()
     m_tiles.setVerticalScrollMode(QListView::ScrollPerPixel);
     m_tiles.setMouseTracking(true);
     sizeTiles();
+    m_nothing.setTextFormat(Qt::PlainText);
+    m_nothing.setAlignment(Qt::AlignCenter);
+    m_nothing.setWordWrap(true);
+    auto *const inPlace = new QVBoxLayout(&m_tiles);
+    inPlace->addWidget(&m_nothing);
     auto *const all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(4);
@@ -81,10 +90,12 @@ void ArticlePanel::sizeTiles()
 void ArticlePanel::show(const Catalogue &catalogue)
 {
     m_articles.show(catalogue);
+    tellNothing();
 }
 
 void ArticlePanel::translate(const Translator &translator)
 {
+    m_translator = translator;
     const auto say = [&](const Message &message) { return translator.text(message); };
     const QString code = say(told("till", "Code, or 3*code"));
     m_code.setPlaceholderText(code);
@@ -99,6 +110,7 @@ void ArticlePanel::translate(const Translator &translator)
                              say(told("till", "Into tara")), say(told("till", "Other"))};
     for (int group = 0; group < groups.size(); ++group)
         m_groups.button(group)->setText(groups[group]);
+    tellNothing();
 }
 
 void ArticlePanel::focusCode()
@@ -122,11 +134,32 @@ void ArticlePanel::filter()
 {
     m_articles.filter(static_cast<ArticleModel::Group>(m_groups.checkedId()), m_search.text());
     m_tiles.verticalScrollBar()->setValue(0);
+    tellNothing();
+}
+
+void ArticlePanel::tellNothing()
+{
+    const QString sought = brief(m_search.text().trimmed());
+    const auto why = [&] {
+        if (!m_articles.hasInOtherGroups())
+            return told("till", "No article contains \"%1\": clear the search").with({sought});
+        if (sought.isEmpty())
+            return told("till", "This group has no articles: choose \"%L1\"").with({"All"});
+        return told("till", "No article of this group contains \"%1\": choose \"%L2\", or clear "
+                            "the search")
+            .with({sought, "All"});
+    };
+    m_nothing.setText(m_translator.text(why()));
+    m_nothing.setVisible(m_articles.rowCount() == 0 && m_articles.isShowing());
 }
 
 void ArticlePanel::enterCode()
 {
     const CodeEntry entry = CodeEntry::read(m_code.text());
+    if (entry.code.isEmpty() && !m_code.text().trimmed().isEmpty() && mistaken)
+        mistaken(
+            told("till", "\"%1\" is a quantity: scan or type a code behind it, or touch a tile")
+                .with({brief(m_code.text().trimmed())}));
     if (entry.code.isEmpty() || !chosen)
         return;
     if (chosen(entry.code, entry.count.value_or(1.0)))
@@ -151,6 +184,8 @@ bool ArticlePanel::eventFilter(QObject *watched, QEvent *event)
     const int key = static_cast<QKeyEvent *>(event)->key();
     if (watched == &m_search
         && (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        if (m_articles.rowCount() == 0)
+            return true;
         m_tiles.setFocus();
         m_tiles.setCurrentIndex(m_articles.index(0));
         return true;

@@ -8,6 +8,7 @@
 
 QT_BEGIN_NAMESPACE
 class QButtonGroup;
+class QLabel;
 class QLineEdit;
 class QListView;
 QT_END_NAMESPACE
@@ -32,6 +33,8 @@ public:
     void focusSearch();
     //! Types \a text into the code field, as if it had the focus.
     void typeCode(const QString &text);
+    //! Enter in the code field.
+    void enterCode();
 
     /*!
      * Told that so many pieces of the article with that code are to be added: a tile was touched,
@@ -39,6 +42,8 @@ public:
      * there, selected, so that the next code takes its place.
      */
     std::function<bool(const QString &code, double count)> chosen;
+    //! Told what is wrong with what was entered, when there is no code in it. It stays there.
+    std::function<void(const Message &mistake)> mistaken;
 
     //! Opened with the space bar or Enter too, as any tile is.
     QListView &tiles() { return m_tiles; }
@@ -51,7 +56,7 @@ private:
     void layOut();
     void sizeTiles();
     void filter();
-    void enterCode();
+    void tellNothing();
     void choose(const QModelIndex &tile);
 
     using QWidget::show;
@@ -61,6 +66,8 @@ private:
     QLineEdit &m_search;
     QListView &m_tiles;
     QButtonGroup &m_groups;
+    QLabel &m_nothing; //!< stands in place of tiles where there are none
+    Translator m_translator;
 };
 
 } // namespace till

@@ -25,7 +25,7 @@ DeedBar::DeedBar(const Translator &translator, QWidget *parent)
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         button->setFocusPolicy(Qt::TabFocus);
         button->installEventFilter(this);
-        m_buttons.insert(row.deed, {button, {}});
+        m_buttons.insert(row.deed, {button, {}, {}});
         const bool isLast = row.deed == Deed::Pay;
         grid->addWidget(button, place / columns, place % columns, 1, isLast ? 2 : 1);
         ++place;
@@ -42,8 +42,11 @@ DeedBar::DeedBar(const Translator &translator, QWidget *parent)
 void DeedBar::translate(const Translator &translator)
 {
     m_translator = translator;
-    for (const DeedRow &row : deedRows())
+    for (const DeedRow &row : deedRows()) {
+        Button &shown = m_buttons[row.deed];
+        shown.reason = shown.whyNot.text(translator);
         describe(row);
+    }
 }
 
 void DeedBar::describe(const DeedRow &row)
@@ -61,11 +64,13 @@ void DeedBar::describe(const DeedRow &row)
                                                     : shown.reason);
 }
 
-void DeedBar::setReason(Deed deed, const QString &reason)
+void DeedBar::setReason(Deed deed, const Outcome &whyNot)
 {
     Button &shown = m_buttons[deed];
+    const QString reason = whyNot.text(m_translator);
     if (shown.reason == reason && shown.button->isEnabled() == reason.isEmpty())
         return;
+    shown.whyNot = whyNot;
     shown.reason = reason;
     shown.button->setEnabled(reason.isEmpty());
     for (const DeedRow &row : deedRows()) {
@@ -76,10 +81,10 @@ void DeedBar::setReason(Deed deed, const QString &reason)
 
 void DeedBar::press(Deed deed)
 {
-    const QString reason = m_buttons[deed].reason;
-    if (!reason.isEmpty()) {
+    const Button &pressed = m_buttons[deed];
+    if (!pressed.reason.isEmpty()) {
         if (refused)
-            refused(reason);
+            refused(pressed.whyNot);
     } else if (wanted) {
         wanted(deed);
     }

@@ -23,13 +23,13 @@ public:
     explicit DeedBar(const Translator &translator, QWidget *parent = nullptr);
 
     void translate(const Translator &translator);
-    //! From now on \a deed cannot be done because of \a reason, or can when that is empty.
-    void setReason(Deed deed, const QString &reason);
+    //! From now on \a deed cannot be done because of \a whyNot, or can when that is done.
+    void setReason(Deed deed, const Outcome &whyNot);
 
     //! Told what the cashier does.
     std::function<void(Deed deed)> wanted;
     //! Told why it cannot be done.
-    std::function<void(const QString &reason)> refused;
+    std::function<void(const Outcome &whyNot)> refused;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -38,7 +38,8 @@ private:
     struct Button
     {
         QPushButton *button = nullptr;
-        QString reason;
+        Outcome whyNot;
+        QString reason; //!< the same in words
     };
 
     void press(Deed deed);

@@ -1,6 +1,8 @@
 #include "window/desk/DeedEntry.h"
 
 #include "till/language/TillMessages.h"
+#include "till/view/DisplayText.h"
+#include "till/view/TaraText.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -84,13 +86,26 @@ struct Asked
     QString signs;
 };
 
+//! In what a quantity of \a article is counted.
+Message unitHint(const ArticleData &article)
+{
+    const QString unit = unitOf(article);
+    if (unit.isEmpty())
+        return told("till", "In pieces, up to three decimals");
+    if (article.pack == 1.0)
+        return told("till", "In %1, up to three decimals").with({unit});
+    return told("till", "In pieces of %1, up to three decimals")
+        .with({amountText(article.pack, unit)});
+}
+
 Asked askedFor(Deed deed, int posnum, const Receipt &receipt)
 {
     const QStringList position{QString::number(posnum)};
+    const auto line = receipt.line(posnum);
     switch (deed) {
     case Deed::Quantity:
         return {told("till", "Quantity of position %1").with(position),
-                told("till", "In pieces, up to three decimals"), QStringLiteral(".")};
+                unitHint(line ? line->article() : ArticleData()), QStringLiteral(".")};
     case Deed::Split:
         return {told("till", "Parts to split off position %1").with(position),
                 told("till", "As \"1+0.5\"; what is left stays in the position"),
@@ -130,6 +145,16 @@ std::optional<Command> commandOf(Deed deed, const QList<int> &selected)
         break;
     }
     return {};
+}
+
+Message aboutOf(const Command &command, const Receipt &receipt)
+{
+    const auto *const storno = std::get_if<command::Storno>(&command);
+    const auto line = storno ? receipt.line(storno->posnum) : nullptr;
+    if (!line)
+        return {};
+    return told("till", "Position %1: %2")
+        .with({QString::number(storno->posnum), printable(line->article().name)});
 }
 
 EntryDialog::Wanted entryFor(Deed deed, const QList<int> &selected, const Receipt &receipt,

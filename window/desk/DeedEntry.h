@@ -13,6 +13,9 @@ namespace till {
 //! entry.
 std::optional<Command> commandOf(Deed deed, const QList<int> &selected);
 
+//! Which position of \a receipt \a command is done to, in words; empty when it is not done to one.
+Message aboutOf(const Command &command, const Receipt &receipt);
+
 //! Whoever checks a command, and carries it out.
 struct Doer
 {

@@ -49,11 +49,13 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     , m_fault(*new FaultPage(m_translator))
     , m_table(*new ReceiptTable(m_translator))
     , m_total(*new QLabel)
+    , m_paidLabel(*new QLabel)
     , m_deeds(*new DeedBar(m_translator))
     , m_articles(*new ArticlePanel(m_translator))
     , m_shelf(*new Shelf(m_translator))
     , m_course(*new CourseDock(notes, m_translator))
     , m_scripts(*new ScriptsDock(desk, notes, m_translator))
+    , m_typing(*this)
     , m_front(*this, m_strip, m_translator)
     , m_installed(desk.front(), m_front)
     , m_receiptSeen(desk.onReceiptChanged([this] { showReceipt(); }))
@@ -62,6 +64,7 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
     m_table.setObjectName(QStringLiteral("receipt"));
     m_shelf.setObjectName(QStringLiteral("shelf"));
     m_total.setObjectName(QStringLiteral("total"));
+    m_paidLabel.setObjectName(QStringLiteral("paid"));
     m_deedsSoon.setSingleShot(true);
     connect(&m_deedsSoon, &QTimer::timeout, this, &TillWindow::showDeeds);
     layOut();
@@ -72,6 +75,11 @@ TillWindow::TillWindow(CashDesk &desk, Notes &notes, const QString &language)
 }
 
 TillWindow::~TillWindow() = default;
+
+bool TillWindow::isAtRegister() const
+{
+    return m_pages.currentIndex() == 0;
+}
 
 QSet<int> TillWindow::selectedGoods() const
 {
@@ -118,6 +126,10 @@ void TillWindow::showReceipt()
     const Kopecks total = shown ? shown->receipt().total() : 0;
     m_total.setText(m_translator.text(messages::tillTotal()) + QStringLiteral("  ")
                     + toText(total));
+    if (!shown || shown->receipt().state() != ReceiptState::Closed)
+        m_paid = {};
+    m_paidLabel.setText(m_paid == Message() ? QString() : m_translator.text(m_paid));
+    m_paidLabel.setToolTip(m_paidLabel.text());
 }
 
 void TillWindow::showDeeds()
@@ -126,7 +138,7 @@ void TillWindow::showDeeds()
     for (const DeedRow &row : deedRows()) {
         const Outcome outcome =
             m_desk.isOn() ? whyNot(row.deed, m_desk.cashRegister(), selected) : Outcome::busy();
-        m_deeds.setReason(row.deed, outcome.text(m_translator));
+        m_deeds.setReason(row.deed, outcome);
     }
 }
 
@@ -142,10 +154,13 @@ void TillWindow::hear(const QJsonObject &note)
 Outcome TillWindow::carryOut(const Command &command)
 {
     if (!m_desk.isOn() || m_desk.isBusy()) {
-        banner().tell(Outcome::busy().text(m_translator), Banner::Tone::Notice);
+        tell(Outcome::busy(), Banner::Tone::Notice);
         return Outcome::busy();
     }
     m_hasShownMessage = false;
+    m_front.takeDeclined();
+    const auto receipt = m_desk.cashRegister().receipt();
+    m_front.setAbout(receipt ? aboutOf(command, *receipt) : Message());
     banner().clear();
     const Outcome outcome = [&] {
         const AtWork atWork(m_strip, m_translator.text(told("till", "at work, please wait")));
@@ -164,12 +179,38 @@ void TillWindow::tellOutcome(const Outcome &outcome)
         return;
     }
     if (outcome && outcome.change)
-        banner().tell(m_translator.text(Message{messages::tillChange(), {toText(*outcome.change)}}),
-                      Banner::Tone::Notice);
-    // What the plugin showed stands there already, and whoever said no knows why.
-    else if (!outcome && outcome.kind != Outcome::Declined
-             && (!m_hasShownMessage || outcome.change))
-        banner().tell(outcome.text(m_translator), Banner::Tone::Warning);
+        tellChange(*outcome.change);
+    else if (!outcome && (!m_hasShownMessage || outcome.change)) // which stands there already
+        tellRefusal(outcome);
+}
+
+void TillWindow::tellChange(Kopecks change)
+{
+    banner().tell(Message{messages::tillChange(), {toText(change)}}, Banner::Tone::Notice);
+    const Kopecks given = m_desk.cashRegister().receipt()->total() + change;
+    m_paid = told("till", "Given %1 · change %2").with({toText(given), toText(change)});
+    showReceipt();
+}
+
+void TillWindow::tellRefusal(const Outcome &outcome)
+{
+    if (!outcome.text(m_translator).isEmpty())
+        return tell(outcome, Banner::Tone::Warning);
+    // Whoever said no knows why, but it may have been a scanner.
+    const auto question = m_front.takeDeclined();
+    if (!question)
+        return;
+    const auto answered = [question = *question](const Translator &translator) {
+        const QString asked = translator.text(question).replace(u'\n', u' ');
+        return translator.text(told("till", "\"%1\" was answered no").with({asked}));
+    };
+    banner().tell(answered, Banner::Tone::Notice);
+}
+
+void TillWindow::tell(const Outcome &outcome, Banner::Tone tone)
+{
+    banner().tell([outcome](const Translator &translator) { return outcome.text(translator); },
+                  tone);
 }
 
 //! Without a receipt one is opened first.
@@ -212,14 +253,11 @@ void TillWindow::closeEvent(QCloseEvent *event)
     event->setAccepted(!m_desk.isBusy() && m_scripts.mayClose());
 }
 
-//! What nothing else takes is a code.
 void TillWindow::keyPressEvent(QKeyEvent *event)
 {
-    const QString text = event->text();
-    if (!text.isEmpty() && text[0].isPrint())
-        m_articles.typeCode(text);
-    else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
-        QCoreApplication::sendEvent(&m_table, event);
+    const bool selects = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (selects && isAtRegister())
+        static_cast<QObject &>(m_table).event(event); // sent, it would come back
     else
         QMainWindow::keyPressEvent(event);
 }

@@ -5,6 +5,7 @@
 #include "window/desk/DeedBar.h"
 #include "window/desk/TopStrip.h"
 #include "window/desk/WindowFront.h"
+#include "window/look/Typing.h"
 
 #include <QtCore/QTimer>
 #include <QtCore/QTranslator>
@@ -62,6 +63,7 @@ private:
     void fillMenu();
     void translate();
 
+    bool isAtRegister() const; //!< rather than at the page that tells of a fault
     QSet<int> selectedGoods() const;
     void showReceipt();
     void showDeeds();
@@ -69,6 +71,9 @@ private:
     bool add(const QString &code, double count);
     void doDeed(Deed deed);
     void tellOutcome(const Outcome &outcome);
+    void tellChange(Kopecks change);
+    void tellRefusal(const Outcome &outcome);
+    void tell(const Outcome &outcome, Banner::Tone tone);
 
     CashDesk &m_desk;
     Translator m_translator;
@@ -79,11 +84,14 @@ private:
     FaultPage &m_fault;
     ReceiptTable &m_table;
     QLabel &m_total;
+    QLabel &m_paidLabel;
+    Message m_paid; //!< money given and change of the receipt that is shown
     DeedBar &m_deeds;
     ArticlePanel &m_articles;
     Shelf &m_shelf;
     CourseDock &m_course;
     ScriptsDock &m_scripts;
+    Typing m_typing;
     WindowFront m_front;
     const InstalledFront m_installed;
     Subscription m_receiptSeen;

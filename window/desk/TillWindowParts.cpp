@@ -34,7 +34,11 @@ void TillWindow::layOut()
     receipt->setContentsMargins(0, 0, 0, 0);
     receipt->setSpacing(4);
     receipt->addWidget(&m_table, 1);
-    receipt->addWidget(&m_total);
+    m_paidLabel.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *const sums = new QHBoxLayout;
+    sums->addWidget(&m_paidLabel, 1);
+    sums->addWidget(&m_total);
+    receipt->addLayout(sums);
     receipt->addWidget(&m_deeds);
     auto *const right = new QWidget;
     auto *const goods = new QVBoxLayout(right);
@@ -74,20 +78,30 @@ void TillWindow::addDocks()
 void TillWindow::connectParts()
 {
     m_articles.chosen = [this](const QString &code, double count) { return add(code, count); };
-    m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
-    m_deeds.refused = [this](const QString &reason) {
-        banner().tell(reason, Banner::Tone::Notice);
+    // In front of the page that tells of a fault it is lost, and does not turn the page.
+    m_typing.typed = [this](const QString &text) {
+        if (isAtRegister())
+            m_articles.typeCode(text);
     };
+    m_typing.entered = [this] {
+        if (isAtRegister())
+            m_articles.enterCode();
+    };
+    m_articles.mistaken = [this](const Message &mistake) {
+        banner().tell(mistake, Banner::Tone::Notice);
+    };
+    m_deeds.wanted = [this](Deed deed) { doDeed(deed); };
+    m_deeds.refused = [this](const Outcome &whyNot) { tell(whyNot, Banner::Tone::Notice); };
     m_table.selected = [this] {
         m_shelf.setLit(selectedGoods());
         m_deedsSoon.start();
     };
     m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
     m_fault.goOn = [this] {
-        if (m_desk.isOn())
-            m_pages.setCurrentIndex(0);
-        else
-            switchOn();
+        if (!m_desk.isOn())
+            return switchOn();
+        m_pages.setCurrentIndex(0);
+        m_articles.focusCode();
     };
 }
 
@@ -96,8 +110,13 @@ void TillWindow::addShortcuts()
     const auto on = [this](const QKeySequence &key, auto &&act) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, act);
     };
-    on(Qt::Key_F3, [this] { m_articles.focusSearch(); });
+    on(Qt::Key_F3, [this] {
+        if (isAtRegister())
+            m_articles.focusSearch();
+    });
     on(Qt::Key_Escape, [this] {
+        if (!isAtRegister())
+            return m_fault.setFocus();
         banner().clear();
         m_articles.focusCode();
     });
@@ -136,6 +155,7 @@ void TillWindow::translate()
     m_strip.language().setToolTip(m_strip.language().accessibleName());
     m_strip.menu().setText(QStringLiteral("☰"));
     m_strip.menu().setAccessibleName(say(told("till", "Menu")));
+    banner().translate(m_translator);
     m_fault.translate(m_translator);
     m_table.translate(m_translator);
     m_deeds.translate(m_translator);

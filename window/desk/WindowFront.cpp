@@ -8,7 +8,7 @@ namespace till {
 
 bool WindowFront::ask(const Question &question)
 {
-    QuestionDialog dialog(m_translator, question, &m_window);
+    QuestionDialog dialog(m_translator, question, m_about, &m_window);
     // The till waits for the cashier now, not the cashier for the till.
     const bool isAtWork = QGuiApplication::overrideCursor() != nullptr;
     if (isAtWork)
@@ -19,12 +19,14 @@ bool WindowFront::ask(const Question &question)
     m_strip.showWork(work);
     if (isAtWork)
         QGuiApplication::restoreOverrideCursor();
+    if (!isConfirmed)
+        m_declined = question.text;
     return isConfirmed;
 }
 
 void WindowFront::show(const tr::Tr &message)
 {
-    m_strip.banner().tell(m_translator.text(message), Banner::Tone::Warning);
+    m_strip.banner().tell(Message{message, {}}, Banner::Tone::Warning);
 }
 
 } // namespace till

@@ -25,20 +25,38 @@ Banner::Banner(QWidget *parent)
     connect(&m_timer, &QTimer::timeout, this, [this] { clear(); });
 }
 
-void Banner::tell(const QString &text, Tone tone)
+void Banner::tell(const Message &message, Tone tone)
+{
+    tell([message](const Translator &translator) { return translator.text(message); }, tone);
+}
+
+void Banner::tell(const Text &text, Tone tone)
 {
     QPalette colours = palette();
     const bool warns = tone == Tone::Warning;
     colours.setColor(QPalette::Window, warns ? QColor(0xb0, 0x00, 0x20) : QColor(0x00, 0x4d, 0x33));
     colours.setColor(QPalette::WindowText, Qt::white);
     setPalette(colours);
-    setText(text);
-    setAccessibleName(text);
+    m_text = text;
+    showText();
     m_timer.start();
     if (changed)
         changed(true);
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void Banner::translate(const Translator &translator)
+{
+    m_translator = translator;
+    if (isTelling())
+        showText();
+}
+
+void Banner::showText()
+{
+    setText(m_text(m_translator));
+    setAccessibleName(text());
 }
 
 void Banner::clear()

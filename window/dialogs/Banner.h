@@ -1,6 +1,8 @@
 #ifndef WINDOW_DIALOGS_BANNER_H
 #define WINDOW_DIALOGS_BANNER_H
 
+#include "till/language/Translator.h"
+
 #include <QtCore/QTimer>
 #include <QtWidgets/QLabel>
 
@@ -16,11 +18,16 @@ class Banner final : public QLabel
 {
 public:
     enum class Tone { Notice, Warning };
+    //! A message in the language of the translator.
+    using Text = std::function<QString(const Translator &translator)>;
 
     explicit Banner(QWidget *parent = nullptr);
 
-    void tell(const QString &text, Tone tone);
+    void tell(const Text &text, Tone tone);
+    void tell(const Message &message, Tone tone);
     void clear();
+    //! What is told, now and from now on, is in the language of \a translator.
+    void translate(const Translator &translator);
 
     //! How long a message stays, in milliseconds.
     void setLifetime(int milliseconds) { m_timer.setInterval(milliseconds); }
@@ -33,6 +40,10 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
+    void showText();
+
+    Translator m_translator;
+    Text m_text;
     QTimer m_timer;
 };
 

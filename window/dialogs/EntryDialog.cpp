@@ -38,6 +38,7 @@ void EntryDialog::layOut(const Translator &translator)
     m_field.setAccessibleName(m_wanted.title);
     m_field.setMinimumHeight(touchHeight);
     auto *const hint = new QLabel(m_wanted.hint, this);
+    hint->setObjectName(QStringLiteral("hint"));
     hint->setWordWrap(true);
     hint->setVisible(!m_wanted.hint.isEmpty());
     m_fault.setObjectName(QStringLiteral("fault"));

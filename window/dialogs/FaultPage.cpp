@@ -44,6 +44,7 @@ FaultPage::FaultPage(const Translator &translator, QWidget *parent)
         caption->setFont(bold);
     m_goOn.setMinimumHeight(touchHeight);
     m_goOn.setAutoDefault(true);
+    setFocusProxy(&m_goOn);
     all->addSpacing(16);
     all->addWidget(&m_goOn, 0, Qt::AlignLeft);
     all->addStretch();

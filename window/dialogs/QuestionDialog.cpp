@@ -24,7 +24,7 @@ QString shown(const QString &text)
 } // namespace
 
 QuestionDialog::QuestionDialog(const Translator &translator, const Question &question,
-                               QWidget *parent)
+                               const Message &about, QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("question"));
@@ -35,7 +35,13 @@ QuestionDialog::QuestionDialog(const Translator &translator, const Question &que
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     text->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
-    setAccessibleName(text->text());
+    auto *const subject = new QLabel(translator.text(about), this);
+    subject->setObjectName(QStringLiteral("about"));
+    subject->setTextFormat(Qt::PlainText);
+    subject->setWordWrap(true);
+    subject->setVisible(!subject->text().isEmpty());
+    setAccessibleName(subject->text().isEmpty() ? text->text()
+                                                : subject->text() + u'\n' + text->text());
     auto *const icon = new QLabel(this);
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
     icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxQuestion).pixmap(size));
@@ -55,7 +61,10 @@ QuestionDialog::QuestionDialog(const Translator &translator, const Question &que
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto *const words = new QHBoxLayout;
     words->addWidget(icon, 0, Qt::AlignTop);
-    words->addWidget(text, 1);
+    auto *const lines = new QVBoxLayout;
+    lines->addWidget(subject);
+    lines->addWidget(text);
+    words->addLayout(lines, 1);
     auto *const buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(confirm);

@@ -8,13 +8,15 @@
 namespace till {
 
 /*!
- * A question to the cashier, with its own text and its own two choices. What a scanner types in the
+ * A question to the cashier, with its own text and its own two choices; above them, unless it is
+ * empty, what it is about. What a scanner types in the
  * meantime must not say yes: the declining choice has the focus, and closing takes it too.
  */
 class QuestionDialog final : public QDialog
 {
 public:
-    QuestionDialog(const Translator &translator, const Question &question, QWidget *parent);
+    QuestionDialog(const Translator &translator, const Question &question, const Message &about,
+                   QWidget *parent);
 };
 
 } // namespace till

@@ -1,6 +1,7 @@
 #include "till/database/DatabaseFile.h"
 #include "till/startup/SetupOptions.h"
 #include "window/desk/TillWindow.h"
+#include "window/program/JoinedOptions.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QFileInfo>
@@ -10,6 +11,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <vector>
 
 using namespace till;
 
@@ -32,6 +34,26 @@ bool hasDisplay()
     }
     return false;
 }
+
+//! The words of a command line as a toolkit wants them, which takes out what is its own.
+class Words
+{
+public:
+    explicit Words(const QByteArrayList &words)
+        : m_words(withJoinedOptions(words))
+    {
+        for (QByteArray &word : m_words)
+            m_values.push_back(word.data());
+        m_values.push_back(nullptr);
+    }
+
+    int count() const { return static_cast<int>(m_words.size()); }
+    char **values() { return m_values.data(); }
+
+private:
+    QByteArrayList m_words;
+    std::vector<char *> m_values;
+};
 
 int run(const Setup &setup, const QString &language)
 {
@@ -58,7 +80,9 @@ int main(int argc, char *argv[])
     const bool isShown = hasDisplay();
     if (!isShown) // so that what is wrong can be told
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
+    Words words(QByteArrayList(argv, argv + argc));
+    int count = words.count();
+    const QApplication application(count, words.values());
     QCoreApplication::setApplicationName(QStringLiteral("till"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TILL_VERSION));
     QLoggingCategory::setFilterRules(QStringLiteral("packaging=false"));

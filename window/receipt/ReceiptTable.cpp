@@ -4,7 +4,6 @@
 #include "window/receipt/ReceiptDelegate.h"
 
 #include <QtCore/QEvent>
-#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
 
@@ -135,16 +134,6 @@ void ReceiptTable::changeEvent(QEvent *event)
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         sizeRows();
-}
-
-//! What is typed is no search in here: it is left to the window.
-void ReceiptTable::keyPressEvent(QKeyEvent *event)
-{
-    const QString text = event->text();
-    if (!text.isEmpty() && text[0].isPrint() && event->key() != Qt::Key_Space)
-        event->ignore();
-    else
-        QTableView::keyPressEvent(event);
 }
 
 } // namespace till

@@ -83,7 +83,8 @@ void ScriptPanel::layOut()
     m_lines->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_lines->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_lines->horizontalHeader()->setStretchLastSection(true);
-    connect(m_lines, &QTableView::activated, this, [this] { runToLine(); });
+    // Enter ends what a scanner types, and some desktops activate with one click.
+    connect(m_lines, &QTableView::doubleClicked, this, [this] { runToLine(); });
     connect(m_lines->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { tellState(); });
     m_printed->setReadOnly(true);

@@ -3,7 +3,6 @@
 #include "window/shelf/VesselDelegate.h"
 
 #include <QtCore/QEvent>
-#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QScrollBar>
 
@@ -100,16 +99,6 @@ void Shelf::changeEvent(QEvent *event)
     QListView::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         sizeVessels();
-}
-
-//! What is typed is no search in here: it is left to the window.
-void Shelf::keyPressEvent(QKeyEvent *event)
-{
-    const QString text = event->text();
-    if (!text.isEmpty() && text[0].isPrint() && event->key() != Qt::Key_Space)
-        event->ignore();
-    else
-        QListView::keyPressEvent(event);
 }
 
 } // namespace till

@@ -51,6 +51,29 @@ TEST_F(CatalogueContents, Articles_StandInTheOrderOfTheFile)
     EXPECT_EQ(articles[2].code, "M");
 }
 
+TEST_F(CatalogueContents, Containing_TakesCodesAndNamesInAnyCase)
+{
+    const auto catalogue = must(file.load(Head
+                                          + "A1,Chips,1,0,0,1,pc\n"
+                                            "B,Fish a1,2,0,0,1,pc\n"
+                                            "C,Bag,2,0,0,1,pc\n"));
+
+    EXPECT_EQ(catalogue.containing("a1").size(), 2);
+    EXPECT_EQ(catalogue.containing("CHI").size(), 1);
+    EXPECT_EQ(catalogue.containing("a2").size(), 0);
+}
+
+TEST_F(CatalogueContents, Containing_TakesYoForYe)
+{
+    const auto catalogue = must(file.load(Head
+                                          + "A,Мёд,1,0,0,1,pc\n"
+                                            "B,МЕДОК,2,0,0,1,pc\n"));
+
+    for (const char *const text : {"мед", "мёд", "МЁД", "МЕД"})
+        EXPECT_EQ(catalogue.containing(text).size(), 2) << text;
+    EXPECT_EQ(catalogue.containing("медок").size(), 1);
+}
+
 TEST_F(CatalogueContents, Article_TellsTheHostItsTaraModeAndCapacity)
 {
     const auto catalogue = must(file.load(Head + "A,Bottle,1,1,1.5,1,pc\n"));

@@ -2,6 +2,7 @@
 #include "window/articles/ArticleModel.h"
 
 #include <QtTest/QAbstractItemModelTester>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QListView>
 
 namespace till {
@@ -20,6 +21,13 @@ protected:
         for (int row = 0; row < articles.rowCount(); ++row)
             codes.append(articles.articleAt(row).code);
         return codes;
+    }
+    //! What stands in place of tiles; empty when there are any.
+    QString nothing() const
+    {
+        const QLabel &label = find<QLabel>("nothingFound");
+        EXPECT_EQ(label.isVisible(), shownCodes().isEmpty());
+        return label.isVisible() ? label.text() : QString();
     }
     void search(const QString &text)
     {
@@ -156,6 +164,94 @@ TEST_F(ArticlePanelTest, ScannerThatTypesElsewhere_IsHeard)
     press(Qt::Key_Return);
 
     EXPECT_EQ(commands().constLast(), "add BEER 1: done");
+}
+
+TEST_F(ArticlePanelTest, ScannerThatTypesIntoTheTiles_IsHeard)
+{
+    touchTile("CAN3");
+
+    type("BEER");
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(commands().constLast(), "add BEER 1: done");
+    EXPECT_EQ(commands().size(), 3);
+}
+
+TEST_F(ArticlePanelTest, TileReachedByKeys_IsAddedBySpaceAndByEnter)
+{
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+        touchTile("PET1");
+        press(Qt::Key_Right);
+        const auto &articles = static_cast<const ArticleModel &>(*tiles().model());
+        const QString next = articles.articleAt(tiles().currentIndex().row()).code;
+
+        press(key);
+
+        EXPECT_NE(next, "PET1");
+        EXPECT_EQ(commands().constLast(), "add " + next + " 1: done");
+    }
+}
+
+TEST_F(ArticlePanelTest, SearchWithoutHits_SaysSo_AndTheWayOut)
+{
+    EXPECT_EQ(nothing(), "");
+
+    search("lemonade");
+
+    EXPECT_EQ(nothing(), "No article contains \"lemonade\": clear the search");
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(nothing(), "Нет товаров, содержащих \"lemonade\": очистите поиск");
+}
+
+TEST_F(ArticlePanelTest, SearchWithoutHitsInAGroup_NamesTheGroupsToo)
+{
+    click("group1");
+
+    search("квас");
+
+    EXPECT_EQ(nothing(), "No article of this group contains \"квас\": choose \"All\", or clear the "
+                         "search");
+    click("group0");
+    EXPECT_EQ(nothing(), "");
+}
+
+TEST_F(ArticlePanelTest, GroupWithoutArticles_SaysSo)
+{
+    till::Setup small = setup();
+    small.catalogue = path("small.csv");
+    overwrite(small.catalogue,
+              "code,name,price,tara mode,tara capacity,pack,unit\nBAG,Bag,5,0,,1,\n");
+    open(small);
+
+    click("group1");
+
+    EXPECT_EQ(nothing(), "This group has no articles: choose \"All\"");
+}
+
+TEST_F(ArticlePanelTest, EnterWithoutHits_StaysInTheSearch)
+{
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Down}) {
+        search("lemonade");
+
+        press(key);
+
+        EXPECT_TRUE(find("search").hasFocus());
+    }
+}
+
+TEST_F(ArticlePanelTest, QuantityWithoutACode_SaysWhatIsExpected)
+{
+    for (const char *const text : {"3*", "12x"}) {
+        scan(text);
+
+        EXPECT_EQ(told(), QStringLiteral("\"%1\" is a quantity: scan or type a code behind it, or "
+                                         "touch a tile")
+                              .arg(text));
+        EXPECT_EQ(code().text(), text);
+    }
+    EXPECT_EQ(commands(), QStringList());
+    touchTile("BEER");
+    EXPECT_EQ(commands().constLast(), "add BEER 12: done");
 }
 
 TEST_F(ArticlePanelTest, Accessible_EveryTileSaysNameCodeAndPrice)

@@ -33,6 +33,26 @@ TEST_F(DeedEntryTest, Quantity_IsTouchedOnThePad)
     EXPECT_EQ(commands().constLast(), "qty 1 2.5: done");
 }
 
+TEST_F(DeedEntryTest, Quantity_IsAskedInTheUnitOfThePosition)
+{
+    till::Setup units = setup();
+    units.catalogue = path("units.csv");
+    overwrite(units.catalogue, "code,name,price,tara mode,tara capacity,pack,unit\n"
+                               "BEER,Beer,5,2,,1,l\nGLASS,Beer,5,2,,0.5,l\nBAG,Bag,5,0,,1,\n");
+    open(units);
+    QStringList hints;
+    for (const char *const code : {"BEER", "GLASS", "BAG"}) {
+        scan(code);
+        click("quantity");
+        hints.append(find<QLabel>("hint").text());
+        click("back");
+    }
+
+    EXPECT_EQ(hints,
+              (QStringList{"In l, up to three decimals", "In pieces of 0.5 l, up to three decimals",
+                           "In pieces, up to three decimals"}));
+}
+
 TEST_F(DeedEntryTest, WrongEntry_SaysWhatIsWrong_AndIsNotTaken)
 {
     scan("BEER");
@@ -109,6 +129,31 @@ TEST_F(DeedEntryTest, MoneyGiven_GivesChange)
 
     EXPECT_EQ(commands().constLast(), "pay 50.00: done");
     EXPECT_EQ(told(), "Change 15.00");
+}
+
+TEST_F(DeedEntryTest, MoneyGiven_StaysBesideTheTotalUntilTheNextReceipt)
+{
+    const auto paid = [this] { return find<QLabel>("paid").text(); };
+    scan("BAG");
+    EXPECT_EQ(paid(), "");
+    click("pay");
+    enter("50");
+    click(window->banner());
+
+    EXPECT_EQ(paid(), "Given 50.00 · change 15.00");
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(paid(), "Получено 50.00 · сдача 15.00");
+    scan("BAG");
+    EXPECT_EQ(paid(), "");
+}
+
+TEST_F(DeedEntryTest, ReceiptPaidExactly_HasNoChange)
+{
+    scan("BAG");
+    click("pay");
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(find<QLabel>("paid").text(), "");
 }
 
 TEST_F(DeedEntryTest, TooLittleMoney_SaysWhatIsMissing)

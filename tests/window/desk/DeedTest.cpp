@@ -2,6 +2,7 @@
 #include "tests/window/support/WindowTest.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
 namespace till {
@@ -11,6 +12,12 @@ namespace {
 class DeedTest : public WindowTest
 {
 protected:
+    //! What a question says it is about; empty when it does not.
+    static QString aboutOf(const QWidget &question)
+    {
+        const QLabel *const about = question.findChild<QLabel *>("about");
+        return about && about->isVisible() ? about->text() : QString();
+    }
     //! Why the button of that name is disabled; empty when it is not.
     QString reasonOf(const QString &name)
     {
@@ -33,6 +40,33 @@ TEST_F(DeedTest, Storno_AsksAndStrikes)
 
     EXPECT_EQ(commands().constLast(), "storno 1: done");
     EXPECT_TRUE(rows().isStornoed(0));
+}
+
+TEST_F(DeedTest, QuestionOfAStorno_NamesThePosition)
+{
+    QStringList abouts;
+    const auto keep = [&](QWidget &question) { abouts.append(aboutOf(question)); };
+    scan("BAG");
+    scan("CHIPS");
+    select({1});
+    whileAsked = keep;
+    click("storno");
+    click(window->banner());
+    click("language");
+    whileAsked = keep;
+    click("storno");
+
+    EXPECT_EQ(abouts, (QStringList{"Position 1: Пакет подарочный", "Позиция 1: Пакет подарочный"}));
+}
+
+TEST_F(DeedTest, QuestionAboutTheReceipt_NamesNoPosition)
+{
+    scan("BAG");
+    whileAsked = [](QWidget &question) { EXPECT_EQ(aboutOf(question), ""); };
+
+    click("cancelReceipt");
+
+    EXPECT_EQ(questions.size(), 1);
 }
 
 TEST_F(DeedTest, Unite_TakesTheSelected)

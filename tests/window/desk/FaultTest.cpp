@@ -146,6 +146,65 @@ TEST_F(WindowFaultTest, FullDisk_IsToldOnAPage_AndTheReceiptIsAsBefore)
     EXPECT_EQ(rows().rowCount(), 2);
 }
 
+//! The page, which a command that came to nothing brought up.
+class FaultPageTyped : public WindowFaultTest
+{
+protected:
+    FaultPageTyped()
+    {
+        scan("BAG");
+        FailingDisk disk(directory.path());
+        disk.leaveRoomFor(0);
+        scan("PET1");
+        disk.repair();
+        EXPECT_TRUE(find("faultPage").isVisible());
+    }
+    QString code() const { return find<QLineEdit>("code").text(); }
+};
+
+TEST_F(FaultPageTyped, ScannedCode_DoesNotReachTheRegister_NorLeaveThePage)
+{
+    const qsizetype before = commands().size();
+    const QString kept = code();
+
+    type("BEER");
+    press(Qt::Key_Return);
+
+    EXPECT_TRUE(find("faultPage").isVisible());
+    EXPECT_EQ(code(), kept);
+    EXPECT_EQ(commands().size(), before);
+}
+
+TEST_F(FaultPageTyped, KeysOfTheRegister_DoNothing)
+{
+    const qsizetype before = commands().size();
+    const QString kept = code();
+
+    for (const Qt::Key key : {Qt::Key_F3, Qt::Key_Escape, Qt::Key_Up, Qt::Key_F12}) {
+        press(key);
+        type("BEER");
+    }
+
+    EXPECT_EQ(&top(), window.get());
+    EXPECT_EQ(find<QLineEdit>("search").text(), "");
+    EXPECT_EQ(code(), kept);
+    EXPECT_EQ(commands().size(), before);
+}
+
+TEST_F(FaultPageTyped, SpaceAndEnterByThemselves_LeadBack)
+{
+    press(Qt::Key_Return);
+    EXPECT_FALSE(find("faultPage").isVisible());
+    EXPECT_TRUE(find("code").hasFocus());
+
+    FailingDisk disk(directory.path());
+    disk.leaveRoomFor(0);
+    scan("PET1");
+    disk.repair();
+    press(Qt::Key_Space);
+    EXPECT_FALSE(find("faultPage").isVisible());
+}
+
 } // namespace
 
 } // namespace till

@@ -52,7 +52,9 @@ TEST_F(TillWindowTest, DeclinedQuestion_StopsTheCommand)
     click("subtotal");
 
     EXPECT_EQ(commands().constLast(), "subtotal: refused");
-    EXPECT_TRUE(find("header").isVisible());
+    EXPECT_EQ(told(),
+              "\"There is empty tara in the receipt. Storno the tara and go on to payment?\" "
+              "was answered no");
     EXPECT_EQ(receipt()->state(), ReceiptState::Open);
 }
 
@@ -68,6 +70,7 @@ TEST_F(TillWindowTest, ScannerThatTypesIntoAQuestion_DoesNotSayYes)
 
     EXPECT_EQ(receipt()->state(), ReceiptState::Open);
     EXPECT_EQ(receipt()->lines().size(), 1);
+    EXPECT_EQ(told(), "\"Cancel the receipt?\" was answered no");
 }
 
 TEST_F(TillWindowTest, Escape_Declines)
@@ -199,6 +202,29 @@ TEST_F(TillWindowTest, Message_GoesWhenItIsTouched)
     click(window->banner());
 
     EXPECT_FALSE(window->banner().isTelling());
+}
+
+TEST_F(TillWindowTest, Message_ChangesItsLanguage)
+{
+    const auto inRussian = [this] {
+        press(Qt::Key_L, Qt::ControlModifier);
+        const QString text = told();
+        press(Qt::Key_L, Qt::ControlModifier);
+        return text;
+    };
+    EXPECT_EQ(inRussian(), "");
+    press(Qt::Key_F12);
+    EXPECT_EQ(inRussian(), "Нет открытого чека");
+    scan("PET11");
+    EXPECT_EQ(inRussian(), "В каталоге нет товара \"PET11\"; может быть, PET1?");
+    scan("CAN3");
+    scan("BEER");
+    scan("DARK");
+    select({1});
+    click("quantity");
+    enter("2");
+    EXPECT_TRUE(inRussian().startsWith("Тара используется")) << inRussian().toStdString();
+    EXPECT_TRUE(told().startsWith("The tara is used")) << told().toStdString();
 }
 
 TEST_F(TillWindowTest, WhatWasDone_IsThereAtTheNextStart)

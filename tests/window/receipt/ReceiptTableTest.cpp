@@ -82,6 +82,19 @@ TEST_F(ReceiptTableTest, Selection_StaysWhenTheReceiptChanges)
     EXPECT_EQ(table().selectedPositions(), QList<int>{1});
 }
 
+TEST_F(ReceiptTableTest, UpAndDown_EndAtTheFirstAndTheLastPosition)
+{
+    scan("BAG");
+    scan("CHIPS");
+
+    for (int time = 0; time < 3; ++time)
+        press(Qt::Key_Up);
+    EXPECT_EQ(table().selectedPositions(), QList<int>{1});
+    for (int time = 0; time < 3; ++time)
+        press(Qt::Key_Down);
+    EXPECT_EQ(table().selectedPositions(), QList<int>{2});
+}
+
 TEST_F(ReceiptTableTest, LongQuantity_IsShownWhole)
 {
     scan("999999*CRATE20");

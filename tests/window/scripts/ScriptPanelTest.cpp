@@ -85,14 +85,23 @@ TEST_F(ScriptInAWindow, RunToALine_StopsBeforeIt)
     expect({"positions 1"});
 }
 
-TEST_F(ScriptInAWindow, EnterOnALine_RunsToIt)
+TEST_F(ScriptInAWindow, DoubleClickOnALine_RunsToIt)
 {
     open({"open", "add CHIPS", "add CHIPS", "add CHIPS"});
-    clickLine(0);
-    QTest::keyClick(&lines(), Qt::Key_Down);
-    QTest::keyClick(&lines(), Qt::Key_Return);
+    clickLine(1);
+    QTest::mouseDClick(lines().viewport(), Qt::LeftButton, {},
+                       lines().visualRect(lines().currentIndex()).center());
     settle();
     EXPECT_EQ(marks(), "✓▶..");
+}
+
+TEST_F(ScriptInAWindow, EnterOnALine_WhichEndsACode_RunsNothing)
+{
+    open({"open", "add CHIPS", "add CHIPS", "add CHIPS"});
+    clickLine(2);
+    QTest::keyClick(&lines(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(marks(), "▶...");
 }
 
 TEST_F(ScriptInAWindow, LineThatIsDone_CannotBeRunTo)
@@ -102,7 +111,8 @@ TEST_F(ScriptInAWindow, LineThatIsDone_CannotBeRunTo)
     clickLine(0);
     EXPECT_FALSE(canClick("scriptRunToLine"));
     EXPECT_EQ(tip("scriptRunToLine"), "Select a line that is still to come");
-    QTest::keyClick(&lines(), Qt::Key_Return);
+    QTest::mouseDClick(lines().viewport(), Qt::LeftButton, {},
+                       lines().visualRect(lines().currentIndex()).center());
     EXPECT_EQ(marks(), "✓▶.");
 }
 
