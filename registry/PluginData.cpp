@@ -2,6 +2,8 @@
 
 #include <QtCore/QVariant>
 
+#include <algorithm>
+#include <bit>
 #include <map>
 #include <utility>
 
@@ -14,8 +16,8 @@ namespace {
 using TaraInfo = PackagingControl::TaraInfo;
 using PackagingInfo = PackagingControl::PackagingInfo;
 
-// Every event that changes a record stores all of them. So entries are appended in the order of
-// their keys, which saves the search, to a standard map, which `QVariantMap` takes over as it is.
+// Entries are appended in the order of their keys, which saves the search, to a standard map, which
+// `QVariantMap` takes over as it is.
 using Entries = std::map<QString, QVariant>;
 
 template <typename Value>
@@ -50,14 +52,47 @@ QVariantMap toVariantMap(const PackagingInfo &info)
     return QVariantMap(std::move(entries));
 }
 
-template <typename Record>
-QVariantList toVariantList(const QList<QSharedPointer<Record>> &records)
+// Whether their bits are the same: what is stored tells zeros apart by their sign.
+bool isSame(double one, double other)
 {
-    QVariantList list;
-    list.reserve(records.size());
-    for (const auto &record : records)
-        list.append(toVariantMap(*record));
-    return list;
+    return std::bit_cast<quint64>(one) == std::bit_cast<quint64>(other);
+}
+
+bool isSame(const TaraInfo &one, const TaraInfo &other)
+{
+    return one.posnum == other.posnum && isSame(one.capacity, other.capacity)
+           && isSame(one.freeCapacity, other.freeCapacity) && one.id == other.id;
+}
+
+bool isSame(const PackagingInfo &one, const PackagingInfo &other)
+{
+    return one.posnum == other.posnum
+           && std::equal(one.usedTara.keyValueBegin(), one.usedTara.keyValueEnd(),
+                         other.usedTara.keyValueBegin(), other.usedTara.keyValueEnd(),
+                         [](const auto &a, const auto &b) {
+                             return isSame(a.second, b.second) && a.first == b.first;
+                         });
+}
+
+// The values of the records, in their order. Every event that changes a record stores all of them,
+// so only what changed since they were stored last is made anew. What that was is kept beside the
+// plugin, whose members are binary contract; where a second plugin object saves, it finds the
+// records changed.
+template <typename Record>
+QVariantList valuesOf(const QList<QSharedPointer<Record>> &records)
+{
+    static QList<Record> saved;
+    static QVariantList values;
+    saved.resize(records.size());
+    values.resize(records.size());
+    for (qsizetype i = 0; i < records.size(); ++i) {
+        const Record &record = *records[i];
+        if (values.at(i).isValid() && isSame(saved.at(i), record))
+            continue;
+        saved[i] = record;
+        values[i] = toVariantMap(record);
+    }
+    return values;
 }
 
 QMap<QString, double> toQuantities(const QVariantMap &map)
@@ -88,8 +123,8 @@ void PackagingControl::savePluginData() const
 {
     if (!document)
         return;
-    const QVariantList taras = toVariantList(taraList);
-    const QVariantList infos = toVariantList(packagingList);
+    const QVariantList taras = valuesOf(taraList);
+    const QVariantList infos = valuesOf(packagingList);
     document->setPluginData(objectName(), QStringLiteral("taraInfo"), taras);
     document->setPluginData(objectName(), QStringLiteral("packagingInfo"), infos);
 }

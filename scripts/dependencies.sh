@@ -1,7 +1,7 @@
 # Installs what the project's commands need, and configures what they share. Sourced, not run.
 # shellcheck shell=bash disable=SC2034
 
-build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-l10n-tools libqt6sql6-sqlite libreadline-dev libcsv-dev
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-l10n-tools qt6-translations-l10n libqt6sql6-sqlite libreadline-dev libcsv-dev
     libexpected-dev libutf8proc-dev)
 test_packages=(clang libgtest-dev libgmock-dev librapidcheck-dev binutils locales
     python3-jsonschema libxml2-utils fonts-dejavu-core)

@@ -452,6 +452,26 @@
         <translation>сколько раз последняя команда сообщила о чеке системе лояльности</translation>
     </message>
     <message>
+        <source>tara control is ready</source>
+        <translation>контроль тары готов</translation>
+    </message>
+    <message>
+        <source>Paused: something is being entered</source>
+        <translation>Остановлено: идёт ввод</translation>
+    </message>
+    <message>
+        <source>The recording is not saved. Drop it?</source>
+        <translation>Запись не сохранена. Отбросить её?</translation>
+    </message>
+    <message>
+        <source>See to what is named, room on the disk say, and do the command again</source>
+        <translation>Устраните названную причину (например, освободите место на диске) и повторите команду</translation>
+    </message>
+    <message>
+        <source>Delete the last sign</source>
+        <translation>Стереть последний знак</translation>
+    </message>
+    <message>
         <source>Code, or 3*code</source>
         <translation>Код или 3*код</translation>
     </message>

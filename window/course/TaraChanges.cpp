@@ -47,14 +47,14 @@ Message taraChange(int posnum, const QJsonObject &was, const QJsonObject &is)
         .with({number, amount(was, "freeCapacity"), free, capacity});
 }
 
-//! The tara with that identifier, by its number.
+//! The tara with that identifier, by its number; empty while it was not told of.
 QString numberOf(const QString &id, const QJsonArray &taras)
 {
     for (const QJsonValue tara : taras) {
         if (tara["id"].toString() == id)
             return QString::number(tara["posnum"].toInt());
     }
-    return QStringLiteral("?");
+    return {};
 }
 
 Message goodsChange(int posnum, const QJsonObject &is, const QJsonArray &taras)
@@ -66,7 +66,8 @@ Message goodsChange(int posnum, const QJsonObject &is, const QJsonArray &taras)
     const QJsonObject used = is["usedTara"].toObject();
     for (auto share = used.begin(); share != used.end(); ++share) {
         if (const QString text = toText(share.value().toDouble()); text != "0")
-            shares.append(QStringLiteral("%1 (%2)").arg(numberOf(share.key(), taras), text));
+            shares.append(
+                QStringLiteral("%1 (%2)").arg(numberOf(share.key(), taras), text).trimmed());
     }
     shares.sort();
     return shares.isEmpty()

@@ -4,6 +4,8 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <algorithm>
+
 namespace till {
 
 namespace {
@@ -39,16 +41,18 @@ Entered split(int posnum, const QString &text)
     return Command(split);
 }
 
-//! What is proposed is the sum, which is paid exactly.
-Entered pay(const QString &proposal, const QString &text)
+//! What is proposed is the sum, which is paid exactly while it is the sum still.
+Entered pay(const QString &proposal, const QString &text, Kopecks total)
 {
     const auto tendered = parseMoney(text);
     if (!tendered)
         return noNumber(text);
-    return Command(text == proposal ? command::Pay{} : command::Pay{tendered});
+    const bool isExact = text == proposal && *tendered == total;
+    return Command(isExact ? command::Pay{} : command::Pay{tendered});
 }
 
-Entered enteredFor(Deed deed, int posnum, const QString &proposal, const QString &text)
+Entered enteredFor(Deed deed, int posnum, const QString &proposal, const QString &text,
+                   const Doer &doer)
 {
     switch (deed) {
     case Deed::Quantity:
@@ -60,7 +64,7 @@ Entered enteredFor(Deed deed, int posnum, const QString &proposal, const QString
     case Deed::SoftCheck:
         return Command(command::AddSoftCheck{text});
     default:
-        return pay(proposal, text);
+        return pay(proposal, text, doer.total());
     }
 }
 
@@ -134,7 +138,9 @@ EntryDialog::Wanted entryFor(Deed deed, const QList<int> &selected, const Receip
     const int posnum = selected.value(0);
     const Asked asked = askedFor(deed, posnum, receipt);
     const QString proposal = proposalFor(deed, posnum, receipt);
-    const auto read = [=](const QString &text) { return enteredFor(deed, posnum, proposal, text); };
+    const auto read = [=](const QString &text) {
+        return enteredFor(deed, posnum, proposal, text, doer);
+    };
     const auto check = [read, translator, doer](const QString &text) {
         const Entered entered = read(text);
         const Outcome outcome = entered ? doer.check(*entered) : entered.error();
@@ -144,7 +150,11 @@ EntryDialog::Wanted entryFor(Deed deed, const QList<int> &selected, const Receip
         if (const Entered entered = read(text))
             doer.carryOut(*entered);
     };
-    return {translator.text(asked.title),
+    const auto &rows = deedRows();
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [deed](const DeedRow &one) { return one.deed == deed; });
+    return {translator.text(row->text),
+            translator.text(asked.title),
             translator.text(asked.hint),
             proposal,
             asked.signs,

@@ -18,6 +18,7 @@ struct Doer
 {
     std::function<Outcome(const Command &command)> check;
     std::function<void(const Command &command)> carryOut;
+    std::function<Kopecks()> total; //!< of the receipt as it is by then
 };
 
 //! What is asked for \a deed, which wants an entry, on the \a selected positions of \a receipt.

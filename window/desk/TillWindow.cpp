@@ -11,11 +11,7 @@
 
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QShortcut>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QSplitter>
 #include <QtWidgets/QStackedWidget>
-#include <QtWidgets/QToolButton>
 
 namespace till {
 
@@ -163,7 +159,7 @@ Outcome TillWindow::carryOut(const Command &command)
 void TillWindow::tellOutcome(const Outcome &outcome)
 {
     if (outcome.kind == Outcome::Failed) {
-        m_fault.tellCommand(outcome.text(m_translator));
+        m_fault.tellCommand(outcome);
         m_pages.setCurrentIndex(1);
         return;
     }
@@ -199,11 +195,12 @@ void TillWindow::doDeed(Deed deed)
         carryOut(*command);
         return;
     }
-    const Doer doer{[this](const Command &command) {
-                        return m_desk.isOn() ? m_desk.cashRegister().check(command)
-                                             : Outcome::busy();
-                    },
-                    [this](const Command &command) { carryOut(command); }};
+    const Doer doer{
+        [this](const Command &command) {
+            return m_desk.isOn() ? m_desk.cashRegister().check(command) : Outcome::busy();
+        },
+        [this](const Command &command) { carryOut(command); },
+        [this] { return m_desk.isOn() ? m_desk.cashRegister().receipt()->total() : 0; }};
     (new EntryDialog(m_translator,
                      entryFor(deed, selected, *m_desk.cashRegister().receipt(), m_translator, doer),
                      this))
@@ -212,7 +209,7 @@ void TillWindow::doDeed(Deed deed)
 
 void TillWindow::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(!m_desk.isBusy());
+    event->setAccepted(!m_desk.isBusy() && m_scripts.mayClose());
 }
 
 //! What nothing else takes is a code.

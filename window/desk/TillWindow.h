@@ -7,6 +7,7 @@
 #include "window/desk/WindowFront.h"
 
 #include <QtCore/QTimer>
+#include <QtCore/QTranslator>
 #include <QtWidgets/QMainWindow>
 
 QT_BEGIN_NAMESPACE
@@ -72,6 +73,7 @@ private:
     CashDesk &m_desk;
     Translator m_translator;
     QString m_languageCode;
+    QTranslator m_qtTexts; //!< what the toolkit says by itself, in menus of fields say
     TopStrip &m_strip;
     QStackedWidget &m_pages;
     FaultPage &m_fault;

@@ -5,15 +5,16 @@
 #include "till/language/TillMessages.h"
 #include "window/articles/ArticlePanel.h"
 #include "window/course/CourseDock.h"
-#include "window/desk/DeedEntry.h"
 #include "window/dialogs/FaultPage.h"
 #include "window/receipt/ReceiptTable.h"
 #include "window/scripts/ScriptsDock.h"
 #include "window/shelf/Shelf.h"
 
-#include <QtGui/QCloseEvent>
-#include <QtGui/QGuiApplication>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QLocale>
 #include <QtGui/QShortcut>
+#include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStackedWidget>
@@ -123,6 +124,11 @@ void TillWindow::fillMenu()
 
 void TillWindow::translate()
 {
+    // Without the toolkit's translations, which a system may not have, those texts stay English.
+    QCoreApplication::removeTranslator(&m_qtTexts);
+    if (m_qtTexts.load(QLocale(m_languageCode), QStringLiteral("qtbase"), QStringLiteral("_"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&m_qtTexts);
     const auto say = [this](const Message &message) { return m_translator.text(message); };
     setWindowTitle(say(told("till", "Till")));
     m_strip.language().setText(m_languageCode.toUpper());

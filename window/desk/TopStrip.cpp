@@ -64,10 +64,10 @@ void TopStrip::show(const ShownReceipt *receipt, TaraControl control, const Tran
     }
     m_header.setText(words.join(QStringLiteral(" · ")));
     m_header.setToolTip(m_header.text());
-    showControl(control, translator);
+    showControl(control, receipt != nullptr, translator);
 }
 
-void TopStrip::showControl(TaraControl control, const Translator &translator)
+void TopStrip::showControl(TaraControl control, bool isOfReceipt, const Translator &translator)
 {
     QPalette colours = m_control.palette();
     const auto dress = [&](const QString &sign, const QString &text, const QColor &ground,
@@ -83,6 +83,11 @@ void TopStrip::showControl(TaraControl control, const Translator &translator)
               QColor(0x00, 0x4d, 0x33), Qt::white);
         break;
     case TaraControl::Suspended:
+        if (!isOfReceipt) { // there is nothing to let go of
+            dress(QStringLiteral("○"), translator.text(told("till", "tara control is ready")),
+                  QColor(0xc8, 0xc8, 0xc8), Qt::black);
+            break;
+        }
         dress(QStringLiteral("◐"), translator.text(messages::tillTaraSuspended()),
               QColor(0xf0, 0xe4, 0x42), Qt::black);
         break;

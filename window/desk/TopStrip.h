@@ -39,7 +39,7 @@ public:
     QToolButton &menu() { return m_menu; }
 
 private:
-    void showControl(TaraControl control, const Translator &translator);
+    void showControl(TaraControl control, bool isOfReceipt, const Translator &translator);
 
     using QWidget::show;
 

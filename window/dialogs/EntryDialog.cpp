@@ -21,7 +21,7 @@ EntryDialog::EntryDialog(const Translator &translator, Wanted wanted, QWidget *p
     , m_confirm(*new QPushButton(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(m_wanted.title);
+    setWindowTitle(m_wanted.name);
     layOut(translator);
     connect(&m_field, &QLineEdit::textChanged, this, [this] { check(); });
     connect(&m_confirm, &QPushButton::clicked, this, [this] { take(); });
@@ -61,7 +61,7 @@ void EntryDialog::layOut(const Translator &translator)
     }
     auto *const all = new QVBoxLayout(this);
     for (QWidget *const widget :
-         std::initializer_list<QWidget *>{title, &m_field, hint, &m_fault, makePad()})
+         std::initializer_list<QWidget *>{title, &m_field, hint, &m_fault, makePad(translator)})
         all->addWidget(widget);
     all->addLayout(buttons);
 }
@@ -79,7 +79,7 @@ QPushButton *EntryDialog::makeKey(const QString &sign, const QString &name,
     return key;
 }
 
-QWidget *EntryDialog::makePad()
+QWidget *EntryDialog::makePad(const Translator &translator)
 {
     constexpr int columns = 3;
     auto *const pad = new QWidget(this);
@@ -94,7 +94,8 @@ QWidget *EntryDialog::makePad()
     const QString signs = QStringLiteral("7894561230") + m_wanted.signs;
     for (const QChar sign : signs)
         add(makeKey(sign, sign, [this, sign] { m_field.insert(sign); }));
-    add(makeKey(QStringLiteral("⌫"), QStringLiteral("Backspace"), [this] { m_field.backspace(); }));
+    add(makeKey(QStringLiteral("⌫"), translator.text(told("till", "Delete the last sign")),
+                [this] { m_field.backspace(); }));
     return pad;
 }
 

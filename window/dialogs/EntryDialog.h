@@ -26,6 +26,7 @@ public:
     //! What is asked for.
     struct Wanted
     {
+        QString name; //!< of what is done, for the frame
         QString title;
         QString hint;     //!< below the field; may be empty
         QString proposal; //!< what the field begins with, selected
@@ -39,7 +40,7 @@ public:
 
 private:
     void layOut(const Translator &translator);
-    QWidget *makePad();
+    QWidget *makePad(const Translator &translator);
     QPushButton *makeKey(const QString &sign, const QString &name, std::function<void()> press);
     void check();
     void take();

@@ -55,16 +55,21 @@ FaultPage::FaultPage(const Translator &translator, QWidget *parent)
 
 void FaultPage::tellStart(const Fault &fault)
 {
-    m_isOfStart = true;
+    m_outcome.reset();
     m_fault = fault;
-    fill();
+    tell();
 }
 
-void FaultPage::tellCommand(const QString &words)
+void FaultPage::tellCommand(const Outcome &outcome)
 {
-    m_isOfStart = false;
-    m_fault = {{}, words};
+    m_outcome = outcome;
+    tell();
+}
+
+void FaultPage::tell()
+{
     fill();
+    m_goOn.setFocus();
 }
 
 void FaultPage::translate(const Translator &translator)
@@ -76,17 +81,22 @@ void FaultPage::translate(const Translator &translator)
 void FaultPage::fill()
 {
     const auto say = [this](const Message &message) { return m_translator.text(message); };
-    m_title.setText(m_isOfStart ? say(told("till", "The till could not be switched on"))
-                                : say(told("till", "The command came to nothing; the receipt is as "
-                                                   "it was before")));
-    setPart(m_reasonCaption, m_reason, told("till", "What is wrong"), m_fault.reason);
-    setPart(m_placeCaption, m_place, told("till", "Where"), m_fault.place);
-    setPart(m_remedyCaption, m_remedy, told("till", "What to do"), m_fault.remedy);
-    m_goOn.setText(m_isOfStart ? say(told("till", "Try again"))
-                               : say(told("till", "Back to the receipt")));
+    const Fault fault =
+        m_outcome ? Fault{{},
+                          m_outcome->text(m_translator),
+                          say(told("till", "See to what is named, room on the disk say, and do the "
+                                           "command again"))}
+                  : m_fault;
+    m_title.setText(!m_outcome ? say(told("till", "The till could not be switched on"))
+                               : say(told("till", "The command came to nothing; the receipt is as "
+                                                  "it was before")));
+    setPart(m_reasonCaption, m_reason, told("till", "What is wrong"), fault.reason);
+    setPart(m_placeCaption, m_place, told("till", "Where"), fault.place);
+    setPart(m_remedyCaption, m_remedy, told("till", "What to do"), fault.remedy);
+    m_goOn.setText(!m_outcome ? say(told("till", "Try again"))
+                              : say(told("till", "Back to the receipt")));
     setAccessibleName(m_title.text());
-    setAccessibleDescription(m_fault.text());
-    m_goOn.setFocus();
+    setAccessibleDescription(fault.text());
 }
 
 void FaultPage::setPart(QLabel &caption, QLabel &text, const Message &title, const QString &words)

@@ -2,11 +2,13 @@
 #define WINDOW_DIALOGS_FAULTPAGE_H
 
 #include "till/language/Translator.h"
+#include "till/register/Outcome.h"
 #include "till/result/Result.h"
 
 #include <QtWidgets/QWidget>
 
 #include <functional>
+#include <optional>
 
 QT_BEGIN_NAMESPACE
 class QLabel;
@@ -24,20 +26,21 @@ public:
 
     //! Tells of \a fault, with which the till cannot be switched on.
     void tellStart(const Fault &fault);
-    //! Tells that a command came to nothing, as \a words say, and that the receipt is as before.
-    void tellCommand(const QString &words);
+    //! Tells that a command came to nothing, as \a outcome says, and that the receipt is as before.
+    void tellCommand(const Outcome &outcome);
     void translate(const Translator &translator);
 
     //! Told when the cashier wants to go on: to switch the till on again, or back to the receipt.
     std::function<void()> goOn;
 
 private:
+    void tell();
     void fill();
     void setPart(QLabel &caption, QLabel &text, const Message &title, const QString &words);
 
     Translator m_translator;
-    Fault m_fault;
-    bool m_isOfStart = true;
+    Fault m_fault;                    //!< with which the till cannot be switched on
+    std::optional<Outcome> m_outcome; //!< of a command; then the fault is that
     QLabel &m_title;
     QLabel &m_placeCaption;
     QLabel &m_place;

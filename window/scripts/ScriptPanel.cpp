@@ -3,10 +3,12 @@
 #include "till/language/TillMessages.h"
 
 #include <QtGui/QFontDatabase>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSplitter>
@@ -31,6 +33,10 @@ ScriptPanel::ScriptPanel(CashDesk &desk, Notes &notes, const Translator &transla
     })
     , chooseTarget([](QWidget *window, const QString &title) {
         return QFileDialog::getSaveFileName(window, title, {}, scriptsFilter());
+    })
+    , confirmLoss([](QWidget *window, const QString &question) {
+        return QMessageBox::question(window, window->window()->windowTitle(), question)
+               == QMessageBox::Yes;
     })
     , m_translator(translator)
     , m_player(desk, notes, m_translator,
@@ -110,8 +116,17 @@ void ScriptPanel::translate(const Translator &translator)
     tellTexts();
 }
 
+bool ScriptPanel::mayDropRecording()
+{
+    return !m_recording.isUnsaved()
+           || confirmLoss(this,
+                          m_translator.text(told("till", "The recording is not saved. Drop it?")));
+}
+
 void ScriptPanel::open()
 {
+    if (!mayDropRecording())
+        return;
     const QString path = chooseScript(this, m_translator.text(told("till", "Open a script")));
     if (!path.isEmpty())
         showScript(path);
@@ -157,6 +172,10 @@ void ScriptPanel::step()
 
 void ScriptPanel::tick()
 {
+    if (QApplication::activeModalWidget()) { // what is being entered is for the receipt as it is
+        pause();
+        return tell(m_translator.text(told("till", "Paused: something is being entered")));
+    }
     if (!m_player.step()) {
         pause();
         return tell(m_translator.text(messages::tillBusy()));
@@ -197,6 +216,8 @@ void ScriptPanel::record()
         return tell(m_translator.text(told("till", "Recorded: %1 lines, to be saved")
                                           .with({QString::number(m_recording.lines().size())})));
     }
+    if (!mayDropRecording())
+        return;
     m_player.close();
     m_model.show({});
     const bool started = m_recording.start([this] {

@@ -22,7 +22,7 @@ namespace till {
  * somebody uses the register.
  *
  * A line comes at each turn of the event loop, so that what it does is seen, and none while another
- * command is under way: then the play pauses.
+ * command is under way or a dialog is open: then the play pauses.
  */
 class ScriptPanel final : public QWidget
 {
@@ -41,6 +41,12 @@ public:
     //! somebody sets another way.
     Choose chooseScript;
     Choose chooseTarget;
+    //! Asks whether a recording that was not saved can go.
+    std::function<bool(QWidget *parent, const QString &question)> confirmLoss;
+
+    //! Whether nothing is lost that somebody wants: there is no recording that was not saved, or
+    //! the cashier lets it go.
+    bool mayDropRecording();
 
 private:
     QPushButton *makeButton(const char *name, void (ScriptPanel::*click)());

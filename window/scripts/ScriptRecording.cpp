@@ -17,8 +17,10 @@ bool ScriptRecording::start(std::function<void()> added)
         return false;
     m_subscription.reset();
     m_lines.clear();
+    m_isSaved = false;
     m_recorder.emplace([this, added = std::move(added)](const QString &line) {
         m_lines.append(line);
+        m_isSaved = false;
         added();
     });
     tellStart();
@@ -51,10 +53,11 @@ bool ScriptRecording::stop()
     return true;
 }
 
-Result<Message> ScriptRecording::save(const QString &path) const
+Result<Message> ScriptRecording::save(const QString &path)
 {
     if (const Result<> saved = saveScript(path, m_lines); !saved)
         return saved.error();
+    m_isSaved = true;
     return m_recorder ? m_recorder->report(path) : Message();
 }
 

@@ -27,9 +27,11 @@ public:
     bool isOn() const { return m_subscription != nullptr; }
 
     const QStringList &lines() const { return m_lines; }
+    //! Whether there are lines that were not saved.
+    bool isUnsaved() const { return !m_isSaved && !m_lines.isEmpty(); }
     //! Writes the lines to \a path, unless something is there that is no recorded script; what
     //! there is to tell of it.
-    Result<Message> save(const QString &path) const;
+    Result<Message> save(const QString &path);
 
 private:
     //! Tells the recorder how the register stands.
@@ -39,6 +41,7 @@ private:
     Notes &m_notes;
     ReceiptCourse m_course;
     QStringList m_lines;
+    bool m_isSaved = false;
     std::optional<Recorder> m_recorder;
     Subscription m_subscription;
 };

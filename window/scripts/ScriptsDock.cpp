@@ -22,6 +22,11 @@ ScriptsDock::ScriptsDock(CashDesk &desk, Notes &notes, const Translator &transla
     tellTexts(translator);
 }
 
+bool ScriptsDock::mayClose()
+{
+    return m_scripts->mayDropRecording();
+}
+
 void ScriptsDock::translate(const Translator &translator)
 {
     m_scripts->translate(translator);

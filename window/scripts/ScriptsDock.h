@@ -24,6 +24,9 @@ public:
     ScriptsDock(CashDesk &desk, Notes &notes, const Translator &translator,
                 QWidget *parent = nullptr);
 
+    //! Whether the window may close: no recording gets lost that somebody wants.
+    bool mayClose();
+
     void translate(const Translator &translator);
 
     ScriptPanel &scripts() { return *m_scripts; }

@@ -8,6 +8,7 @@
 #include <QtCore/QJsonDocument>
 
 #include <algorithm>
+#include <iostream>
 #include <utility>
 
 namespace till {
@@ -86,6 +87,22 @@ void KilledTill::start()
     m_isUnderWay = false;
     m_saved = m_trace.acknowledged().data.value(
         pluginId, {{"taraInfo", QJsonArray()}, {"packagingInfo", QJsonArray()}});
+}
+
+void KilledTill::killUntilTelling(int kills)
+{
+    const int most = 20 * kills;
+    measure();
+    while ((m_tally.all() < kills || !m_tally.isTelling()) && m_tally.all() < most
+           && !HasFailure()) {
+        SCOPED_TRACE(testing::Message() << "seed " << testSeed() << " round " << m_tally.all());
+        playAndKill();
+        checkStored();
+    }
+    checkEveryReceipt();
+    std::cout << m_tally.all() << " kills, seed " << testSeed() << '\n'
+              << m_tally << "receipts: " << receipts() << std::endl;
+    EXPECT_TRUE(m_tally.isTelling());
 }
 
 void KilledTill::measure()

@@ -34,6 +34,12 @@ class KilledTill : public StorageTest
 protected:
     KilledTill();
 
+    /*!
+     * Plays and kills \a kills times, and compares what is stored after each; tells of them. When a
+     * kill finds the till at what is up to the machine: there are more until they have proved
+     * something, within reason.
+     */
+    void killUntilTelling(int kills);
     //! Learns how long things take on this machine.
     void measure();
     //! Starts the till, lets it carry out some commands and kills it in the middle of one.

@@ -203,6 +203,16 @@ TEST_F(Course, TakeUp_TellsWhatOfTaraIsKnownFromTheStart)
     EXPECT_EQ(cameOf(rowWith(*model, "event 19")), "tara 1: free 3 → 1 of 3");
 }
 
+TEST_F(Course, TakeUpOfGoods_SaysHowMuchIsInTaraThatIsNotToldOfYet)
+{
+    done({"open", "add CAN3", "add BEER 2"});
+    must(till->stop());
+    limit({});
+    must(till->start());
+    EXPECT_TRUE(rowWith(*model, "goods 2: in tara (2)").isValid());
+    EXPECT_TRUE(rowWith(*model, "tara 1: free 1 of 3").isValid());
+}
+
 } // namespace
 
 } // namespace till

@@ -24,53 +24,6 @@ protected:
     }
 };
 
-TEST_F(DeedTest, Quantity_IsTypedInADialog)
-{
-    scan("PET1");
-    scan("BEER");
-    click("quantity");
-
-    enter("0.5");
-
-    EXPECT_EQ(commands().constLast(), "qty 2 0.5: done");
-    EXPECT_EQ(rows().index(1, ReceiptModel::Count).data(), "0.5 л");
-}
-
-TEST_F(DeedTest, Quantity_IsTouchedOnThePad)
-{
-    scan("BEER");
-    click("quantity");
-    for (const char *const key : {"key1", "key⌫", "key2", "key.", "key5"})
-        click(key);
-
-    click("confirm");
-
-    EXPECT_EQ(commands().constLast(), "qty 1 2.5: done");
-}
-
-TEST_F(DeedTest, WrongEntry_SaysWhatIsWrong_AndIsNotTaken)
-{
-    scan("BEER");
-    click("quantity");
-
-    enter("much");
-
-    EXPECT_EQ(find<QLabel>("fault").text(), "\"much\" is not a number");
-    EXPECT_FALSE(find<QPushButton>("confirm").isEnabled());
-    click("back");
-    EXPECT_EQ(commands().constLast(), "add BEER 1: done");
-}
-
-TEST_F(DeedTest, EntryBeyondALimit_SaysTheLimit)
-{
-    scan("BEER");
-    click("quantity");
-
-    type("1000000");
-
-    EXPECT_EQ(find<QLabel>("fault").text(), "the quantity must not be above 999999.999");
-}
-
 TEST_F(DeedTest, Storno_AsksAndStrikes)
 {
     scan("BAG");
@@ -80,18 +33,6 @@ TEST_F(DeedTest, Storno_AsksAndStrikes)
 
     EXPECT_EQ(commands().constLast(), "storno 1: done");
     EXPECT_TRUE(rows().isStornoed(0));
-}
-
-TEST_F(DeedTest, Split_TakesParts)
-{
-    scan("CAN3");
-    scan("3*BEER");
-    click("split");
-
-    enter("1+0.5");
-
-    EXPECT_EQ(commands().constLast(), "split 2 1 0.5: done");
-    EXPECT_EQ(rows().rowCount(), 4);
 }
 
 TEST_F(DeedTest, Unite_TakesTheSelected)
@@ -135,40 +76,6 @@ TEST_F(DeedTest, Subtotal_IsShownInTheHeader)
     click("subtotal");
 
     EXPECT_EQ(find<QLabel>("header").text(), "Receipt No. 1 · subtotal");
-}
-
-TEST_F(DeedTest, PayAsProposed_PaysExactly)
-{
-    scan("BAG");
-    click("pay");
-
-    press(Qt::Key_Return);
-
-    EXPECT_EQ(commands().constLast(), "pay: done");
-    EXPECT_EQ(receipt()->state(), ReceiptState::Closed);
-}
-
-TEST_F(DeedTest, MoneyGiven_GivesChange)
-{
-    scan("BAG");
-    click("pay");
-
-    enter("50");
-
-    EXPECT_EQ(commands().constLast(), "pay 50.00: done");
-    EXPECT_EQ(told(), "Change 15.00");
-}
-
-TEST_F(DeedTest, TooLittleMoney_SaysWhatIsMissing)
-{
-    scan("BAG");
-    click("pay");
-
-    enter("20");
-
-    EXPECT_EQ(commands().constLast(), "pay 20.00: refused");
-    EXPECT_TRUE(told().contains("15.00 missing")) << told().toStdString();
-    EXPECT_EQ(receipt()->state(), ReceiptState::Subtotal);
 }
 
 TEST_F(DeedTest, Cancel_AsksAndCancels)

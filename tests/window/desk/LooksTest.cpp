@@ -3,6 +3,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabBar>
 
@@ -18,8 +20,11 @@ protected:
 
 TEST_F(WindowLooks, Badge_TellsOfTaraControl)
 {
+    EXPECT_EQ(textOf("control"), "○ tara control is ready");
     scan("PET1");
     EXPECT_EQ(textOf("control"), "● tara is controlled");
+    carryOut(command::AttachOrder{"7"});
+    EXPECT_EQ(textOf("control"), "◐ tara control suspended");
 
     till::Setup plain = setup();
     plain.plugin.clear();
@@ -42,6 +47,19 @@ TEST_F(WindowLooks, Language_ChangesWhileItRuns)
 
     press(Qt::Key_L, Qt::ControlModifier);
     EXPECT_EQ(textOf("header"), "Receipt No. 1 · open");
+}
+
+TEST_F(WindowLooks, MenuOfAField_IsInTheLanguageToo)
+{
+    const auto undo = [this] {
+        const std::unique_ptr<QMenu> menu(find<QLineEdit>("code").createStandardContextMenu());
+        return menu->actions().constFirst()->text().section('\t', 0, 0);
+    };
+    EXPECT_EQ(undo(), "&Undo");
+
+    click("language");
+
+    EXPECT_TRUE(undo().contains("тменить")) << undo().toStdString();
 }
 
 TEST_F(WindowLooks, EverythingThatCanBeTouched_HasAnAccessibleName)

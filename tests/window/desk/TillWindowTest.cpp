@@ -1,6 +1,7 @@
 #include "tests/window/support/WindowTest.h"
 
 #include <QtCore/QTimer>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
 namespace till {
@@ -93,6 +94,23 @@ TEST_F(TillWindowTest, WhileAQuestionStands_TheWindowDoesNotClose)
 
     EXPECT_EQ(receipt()->state(), ReceiptState::Cancelled);
     EXPECT_TRUE(window->close());
+}
+
+TEST_F(TillWindowTest, RecordingThatIsNotSaved_KeepsTheWindowOpenUntilItMayGo)
+{
+    const auto closeAndSay = [this](QMessageBox::StandardButton answer) {
+        QTimer::singleShot(0, window.get(), [this, answer] {
+            click(*dynamic_cast<QMessageBox &>(top()).button(answer));
+        });
+        return window->close();
+    };
+    press(Qt::Key_F10);
+    click("scriptRecord");
+    scan("BAG");
+
+    EXPECT_FALSE(closeAndSay(QMessageBox::No));
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(closeAndSay(QMessageBox::Yes));
 }
 
 TEST_F(TillWindowTest, WhileAQuestionStands_NothingElseIsDone)

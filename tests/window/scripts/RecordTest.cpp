@@ -89,6 +89,46 @@ TEST_F(RecordedByClicks, SavedScript_IsOpen)
     EXPECT_EQ(status(), "script recorded.till holds");
 }
 
+TEST_F(RecordedByClicks, RecordingThatIsNotSaved_IsOnlyDroppedWhenTheCashierSaysSo)
+{
+    QStringList asked;
+    bool mayGo = false;
+    panel.confirmLoss = [&](QWidget *, const QString &question) {
+        asked.append(question);
+        return mayGo;
+    };
+    click("scriptRecord");
+    EXPECT_TRUE(carryOut(command::Open{}));
+    EXPECT_FALSE(panel.mayDropRecording());
+    click("scriptRecord");
+    const int rows = lines().model()->rowCount();
+
+    open({"quit"});
+    click("scriptRecord");
+
+    EXPECT_EQ(asked, QStringList(3, "The recording is not saved. Drop it?"));
+    EXPECT_EQ(lines().model()->rowCount(), rows);
+    EXPECT_EQ(part<QPushButton>("scriptRecord").text(), "Record");
+    mayGo = true;
+    open({"quit"});
+    EXPECT_EQ(lines().model()->rowCount(), 1);
+}
+
+TEST_F(RecordedByClicks, RecordingThatIsSaved_IsLeftWithoutAQuestion)
+{
+    panel.confirmLoss = [](QWidget *, const QString &) {
+        ADD_FAILURE() << "asked";
+        return false;
+    };
+    click("scriptRecord");
+    EXPECT_TRUE(carryOut(command::Open{}));
+    click("scriptRecord");
+    chosen = path("recorded.till");
+    click("scriptSave");
+    click("scriptRecord");
+    EXPECT_EQ(part<QPushButton>("scriptRecord").text(), "Stop recording");
+}
+
 TEST_F(RecordedByClicks, FileThatIsNoRecordedScript_StaysAsItIs)
 {
     click("scriptRecord");

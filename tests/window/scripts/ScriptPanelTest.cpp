@@ -218,6 +218,20 @@ TEST_F(WithinAQuestion, Record_DoesNotBegin)
     EXPECT_EQ(part<QPushButton>("scriptRecord").text(), "Record");
 }
 
+TEST_F(ScriptInAWindow, WhileSomethingIsEntered_RunPauses)
+{
+    open({"open", "add PET1"});
+    QDialog entry(&panel);
+    click("scriptRun");
+    entry.open();
+    settle();
+    EXPECT_EQ(status(), "Paused: something is being entered");
+    expect({"positions 0"});
+    entry.close();
+    runAll();
+    EXPECT_EQ(marks(), "✓✓");
+}
+
 TEST_F(ScriptInAWindow, OtherLanguage_ChangesAllTexts)
 {
     open({"open", "expect total 1"});

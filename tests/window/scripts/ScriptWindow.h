@@ -7,6 +7,7 @@
 #include "window/scripts/ScriptPanel.h"
 
 #include <QtTest/QTest>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
