@@ -42,10 +42,11 @@ bin/window_redraw 1000 > redraw.txt
 strip -o PackagingControl.stripped lib/packagingcontrol/plugins/PackagingControl.so
 cd "$top"
 
-# The other commit is measured by its own benchmarks, in a checkout of its own.
+# The other commit is measured by its own benchmarks, in a checkout of its own. Git may still know of one
+# that went with an earlier build folder: hence --force.
 if [ -n "$other" ]; then
     checkout=$top/build/against/$other
-    [ -e "$checkout" ] || git worktree add --detach "$checkout" "$other" >&2
+    [ -e "$checkout" ] || git worktree add --force --detach "$checkout" "$other" >&2
     echo "Measuring $other ..." >&2
     "$checkout/bench.sh" >&2
     set -- --against "$other" "$checkout/build/bench"

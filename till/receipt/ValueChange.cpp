@@ -16,7 +16,7 @@ const Type &held(const QVariant &value)
     return *static_cast<const Type *>(value.constData());
 }
 
-// Plugins make their values anew each time, of texts that they keep: most texts are shared.
+// Plugins hand over what they keep: most texts, and the maps of what did not change, are shared.
 bool areSame(const QString &left, const QString &right)
 {
     if (left.size() != right.size() || left.isNull() != right.isNull())
@@ -48,8 +48,9 @@ bool areSame(const QVariantMap &left, const QVariantMap &right)
         return areSame(one.first, other.first) && areSurelySame(one.second, other.second);
     };
     return left.size() == right.size()
-           && std::equal(left.constKeyValueBegin(), left.constKeyValueEnd(),
-                         right.constKeyValueBegin(), isSameEntry);
+           && (left.isSharedWith(right)
+               || std::equal(left.constKeyValueBegin(), left.constKeyValueEnd(),
+                             right.constKeyValueBegin(), isSameEntry));
 }
 
 template <typename Type>

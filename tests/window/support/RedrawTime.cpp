@@ -4,6 +4,7 @@
 #include "tests/window/support/Hands.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QLoggingCategory>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
@@ -40,6 +41,7 @@ int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("packaging=false")); // as the window has it
     const int positions = argc > 1 ? std::atoi(argv[1]) : 1000;
     Notes notes;
     CashDesk desk({QStringLiteral(":memory:"),
