@@ -142,7 +142,8 @@ bool Database::claim()
         return true;
     }
     if (errno == EWOULDBLOCK)
-        return fail(QStringLiteral("another till has this database open"));
+        return fail(QStringLiteral("another till has this database open"),
+                    QStringLiteral("close it, or name another database with --db"));
     return fail(QStringLiteral("the database cannot be opened for writing (%1)")
                     .arg(qt_error_string(errno)));
 }

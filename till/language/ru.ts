@@ -464,6 +464,10 @@
         <translation>Запись не сохранена. Отбросить её?</translation>
     </message>
     <message>
+        <source>See to what is named, room on the disk say, and do the command again</source>
+        <translation>Устраните названную причину (например, освободите место на диске) и повторите команду</translation>
+    </message>
+    <message>
         <source>Delete the last sign</source>
         <translation>Стереть последний знак</translation>
     </message>

@@ -69,15 +69,27 @@ Result<> CashDesk::set(const QString &key, const QString &value)
 
 Result<> CashDesk::switchOn()
 {
-    using Step = Result<> (CashDesk::*)();
-    constexpr Step steps[] = {&CashDesk::readSettings, &CashDesk::readCatalogue,
-                              &CashDesk::openDatabase, &CashDesk::loadPlugin,
-                              &CashDesk::startRegister};
-    for (const Step step : steps) {
-        if (Result<> done = (this->*step)(); !done) {
-            switchOff();
-            return done;
-        }
+    struct Step
+    {
+        Result<> (CashDesk::*take)();
+        const char *remedy; //!< where the fault names none of its own
+    };
+    constexpr Step steps[] = {
+        {&CashDesk::readSettings, "see to it, or name other settings with --config"},
+        {&CashDesk::readCatalogue, "see to it, or name another catalogue with --catalogue"},
+        {&CashDesk::openDatabase, "see to it, or name another database with --db"},
+        {&CashDesk::loadPlugin, "name another plugin with --plugin, or --no-plugin for none"},
+        {&CashDesk::startRegister, ""},
+    };
+    for (const Step &step : steps) {
+        const Result<> taken = (this->*step.take)();
+        if (taken)
+            continue;
+        switchOff();
+        Fault fault = taken.error();
+        if (fault.remedy.isEmpty())
+            fault.remedy = QLatin1String(step.remedy);
+        return fault;
     }
     return {};
 }

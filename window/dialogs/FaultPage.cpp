@@ -82,7 +82,12 @@ void FaultPage::translate(const Translator &translator)
 void FaultPage::fill()
 {
     const auto say = [this](const Message &message) { return m_translator.text(message); };
-    const Fault fault = m_outcome ? Fault{{}, m_outcome->text(m_translator)} : m_fault;
+    const Fault fault =
+        m_outcome ? Fault{{},
+                          m_outcome->text(m_translator),
+                          say(told("till", "See to what is named, room on the disk say, and do the "
+                                           "command again"))}
+                  : m_fault;
     m_title.setText(!m_outcome ? say(told("till", "The till could not be switched on"))
                                : say(told("till", "The command came to nothing; the receipt is as "
                                                   "it was before")));

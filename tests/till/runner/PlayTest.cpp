@@ -177,7 +177,8 @@ TEST_F(Play, TillThatDoesNotStart_EndsThePlay)
     const RunResult failed = played({"--catalogue", "/nowhere.csv", one, one});
     EXPECT_EQ(failed.status, 3);
     EXPECT_EQ(failed.out, "[1/2] s.till\n");
-    EXPECT_EQ(failed.err, "till: /nowhere.csv: no such file\n");
+    EXPECT_EQ(failed.err, "till: /nowhere.csv: no such file; see to it, or name another catalogue "
+                          "with --catalogue\n");
 }
 
 TEST_F(Play, OutputOfJobs_IsInTheOrderOfTheScripts)

@@ -20,26 +20,31 @@ protected:
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
     }
 
-    const QString inUse = path() + ": another till has this database open";
+    static QString inUse(const QString &path)
+    {
+        return path
+               + ": another till has this database open; close it, or name another database with "
+                 "--db";
+    }
 };
 
 TEST_F(StorageLock, SecondInTheSameProcess_IsRefused)
 {
     const auto first = opened();
-    EXPECT_EQ(refusal(), inUse);
+    EXPECT_EQ(refusal(), inUse(path()));
 }
 
 TEST_F(StorageLock, SecondInAnotherProcess_IsRefused)
 {
     const auto first = opened();
-    EXPECT_EQ(otherProcess(), inUse);
+    EXPECT_EQ(otherProcess(), inUse(path()));
 }
 
 TEST_F(StorageLock, DatabaseThatWasThereBefore_IsLockedFromTheStart)
 {
     leaveUnfinished(1);
     const auto first = opened();
-    EXPECT_EQ(otherProcess(), inUse);
+    EXPECT_EQ(otherProcess(), inUse(path()));
 }
 
 // Closing any descriptor of a file ends the locks that its process has on that file.
@@ -47,7 +52,7 @@ TEST_F(StorageLock, RefusalInTheSameProcess_LeavesTheLockInPlace)
 {
     const auto first = opened();
     refusal();
-    EXPECT_EQ(otherProcess(), inUse);
+    EXPECT_EQ(otherProcess(), inUse(path()));
 }
 
 TEST_F(StorageLock, Refusal_LeavesTheFirstWorking)
@@ -63,8 +68,7 @@ TEST_F(StorageLock, SecondThroughALink_IsRefused)
 {
     const auto first = opened();
     ASSERT_TRUE(QFile::link(path(), path("link.db")));
-    EXPECT_EQ(refusalOf(path("link.db")),
-              path("link.db") + ": another till has this database open");
+    EXPECT_EQ(refusalOf(path("link.db")), inUse(path("link.db")));
 }
 
 TEST_F(StorageLock, AfterTheFirstIsGone_AnotherProcessOpensIt)

@@ -57,6 +57,7 @@ TEST_F(WindowFaultTest, MissingPlugin_IsToldAsOnAConsole)
     const QString fault = faultOf(without);
 
     EXPECT_TRUE(fault.contains(path("no.so"))) << fault.toStdString();
+    EXPECT_EQ(textOf("remedy"), "name another plugin with --plugin, or --no-plugin for none");
     EXPECT_EQ(fault, consoleOf(without));
 }
 
@@ -130,6 +131,7 @@ TEST_F(WindowFaultTest, FullDisk_IsToldOnAPage_AndTheReceiptIsAsBefore)
     disk.leaveRoomFor(0);
     scan("PET1");
     disk.repair();
+    EXPECT_FALSE(textOf("remedy").isEmpty());
     press(Qt::Key_L, Qt::ControlModifier);
     EXPECT_TRUE(textOf("reason").startsWith("Не удалось сохранить"))
         << textOf("reason").toStdString();
