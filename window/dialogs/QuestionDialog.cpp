@@ -21,6 +21,15 @@ QString shown(const QString &text)
     return lines.join(u'\n');
 }
 
+QLabel *makeText(const QString &text, const char *name, QWidget *parent)
+{
+    auto *const label = new QLabel(text, parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
 } // namespace
 
 QuestionDialog::QuestionDialog(const Translator &translator, const Question &question,
@@ -30,15 +39,9 @@ QuestionDialog::QuestionDialog(const Translator &translator, const Question &que
     setObjectName(QStringLiteral("question"));
     setModal(true);
     setWindowTitle(translator.text(told("till", "Question")));
-    auto *const text = new QLabel(shown(translator.text(question.text)), this);
-    text->setObjectName(QStringLiteral("text"));
-    text->setTextFormat(Qt::PlainText);
-    text->setWordWrap(true);
+    auto *const text = makeText(shown(translator.text(question.text)), "text", this);
     text->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
-    auto *const subject = new QLabel(translator.text(about), this);
-    subject->setObjectName(QStringLiteral("about"));
-    subject->setTextFormat(Qt::PlainText);
-    subject->setWordWrap(true);
+    auto *const subject = makeText(translator.text(about), "about", this);
     subject->setVisible(!subject->text().isEmpty());
     setAccessibleName(subject->text().isEmpty() ? text->text()
                                                 : subject->text() + u'\n' + text->text());
