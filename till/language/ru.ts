@@ -1164,6 +1164,10 @@
         <translation>стоит после &apos;quit&apos;, где ничего не выполняется</translation>
     </message>
     <message>
+        <source>The database is in memory: there is no file in which past receipts could be looked up</source>
+        <translation>База данных в памяти: нет файла, в котором можно найти прошлые чеки</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is more than %2, the greatest amount of money</source>
         <translation>&quot;%1&quot; больше наибольшей суммы, %2</translation>
     </message>
