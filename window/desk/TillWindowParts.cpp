@@ -8,6 +8,7 @@
 #include "window/dialogs/FaultPage.h"
 #include "window/receipt/ReceiptTable.h"
 #include "window/scripts/ScriptsDock.h"
+#include "window/scripts/ScriptPanel.h"
 #include "window/shelf/Shelf.h"
 
 #include <QtCore/QCoreApplication>
@@ -80,9 +81,14 @@ void TillWindow::connectParts()
     };
     m_table.selected = [this] {
         m_shelf.setLit(selectedGoods());
-        m_deedsSoon.start();
+        showDeedsSoon();
     };
-    m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
+    m_shelf.selected = [this] {
+        const QSet<int> goods = m_shelf.goodsOfSelected();
+        m_table.receipt().setLit(goods);
+        m_table.showFirstOf(goods);
+    };
+    m_scripts.scripts().atWork = [this](const std::function<void()> &line) { whileAtWork(line); };
     m_fault.goOn = [this] {
         if (m_desk.isOn())
             m_pages.setCurrentIndex(0);

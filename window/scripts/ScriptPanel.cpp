@@ -50,6 +50,7 @@ ScriptPanel::ScriptPanel(CashDesk &desk, Notes &notes, const Translator &transla
     , m_rewind(makeButton("scriptRewind", &ScriptPanel::rewind))
     , m_record(makeButton("scriptRecord", &ScriptPanel::record))
     , m_save(makeButton("scriptSave", &ScriptPanel::save))
+    , atWork([](const std::function<void()> &line) { line(); })
     , m_lines(new QTableView)
     , m_printed(new QPlainTextEdit)
     , m_status(new QLabel)
@@ -166,7 +167,7 @@ void ScriptPanel::step()
 {
     if (m_player.hasEnded())
         rewind();
-    tell(m_player.step() ? QString() : m_translator.text(messages::tillBusy()));
+    tell(carryOutNext() ? QString() : m_translator.text(messages::tillBusy()));
     mark();
 }
 
@@ -176,7 +177,7 @@ void ScriptPanel::tick()
         pause();
         return tell(m_translator.text(told("till", "Paused: something is being entered")));
     }
-    if (!m_player.step()) {
+    if (!carryOutNext()) {
         pause();
         return tell(m_translator.text(messages::tillBusy()));
     }
@@ -186,6 +187,13 @@ void ScriptPanel::tick()
 }
 
 void ScriptPanel::pause()
+bool ScriptPanel::carryOutNext()
+{
+    bool isDone = false;
+    atWork([&] { isDone = m_player.step(); });
+    return isDone;
+}
+
 {
     m_timer.stop();
     tellState();
