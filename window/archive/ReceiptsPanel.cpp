@@ -81,6 +81,7 @@ void ReceiptsPanel::layOut()
     above->addWidget(m_number, 1);
     above->addWidget(m_read);
     auto *const parts = new QSplitter(Qt::Vertical);
+    parts->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // content with its least
     parts->addWidget(m_list);
     parts->addWidget(m_page);
     parts->setStretchFactor(1, 2);

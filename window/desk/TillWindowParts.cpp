@@ -6,9 +6,10 @@
 #include "window/articles/ArticlePanel.h"
 #include "window/course/CourseDock.h"
 #include "window/dialogs/FaultPage.h"
+#include "window/look/ScrolledPage.h"
 #include "window/receipt/ReceiptTable.h"
-#include "window/scripts/ScriptsDock.h"
 #include "window/scripts/ScriptPanel.h"
+#include "window/scripts/ScriptsDock.h"
 #include "window/shelf/Shelf.h"
 
 #include <QtCore/QCoreApplication>
@@ -53,9 +54,10 @@ void TillWindow::layOut()
     all->setContentsMargins(4, 0, 4, 4);
     all->setSpacing(4);
     all->addWidget(&m_strip);
-    all->addWidget(halves, 1);
+    constexpr QSize leastOfDesk(360, 160);
+    all->addWidget(new ScrolledPage(halves, leastOfDesk), 1);
     m_pages.addWidget(cashDesk);
-    m_pages.addWidget(&m_fault);
+    m_pages.addWidget(new ScrolledPage(&m_fault, leastOfDesk));
     setCentralWidget(&m_pages);
     resize(1024, 600);
 }

@@ -76,6 +76,7 @@ private:
     void tell(const QString &text);
 
     Translator m_translator;
+    QString m_folder; //!< where the last script was found, at first the sample scripts
     ScriptPlayer m_player;
     ScriptRecording m_recording;
     ScriptModel m_model;

@@ -88,7 +88,7 @@ void Shelf::setLit(const QSet<int> &goods)
 
 void Shelf::sizeVessels()
 {
-    const QSize room = VesselDelegate::leastRoom(font());
+    const QSize room = VesselDelegate::shortestRoom(font());
     setMinimumHeight(room.height() + horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
 }
 
