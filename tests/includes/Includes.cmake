@@ -57,7 +57,7 @@ may_include(window/articles ${look})
 may_include(window/shelf ${look})
 may_include(window/dialogs ${look})
 may_include(window/course ${known_by_till/reports} till/reports window/look)
-may_include(window/archive ${known_by_till/reports} till/reports)
+may_include(window/archive ${known_by_till/reports} till/reports window/look)
 may_include(window/scripts ${known_by_till/script} till/script window/look window/archive)
 may_include(window/desk ${look} window/receipt window/articles window/shelf window/dialogs window/course
     window/scripts)

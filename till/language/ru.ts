@@ -700,10 +700,6 @@
         <translation>в чеке нет тары</translation>
     </message>
     <message>
-        <source>Course (F9)</source>
-        <translation>Ход событий (F9)</translation>
-    </message>
-    <message>
         <source>What happened, command by command</source>
         <translation>Что произошло, команда за командой</translation>
     </message>
@@ -1084,8 +1080,8 @@
         <translation>Сохранить сценарий</translation>
     </message>
     <message>
-        <source>Scripts (F10)</source>
-        <translation>Сценарии (F10)</translation>
+        <source>Scripts</source>
+        <translation>Сценарии</translation>
     </message>
     <message>
         <source>Shelf of tara</source>
@@ -1202,6 +1198,10 @@
     <message>
         <source>&quot;%1&quot; is more than %2, the greatest amount of money</source>
         <translation>&quot;%1&quot; больше наибольшей суммы, %2</translation>
+    </message>
+    <message>
+        <source>The database is in memory: there is no file in which past receipts could be looked up</source>
+        <translation>База данных в памяти: нет файла, в котором можно найти прошлые чеки</translation>
     </message>
 </context>
 </TS>

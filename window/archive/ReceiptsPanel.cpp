@@ -1,9 +1,11 @@
 #include "window/archive/ReceiptsPanel.h"
 
+#include "till/database/DatabaseFile.h"
 #include "till/language/TillMessages.h"
 #include "till/reports/ReceiptJson.h"
 #include "till/view/ReceiptText.h"
 #include "window/archive/ReceiptPage.h"
+#include "window/look/Paints.h"
 
 #include <QtGui/QShowEvent>
 #include <QtWidgets/QBoxLayout>
@@ -16,7 +18,19 @@
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTextBrowser>
 
+#include <utility>
+
 namespace till {
+
+namespace {
+
+Message noFile()
+{
+    return told("till", "The database is in memory: there is no file in which past receipts could "
+                        "be looked up");
+}
+
+} // namespace
 
 ReceiptsPanel::ReceiptsPanel(std::function<QString()> database, const Translator &translator,
                              QWidget *parent)
@@ -48,6 +62,8 @@ void ReceiptsPanel::layOut()
     for (const ReceiptState state : {ReceiptState::Open, ReceiptState::Subtotal,
                                      ReceiptState::Closed, ReceiptState::Cancelled})
         m_states->addItem({}, static_cast<int>(state));
+    for (QWidget *const touched : std::initializer_list<QWidget *>{m_states, m_number, m_read})
+        touched->setMinimumHeight(touchHeight);
     m_number->setMaxLength(18);
     m_list->setModel(&m_model);
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -65,6 +81,7 @@ void ReceiptsPanel::layOut()
     above->addWidget(m_number, 1);
     above->addWidget(m_read);
     auto *const parts = new QSplitter(Qt::Vertical);
+    parts->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // content with its least
     parts->addWidget(m_list);
     parts->addWidget(m_page);
     parts->setStretchFactor(1, 2);
@@ -93,6 +110,8 @@ void ReceiptsPanel::translate(const Translator &translator)
     tellTexts();
     if (m_open != 0)
         open(m_open);
+    else if (const Message said = m_told; said != Message())
+        tellFault(said);
 }
 
 void ReceiptsPanel::tellTexts()
@@ -141,34 +160,50 @@ Selection ReceiptsPanel::selection() const
 void ReceiptsPanel::read()
 {
     m_isReading = true;
+    const bool isInMemory = m_database() == inMemory();
     const auto archive = Archive::open(m_database());
     const Result<> listed =
         archive ? m_model.read(**archive, selection()) : Result<>(archive.error());
     if (!listed) {
         m_model.clear();
-        tellFault(listed.error().text());
+        if (isInMemory)
+            tellFault(noFile());
+        else
+            tellFault(listed.error().text());
     }
     m_list->resizeColumnsToContents();
     m_list->horizontalHeader()->setStretchLastSection(true);
-    if (const int row = m_model.rowOf(m_open); row >= 0)
-        m_list->setCurrentIndex(m_model.index(row, 0));
+    markOpen();
     tellCount();
     m_isReading = false;
+}
+
+void ReceiptsPanel::markOpen()
+{
+    const bool wasReading = std::exchange(m_isReading, true);
+    if (const int row = m_model.rowOf(m_open); row >= 0)
+        m_list->setCurrentIndex(m_model.index(row, 0));
+    else
+        m_list->selectionModel()->clear();
+    m_isReading = wasReading;
 }
 
 void ReceiptsPanel::find()
 {
     bool isNumber = false;
     const qint64 number = m_number->text().trimmed().toLongLong(&isNumber);
-    if (!isNumber)
-        return tellFault(m_translator.text(
-            told("till", "\"%1\" is no number of a receipt").with({brief(m_number->text())})));
-    open(number);
+    if (isNumber)
+        open(number);
+    else
+        tellFault(told("till", "\"%1\" is no number of a receipt").with({brief(m_number->text())}));
+    markOpen();
 }
 
 void ReceiptsPanel::open(qint64 number)
 {
     m_open = 0;
+    if (m_database() == inMemory())
+        return tellFault(noFile());
     const auto archive = Archive::open(m_database());
     if (!archive)
         return tellFault(archive.error().text());
@@ -177,21 +212,28 @@ void ReceiptsPanel::open(qint64 number)
         return tellFault(read.error().text());
     const QString shown = QString::number(number);
     if (!*read)
-        return tellFault(m_translator.text(told("till", "There is no receipt %1").with({shown})));
+        return tellFault(told("till", "There is no receipt %1").with({shown}));
     if (const QString fault = (**read).fault; !fault.isEmpty())
-        return tellFault(
-            m_translator.text(told("till", "Receipt %1 is damaged: %2").with({shown, fault})));
+        return tellFault(told("till", "Receipt %1 is damaged: %2").with({shown, fault}));
     const auto journal = (*archive)->journal(number);
     if (!journal)
         return tellFault(journal.error().text());
     m_page->setHtml(receiptPage(**read, *journal, m_translator));
     m_open = number;
+    m_told = {};
 }
 
 void ReceiptsPanel::tellFault(const QString &text)
 {
     m_open = 0;
+    m_told = {};
     m_page->setPlainText(text);
+}
+
+void ReceiptsPanel::tellFault(const Message &message)
+{
+    tellFault(m_translator.text(message));
+    m_told = message;
 }
 
 } // namespace till

@@ -49,6 +49,9 @@ private:
     void open(qint64 number);
     //! Shows what is wrong in place of a receipt.
     void tellFault(const QString &text);
+    void tellFault(const Message &message);
+    //! Marks the receipt that is open, if any, in the list.
+    void markOpen();
     Selection selection() const;
 
     const std::function<QString()> m_database;
@@ -61,6 +64,7 @@ private:
     QLabel *const m_count;
     QTextBrowser *const m_page;
     qint64 m_open = 0; //!< the number of the receipt that is shown; 0 for none
+    Message m_told;    //!< what is wrong, to be said again in another language
     bool m_isReading = false;
 };
 

@@ -72,12 +72,12 @@ void ArticleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const QRect inside = tile.adjusted(padding, padding, -padding, -padding);
     drawName(*painter, inside, printable(article.name));
     const QString price = toText(article.price);
-    const int priceWidth = painter->fontMetrics().horizontalAdvance(price) + padding;
-    painter->drawText(inside, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine,
-                      painter->fontMetrics().elidedText(printable(article.code), Qt::ElideRight,
-                                                        inside.width() - priceWidth));
     QFont bold = option.font;
     bold.setBold(true);
+    const int priceWidth = QFontMetrics(bold).horizontalAdvance(price) + padding;
+    painter->drawText(inside, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine,
+                      painter->fontMetrics().elidedText(printable(article.code), Qt::ElideRight,
+                                                        std::max(inside.width() - priceWidth, 0)));
     painter->setFont(bold);
     painter->drawText(inside, Qt::AlignRight | Qt::AlignBottom | Qt::TextSingleLine, price);
     painter->restore();

@@ -1,5 +1,8 @@
 #include "window/course/CourseDock.h"
 
+#include "window/look/Paints.h"
+#include "window/look/ScrolledPage.h"
+
 #include <QtCore/QSortFilterProxyModel>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
@@ -71,6 +74,8 @@ CourseDock::CourseDock(Notes &notes, const Translator &translator, CourseModel::
 void CourseDock::layOut()
 {
     m_filter->setClearButtonEnabled(true);
+    for (QWidget *const touched : std::initializer_list<QWidget *>{m_filter, m_follow, m_copy})
+        touched->setMinimumHeight(touchHeight);
     m_follow->setChecked(true);
     m_tree->setModel(m_shown);
     m_tree->setUniformRowHeights(true);
@@ -95,7 +100,7 @@ void CourseDock::layOut()
     all->addLayout(above);
     all->addWidget(m_tree, 1);
     all->addWidget(m_kept);
-    setWidget(page);
+    setWidget(new ScrolledPage(page, leastOfDock));
 }
 
 void CourseDock::connectAll()
@@ -119,7 +124,7 @@ void CourseDock::translate(const Translator &translator)
 
 void CourseDock::tellTexts()
 {
-    setTitle(m_translator.text(told("till", "Course (F9)")));
+    setTitle(m_translator.text(told("till", "Course")));
     m_tree->setAccessibleName(m_translator.text(told("till", "What happened, command by command")));
     const QString filtering = m_translator.text(told("till", "Filter: what the lines contain"));
     m_filter->setPlaceholderText(filtering);

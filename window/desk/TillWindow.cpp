@@ -148,7 +148,21 @@ void TillWindow::hear(const QJsonObject &note)
     if (kind == QLatin1String("message"))
         m_hasShownMessage = true;
     if (kind == QLatin1String("outcome"))
+        showDeedsSoon();
+}
+
+void TillWindow::showDeedsSoon()
+{
+    if (!m_deedsSoon.isActive()) // begun anew at each line of a script it would never end
         m_deedsSoon.start();
+}
+
+void TillWindow::whileAtWork(const std::function<void()> &work)
+{
+    if (m_desk.isBusy())
+        return work();
+    const AtWork atWork(m_strip, m_translator.text(told("till", "at work, please wait")));
+    work();
 }
 
 Outcome TillWindow::carryOut(const Command &command)
@@ -162,10 +176,8 @@ Outcome TillWindow::carryOut(const Command &command)
     const auto receipt = m_desk.cashRegister().receipt();
     m_front.setAbout(receipt ? aboutOf(command, *receipt) : Message());
     banner().clear();
-    const Outcome outcome = [&] {
-        const AtWork atWork(m_strip, m_translator.text(told("till", "at work, please wait")));
-        return m_desk.cashRegister().carryOut(command);
-    }();
+    Outcome outcome;
+    whileAtWork([&] { outcome = m_desk.cashRegister().carryOut(command); });
     tellOutcome(outcome);
     showDeeds();
     return outcome;
@@ -233,7 +245,8 @@ void TillWindow::doDeed(Deed deed)
     if (!m_desk.isOn() || m_desk.isBusy())
         return;
     if (const auto command = commandOf(deed, selected)) {
-        carryOut(*command);
+        if (carryOut(*command) && deed == Deed::Unite) // that is where all of it went
+            m_table.selectPosition(selected.constFirst());
         return;
     }
     const Doer doer{

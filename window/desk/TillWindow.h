@@ -67,6 +67,9 @@ private:
     QSet<int> selectedGoods() const;
     void showReceipt();
     void showDeeds();
+    void showDeedsSoon();
+    //! Does \a work, and shows meanwhile that the till is at it.
+    void whileAtWork(const std::function<void()> &work);
     void hear(const QJsonObject &note);
     bool add(const QString &code, double count);
     void doDeed(Deed deed);

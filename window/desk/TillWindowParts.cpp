@@ -6,7 +6,9 @@
 #include "window/articles/ArticlePanel.h"
 #include "window/course/CourseDock.h"
 #include "window/dialogs/FaultPage.h"
+#include "window/look/ScrolledPage.h"
 #include "window/receipt/ReceiptTable.h"
+#include "window/scripts/ScriptPanel.h"
 #include "window/scripts/ScriptsDock.h"
 #include "window/shelf/Shelf.h"
 
@@ -56,9 +58,10 @@ void TillWindow::layOut()
     all->setContentsMargins(4, 0, 4, 4);
     all->setSpacing(4);
     all->addWidget(&m_strip);
-    all->addWidget(halves, 1);
+    constexpr QSize leastOfDesk(360, 160);
+    all->addWidget(new ScrolledPage(halves, leastOfDesk), 1);
     m_pages.addWidget(cashDesk);
-    m_pages.addWidget(&m_fault);
+    m_pages.addWidget(new ScrolledPage(&m_fault, leastOfDesk));
     setCentralWidget(&m_pages);
     resize(1024, 600);
 }
@@ -94,9 +97,14 @@ void TillWindow::connectParts()
     m_deeds.refused = [this](const Outcome &whyNot) { tell(whyNot, Banner::Tone::Notice); };
     m_table.selected = [this] {
         m_shelf.setLit(selectedGoods());
-        m_deedsSoon.start();
+        showDeedsSoon();
     };
-    m_shelf.selected = [this] { m_table.receipt().setLit(m_shelf.goodsOfSelected()); };
+    m_shelf.selected = [this] {
+        const QSet<int> goods = m_shelf.goodsOfSelected();
+        m_table.receipt().setLit(goods);
+        m_table.showFirstOf(goods);
+    };
+    m_scripts.scripts().atWork = [this](const std::function<void()> &line) { whileAtWork(line); };
     m_fault.goOn = [this] {
         if (!m_desk.isOn())
             return switchOn();

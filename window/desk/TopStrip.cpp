@@ -4,6 +4,7 @@
 #include "till/view/ReceiptText.h"
 #include "window/look/Paints.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStackedLayout>
@@ -11,10 +12,27 @@
 
 namespace till {
 
+namespace {
+
+//! A line that ends in an ellipsis where there is no room for all of it.
+class ElidedLabel final : public QLabel
+{
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
+    }
+};
+
+} // namespace
+
 TopStrip::TopStrip(QWidget *parent)
     : QWidget(parent)
     , m_pages(*new QStackedLayout(this))
-    , m_header(*new QLabel)
+    , m_header(*new ElidedLabel)
     , m_work(*new QLabel)
     , m_control(*new QLabel)
     , m_language(*new QToolButton)

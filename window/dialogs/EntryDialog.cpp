@@ -2,7 +2,9 @@
 
 #include "till/language/TillMessages.h"
 #include "window/look/Paints.h"
+#include "window/look/ScrolledPage.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -61,10 +63,16 @@ void EntryDialog::layOut(const Translator &translator)
         buttons->addWidget(button);
     }
     auto *const all = new QVBoxLayout(this);
-    for (QWidget *const widget :
-         std::initializer_list<QWidget *>{title, &m_field, hint, &m_fault, makePad(translator)})
+    for (QWidget *const widget : std::initializer_list<QWidget *>{title, &m_field, hint, &m_fault})
         all->addWidget(widget);
+    constexpr QSize leastOfPad(3 * touchHeight, touchHeight);
+    all->addWidget(new ScrolledPage(makePad(translator), leastOfPad), 1);
     all->addLayout(buttons);
+    // As high as its wrapped texts make it, within the screen and the frame about it.
+    constexpr QSize frame(16, 40);
+    const int width = all->sizeHint().width();
+    const int height = std::max(all->totalHeightForWidth(width), all->sizeHint().height());
+    resize(QSize(width, height).boundedTo(screen()->availableSize() - frame));
 }
 
 QPushButton *EntryDialog::makeKey(const QString &sign, const QString &name,

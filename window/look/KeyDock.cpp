@@ -1,5 +1,9 @@
 #include "window/look/KeyDock.h"
 
+#include <QtWidgets/QMainWindow>
+
+#include <utility>
+
 namespace till {
 
 KeyDock::KeyDock(const QKeySequence &key, QWidget *parent)
@@ -13,7 +17,8 @@ KeyDock::KeyDock(const QKeySequence &key, QWidget *parent)
 
 void KeyDock::setTitle(const QString &title)
 {
-    setWindowTitle(title);
+    setWindowTitle(title + QStringLiteral(" (")
+                   + m_show.shortcut().toString(QKeySequence::NativeText) + u')');
     m_show.setText(title);
 }
 
@@ -23,6 +28,11 @@ void KeyDock::showOrHide()
         return hide();
     show();
     raise();
+    auto *const window = qobject_cast<QMainWindow *>(parentWidget());
+    if (window && !std::exchange(m_wasShown, true)) {
+        constexpr double share = 0.36; // of the window, from the first time it is seen
+        window->resizeDocks({this}, {static_cast<int>(window->width() * share)}, Qt::Horizontal);
+    }
     widget()->setFocus();
 }
 

@@ -6,6 +6,10 @@
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
+
+#include <algorithm>
+#include <numeric>
 
 namespace till {
 
@@ -60,7 +64,7 @@ void ReceiptTable::sizeRows()
     verticalHeader()->setDefaultSectionSize(height);
     for (const int column :
          {ReceiptModel::Number, ReceiptModel::Count, ReceiptModel::Price, ReceiptModel::Sum})
-        setColumnWidth(column, 0);
+        m_widths[column] = 0;
     widen(0, m_receipt.rowCount() - 1);
 }
 
@@ -77,9 +81,22 @@ void ReceiptTable::widen(int first, int last)
             const QString text = m_receipt.index(row, column).data().toString();
             width = std::max(width, fontMetrics().horizontalAdvance(text));
         }
-        if (width + margins > columnWidth(column))
-            setColumnWidth(column, width + margins);
+        if (width + margins <= m_widths[column])
+            continue;
+        m_widths[column] = width + margins;
+        setColumnWidth(column, m_widths[column]);
     }
+    makeRoom();
+}
+
+//! The price goes where it would leave too little of the article's name.
+void ReceiptTable::makeRoom()
+{
+    constexpr int leastSigns = 18;
+    const int others = std::accumulate(m_widths.cbegin(), m_widths.cend(), 0);
+    const bool isNarrow =
+        viewport()->width() - others < leastSigns * fontMetrics().averageCharWidth();
+    setColumnHidden(ReceiptModel::Price, isNarrow);
 }
 
 void ReceiptTable::show(std::shared_ptr<const ShownReceipt> receipt)
@@ -93,6 +110,7 @@ void ReceiptTable::show(std::shared_ptr<const ShownReceipt> receipt)
 void ReceiptTable::translate(const Translator &translator)
 {
     m_receipt.translate(translator);
+    sizeRows();
     m_nothing = translator.text(messages::tillNoLines());
     setAccessibleName(translator.text(told("till", "Receipt")));
     viewport()->update();
@@ -119,6 +137,16 @@ void ReceiptTable::selectPosition(int posnum)
     scrollTo(currentIndex());
 }
 
+void ReceiptTable::showFirstOf(const QSet<int> &posnums)
+{
+    int first = m_receipt.rowCount();
+    for (const int posnum : posnums) {
+        if (const int row = m_receipt.rowOf(posnum); row >= 0)
+            first = std::min(first, row);
+    }
+    scrollTo(m_receipt.index(first, ReceiptModel::ArticleName));
+}
+
 void ReceiptTable::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
@@ -127,6 +155,16 @@ void ReceiptTable::paintEvent(QPaintEvent *event)
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(viewport()->rect(), Qt::AlignCenter, m_nothing);
+}
+
+//! What is seen at the end stays the end.
+void ReceiptTable::resizeEvent(QResizeEvent *event)
+{
+    const bool isAtEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    QTableView::resizeEvent(event);
+    makeRoom();
+    if (isAtEnd)
+        scrollToBottom();
 }
 
 void ReceiptTable::changeEvent(QEvent *event)

@@ -5,6 +5,8 @@
 
 #include <QtWidgets/QTableView>
 
+#include <array>
+
 namespace till {
 
 //! The receipt as the cashier sees it, a row a position, of which any can be selected.
@@ -26,11 +28,15 @@ public:
     //! Selects the position with that number, and no other.
     void selectPosition(int posnum);
 
+    //! Brings the first of the positions with these numbers into view.
+    void showFirstOf(const QSet<int> &posnums);
+
     //! Told when another selection was made.
     std::function<void()> selected;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -39,10 +45,13 @@ private:
     //! Makes the columns of numbers as wide as these rows need.
     void widen(int first, int last);
 
+    void makeRoom();
+
     using QTableView::show;
 
     ReceiptModel m_receipt;
-    QString m_nothing; //!< what stands there without a position
+    std::array<int, ReceiptModel::columns> m_widths{}; //!< of the columns of numbers
+    QString m_nothing;                                 //!< what stands there without a position
 };
 
 } // namespace till

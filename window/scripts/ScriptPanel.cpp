@@ -1,7 +1,9 @@
 #include "window/scripts/ScriptPanel.h"
 
 #include "till/language/TillMessages.h"
+#include "window/look/Paints.h"
 
+#include <QtCore/QFileInfo>
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
@@ -23,22 +25,34 @@ QString scriptsFilter()
     return QStringLiteral("*.till");
 }
 
+//! The folder of the sample scripts, which lie beside the sample catalogue; empty without them.
+QString scriptsBeside(const QString &catalogue)
+{
+    const QFileInfo folder(QFileInfo(catalogue).absolutePath() + QStringLiteral("/scripts"));
+    return folder.isDir() ? folder.filePath() : QString();
+}
+
 } // namespace
 
 ScriptPanel::ScriptPanel(CashDesk &desk, Notes &notes, const Translator &translator,
                          QWidget *parent)
     : QWidget(parent)
-    , chooseScript([](QWidget *window, const QString &title) {
-        return QFileDialog::getOpenFileName(window, title, {}, scriptsFilter());
+    , chooseScript([this](QWidget *window, const QString &title) {
+        return QFileDialog::getOpenFileName(window, title, m_folder, scriptsFilter());
     })
-    , chooseTarget([](QWidget *window, const QString &title) {
-        return QFileDialog::getSaveFileName(window, title, {}, scriptsFilter());
+    , chooseTarget([this](QWidget *window, const QString &title) {
+        QFileDialog dialog(window, title, m_folder, scriptsFilter());
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setDefaultSuffix(QStringLiteral("till"));
+        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     })
     , confirmLoss([](QWidget *window, const QString &question) {
         return QMessageBox::question(window, window->window()->windowTitle(), question)
                == QMessageBox::Yes;
     })
+    , atWork([](const std::function<void()> &line) { line(); })
     , m_translator(translator)
+    , m_folder(scriptsBeside(desk.setup().catalogue))
     , m_player(desk, notes, m_translator,
                [this](const QString &text) { m_printed->appendPlainText(text); })
     , m_recording(desk, notes)
@@ -66,6 +80,7 @@ QPushButton *ScriptPanel::makeButton(const char *name, void (ScriptPanel::*click
 {
     auto *const button = new QPushButton(this);
     button->setObjectName(name);
+    button->setMinimumHeight(touchHeight);
     connect(button, &QPushButton::clicked, this, [this, click] { (this->*click)(); });
     return button;
 }
@@ -97,17 +112,19 @@ void ScriptPanel::layOut()
     auto *const all = new QGridLayout(this);
     const QList<QPushButton *> buttons{m_open,   m_run,    m_step, m_runToLine,
                                        m_rewind, m_record, m_save};
-    constexpr int columns = 4;
+    constexpr int columns = 3;
     for (int i = 0; i < buttons.size(); ++i)
         all->addWidget(buttons[i], i / columns, i % columns);
     auto *const parts = new QSplitter(Qt::Vertical);
+    parts->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // content with its least
     parts->addWidget(m_lines);
     parts->addWidget(m_printed);
     parts->setStretchFactor(0, 2);
     parts->setStretchFactor(1, 1);
-    all->addWidget(m_status, 2, 0, 1, columns);
-    all->addWidget(parts, 3, 0, 1, columns);
-    all->setRowStretch(3, 1);
+    const int below = all->rowCount();
+    all->addWidget(m_status, below, 0, 1, columns);
+    all->addWidget(parts, below + 1, 0, 1, columns);
+    all->setRowStretch(below + 1, 1);
 }
 
 void ScriptPanel::translate(const Translator &translator)
@@ -137,6 +154,7 @@ void ScriptPanel::showScript(const QString &path)
 {
     if (const Result<> read = m_player.open(path); !read)
         return tell(read.error().text());
+    m_folder = QFileInfo(path).absolutePath();
     m_model.show(m_player.script().lines(), m_player.script().path());
     m_printed->clear();
     tell({});
@@ -167,8 +185,15 @@ void ScriptPanel::step()
 {
     if (m_player.hasEnded())
         rewind();
-    tell(m_player.step() ? QString() : m_translator.text(messages::tillBusy()));
+    tell(carryOutNext() ? QString() : m_translator.text(messages::tillBusy()));
     mark();
+}
+
+bool ScriptPanel::carryOutNext()
+{
+    bool isDone = false;
+    atWork([&] { isDone = m_player.step(); });
+    return isDone;
 }
 
 void ScriptPanel::tick()
@@ -177,7 +202,7 @@ void ScriptPanel::tick()
         pause();
         return tell(m_translator.text(told("till", "Paused: something is being entered")));
     }
-    if (!m_player.step()) {
+    if (!carryOutNext()) {
         pause();
         return tell(m_translator.text(messages::tillBusy()));
     }

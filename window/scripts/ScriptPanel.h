@@ -44,6 +44,9 @@ public:
     //! Asks whether a recording that was not saved can go.
     std::function<bool(QWidget *parent, const QString &question)> confirmLoss;
 
+    //! Calls what carries a line out; somebody may show meanwhile that it is under way.
+    std::function<void(const std::function<void()> &line)> atWork;
+
     //! Whether nothing is lost that somebody wants: there is no recording that was not saved, or
     //! the cashier lets it go.
     bool mayDropRecording();
@@ -66,12 +69,14 @@ private:
     void save();
     //! Shows the script as it stands, and marks in it.
     void showScript(const QString &path);
+    bool carryOutNext();
     void tick();
     void pause();
     void mark();
     void tell(const QString &text);
 
     Translator m_translator;
+    QString m_folder; //!< where the last script was found, at first the sample scripts
     ScriptPlayer m_player;
     ScriptRecording m_recording;
     ScriptModel m_model;

@@ -1,6 +1,7 @@
 #include "window/scripts/ScriptsDock.h"
 
 #include "window/archive/ReceiptsPanel.h"
+#include "window/look/ScrolledPage.h"
 #include "window/scripts/ScriptPanel.h"
 
 #include <QtWidgets/QTabWidget>
@@ -16,8 +17,8 @@ ScriptsDock::ScriptsDock(CashDesk &desk, Notes &notes, const Translator &transla
 {
     setObjectName("scripts");
     m_tabs->setObjectName("scriptsTabs");
-    m_tabs->addTab(m_scripts, {});
-    m_tabs->addTab(m_receipts, {});
+    m_tabs->addTab(new ScrolledPage(m_scripts, leastOfDock), {});
+    m_tabs->addTab(new ScrolledPage(m_receipts, leastOfDock), {});
     setWidget(m_tabs);
     tellTexts(translator);
 }
@@ -36,7 +37,7 @@ void ScriptsDock::translate(const Translator &translator)
 
 void ScriptsDock::tellTexts(const Translator &translator)
 {
-    setTitle(translator.text(told("till", "Scripts (F10)")));
+    setTitle(translator.text(told("till", "Scripts")));
     m_tabs->setTabText(0, translator.text(told("till", "Script")));
     m_tabs->setTabText(1, translator.text(told("till", "Past receipts")));
 }

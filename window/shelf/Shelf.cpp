@@ -78,9 +78,16 @@ QSet<int> Shelf::goodsOfSelected() const
     return goods;
 }
 
+void Shelf::setLit(const QSet<int> &goods)
+{
+    m_vessels.setLit(goods);
+    if (m_vessels.lightsAny())
+        scrollTo(m_vessels.index(m_vessels.firstLit()));
+}
+
 void Shelf::sizeVessels()
 {
-    const QSize room = VesselDelegate::leastRoom(font());
+    const QSize room = VesselDelegate::shortestRoom(font());
     setMinimumHeight(room.height() + horizontalScrollBar()->sizeHint().height() + 2 * frameWidth());
 }
 

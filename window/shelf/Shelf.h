@@ -27,8 +27,8 @@ public:
     VesselModel &vessels() { return m_vessels; }
     //! The goods in the selected vessels.
     QSet<int> goodsOfSelected() const;
-    //! The goods with these numbers light up in each vessel.
-    void setLit(const QSet<int> &goods) { m_vessels.setLit(goods); }
+    //! The goods with these numbers light up in each vessel, of which the first comes into view.
+    void setLit(const QSet<int> &goods);
 
     //! Told when another selection was made.
     std::function<void()> selected;

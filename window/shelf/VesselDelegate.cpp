@@ -13,7 +13,8 @@ namespace till {
 
 namespace {
 
-constexpr double tallest = 84.0; //!< pixels of the greatest vessel in the least room
+constexpr double tallest = 84.0;  //!< pixels of the greatest vessel in the least room
+constexpr double shortest = 40.0; //!< of it on a screen that is small for its font
 constexpr double lowest = 22.0;
 constexpr double overflowRoom = 14.0; //!< above the brim
 constexpr int textLines = 4;          // name, amounts, and two for how full it is
@@ -80,13 +81,20 @@ QSize VesselDelegate::leastRoom(const QFont &font)
             static_cast<int>(tallest + overflowRoom) + textLines * metrics.height() + 3 * padding};
 }
 
+QSize VesselDelegate::shortestRoom(const QFont &font)
+{
+    return leastRoom(font) - QSize(0, static_cast<int>(tallest - shortest));
+}
+
 QSize VesselDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
     const QSize least = leastRoom(option.font);
     const auto *const shelf = qobject_cast<const QAbstractItemView *>(option.widget);
     const int height =
-        shelf ? std::max(shelf->viewport()->height(), least.height()) : least.height();
-    return {least.width() * (2 * least.height() + height) / (3 * least.height()), height};
+        shelf ? std::max(shelf->viewport()->height(), shortestRoom(option.font).height())
+              : least.height();
+    const int taller = std::max(height, least.height());
+    return {least.width() * (2 * least.height() + taller) / (3 * least.height()), height};
 }
 
 void VesselDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

@@ -13,6 +13,8 @@ public:
 
     //! The least room of a vessel in \a font, with its texts.
     static QSize leastRoom(const QFont &font);
+    //! The same where a screen has not even that: the vessel is shorter, its texts are whole.
+    static QSize shortestRoom(const QFont &font);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;

@@ -94,13 +94,15 @@ void VesselModel::show(const std::shared_ptr<const ShownReceipt> &receipt, bool 
     m_vessels = std::move(vessels);
     m_moving = moves ? moving : QList<int>();
     m_progress = moves ? 0.0 : 1.0;
+    const bool lit = lightsAny();
+    findFirstLit();
     const double greatest = m_greatest;
     m_greatest = 0.0;
     for (const Vessel &vessel : std::as_const(m_vessels))
         m_greatest = std::max(m_greatest, vessel.now.capacity);
     if (!isSame)
         endResetModel();
-    else if (greatest != m_greatest)
+    else if (greatest != m_greatest || lit != lightsAny())
         tellAll();
     else
         for (const int row : std::as_const(moving))
@@ -126,7 +128,18 @@ void VesselModel::setLit(const QSet<int> &goods)
     if (m_lit == goods)
         return;
     m_lit = goods;
+    findFirstLit();
     tellAll();
+}
+
+void VesselModel::findFirstLit()
+{
+    const auto isLitIn = [this](const Vessel &vessel) {
+        return std::any_of(vessel.now.layers.cbegin(), vessel.now.layers.cend(),
+                           [this](const Filling::Layer &layer) { return isLit(layer.posnum); });
+    };
+    const auto found = std::find_if(m_vessels.cbegin(), m_vessels.cend(), isLitIn);
+    m_firstLit = found == m_vessels.cend() ? -1 : static_cast<int>(found - m_vessels.cbegin());
 }
 
 void VesselModel::tellAll()

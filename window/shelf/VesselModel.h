@@ -36,7 +36,10 @@ public:
     Piece fillTextAt(int row) const;
     QString amountsAt(int row) const;
     bool isLit(int goods) const { return m_lit.contains(goods); }
-    bool lightsAny() const { return !m_lit.isEmpty(); }
+    //! Whether any of those goods are in a vessel.
+    bool lightsAny() const { return m_firstLit >= 0; }
+    //! The first vessel that they are in, or -1.
+    int firstLit() const { return m_firstLit; }
     int posnumAt(int row) const { return m_vessels[row].posnum; }
     //! The greatest capacity of all.
     double greatestCapacity() const { return m_greatest; }
@@ -58,6 +61,7 @@ private:
     bool hasSameVessels(const QList<Vessel> &others) const;
     void tellChanged(int row) { Q_EMIT dataChanged(index(row), index(row)); }
     void tellAll();
+    void findFirstLit();
 
     Translator m_translator;
     std::shared_ptr<const ShownReceipt> m_shown;
@@ -66,6 +70,7 @@ private:
     double m_progress = 1.0;
     double m_greatest = 0.0;
     QSet<int> m_lit;
+    int m_firstLit = -1;
 };
 
 } // namespace till

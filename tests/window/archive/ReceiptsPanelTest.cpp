@@ -166,6 +166,37 @@ TEST_F(PastReceipts, WhatCanBeTouched_HasAName)
         EXPECT_FALSE(part<QWidget>(name).accessibleName().isEmpty()) << name;
 }
 
+TEST_F(PastReceipts, RowAfterANumberOfNone_OpensAgain)
+{
+    clickRow(2);
+    find("77");
+    EXPECT_TRUE(list().selectionModel()->selectedRows().isEmpty());
+
+    clickRow(2);
+
+    EXPECT_TRUE(page().startsWith("Receipt No. 1")) << page().toStdString();
+}
+
+TEST_F(PastReceipts, OtherLanguage_ChangesWhatIsWrongToo)
+{
+    find("77");
+
+    panel.translate(Translator("ru"));
+
+    EXPECT_FALSE(page().contains("There is no receipt")) << page().toStdString();
+    EXPECT_TRUE(page().contains("77")) << page().toStdString();
+}
+
+TEST_F(PastReceipts, DatabaseInMemory_IsNamedAsSuch)
+{
+    database = ":memory:";
+
+    QTest::mouseClick(&part<QPushButton>("receiptsRead"), Qt::LeftButton);
+
+    EXPECT_EQ(page(), "The database is in memory: there is no file in which past receipts could be "
+                      "looked up");
+}
+
 } // namespace
 
 } // namespace till

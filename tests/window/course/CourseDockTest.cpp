@@ -92,7 +92,8 @@ TEST_F(CourseInADock, NewestCommand_IsUnfolded)
 
 TEST_F(CourseInADock, WithoutFollowing_NothingIsUnfolded)
 {
-    QTest::mouseClick(&part<QCheckBox>("courseFollow"), Qt::LeftButton, {}, {8, 8});
+    auto &follow = part<QCheckBox>("courseFollow");
+    QTest::mouseClick(&follow, Qt::LeftButton, {}, {8, follow.height() / 2});
     done({"open", "add CAN3"});
     EXPECT_FALSE(tree().isExpanded(shown().index(1, 0)));
 }

@@ -231,6 +231,21 @@ TEST_F(DeedTest, WholeReceipt_ByKeysAlone)
                                        "subtotal: done", "pay 500.00: done"}));
 }
 
+TEST_F(DeedTest, Unite_SelectsWhatRemains)
+{
+    scan("CAN3");
+    scan("BEER");
+    scan("BEER");
+    select({2, 3});
+
+    click("unite");
+
+    const QList<int> selected = window->table().selectedPositions();
+    ASSERT_EQ(selected.size(), 1);
+    EXPECT_FALSE(rows().isStornoed(rows().rowOf(selected[0])));
+    EXPECT_EQ(reasonOf("quantity"), "");
+}
+
 } // namespace
 
 } // namespace till

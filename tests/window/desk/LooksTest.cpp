@@ -133,6 +133,49 @@ TEST_F(WindowLooks, Docks_OpenAndCloseByKeysAndInTheMenu)
     EXPECT_FALSE(isShown("Scripts"));
 }
 
+//! What a screen of 1024 x 600 has in logical pixels where all is half as large again.
+TEST_F(WindowLooks, ScreenSmallForItsFont_IsNotExceededByTheDocksEither)
+{
+    const QSize small(683, 380);
+    for (const Qt::Key dock : {Qt::Key_F9, Qt::Key_F10}) {
+        press(dock);
+        window->resize(small);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->size(), small) << dock;
+    }
+}
+
+TEST_F(WindowLooks, ScreenSmallForItsFont_ShowsWhatTheFocusGoesTo)
+{
+    scan("BAG");
+    window->resize(400, 300);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->size(), QSize(400, 300));
+    for (const char *const name : {"pay", "search", "shelf"}) {
+        const QWidget &widget = find(name);
+        for (int tabs = 0; tabs < 50 && !widget.hasFocus(); ++tabs)
+            press(Qt::Key_Tab);
+        EXPECT_TRUE(widget.hasFocus()) << name;
+        EXPECT_FALSE(widget.visibleRegion().isEmpty()) << name;
+    }
+}
+
+TEST_F(WindowLooks, PadOfADialog_ShowsItsKeysWhole)
+{
+    scan("BAG");
+    select({1});
+
+    click("split");
+
+    QCoreApplication::processEvents();
+    for (const char *const name : {"key7", "key+", "key⌫"}) {
+        const QWidget &key = find(name);
+        EXPECT_EQ(key.visibleRegion().boundingRect(), key.rect()) << name;
+        EXPECT_TRUE(top().rect().contains(QRect(key.mapTo(&top(), QPoint()), key.size()))) << name;
+    }
+    press(Qt::Key_Escape);
+}
+
 } // namespace
 
 } // namespace till

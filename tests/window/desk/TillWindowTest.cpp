@@ -1,5 +1,7 @@
 #include "tests/window/support/WindowTest.h"
+#include "window/scripts/ScriptPanel.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QTimer>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -23,6 +25,24 @@ protected:
     }
     QString page() const { return find("faultPage").isVisible() ? "fault" : "register"; }
     QString textOf(const QString &name) const { return window->findChild<QLabel *>(name)->text(); }
+};
+
+class ScriptInTheWindow : public WindowTest
+{
+protected:
+    //! Opens a script with that text in the dock.
+    void openScript(const QByteArray &text)
+    {
+        const QString path = directory.filePath("lines.till");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        press(Qt::Key_F10);
+        auto &panel = static_cast<ScriptPanel &>(*find("scriptOpen").parentWidget());
+        panel.chooseScript = [path](QWidget *, const QString &) { return path; };
+        click("scriptOpen");
+    }
 };
 
 TEST_F(TillWindowTest, QuestionOfThePlugin_HasItsTextsAndChoices)
@@ -256,6 +276,38 @@ TEST_F(TillWindowTest, Work_IsShownBeforeItBegins)
     whileAsked = [this](QWidget &) { EXPECT_EQ(textOf("work"), ""); }; // the cashier is waited for
     click("cancelReceipt");
     EXPECT_EQ(textOf("work"), "");
+}
+
+TEST_F(ScriptInTheWindow, Line_IsWorkToo)
+{
+    openScript("open\nadd PET1\n");
+    QStringList shown;
+    const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
+        if (note.value("kind") == QLatin1String("action"))
+            shown.append(find<QLabel>("work").text());
+    });
+
+    click("scriptStep");
+    click("scriptStep");
+
+    EXPECT_EQ(shown.value(0), "at work, please wait");
+    EXPECT_EQ(find<QLabel>("work").text(), "");
+}
+
+TEST_F(ScriptInTheWindow, WhileItRuns_CommandsShowWhatCanBeDone)
+{
+    openScript("open\n" + QByteArray("add BAG\n").repeated(20));
+    bool couldPay = false;
+    const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
+        if (note.value("kind") == QLatin1String("outcome"))
+            couldPay = find("pay").isEnabled();
+    });
+
+    click("scriptRun");
+
+    EXPECT_TRUE(QTest::qWaitFor([this] { return find("scriptOpen").isEnabled(); }));
+    EXPECT_EQ(receipt()->lines().size(), 20);
+    EXPECT_TRUE(couldPay);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "tests/window/support/WindowTest.h"
 
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 
 namespace till {
 
@@ -110,6 +111,52 @@ TEST_F(ReceiptTableTest, AllColumns_FitTheTable)
     scan("999999*CRATE20");
 
     EXPECT_LE(table().horizontalHeader()->length(), table().viewport()->width());
+}
+
+TEST_F(ReceiptTableTest, LanguageAndBack_LeavesTheColumnsAsTheyWere)
+{
+    scan("PET1");
+    const auto widths = [this] {
+        QList<int> all;
+        for (int column = 0; column < ReceiptModel::columns; ++column)
+            all.append(table().columnWidth(column));
+        return all;
+    };
+    const QList<int> before = widths();
+
+    window->setLanguage("ru");
+    EXPECT_NE(widths(), before);
+    window->setLanguage("en");
+
+    EXPECT_EQ(widths(), before);
+}
+
+TEST_F(ReceiptTableTest, WithLittleRoom_PriceGivesWayToTheArticle)
+{
+    scan("PET1");
+    table().setFixedWidth(600);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(table().isColumnHidden(ReceiptModel::Price));
+
+    table().setFixedWidth(260);
+    QCoreApplication::processEvents();
+
+    EXPECT_TRUE(table().isColumnHidden(ReceiptModel::Price));
+    table().setFixedWidth(600);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(table().isColumnHidden(ReceiptModel::Price));
+}
+
+TEST_F(ReceiptTableTest, LongReceiptThatIsTakenUp_OpensAtItsEnd)
+{
+    for (int count = 0; count < 30; ++count)
+        scan("BAG");
+
+    open(setup());
+    QCoreApplication::processEvents();
+
+    EXPECT_GT(table().verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(table().verticalScrollBar()->value(), table().verticalScrollBar()->maximum());
 }
 
 } // namespace

@@ -118,6 +118,49 @@ TEST_F(ShelfTest, Motion_IsSwitchedOffInTheMenu)
     EXPECT_FALSE(shelf().vessels().isMoving());
 }
 
+TEST_F(ShelfTest, SelectedGoods_BringTheirVesselIntoView)
+{
+    scan("PET1");
+    scan("BEER");
+    for (int count = 0; count < 12; ++count)
+        scan("CAN3");
+    EXPECT_FALSE(shelf().viewport()->rect().intersects(roomOf(0)));
+
+    select({2});
+
+    EXPECT_TRUE(shelf().viewport()->rect().contains(roomOf(0).center()));
+}
+
+TEST_F(ShelfTest, SelectedVessel_BringsItsGoodsIntoView)
+{
+    scan("CAN3");
+    scan("BEER");
+    for (int count = 0; count < 30; ++count)
+        scan("BAG");
+    const auto place = [this] { return window->table().visualRect(rows().index(1, 0)); };
+    EXPECT_FALSE(window->table().viewport()->rect().intersects(place()));
+
+    selectVessel(0);
+
+    EXPECT_TRUE(window->table().viewport()->rect().contains(place().center()));
+}
+
+TEST_F(ShelfTest, GoodsThatLieNowhere_DimNothing)
+{
+    scan("CAN3");
+    scan("BEER");
+    scan("DARK");
+    answer({true});
+    select({3});
+    click("storno");
+    select({2});
+    EXPECT_TRUE(shelf().vessels().lightsAny());
+
+    select({3});
+
+    EXPECT_FALSE(shelf().vessels().lightsAny());
+}
+
 } // namespace
 
 } // namespace till
