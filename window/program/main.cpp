@@ -93,7 +93,9 @@ int main(int argc, char *argv[])
     parser.addOption(languageOption());
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.process(application);
+    if (!parser.parse(QCoreApplication::arguments()))
+        return fail(UsageError, parser.errorText() + QStringLiteral(" Try --help."));
+    parser.process(application); // help and version
     const auto setup = readSetup(parser);
     if (!setup)
         return fail(UsageError, setup.error().text());

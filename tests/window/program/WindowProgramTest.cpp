@@ -28,6 +28,11 @@ TEST_F(WindowProgram, PluginInTwoWords_IsTheProgramsOption)
                 HasSubstr("--no-plugin: --plugin names one"));
 }
 
+TEST_F(WindowProgram, UnknownOption_IsNamed)
+{
+    EXPECT_THAT(refusalOf({"--datbase", "x"}), HasSubstr("Unknown option 'datbase'. Try --help."));
+}
+
 TEST_F(WindowProgram, OptionsOfTheToolkit_AreTheToolkits)
 {
     EXPECT_THAT(refusalOf({"-style", "fusion", "--platform", "offscreen"}),
