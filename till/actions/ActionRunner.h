@@ -51,6 +51,9 @@ public:
     //! Whether a trigger stopped the last action of the cashier's before it was carried out.
     bool wasStoppedByPlugin() const { return m_wasStoppedByPlugin; }
 
+    //! Why the last action that ended with an error did.
+    const Message &reason() const { return m_reason; }
+
     //! Runs the triggers after \a action alone, for an action that was carried out before the
     //! receipt was taken up.
     void runTriggersAfter(const control::Action &action)
@@ -85,7 +88,7 @@ private:
     QSharedPointer<Receipt> m_receipt;
     FindArticle m_findArticle;
     bool m_wasStoppedByPlugin = false;
-    Message m_reason; //!< why the last action that ended with an error did
+    Message m_reason;
 };
 
 } // namespace till

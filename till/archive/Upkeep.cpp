@@ -83,7 +83,7 @@ Result<CheckReport> checkDatabase(const QString &path)
         return database->fault();
     CheckReport report;
     database->execute(QStringLiteral("BEGIN")); // all is read as of one moment
-    const bool isWhole = database->checkFile(Database::Check::Whole) && isComplete(*database);
+    const bool isWhole = database->checkFile() && isComplete(*database);
     report.fileFault = takeReason(*database);
     checkReceipts(*database, report);
     if (isWhole) // else what follows from the damage

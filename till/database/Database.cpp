@@ -86,7 +86,7 @@ bool Database::checkLeftOpen()
     const auto reader = open(m_path, Access::Reading);
     if (!reader)
         m_fault = reader.error();
-    else if (!(*reader)->checkFile(Check::Quick))
+    else if (!(*reader)->checkFile())
         m_fault = (*reader)->fault();
     return !hasFailed();
 }
@@ -137,11 +137,9 @@ bool Database::waitForOthers(bool waits)
     return execute(QStringLiteral("PRAGMA busy_timeout = %1").arg(waits ? Patience : 0));
 }
 
-bool Database::checkFile(Check check)
+bool Database::checkFile()
 {
-    const QVariant result =
-        valueOf(check == Check::Quick ? QStringLiteral("PRAGMA quick_check(1)")
-                                      : QStringLiteral("PRAGMA integrity_check(1)"));
+    const QVariant result = valueOf(QStringLiteral("PRAGMA integrity_check(1)"));
     if (!result.isValid())
         return false;
     if (result.toString() != QLatin1String("ok"))
@@ -182,7 +180,8 @@ bool Database::copyTo(const QString &path)
     if (!makePrivateFile(part))
         return failed(qt_error_string(errno));
     QSqlQuery copying(m_database);
-    copying.prepare(QStringLiteral("VACUUM INTO ?"));
+    copying.prepare(
+        QStringLiteral("VACUUM INTO ?")); // one transaction; Qt has no backup of SQLite's
     copying.addBindValue(QFileInfo(part).absoluteFilePath());
     const bool isWhole = copying.exec();
     if (isWhole && bringToMedium(part) && QFile::rename(part, path) && bringToMedium(path))

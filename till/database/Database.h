@@ -76,13 +76,8 @@ public:
     //! on it.
     void foldLog();
 
-    //! How far a check of the file goes.
-    enum class Check {
-        Quick, //!< all but whether indices agree with their tables
-        Whole,
-    };
-    //! SQLite's own check of the file. False, with the fault noted, when it finds one.
-    bool checkFile(Check check);
+    //! SQLite's own check of the whole file. False, with the fault noted, when it finds one.
+    bool checkFile();
 
     /*!
      * Writes a whole copy, as of now, to \a path, where there must be nothing. When it returns

@@ -106,7 +106,7 @@ Outcome Register::refuseShort(Kopecks missing)
 {
     Outcome outcome = refuse(messages::tillNotEnoughMoney());
     if (outcome.kind != Outcome::Failed)
-        outcome.change = -missing;
+        outcome.missing = missing;
     return outcome;
 }
 

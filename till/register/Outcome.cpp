@@ -28,8 +28,8 @@ Outcome Outcome::busy()
 QString Outcome::text(const Translator &translator) const
 {
     QStringList parts{translator.text(reason), detail};
-    if (change && *change < 0)
-        parts.append(translator.text(told("till", "%1 missing").with({toText(-*change)})));
+    if (missing)
+        parts.append(translator.text(told("till", "%1 missing").with({toText(*missing)})));
     parts.removeAll(QString());
     return parts.join(": ");
 }

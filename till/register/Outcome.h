@@ -28,9 +28,8 @@ struct Outcome
     Kind kind = Done;
     Message reason; //!< what to tell the cashier; of a plugin what it told, which may be nothing
     QString detail; //!< what is wrong with a file; in English
-    //! To give back, when money was named to pay with; below 0 when it was not enough: what is
-    //! missing.
-    std::optional<Kopecks> change = {};
+    std::optional<Kopecks> change = {};  //!< to give back, when money was named to pay with
+    std::optional<Kopecks> missing = {}; //!< when that was not enough
 
     static Outcome done(const QString &detail = {}) { return {Done, {}, detail}; }
     static Outcome refused(const tr::Tr &reason) { return {RefusedByRegister, {reason, {}}, {}}; }

@@ -174,9 +174,9 @@ Outcome Register::outcomeOf(EContext::Result result) const
         return Outcome::done();
     if (result == EContext::Cancel)
         return {Outcome::Declined, {}, {}};
-    return {m_runner.wasStoppedByPlugin() ? Outcome::RefusedByPlugin : Outcome::RefusedByRegister,
-            {m_shown, {}},
-            {}};
+    if (m_runner.wasStoppedByPlugin())
+        return {Outcome::RefusedByPlugin, {m_shown, {}}, {}};
+    return {Outcome::RefusedByRegister, m_runner.reason(), {}};
 }
 
 Result<> Register::store()

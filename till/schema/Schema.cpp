@@ -118,8 +118,7 @@ bool makeSchema(Database &database)
 
 bool upgrade(Database &database, QString *copy)
 {
-    return database.checkFile(Database::Check::Whole)
-           && upgradeFromSchema1(database, makeTables, copy);
+    return database.checkFile() && upgradeFromSchema1(database, makeTables, copy);
 }
 
 bool isWritable(Database &database)

@@ -185,7 +185,7 @@ QString CommandLine::textOf(const Outcome &outcome) const
 
 bool CommandLine::hasShown(const Outcome &outcome) const
 {
-    return outcome.isRefusal() && !outcome.change
+    return outcome.isRefusal() && !outcome.missing
            && m_heard.messages.contains(outcome.reason.pattern);
 }
 

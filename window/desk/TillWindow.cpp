@@ -192,7 +192,7 @@ void TillWindow::tellOutcome(const Outcome &outcome)
     }
     if (outcome && outcome.change)
         tellChange(*outcome.change);
-    else if (!outcome && (!m_hasShownMessage || outcome.change)) // which stands there already
+    else if (!outcome && (!m_hasShownMessage || outcome.missing)) // which stands there already
         tellRefusal(outcome);
 }
 

@@ -1,3 +1,4 @@
+#include "host/EActionType.h"
 #include "tests/till/console/ProgramFixture.h"
 
 // docs/till.md says what the program can do, word for word as the program itself does.
@@ -102,7 +103,7 @@ TEST_F(Page, TakeUpInTheTrace_IsSo)
             EXPECT_EQ(note.value("state").toInt(), 0);
         }
         if (kind == "trigger") {
-            EXPECT_EQ(note.value("type").toInt(), 129);
+            EXPECT_EQ(note.value("type").toInt(), control::AddSoftCheck);
         }
     }
     EXPECT_TRUE(kinds.contains("receipt"));

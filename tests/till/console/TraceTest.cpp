@@ -1,3 +1,4 @@
+#include "host/EActionType.h"
 #include "tests/till/console/ProgramFixture.h"
 #include "tests/till/support/StoredReceipts.h"
 #include "till/course/RebuiltReceipt.h"
@@ -129,6 +130,15 @@ INSTANTIATE_TEST_SUITE_P(Scripts, SampleTrace, testing::ValuesIn(sampleScripts()
                              return script.param.name().replace('-', '_').toStdString();
                          });
 
+//! The last note of \a kind.
+QJsonObject lastOf(const QList<QJsonObject> &notes, const QString &kind)
+{
+    QJsonObject last;
+    for (const QJsonObject &note : notes)
+        last = note.value("kind") == kind ? note : last;
+    return last;
+}
+
 TEST_F(Trace, OfAnInterruptedReceipt_BeginsWithAllOfIt)
 {
     ASSERT_EQ(run({"--db", database()}, "open\nadd CAN3\nadd BEER 3\nsplit 2 1\nadd PET1\n"
@@ -156,20 +166,10 @@ TEST_F(Trace, Order_IsThatOfWhatHappened)
             "4 position, 4 event, 3 result, 1 result, 1 receipt, 0 outcome, 0 verdict, 0 takeup"));
 }
 
-//! The last note of \a kind.
-QJsonObject lastOf(const QList<QJsonObject> &notes, const QString &kind)
-{
-    QJsonObject last;
-    for (const QJsonObject &note : notes)
-        last = note.value("kind") == kind ? note : last;
-    return last;
-}
-
 TEST_F(Trace, Start_SaysWhatIsOnAndWhen)
 {
     const QJsonObject start =
-        traced(write("s.till", "set PackagingControl:allowSaleEmptyTara no")).value(3);
-    EXPECT_EQ(start.value("kind"), "start");
+        lastOf(traced(write("s.till", "set PackagingControl:allowSaleEmptyTara no")), "start");
     EXPECT_EQ(start.value("qt"), qVersion());
     EXPECT_FALSE(start.value("version").toString().isEmpty());
     EXPECT_EQ(start.value("database"), database());
@@ -198,7 +198,7 @@ TEST_F(Trace, ChangeOfAQuantity_SaysWhichOne)
     const auto notes = traced(write("s.till", "open\nadd CAN3\nadd BEER3\nqty 1 2\n"));
     QStringList quantities;
     for (const QJsonObject &note : notes) {
-        if (note.value("kind") == "action" && note.value("type") == 5)
+        if (note.value("kind") == "action" && note.value("type") == control::ApplyModifiers)
             quantities.append(QString("%1 %2 %3")
                                   .arg(note.value("origin").toString())
                                   .arg(note.value("count").toDouble())

@@ -1,3 +1,4 @@
+#include "host/EActionType.h"
 #include "tests/till/lookup/LookupFixture.h"
 
 // The course of a receipt, looked up.
@@ -39,7 +40,7 @@ TEST_F(JournalLookup, Journal_TellsTheCourse)
               "softcheck 5\n"
               "subtotal\n"
               "close 500.00\n");
-    EXPECT_EQ(objects({"journal", "1"})[0].value("type").toInt(), 10000);
+    EXPECT_EQ(objects({"journal", "1"})[0].value("type").toInt(), control::OpenReceipt);
 }
 
 TEST_F(JournalLookup, RefusalsOfTheRegister_AreInTheJournal)

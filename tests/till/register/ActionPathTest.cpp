@@ -49,7 +49,8 @@ TEST_F(ActionPath, RemovalThroughTheQueue_IsReportedAs21)
     heard.clear();
     done({"qty 1 0"});
     EXPECT_EQ(events(), QVariantList({26, 21}));
-    EXPECT_EQ(noted("action", "type"), QVariantList({5, 202}));
+    EXPECT_EQ(noted("action", "type"),
+              (QVariantList{control::ApplyModifiers, control::RemovePosition}));
 }
 
 TEST_F(ActionPath, Refusal_PublishesTheErrorAndNothingElse)

@@ -148,13 +148,15 @@ TEST_F(Commands, PayAtOnce_ClosesTheReceipt)
 {
     done({"open", "add CHIPS", "pay"});
     expect({"state closed"});
-    EXPECT_EQ(noted("action", "type"), QVariantList({10000, 10001, 144, 10002}));
+    EXPECT_EQ(noted("action", "type"), (QVariantList{control::OpenReceipt, control::AddPosition,
+                                                     control::Payment, control::CloseReceipt}));
 }
 
 TEST_F(Commands, PayFromSubtotal_PassesTheGateOnce)
 {
     done({"open", "add CHIPS", "subtotal", "pay"});
-    EXPECT_EQ(noted("action", "type"), QVariantList({10000, 10001, 133, 10002}));
+    EXPECT_EQ(noted("action", "type"), (QVariantList{control::OpenReceipt, control::AddPosition,
+                                                     control::Subtotal, control::CloseReceipt}));
 }
 
 TEST_F(Commands, PayWithMore_TellsTheChange)
