@@ -76,9 +76,10 @@ QString ReceiptRows::row(const KeptReceipt &receipt) const
     const QString number = QString::number(receipt.record.id);
     const TextPage page(m_style);
     if (!receipt.fault.isEmpty())
-        return page.painted(line(number, {}, {}, wordsOf(receipt)), Paint::Red) + QLatin1Char('\n');
+        return page.painted(line(number, {}, {}, wordsOf(receipt, m_translator)), Paint::Red)
+               + QLatin1Char('\n');
     return line(number, receipt.opened.toString(QStringLiteral("yyyy-MM-dd hh:mm")),
-                toText(receipt.total), wordsOf(receipt))
+                toText(receipt.total), wordsOf(receipt, m_translator))
            + QLatin1Char('\n');
 }
 
@@ -87,27 +88,22 @@ QString ReceiptRows::none() const
     return m_translator.text(told("till", "no receipts")) + QLatin1Char('\n');
 }
 
-QString ReceiptRows::wordsOf(const KeptReceipt &receipt) const
-{
-    QStringList words;
-    if (!receipt.setApart.isEmpty())
-        words.append(m_translator.text(told("till", "set apart: %1").with({receipt.setApart})));
-    else if (!receipt.fault.isEmpty())
-        words.append(m_translator.text(told("till", "damaged: %1").with({receipt.fault})));
-    if (receipt.fault.isEmpty())
-        words += whatItIs(receipt);
-    return printable(words.join(QStringLiteral(" · ")));
-}
-
-QStringList ReceiptRows::whatItIs(const KeptReceipt &receipt) const
+QString wordsOf(const KeptReceipt &receipt, const Translator &translator)
 {
     const ReceiptRecord &record = receipt.record;
-    QStringList words{
-        m_translator.text(nameOfType(record.type)), m_translator.text(nameOf(record.state)),
-        m_translator.text(told("till", "%1 pos.").with({QString::number(receipt.positions)}))};
-    if (!record.order.isEmpty())
-        words.append(m_translator.text(messages::tillOrder()).arg(record.order));
-    return words;
+    QStringList words;
+    if (!receipt.setApart.isEmpty())
+        words.append(translator.text(told("till", "set apart: %1").with({receipt.setApart})));
+    else if (!receipt.fault.isEmpty())
+        words.append(translator.text(told("till", "damaged: %1").with({receipt.fault})));
+    if (receipt.fault.isEmpty()) {
+        words +=
+            {translator.text(nameOfType(record.type)), translator.text(nameOf(record.state)),
+             translator.text(told("till", "%1 pos.").with({QString::number(receipt.positions)}))};
+        if (!record.order.isEmpty())
+            words.append(translator.text(messages::tillOrder()).arg(record.order));
+    }
+    return printable(words.join(QStringLiteral(" · ")));
 }
 
 QString csvCaptions()

@@ -25,12 +25,13 @@ public:
 private:
     QString line(const QString &number, const QString &opened, const QString &total,
                  const QString &words) const;
-    QString wordsOf(const KeptReceipt &receipt) const;
-    QStringList whatItIs(const KeptReceipt &receipt) const;
 
     Translator m_translator;
     Style m_style;
 };
+
+//! What \a receipt is, in one line; of one that does not hold what is wrong with it.
+QString wordsOf(const KeptReceipt &receipt, const Translator &translator);
 
 //! The first row of a table of receipts as CSV: names of its columns.
 QString csvCaptions();

@@ -1,8 +1,7 @@
 #include "window/archive/KeptReceiptsModel.h"
 
 #include "till/language/TillMessages.h"
-#include "till/view/DisplayText.h"
-#include "till/view/ReceiptText.h"
+#include "till/reports/ReceiptRows.h"
 
 #include <algorithm>
 
@@ -88,24 +87,11 @@ QString KeptReceiptsModel::textAt(const KeptReceipt &receipt, int column) const
     if (column == Number)
         return QString::number(receipt.record.id);
     if (column == What)
-        return printable(whatItIs(receipt));
+        return wordsOf(receipt, m_translator);
     if (!receipt.fault.isEmpty())
         return {};
     return column == Opened ? receipt.opened.toString(QStringLiteral("yyyy-MM-dd hh:mm"))
                             : toText(receipt.total);
-}
-
-QString KeptReceiptsModel::whatItIs(const KeptReceipt &receipt) const
-{
-    QStringList words;
-    if (!receipt.setApart.isEmpty())
-        words.append(m_translator.text(told("till", "set apart: %1").with({receipt.setApart})));
-    else if (!receipt.fault.isEmpty())
-        words.append(m_translator.text(told("till", "damaged: %1").with({receipt.fault})));
-    if (receipt.fault.isEmpty())
-        words += {m_translator.text(nameOfType(receipt.record.type)),
-                  m_translator.text(nameOf(receipt.record.state))};
-    return words.join(QStringLiteral(" · "));
 }
 
 QVariant KeptReceiptsModel::headerData(int section, Qt::Orientation orientation, int role) const

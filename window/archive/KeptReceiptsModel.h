@@ -38,7 +38,6 @@ public:
 
 private:
     QString textAt(const KeptReceipt &receipt, int column) const;
-    QString whatItIs(const KeptReceipt &receipt) const;
 
     Translator m_translator;
     QList<KeptReceipt> m_receipts;

@@ -35,6 +35,7 @@ TEST_F(TerminalWidth, Width_IsTheTerminalsWithinLimits)
         terminal->type("show\n");
         terminal->readTo("show\r\n");
         EXPECT_EQ(widest(terminal->readTo("ИТОГО")), size.receipt) << size.terminal;
+        terminal->readTo(Terminal::prompt); // or the rest comes behind what is typed next
     }
 }
 

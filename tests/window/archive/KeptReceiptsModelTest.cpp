@@ -40,8 +40,8 @@ TEST_F(KeptReceipts, Newest_StandsAbove)
 {
     read("till.sqlite");
     ASSERT_EQ(model.rowCount(), 2);
-    EXPECT_EQ(row(0), (QStringList{"2", "129.90", "Return · open"}));
-    EXPECT_EQ(row(1), (QStringList{"1", "259.80", "Receipt · closed"}));
+    EXPECT_EQ(row(0), (QStringList{"2", "129.90", "Return · open · 1 pos."}));
+    EXPECT_EQ(row(1), (QStringList{"1", "259.80", "Receipt · closed · 1 pos."}));
 }
 
 TEST_F(KeptReceipts, Selection_LeavesOthersOut)
@@ -59,7 +59,7 @@ TEST_F(KeptReceipts, OtherLanguage_ChangesTheRows)
 {
     read("till.sqlite");
     model.translate(Translator("ru"));
-    EXPECT_EQ(row(1), (QStringList{"1", "259.80", "Чек · закрыт"}));
+    EXPECT_EQ(row(1), (QStringList{"1", "259.80", "Чек · закрыт · 1 поз."}));
 }
 
 TEST_F(KeptReceipts, ManyReceipts_AreListedFromTheNewestOn)
