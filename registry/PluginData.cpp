@@ -1,5 +1,6 @@
 #include "plugin/PackagingControl.h"
 
+#include <QtCore/QGlobalStatic>
 #include <QtCore/QVariant>
 
 #include <algorithm>
@@ -74,25 +75,34 @@ bool isSame(const PackagingInfo &one, const PackagingInfo &other)
                          });
 }
 
-// The values of the records, in their order. Every event that changes a record stores all of them,
-// so only what changed since they were stored last is made anew. What that was is kept beside the
+// Records as they were when they were stored last, and what was made of each. It is kept beside the
 // plugin, whose members are binary contract; where a second plugin object saves, it finds the
 // records changed.
 template <typename Record>
-QVariantList valuesOf(const QList<QSharedPointer<Record>> &records)
+struct Saved
 {
-    static QList<Record> saved;
-    static QVariantList values;
-    saved.resize(records.size());
-    values.resize(records.size());
+    QList<Record> records;
+    QVariantList values;
+};
+
+Q_GLOBAL_STATIC(Saved<TaraInfo>, savedTaras)
+Q_GLOBAL_STATIC(Saved<PackagingInfo>, savedInfos)
+
+// The values of the records, in their order. Every event that changes a record stores all of them,
+// so only what changed since is made anew.
+template <typename Record>
+QVariantList valuesOf(const QList<QSharedPointer<Record>> &records, Saved<Record> &saved)
+{
+    saved.records.resize(records.size());
+    saved.values.resize(records.size());
     for (qsizetype i = 0; i < records.size(); ++i) {
         const Record &record = *records[i];
-        if (values.at(i).isValid() && isSame(saved.at(i), record))
+        if (saved.values.at(i).isValid() && isSame(saved.records.at(i), record))
             continue;
-        saved[i] = record;
-        values[i] = toVariantMap(record);
+        saved.records[i] = record;
+        saved.values[i] = toVariantMap(record);
     }
-    return values;
+    return saved.values;
 }
 
 QMap<QString, double> toQuantities(const QVariantMap &map)
@@ -123,8 +133,8 @@ void PackagingControl::savePluginData() const
 {
     if (!document)
         return;
-    const QVariantList taras = valuesOf(taraList);
-    const QVariantList infos = valuesOf(packagingList);
+    const QVariantList taras = valuesOf(taraList, *savedTaras);
+    const QVariantList infos = valuesOf(packagingList, *savedInfos);
     document->setPluginData(objectName(), QStringLiteral("taraInfo"), taras);
     document->setPluginData(objectName(), QStringLiteral("packagingInfo"), infos);
 }
