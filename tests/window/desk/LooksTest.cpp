@@ -1,5 +1,6 @@
 #include "tests/window/support/WindowTest.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
@@ -174,6 +175,27 @@ TEST_F(WindowLooks, PadOfADialog_ShowsItsKeysWhole)
         EXPECT_TRUE(top().rect().contains(QRect(key.mapTo(&top(), QPoint()), key.size()))) << name;
     }
     press(Qt::Key_Escape);
+}
+
+TEST_F(WindowLooks, DialogOfALargeFont_TakesTheScreenForItsPad)
+{
+    scan("BAG");
+    select({1});
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 2.5);
+    QApplication::setFont(large);
+
+    click("split");
+
+    QCoreApplication::processEvents();
+    const QSize screen = top().screen()->availableSize();
+    EXPECT_LE(top().width(), screen.width());
+    EXPECT_LE(top().height(), screen.height());
+    const QWidget &key = find("key⌫");
+    EXPECT_EQ(key.visibleRegion().boundingRect(), key.rect());
+    press(Qt::Key_Escape);
+    QApplication::setFont(before);
 }
 
 } // namespace
