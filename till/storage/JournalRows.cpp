@@ -80,16 +80,4 @@ bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry
     return true;
 }
 
-QList<JournalEntry> readJournal(Database &database, qint64 receiptId)
-{
-    QList<JournalEntry> entries;
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT depth, kind, json FROM journal WHERE receipt = ? ORDER BY id"),
-        {receiptId});
-    while (rows && database.next(*rows))
-        entries.append(
-            {rows->value(0).toInt(), rows->value(1).toString(), rows->value(2).toByteArray()});
-    return entries;
-}
-
 } // namespace till

@@ -27,9 +27,6 @@ struct JournalRow
 void eachOfJournal(Database &database, std::optional<qint64> receiptId,
                    const std::function<void(const JournalRow &row)> &take);
 
-//! What was done to the receipt, oldest first; with a fault noted, as far as it could be read.
-QList<JournalEntry> readJournal(Database &database, qint64 receiptId);
-
 } // namespace till
 
 #endif // TILL_STORAGE_JOURNALROWS_H

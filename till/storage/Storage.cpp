@@ -103,10 +103,4 @@ Result<QString> Storage::setApart(qint64 id)
     return m_database->fault();
 }
 
-QList<JournalEntry> Storage::journal(qint64 receiptId) const
-{
-    m_database->forgetFault();
-    return readJournal(*m_database, receiptId);
-}
-
 } // namespace till

@@ -63,7 +63,7 @@ TEST_F(StorageUpgrade, UnfinishedReceipt_IsTakenUp)
     EXPECT_EQ(record->lines[1].count, 1.5);
     EXPECT_EQ(record->pluginData["PackagingControl"].keys(),
               (QStringList{"packagingInfo", "taraInfo"}));
-    EXPECT_EQ(storage->journal(3).size(), 22);
+    EXPECT_EQ(journalOf(path(), 3).size(), 22);
 }
 
 TEST_F(StorageUpgrade, Headers_SayWhatAListNeeds)
