@@ -10,9 +10,8 @@ namespace till {
 
 class Database;
 
-//! Appends to the receipt's journal, within a transaction of the caller's. False with the fault
-//! noted.
-bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal);
+//! Appends to the receipt's journal, within a transaction of the caller's.
+Result<> writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal);
 
 //! A row of a journal as it was found.
 struct JournalRow
@@ -23,9 +22,9 @@ struct JournalRow
 };
 
 //! Gives \a take each row of the receipt's journal, or of all of them for no receipt, in the order
-//! of writing; with a fault noted, as far as they could be read.
-void eachOfJournal(Database &database, std::optional<qint64> receiptId,
-                   const std::function<void(const JournalRow &row)> &take);
+//! of writing; with a fault, as far as they could be read.
+Result<> eachOfJournal(Database &database, std::optional<qint64> receiptId,
+                       const std::function<void(const JournalRow &row)> &take);
 
 } // namespace till
 
