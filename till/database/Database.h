@@ -86,7 +86,7 @@ public:
     //! SQLite's own check of the whole file.
     Result<> checkFile();
 
-    //! Writes a whole copy, as of now, to \a path, where there must be nothing. When it returns,
+    //! Writes a whole copy, as of now, to \a path, where there must be nothing. When it is done,
     //! the copy is on the disk, for its owner alone.
     Result<> copyTo(const QString &path);
 

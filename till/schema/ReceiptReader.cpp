@@ -5,8 +5,6 @@
 #include "till/schema/Schema.h"
 #include "till/schema/SetApart.h"
 
-#include <algorithm>
-
 namespace till {
 
 namespace {
@@ -102,18 +100,30 @@ private:
 
     void checkWhole()
     {
-        const auto &lines = m_read.record.lines;
-        const auto live = std::count_if(lines.cbegin(), lines.cend(),
-                                        [](const LineRecord &line) { return !line.stornoed; });
-        if (live != m_read.positions)
+        QList<LineRecord> live = m_read.record.lines;
+        live.removeIf([](const LineRecord &line) { return line.stornoed; });
+        if (live.size() != m_read.positions)
             note(QStringLiteral("%1 positions are there, and there were %2")
-                     .arg(live)
+                     .arg(live.size())
                      .arg(m_read.positions));
         if (const Result<> checked = check(m_read.record); !checked)
             note(checked.error().reason);
         // A damaged value has no digest that could tell anything.
         if (m_read.valueFault.isEmpty() && m_rows.bytes() != m_contents)
             note(QStringLiteral("its rows are not those that were stored"));
+        if (m_read.fault.isEmpty())
+            checkTotal(live);
+    }
+
+    //! Of positions that hold. The upgrade counted those of the first format as today's till does.
+    void checkTotal(const QList<LineRecord> &live)
+    {
+        Kopecks total = 0;
+        for (const LineRecord &line : live)
+            total += line.sum();
+        if (total != m_read.total)
+            note(QStringLiteral("its positions come to %1, and its total is %2")
+                     .arg(toText(total), toText(m_read.total)));
     }
 
     void note(const QString &fault)

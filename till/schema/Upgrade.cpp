@@ -49,7 +49,7 @@ void countLine(const QVariantList &values, Contents &contents)
         return;
     ++contents.positions;
     if (check(line, line.posnum + 1)) // else its sum may be no number
-        contents.total += sumOf(line.article.price, line.count);
+        contents.total += line.sum();
 }
 
 //! The \a row, of which a table has \a count columns.

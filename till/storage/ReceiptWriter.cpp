@@ -158,7 +158,7 @@ private:
         StoredReceipt::Line &stored = m_stored.lines[place];
         count(stored, -1);
         stored.positions = line.stornoed ? 0 : 1;
-        stored.total = line.stornoed ? 0 : sumOf(line.article.price, line.count);
+        stored.total = line.stornoed ? 0 : line.sum();
         count(stored, 1);
         return writeRow(positionsTable(), rowOf(m_update.id, place, line), stored.digest);
     }
