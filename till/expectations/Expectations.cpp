@@ -103,7 +103,7 @@ Outcome Expectations::command(const QString &end, const QStringList &words) cons
     const QString found = endOf(outcome);
     if (found == end) {
         // A refusal was shown; a mistake was not.
-        return outcome.isRefusal() ? Outcome::done() : Outcome::done(m_textOf(outcome));
+        return outcome.isRefusal() ? Outcome::done() : Outcome::done(outcome.reason);
     }
     const QString why = m_textOf(outcome);
     if (outcome.isRefusal())
