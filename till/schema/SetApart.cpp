@@ -26,7 +26,7 @@ Result<QString> reasonToSetApart(Database &database, qint64 id)
         return database.fault(QStringLiteral("receipt %1: it is set apart already").arg(id));
     const auto read = readRows(database, id);
     if (!read)
-        return read.error().text();
+        return read.error().reason; // the path is told with it
     if (!*read)
         return QStringLiteral("its header is missing");
     const QString fault = (*read)->anyFault();

@@ -14,7 +14,7 @@ class Database;
 //! could be read.
 Result<> readSetApart(Database &database, QMap<qint64, QString> &reasons);
 
-//! Why the receipt may be set apart; the fault is why it may not.
+//! Why the receipt may be set apart, in words without a place; the fault is why it may not.
 Result<QString> reasonToSetApart(Database &database, qint64 id);
 
 } // namespace till
