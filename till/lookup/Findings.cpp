@@ -1,4 +1,4 @@
-#include "till/lookup/Upkeep.h"
+#include "till/lookup/Findings.h"
 
 #include "till/archive/Upkeep.h"
 #include "till/database/DatabaseFile.h"
