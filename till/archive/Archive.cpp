@@ -53,7 +53,6 @@ QString Selection::conditions() const
 
 Archive::Archive(std::unique_ptr<Database> database)
     : m_database(std::move(database))
-    , m_setApart(receiptsSetApart(*m_database))
 {
 }
 
@@ -64,73 +63,63 @@ Result<std::unique_ptr<Archive>> Archive::open(const QString &path)
     auto opened = Database::open(path, Database::Access::Reading);
     if (!opened)
         return opened.error();
-    Database &database = **opened;
-    if (!isReadable(database) || !database.execute(QStringLiteral("BEGIN")))
-        return database.fault();
     std::unique_ptr<Archive> archive(new Archive(std::move(*opened)));
-    if (database.hasFailed())
-        return database.fault();
+    Database &database = *archive->m_database;
+    const Result<> begun =
+        checkFormat(database).then([&] { return database.holdStill(); }).then([&] {
+            return readSetApart(database, archive->m_setApart);
+        });
+    if (!begun)
+        return begun.error();
     return archive;
 }
 
 Result<> Archive::list(const Selection &selection,
-                       const std::function<bool(const KeptReceipt &receipt)> &take)
+                       const std::function<Result<>(const KeptReceipt &receipt)> &take)
 {
-    m_database->forgetFault();
-    QSqlQuery *const rows = m_database->run(receiptsTable().select() + selection.sql());
-    while (rows && m_database->next(*rows)) {
-        const ReadReceipt header = headerOf(receiptsTable().row(*rows));
-        if (!take(kept(header, header.fault))) {
-            rows->finish();
-            return {};
-        }
-    }
-    if (m_database->hasFailed())
-        return m_database->fault();
-    return {};
+    return m_database->each(receiptsTable().select() + selection.sql(), {},
+                            [&](const QSqlQuery &row) {
+                                const ReadReceipt header = headerOf(receiptsTable().row(row));
+                                return take(kept(header, header.fault));
+                            });
 }
 
 Result<qint64> Archive::count(const Selection &selection)
 {
-    m_database->forgetFault();
-    const QVariant count = m_database->valueOf(QStringLiteral("SELECT count(*) FROM receipts")
-                                               + selection.conditions());
-    if (!count.isValid())
-        return m_database->fault();
-    return count.toLongLong();
+    return m_database
+        ->valueOf(QStringLiteral("SELECT count(*) FROM receipts") + selection.conditions())
+        .then([](const QVariant &count) { return Result<qint64>(count.toLongLong()); });
 }
 
 Result<std::optional<KeptReceipt>> Archive::receipt(qint64 id, const QString &plugin)
 {
-    m_database->forgetFault();
-    std::optional<ReadReceipt> read = readRows(*m_database, id);
-    if (m_database->hasFailed())
-        return m_database->fault();
-    if (!read)
+    const auto found = readRows(*m_database, id);
+    if (!found)
+        return found.error();
+    if (!*found)
         return std::optional<KeptReceipt>();
-    read->values.removeIf([&](const ReadReceipt::Value &value) { return value.plugin != plugin; });
-    const QString fault = read->anyFault();
-    if (!fault.isEmpty())
-        return std::optional(kept(*read, fault));
-    const auto record = withValues(*m_database, *read);
+    ReadReceipt read = **found;
+    read.values.removeIf([&](const ReadReceipt::Value &value) { return value.plugin != plugin; });
+    if (const QString fault = read.anyFault(); !fault.isEmpty())
+        return std::optional(kept(read, fault));
+    const Result<ReceiptRecord> record = withValues(*m_database, read);
     if (!record)
-        return std::optional(kept(*read, m_database->takeFault()->reason));
-    read->record = *record;
-    return std::optional(kept(*read, {}));
+        return std::optional(kept(read, record.error().reason));
+    read.record = *record;
+    return std::optional(kept(read, {}));
 }
 
 Result<KeptJournal> Archive::journal(qint64 id)
 {
-    m_database->forgetFault();
     KeptJournal journal;
-    eachOfJournal(*m_database, id, [&journal](const JournalRow &row) {
+    const Result<> read = eachOfJournal(*m_database, id, [&journal](const JournalRow &row) {
         if (row.fault.isEmpty())
             journal.entries.append(row.entry);
         else
             journal.faults.append(row.fault);
     });
-    if (m_database->hasFailed())
-        return m_database->fault();
+    if (!read)
+        return read.error();
     return journal;
 }
 

@@ -69,9 +69,10 @@ public:
     Q_DISABLE_COPY_MOVE(Archive)
 
     //! Gives \a take the selected receipts one by one, as their headers have them, without
-    //! soft-checks, lines and plugin data; until it returns false. It may look up others meanwhile.
+    //! soft-checks, lines and plugin data; until it returns a fault, which is that of the list
+    //! then. It may look up others meanwhile.
     Result<> list(const Selection &selection,
-                  const std::function<bool(const KeptReceipt &receipt)> &take);
+                  const std::function<Result<>(const KeptReceipt &receipt)> &take);
 
     //! How many `list` would give.
     Result<qint64> count(const Selection &selection);

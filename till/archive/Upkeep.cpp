@@ -7,49 +7,39 @@
 #include "till/storage/JournalRows.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace till {
 
 namespace {
 
-//! The reason of the fault that was noted, which is forgotten; empty when there is none.
-QString takeReason(Database &database)
+//! Finds the number of each receipt of which anything is there; with a fault, as far as they could
+//! be read.
+Result<> findNumbers(Database &database, QList<qint64> &ids)
 {
-    return database.takeFault().value_or(Fault()).reason;
-}
-
-QList<qint64> numbers(Database &database)
-{
-    QList<qint64> ids;
-    QSqlQuery *const rows = database.run(QStringLiteral(
-        "SELECT id FROM receipts UNION SELECT receipt FROM positions UNION SELECT receipt FROM "
-        "softChecks UNION SELECT receipt FROM pluginData UNION SELECT receipt FROM journal UNION "
-        "SELECT receipt FROM setApart UNION SELECT seq FROM sqlite_sequence ORDER BY 1"));
-    while (rows && database.next(*rows))
-        ids.append(rows->value(0).toLongLong());
-    return ids;
+    return database.each(
+        QStringLiteral(
+            "SELECT id FROM receipts UNION SELECT receipt FROM positions UNION SELECT receipt FROM "
+            "softChecks UNION SELECT receipt FROM pluginData UNION SELECT receipt FROM journal "
+            "UNION SELECT receipt FROM setApart UNION SELECT seq FROM sqlite_sequence ORDER BY 1"),
+        {}, [&ids](const QSqlQuery &row) { ids.append(row.value(0).toLongLong()); });
 }
 
 //! What is wrong with the receipt; empty when it holds.
 QString faultOf(Database &database, qint64 id)
 {
     const auto read = readRows(database, id);
-    if (read)
-        return read->anyFault();
-    const QString reason = takeReason(database);
-    return reason.isEmpty() ? QStringLiteral("its header is missing") : reason;
+    if (!read)
+        return read.error().reason;
+    return *read ? (*read)->anyFault() : QStringLiteral("its header is missing");
 }
 
-void checkReceipts(Database &database, CheckReport &report)
+//! Looks at every receipt and journal as far as they can be read.
+Result<> checkReceipts(Database &database, CheckReport &report)
 {
-    const QMap<qint64, QString> apart = receiptsSetApart(database);
-    const QList<qint64> all = numbers(database);
-    if (database.hasFailed()) {
-        report.hasAll = false;
-        report.fileFault = report.fileFault.isEmpty() ? takeReason(database) : report.fileFault;
-        database.forgetFault();
-    }
+    QMap<qint64, QString> apart;
+    QList<qint64> all;
+    const Result<> foundApart = readSetApart(database, apart);
+    const Result<> foundAll = findNumbers(database, all);
     for (const qint64 id : all) {
         if (const auto reason = apart.constFind(id); reason != apart.cend())
             report.odd.append({id, true, *reason});
@@ -58,10 +48,12 @@ void checkReceipts(Database &database, CheckReport &report)
         else
             ++report.whole;
     }
-    eachOfJournal(database, {}, [&](const JournalRow &row) {
+    const Result<> readJournals = eachOfJournal(database, {}, [&](const JournalRow &row) {
         if (!row.fault.isEmpty() && !apart.contains(row.receipt))
             report.journalFaults.append({row.receipt, row.fault});
     });
+    report.hasAll = foundApart && foundAll;
+    return !foundAll ? foundAll : !foundApart ? foundApart : readJournals;
 }
 
 } // namespace
@@ -79,16 +71,14 @@ Result<CheckReport> checkDatabase(const QString &path)
     if (!opened)
         return opened.error();
     const auto &database = *opened;
-    if (!isReadable(*database))
-        return database->fault();
+    const Result<> begun = checkFormat(*database).then([&] { return database->holdStill(); });
+    if (!begun)
+        return begun.error();
     CheckReport report;
-    database->execute(QStringLiteral("BEGIN")); // all is read as of one moment
-    const bool isWhole = database->checkFile() && isComplete(*database);
-    report.fileFault = takeReason(*database);
-    checkReceipts(*database, report);
-    if (isWhole) // else what follows from the damage
-        report.fileFault = takeReason(*database);
-    database->rollBack();
+    const Result<> whole = database->checkFile().then([&] { return checkTables(*database); });
+    const Result<> read = checkReceipts(*database, report);
+    if (const Result<> &first = whole ? read : whole; !first) // the rest follows from the damage
+        report.fileFault = first.error().reason;
     return report;
 }
 
@@ -97,9 +87,7 @@ Result<> backUp(const QString &path, const QString &target)
     const auto database = Database::open(path, Database::Access::Reading);
     if (!database)
         return database.error();
-    if (!isOurs(**database) || !(*database)->copyTo(target))
-        return (*database)->fault();
-    return {};
+    return checkOurs(**database).then([&] { return (*database)->copyTo(target); });
 }
 
 } // namespace till

@@ -1,7 +1,7 @@
 #include "till/console/Play.h"
 
 #include "till/console/Teller.h"
-#include "till/lookup/Upkeep.h"
+#include "till/lookup/Findings.h"
 #include "till/runner/PlayApart.h"
 #include "till/storage/Storage.h"
 #include "till/terminal/Output.h"

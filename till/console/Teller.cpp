@@ -72,7 +72,7 @@ Result<> Teller::update(const Verdict &verdict) const
 {
     if (verdict.changes.isEmpty())
         return {};
-    if (!Output::fault().isEmpty())
+    if (!Output::written())
         return Fault{verdict.script, "is left as it was, as the difference cannot be shown"};
     return rewrite(verdict.script, verdict.digest, verdict.changes);
 }
@@ -136,10 +136,7 @@ Result<> Teller::writeJunit()
 {
     if (m_options.junit.isEmpty())
         return {};
-    const QByteArray xml = junit(m_verdicts, m_options.words);
-    if (!writeAll(m_junit, xml))
-        return Fault{m_options.junit, m_junit.errorString()};
-    return {};
+    return writeAll(m_junit, junit(m_verdicts, m_options.words));
 }
 
 } // namespace till

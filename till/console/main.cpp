@@ -4,10 +4,10 @@
 #include "till/console/TraceFile.h"
 #include "till/course/Trace.h"
 #include "till/database/DatabaseFile.h"
+#include "till/lookup/Findings.h"
 #include "till/lookup/FromTrace.h"
 #include "till/lookup/Info.h"
 #include "till/lookup/Lookup.h"
-#include "till/lookup/Upkeep.h"
 #include "till/options/ExitStatus.h"
 #include "till/options/Options.h"
 #include "till/recorder/Recording.h"
@@ -96,9 +96,8 @@ int openRecorded(const Options &options, Notes &notes, const Translator &transla
     if (!recording)
         return fail(StartFailed, recording.error().text());
     const int status = openRegister(options, notes, translator);
-    (*recording)->finish();
-    if (const QString error = (*recording)->error(); !error.isEmpty())
-        return fail(StartFailed, error);
+    if (const Result<> written = (*recording)->finish(); !written)
+        return fail(StartFailed, written.error().text());
     const Recorder &recorder = (*recording)->recorder();
     const QString report = translator.text(recorder.report(options.record));
     if (!recorder.unsaid().isEmpty())
@@ -191,9 +190,10 @@ int runTraced(Options &options)
         options.quiet = options.quiet || options.isSilent();
     }
     const int status = run(options, notes);
-    if (!trace || trace->error().isEmpty())
+    const Result<> traced = trace ? trace->written() : Result<>();
+    if (traced)
         return status;
-    Output::error(trace->error());
+    Output::error(traced.error().text());
     return status == AllWell ? StartFailed : status;
 }
 
@@ -247,7 +247,6 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules("packaging=false");
 
     const int status = runArguments(QCoreApplication::arguments());
-    if (status == AllWell && !Output::fault().isEmpty())
-        return fail(StartFailed, Output::fault());
-    return status;
+    const Result<> written = Output::written();
+    return status == AllWell && !written ? fail(StartFailed, written.error().text()) : status;
 }

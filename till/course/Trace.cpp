@@ -48,12 +48,19 @@ void Trace::write(QJsonObject note)
 {
     note.insert("line", ++m_shared->lines);
     const QByteArray line = jsonLine(note);
-    if (writeAll(m_file, line) || m_shared->error[0] != '\0')
-        return;
-    const QString file =
-        m_file.fileName().isEmpty() ? QStringLiteral("standard output") : m_file.fileName();
-    qstrncpy(m_shared->error, (file + ": " + m_file.errorString()).toUtf8().constData(),
-             sizeof(m_shared->error));
+    const Result<> written = writeAll(m_file, line);
+    if (!written && m_shared->fault[0] == '\0')
+        qstrncpy(m_shared->fault, written.error().reason.toUtf8().constData(),
+                 sizeof(m_shared->fault));
+}
+
+Result<> Trace::written() const
+{
+    if (m_shared->fault[0] == '\0')
+        return {};
+    const QString file = m_file.fileName();
+    return Fault{file.isEmpty() ? QStringLiteral("standard output") : file,
+                 QString::fromUtf8(m_shared->fault)};
 }
 
 } // namespace till

@@ -24,15 +24,15 @@ public:
      */
     static Result<std::unique_ptr<Trace>> start(Notes &notes, const QString &path);
     ~Trace();
-    //! Why a line could not be written, with the path; empty as long as all were.
-    QString error() const { return QString::fromUtf8(m_shared->error); }
+    //! Whether all lines could be written so far; the fault is that of the first that could not.
+    Result<> written() const;
 
 private:
     //! What this process and those that are forked from it have in common.
     struct Shared
     {
         qint64 lines = 0;
-        char error[4096] = "";
+        char fault[4096] = ""; //!< the reason; empty when there is none
     };
 
     explicit Trace(Shared &shared);

@@ -17,6 +17,12 @@ namespace {
 //! How long others that are at the file for a moment are waited for, in milliseconds.
 constexpr int Patience = 5000;
 
+//! Lets SQLite wait for them, or not.
+QString waiting(bool waits)
+{
+    return QStringLiteral("PRAGMA busy_timeout = %1").arg(waits ? Patience : 0);
+}
+
 } // namespace
 
 Database::Database(const QString &path, Access access)
@@ -34,7 +40,7 @@ Database::~Database()
     // leave, when nobody else is at the database.
     if (m_access == Access::Reading && hasEmptyLog(m_path)) {
         if (connectAs(nameOfFile(m_path), QString()))
-            valueOf(QStringLiteral("PRAGMA user_version"));
+            QSqlQuery(m_database).exec(QStringLiteral("PRAGMA user_version"));
         disconnect();
     }
 }
@@ -51,69 +57,60 @@ void Database::disconnect()
 Result<std::unique_ptr<Database>> Database::open(const QString &path, Access access)
 {
     std::unique_ptr<Database> database(new Database(path, access));
-    if (!database->prepare(access) || !database->connectToFile(access))
-        return database->fault();
+    const Result<> opened = database->prepare().then([&] { return database->connectToFile(); });
+    if (!opened)
+        return opened.error();
     return database;
 }
 
-bool Database::fail(const QString &reason, const QString &remedy)
-{
-    m_fault = Fault{m_path, reason, remedy};
-    return false;
-}
-
-bool Database::failWith(const QSqlError &error)
+Fault Database::fault(const QSqlError &error) const
 {
     const Fault fault = faultOf(error);
-    return fail(fault.reason, fault.remedy);
+    return {m_path, fault.reason, fault.remedy};
 }
 
-bool Database::prepare(Access access)
+Result<> Database::prepare()
 {
-    if (access == Access::Till && m_path == inMemory())
-        return true;
-    const QString fault = access == Access::Till ? placeFault(m_path) : readingFault(m_path);
-    if (!fault.isEmpty())
-        return fail(fault);
-    if (access == Access::Till && !claim())
-        return false;
-    return access == Access::Reading || !hasLog(m_path) || checkLeftOpen();
+    if (m_access == Access::Reading)
+        return checkReadable(m_path);
+    if (m_path == inMemory())
+        return {};
+    return checkPlace(m_path).then([this] { return claim(); }).then([this] {
+        return hasLog(m_path) ? checkLeftOpen() : Result<>();
+    });
 }
 
 //! Read by somebody who cannot write, for who can write brings the log into the file at the end.
-bool Database::checkLeftOpen()
+Result<> Database::checkLeftOpen() const
 {
-    const auto reader = open(m_path, Access::Reading);
-    if (!reader)
-        m_fault = reader.error();
-    else if (!(*reader)->checkFile())
-        m_fault = (*reader)->fault();
-    return !hasFailed();
+    return open(m_path, Access::Reading).then([](const auto &reader) {
+        return reader->checkFile();
+    });
 }
 
-bool Database::claim()
+Result<> Database::claim()
 {
     makePrivateFile(m_path); // otherwise SQLite would, as the umask has it
     if (m_lock.take(m_path)) {
         // One that was made by hand, or before files were private.
         QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner);
-        return true;
+        return {};
     }
     if (errno == EWOULDBLOCK)
-        return fail(QStringLiteral("another till has this database open"),
-                    QStringLiteral("close it, or name another database with --db"));
-    return fail(QStringLiteral("the database cannot be opened for writing (%1)")
-                    .arg(qt_error_string(errno)));
+        return fault(QStringLiteral("another till has this database open"),
+                     QStringLiteral("close it, or name another database with --db"));
+    return fault(QStringLiteral("the database cannot be opened for writing (%1)")
+                     .arg(qt_error_string(errno)));
 }
 
-bool Database::connectToFile(Access access)
+Result<> Database::connectToFile()
 {
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
-        return fail(QStringLiteral("Qt's driver for SQLite is not installed"));
-    if (!(access == Access::Reading ? connectToRead() : connectAs(nameOfFile(m_path), QString())))
-        return failWith(m_database.lastError());
-    return waitForOthers(true) && execute(QStringLiteral("PRAGMA synchronous = FULL"))
-           && execute(QStringLiteral("PRAGMA foreign_keys = ON"));
+        return fault(QStringLiteral("Qt's driver for SQLite is not installed"));
+    if (!(m_access == Access::Reading ? connectToRead() : connectAs(nameOfFile(m_path), {})))
+        return fault(m_database.lastError());
+    return execute({waiting(true), QStringLiteral("PRAGMA synchronous = FULL"),
+                    QStringLiteral("PRAGMA foreign_keys = ON")});
 }
 
 bool Database::connectToRead()
@@ -132,47 +129,42 @@ bool Database::connectAs(const QString &name, const QString &options)
     return m_database.open();
 }
 
-bool Database::waitForOthers(bool waits)
+Result<> Database::checkFile()
 {
-    return execute(QStringLiteral("PRAGMA busy_timeout = %1").arg(waits ? Patience : 0));
+    return valueOf(QStringLiteral("PRAGMA integrity_check(1)"))
+        .then([this](const QVariant &found) -> Result<> {
+            QString told = found.toString();
+            if (told == QLatin1String("ok"))
+                return {};
+            return fault(QStringLiteral("the database is damaged (%1)")
+                             .arg(told.replace(QLatin1Char('\n'), QLatin1Char(' '))),
+                         wayOutOfDamage());
+        });
 }
 
-bool Database::checkFile()
+Result<> Database::keepLog()
 {
-    const QVariant result = valueOf(QStringLiteral("PRAGMA integrity_check(1)"));
-    if (!result.isValid())
-        return false;
-    if (result.toString() != QLatin1String("ok"))
-        return fail(QStringLiteral("the database is damaged (%1)")
-                        .arg(result.toString().replace(QLatin1Char('\n'), QLatin1Char(' '))),
-                    wayOutOfDamage());
-    return true;
-}
-
-bool Database::keepLog()
-{
-    const QVariant mode = valueOf(QStringLiteral("PRAGMA journal_mode = WAL"));
-    if (!mode.isValid())
-        return false;
-    if (m_path != inMemory() && mode.toString() != QLatin1String("wal"))
-        return fail(QStringLiteral("no write-ahead log can be kept here"));
-    return true;
+    return valueOf(QStringLiteral("PRAGMA journal_mode = WAL"))
+        .then([this](const QVariant &mode) -> Result<> {
+            if (m_path != inMemory() && mode.toString() != QLatin1String("wal"))
+                return fault(QStringLiteral("no write-ahead log can be kept here"));
+            return {};
+        });
 }
 
 void Database::foldLog()
 {
-    const std::optional<Fault> fault = m_fault;
-    waitForOthers(false); // a reader may take long, and a cashier does not wait for one
-    valueOf(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
-    waitForOthers(true);
-    m_fault = fault;
+    // A reader may take long, and a cashier does not wait for one.
+    for (const QString &sql :
+         {waiting(false), QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"), waiting(true)})
+        QSqlQuery(m_database).exec(sql);
 }
 
-bool Database::copyTo(const QString &path)
+Result<> Database::copyTo(const QString &path)
 {
     const QString part = path + QStringLiteral(".part"); // until it is whole
     const auto failed = [&](const QString &reason) {
-        return fail(QStringLiteral("no copy can be made at %1: %2").arg(path, reason));
+        return fault(QStringLiteral("no copy can be made at %1: %2").arg(path, reason));
     };
     if (QFileInfo::exists(path))
         return failed(QStringLiteral("there is something already"));
@@ -185,26 +177,31 @@ bool Database::copyTo(const QString &path)
     copying.addBindValue(QFileInfo(part).absoluteFilePath());
     const bool isWhole = copying.exec();
     if (isWhole && bringToMedium(part) && QFile::rename(part, path) && bringToMedium(path))
-        return true;
+        return {};
     const QString reason = isWhole ? qt_error_string(errno) : faultOf(copying.lastError()).reason;
     QFile::remove(part);
     return failed(reason);
 }
 
-bool Database::execute(const QString &sql)
+Result<> Database::execute(const QStringList &statements)
 {
     QSqlQuery query(m_database);
-    return query.exec(sql) || failWith(query.lastError());
+    for (const QString &sql : statements) {
+        if (!query.exec(sql))
+            return fault(query.lastError());
+    }
+    return {};
 }
 
-QVariant Database::valueOf(const QString &sql)
+Result<QVariant> Database::valueOf(const QString &sql)
 {
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
-    if (query.exec(sql) && query.next())
-        return query.value(0);
-    failWith(query.lastError());
-    return {};
+    const bool isRun = query.exec(sql);
+    const QVariant value = isRun && query.next() ? query.value(0) : QVariant();
+    if (query.lastError().isValid())
+        return fault(query.lastError());
+    return value;
 }
 
 bool Database::Statement::prepare(const QString &sql)
@@ -220,51 +217,51 @@ bool Database::Statement::prepare(const QString &sql)
     return query.prepare(named);
 }
 
-QSqlQuery *Database::run(const QString &sql, const QVariantList &values)
+Result<QSqlQuery *> Database::start(const QString &sql, const QVariantList &values)
 {
     const auto [entry, isNew] = m_statements.try_emplace(sql, m_database);
     auto &[query, places] = entry->second;
-    if (isNew && !entry->second.prepare(sql)) {
-        failWith(query.lastError());
-        m_statements.erase(entry);
-        return nullptr;
+    if (!isNew || entry->second.prepare(sql)) {
+        Q_ASSERT(values.size() == places.size());
+        for (qsizetype i = 0; i < values.size(); ++i)
+            query.bindValue(places.at(i), values.at(i));
+        if (query.exec())
+            return &query;
     }
-    Q_ASSERT(values.size() == places.size());
-    for (qsizetype i = 0; i < values.size(); ++i)
-        query.bindValue(places.at(i), values.at(i));
-    if (query.exec())
-        return &query;
-    failWith(query.lastError());
+    const Fault why = fault(query.lastError());
     m_statements.erase(entry); // the driver may have given it up for good
-    return nullptr;
+    return why;
 }
 
-bool Database::next(QSqlQuery &rows)
+Result<> Database::run(const QString &sql, const QVariantList &values)
 {
-    if (rows.next())
-        return true;
-    if (rows.lastError().isValid())
-        failWith(rows.lastError());
+    return start(sql, values).then([](const QSqlQuery *) { return Result<>(); });
+}
+
+Result<> Database::walk(const QString &sql, const QVariantList &values, const Take &take)
+{
+    const Result<QSqlQuery *> started = start(sql, values);
+    if (!started)
+        return started.error();
+    QSqlQuery &rows = **started;
+    Result<> taken;
+    while (taken && rows.next())
+        taken = take(rows);
+    if (taken && rows.lastError().isValid())
+        taken = fault(rows.lastError());
     rows.finish();
-    return false;
+    return taken;
 }
 
-bool Database::begin()
+Result<> Database::inTransaction(const std::function<Result<>()> &step)
 {
-    return run(QStringLiteral("BEGIN IMMEDIATE"));
-}
-
-bool Database::commit()
-{
-    return run(QStringLiteral("COMMIT"));
-}
-
-void Database::rollBack()
-{
-    // SQLite may have done so by itself, as it does on a full disk; then this fails, rightly.
-    const std::optional<Fault> fault = m_fault;
-    run(QStringLiteral("ROLLBACK"));
-    m_fault = fault;
+    const Result<> done = run(QStringLiteral("BEGIN IMMEDIATE")).then(step).then([this] {
+        return run(QStringLiteral("COMMIT"));
+    });
+    // SQLite may have undone it by itself, as it does on a full disk; then this fails, rightly.
+    if (!done)
+        QSqlQuery(m_database).exec(QStringLiteral("ROLLBACK"));
+    return done;
 }
 
 } // namespace till

@@ -10,16 +10,14 @@
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQuery>
 
+#include <functional>
 #include <map>
 #include <memory>
-#include <optional>
+#include <type_traits>
 
 namespace till {
 
-/*!
- * A connection to a database file. An operation that cannot be done leaves its fault, with the path
- * as the place, in `fault`.
- */
+//! A connection to a database file. The place of a fault is its path as it was given.
 class Database
 {
 public:
@@ -41,62 +39,72 @@ public:
     //! The path as it was given.
     QString path() const { return m_path; }
 
-    //! Whether anything went wrong since `forgetFault` or `takeFault`.
-    bool hasFailed() const { return m_fault.has_value(); }
-    //! What went wrong last; only after something did.
-    const Fault &fault() const { return *m_fault; }
-    void forgetFault() { m_fault.reset(); }
-    std::optional<Fault> takeFault() { return std::exchange(m_fault, std::nullopt); }
-    //! Notes a fault of this database and returns false.
-    bool fail(const QString &reason, const QString &remedy = {});
+    //! A fault of this database.
+    Fault fault(const QString &reason, const QString &remedy = {}) const
+    {
+        return {m_path, reason, remedy};
+    }
 
+    //! Runs \a sql with \a values in place of its question marks. The statement is prepared once
+    //! and kept.
+    Result<> run(const QString &sql, const QVariantList &values = {});
     /*!
-     * Runs \a sql with \a values in place of its question marks. The statement is prepared once and
-     * kept; the result is valid until the same text is run again. Null when it failed.
+     * The same, and gives \a take each row, up to the first for which it returns a fault; it need
+     * not return anything. It may run other statements, but not the same. What could not be read
+     * is told when all before it was taken.
      */
-    QSqlQuery *run(const QString &sql, const QVariantList &values = {});
-    //! True while \a rows, a result of `run`, has one more row; false at the end and when reading
-    //! failed, which `hasFailed` tells apart.
-    bool next(QSqlQuery &rows);
+    template <typename Take>
+    Result<> each(const QString &sql, const QVariantList &values, const Take &take)
+    {
+        return walk(sql, values, [&take](const QSqlQuery &row) -> Result<> {
+            if constexpr (std::is_void_v<std::invoke_result_t<Take, const QSqlQuery &>>) {
+                take(row);
+                return {};
+            } else {
+                return take(row);
+            }
+        });
+    }
 
-    //! Runs \a sql once; nothing of it is kept.
-    bool execute(const QString &sql);
-    //! The first value of the first row; invalid when there is none, with the fault noted.
-    QVariant valueOf(const QString &sql);
+    //! Runs these once, one after another; nothing of them is kept.
+    Result<> execute(const QStringList &statements);
+    //! The first value of the first row; invalid when there is no row.
+    Result<QVariant> valueOf(const QString &sql);
 
-    bool begin();
-    bool commit();
-    //! Undoes what was done since `begin`; the fault stays as it was.
-    void rollBack();
+    //! Does \a step, and keeps what it wrote: all of it, or nothing where there is a fault.
+    Result<> inTransaction(const std::function<Result<>()> &step);
+    //! From now on all is read as of one moment, the first look.
+    Result<> holdStill() { return execute({QStringLiteral("BEGIN")}); }
 
     //! Keeps what is committed in a log until it is folded in, so that a commit costs one wait for
     //! the disk and readers see a whole database meanwhile.
-    bool keepLog();
+    Result<> keepLog();
     //! Brings what the log holds into the file, as far as no reader is in the way; nothing depends
     //! on it.
     void foldLog();
 
-    //! SQLite's own check of the whole file. False, with the fault noted, when it finds one.
-    bool checkFile();
+    //! SQLite's own check of the whole file.
+    Result<> checkFile();
 
-    /*!
-     * Writes a whole copy, as of now, to \a path, where there must be nothing. When it returns
-     * true, the copy is on the disk, for its owner alone.
-     */
-    bool copyTo(const QString &path);
+    //! Writes a whole copy, as of now, to \a path, where there must be nothing. When it is done,
+    //! the copy is on the disk, for its owner alone.
+    Result<> copyTo(const QString &path);
 
 private:
+    using Take = std::function<Result<>(const QSqlQuery &row)>;
+
     Database(const QString &path, Access access);
 
-    bool prepare(Access access);
-    bool claim();
-    bool checkLeftOpen();
-    bool connectToFile(Access access);
+    Result<> prepare();
+    Result<> claim();
+    Result<> checkLeftOpen() const;
+    Result<> connectToFile();
     bool connectToRead();
     bool connectAs(const QString &name, const QString &options);
     void disconnect();
-    bool waitForOthers(bool waits);
-    bool failWith(const QSqlError &error);
+    Result<QSqlQuery *> start(const QString &sql, const QVariantList &values);
+    Result<> walk(const QString &sql, const QVariantList &values, const Take &take);
+    Fault fault(const QSqlError &error) const;
 
     //! A statement that is kept. Its question marks got names: a named place Qt looks up, for a
     //! numbered one it makes a name each time.
@@ -116,7 +124,6 @@ private:
     QString m_path;
     Access m_access;
     QString m_connection;
-    std::optional<Fault> m_fault;
     DatabaseLock m_lock;
     QSqlDatabase m_database;
     std::map<QString, Statement> m_statements;

@@ -26,12 +26,13 @@ QString realPath(const QString &path)
     return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
 }
 
-QString kindFault(const QFileInfo &file)
+Result<> checkKind(const QString &path)
 {
+    const QFileInfo file(path);
     if (file.isDir())
-        return QStringLiteral("this is a directory, not a database file");
+        return Fault{path, QStringLiteral("this is a directory, not a database file")};
     if (file.exists() && !file.isFile())
-        return QStringLiteral("this is not a regular file");
+        return Fault{path, QStringLiteral("this is not a regular file")};
     return {};
 }
 
@@ -43,18 +44,20 @@ bool hasOtherNames(const QFileInfo &file)
 }
 
 //! The log of a till that opened it by that name would not be found.
-QString otherName()
+Fault otherName(const QString &path)
 {
-    return QStringLiteral("this file has another name too (a hard link), by which another till "
-                          "could open it at the same time");
+    return {path, QStringLiteral("this file has another name too (a hard link), by which another "
+                                 "till could open it at the same time")};
 }
 
-QString folderFault(const QFileInfo &folder)
+Result<> checkFolder(const QString &path)
 {
+    const QFileInfo folder(QFileInfo(path).absolutePath());
     if (!folder.isDir())
-        return QStringLiteral("there is no directory %1").arg(folder.filePath());
+        return Fault{path, QStringLiteral("there is no directory %1").arg(folder.filePath())};
     if (!folder.isWritable())
-        return QStringLiteral("the directory %1 may not be written").arg(folder.filePath());
+        return Fault{path,
+                     QStringLiteral("the directory %1 may not be written").arg(folder.filePath())};
     return {};
 }
 
@@ -87,39 +90,40 @@ QString inMemory()
 }
 
 // The file itself is not opened here: to close it would end the locks that this process has on it.
-QString placeFault(const QString &path)
+Result<> checkPlace(const QString &path)
 {
     if (path.isEmpty())
-        return QStringLiteral("no name of a database file was given");
+        return Fault{path, QStringLiteral("no name of a database file was given")};
+    if (const Result<> checked = checkKind(path); !checked)
+        return checked;
     const QFileInfo file(path);
-    if (const QString fault = kindFault(file); !fault.isEmpty())
-        return fault;
     if (file.exists() && !file.isWritable())
-        return QStringLiteral("this file may not be written");
+        return Fault{path, QStringLiteral("this file may not be written")};
     if (hasOtherNames(file))
-        return otherName();
-    if (const QString fault = folderFault(QFileInfo(file.absolutePath())); !fault.isEmpty())
-        return fault;
+        return otherName(path);
+    if (const Result<> checked = checkFolder(path); !checked)
+        return checked;
     // SQLite would take such a file for a new database and delete the log, with the receipts. (A
     // file of one byte is an empty one to it.)
     if (file.size() <= 1 && hasLog(path))
-        return QStringLiteral("the database is damaged (empty, but its log %1-wal is not)")
-            .arg(realPath(path));
+        return Fault{path,
+                     QStringLiteral("the database is damaged (empty, but its log %1-wal is not)")
+                         .arg(realPath(path))};
     return {};
 }
 
-QString readingFault(const QString &path)
+Result<> checkReadable(const QString &path)
 {
     const QFileInfo file(path);
     if (!file.exists())
-        return QStringLiteral("there is no such file");
+        return Fault{path, QStringLiteral("there is no such file")};
     if (file.isFile() && hasOtherNames(file))
-        return otherName();
+        return otherName(path);
     if (hasLog(path) && !isFolderWritable(path)) // an index of the log is made beside it
-        return QStringLiteral("it is not read with its log %1-wal where nothing may be written: "
-                              "copy both to another directory")
-            .arg(realPath(path));
-    return kindFault(file);
+        return Fault{path, QStringLiteral("it is not read with its log %1-wal where nothing may be "
+                                          "written: copy both to another directory")
+                               .arg(realPath(path))};
+    return checkKind(path);
 }
 
 bool hasLog(const QString &path)

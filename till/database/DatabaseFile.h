@@ -1,6 +1,8 @@
 #ifndef TILL_DATABASE_DATABASEFILE_H
 #define TILL_DATABASE_DATABASEFILE_H
 
+#include "till/result/Result.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
@@ -9,10 +11,12 @@ namespace till {
 //! The name of a database that is in no file.
 QString inMemory();
 
-//! Why no database can be opened or made at \a path; empty when nothing is known against it.
-QString placeFault(const QString &path);
-//! Why no database can be read at \a path; empty when nothing is known against it.
-QString readingFault(const QString &path);
+// Both find nothing wrong where nothing is known against it; the place of a fault is the path.
+
+//! Whether a database can be opened or made at \a path.
+Result<> checkPlace(const QString &path);
+//! Whether a database can be read at \a path.
+Result<> checkReadable(const QString &path);
 
 //! Whether the log beside the file holds what the file itself may lack, as after a kill.
 bool hasLog(const QString &path);

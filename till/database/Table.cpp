@@ -75,7 +75,8 @@ QByteArray Table::digest(const QVariantList &values) const
     return hash.result();
 }
 
-bool Table::write(Database &database, const QVariantList &values, const QByteArray &digest) const
+Result<> Table::write(Database &database, const QVariantList &values,
+                      const QByteArray &digest) const
 {
     return database.run(m_write, values + QVariantList{digest});
 }

@@ -1,6 +1,8 @@
 #ifndef TILL_DATABASE_TABLE_H
 #define TILL_DATABASE_TABLE_H
 
+#include "till/result/Result.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
@@ -25,9 +27,8 @@ public:
     //! whole numbers, numbers, texts, bytes.
     QByteArray digest(const QVariantList &values) const;
 
-    //! Writes a row with its \a digest, in place of the one with its key. False with the fault
-    //! noted.
-    bool write(Database &database, const QVariantList &values, const QByteArray &digest) const;
+    //! Writes a row with its \a digest, in place of the one with its key.
+    Result<> write(Database &database, const QVariantList &values, const QByteArray &digest) const;
 
     //! The beginning of a query for whole rows: all columns, the digest last.
     QString select() const { return m_select; }

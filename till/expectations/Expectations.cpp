@@ -69,9 +69,9 @@ QString endOf(const Outcome &outcome)
 }
 
 //! What the goods hold in the tara at \a posnum.
-double amountIn(const TaraState &state, const GoodsUse &goods, int posnum)
+double amountIn(const TaraIndex &index, const GoodsUse &goods, int posnum)
 {
-    const TaraUse *const tara = state.tara(posnum);
+    const TaraUse *const tara = index.tara(posnum);
     return tara ? goods.used.value(tara->id, 0.0) : 0.0;
 }
 
@@ -103,7 +103,7 @@ Outcome Expectations::command(const QString &end, const QStringList &words) cons
     const QString found = endOf(outcome);
     if (found == end) {
         // A refusal was shown; a mistake was not.
-        return outcome.isRefusal() ? Outcome::done() : Outcome::done(m_textOf(outcome));
+        return outcome.isRefusal() ? Outcome::done() : Outcome::done(outcome.reason);
     }
     const QString why = m_textOf(outcome);
     if (outcome.isRefusal())
@@ -150,7 +150,7 @@ Outcome Expectations::tara(const QStringList &words) const
 {
     const int posnum = words[0].toInt();
     const TaraState state = cashRegister().taraState();
-    const TaraUse *const tara = state.tara(posnum);
+    const TaraUse *const tara = TaraIndex(state).tara(posnum);
     const QString what = "tara " + words[0];
     if (isNone(words.mid(1)))
         return tara ? differs(what, "none", wordsOf(*tara)) : Outcome::done();
@@ -175,7 +175,8 @@ Outcome Expectations::goods(const QStringList &words) const
 {
     const int posnum = words[0].toInt();
     const TaraState state = cashRegister().taraState();
-    const GoodsUse *const goods = state.goodsOf(posnum);
+    const TaraIndex index(state);
+    const GoodsUse *const goods = index.goodsOf(posnum);
     const QString what = "goods " + words[0];
     if (isNone(words.mid(1)))
         return goods ? differs(what, "none", wordsOf(*goods, state, baseOf(posnum)))
@@ -186,7 +187,7 @@ Outcome Expectations::goods(const QStringList &words) const
         const bool isIn = words[i] == "in";
         const Outcome checked = isIn
                                     ? compareQuantity(what + " in " + words[i + 1], words[i + 2],
-                                                      amountIn(state, *goods, words[i + 1].toInt()))
+                                                      amountIn(index, *goods, words[i + 1].toInt()))
                                     : compareQuantity(what + " unplaced", words[i + 1],
                                                       goods->unplaced(baseOf(posnum)));
         i += isIn ? 3 : 2;

@@ -192,12 +192,12 @@ QByteArray contents(const QString &path)
 qsizetype columnsFound(const QByteArray &text, char separator)
 {
     CsvRow row;
-    const auto fault = readCsv(text, separator, [&row](const CsvRow &first) {
+    const auto read = readCsv(text, separator, [&row](const CsvRow &first) {
         row = first;
         return false;
     });
-    if (fault)
-        row = fault->row;
+    if (!read)
+        row = read.error().row;
     return std::count_if(row.fields.cbegin(), row.fields.cend(), [](const auto &field) {
         return CatalogueHeader::columnCalled(field).has_value();
     });
@@ -243,7 +243,7 @@ void Catalogue::read(const QByteArray &text)
     std::optional<CatalogueHeader> header;
     QList<int> lines;    // of the articles
     QSet<QString> units; // each kept once
-    const auto fault = readCsv(text, separatorOf(text), [&](const CsvRow &row) {
+    const auto read = readCsv(text, separatorOf(text), [&](const CsvRow &row) {
         if (!header) {
             header.emplace(row);
             return true;
@@ -259,8 +259,8 @@ void Catalogue::read(const QByteArray &text)
         lines.append(row.line);
         return true;
     });
-    if (fault)
-        refuseFault(*fault, header ? &*header : nullptr);
+    if (!read)
+        refuseFault(read.error(), header ? &*header : nullptr);
     if (!header)
         throw CatalogueRefusal{QStringLiteral("the file is empty")};
     if (m_articles.isEmpty())

@@ -21,22 +21,20 @@ public:
     ~Reader() { csv_free(&m_parser); }
     Q_DISABLE_COPY_MOVE(Reader)
 
-    std::optional<CsvFault> read(const QByteArray &text,
-                                 const std::function<bool(const CsvRow &)> &take)
+    Result<void, CsvFault> read(const QByteArray &text,
+                                const std::function<bool(const CsvRow &)> &take)
     {
         for (qsizetype from = 0; from < text.size();) {
             const qsizetype length = lineLength(text, from);
-            if (!parseLine(QByteArrayView(text).sliced(from, length)))
-                return m_fault;
-            if (!handOver(take))
-                return {};
+            const auto parsed = parseLine(QByteArrayView(text).sliced(from, length));
+            if (!parsed || !handOver(take))
+                return parsed;
             from += length;
         }
         if (csv_fini(&m_parser, fieldEnded, rowEnded, this) != 0)
-            fail(QStringLiteral("the closing quote is missing"));
-        else
-            handOver(take);
-        return m_fault;
+            return fault(QStringLiteral("the closing quote is missing"));
+        handOver(take);
+        return {};
     }
 
 private:
@@ -50,7 +48,7 @@ private:
         return end - start;
     }
 
-    bool parseLine(QByteArrayView line)
+    Result<void, CsvFault> parseLine(QByteArrayView line)
     {
         ++m_line;
         if (!m_inRow)
@@ -58,12 +56,11 @@ private:
         m_inRow = m_inRow || !line.trimmed().isEmpty();
         const auto size = static_cast<size_t>(line.size());
         if (csv_parse(&m_parser, line.data(), size, fieldEnded, rowEnded, this) == size)
-            return true;
-        fail(csv_error(&m_parser) == CSV_EPARSE
-                 ? QStringLiteral("a quote stands alone: put the field in quotes and double those "
-                                  "within")
-                 : QString::fromUtf8(csv_strerror(csv_error(&m_parser))));
-        return false;
+            return {};
+        return fault(csv_error(&m_parser) == CSV_EPARSE
+                         ? QStringLiteral("a quote stands alone: put the field in quotes and "
+                                          "double those within")
+                         : QString::fromUtf8(csv_strerror(csv_error(&m_parser))));
     }
 
     //! Outside the parser, whose C does not expect exceptions. False when no more is wanted.
@@ -82,7 +79,7 @@ private:
                            [](const auto &field) { return field.isEmpty(); });
     }
 
-    void fail(const QString &reason) { m_fault = CsvFault{m_row, reason}; }
+    CsvFault fault(const QString &reason) const { return {m_row, reason}; }
 
     static void fieldEnded(void *field, size_t size, void *reader)
     {
@@ -98,7 +95,6 @@ private:
         self->m_inRow = false;
     }
 
-    std::optional<CsvFault> m_fault;
     csv_parser m_parser;
     CsvRow m_row;
     int m_line = 0;
@@ -108,8 +104,8 @@ private:
 
 } // namespace
 
-std::optional<CsvFault> readCsv(const QByteArray &text, char separator,
-                                const std::function<bool(const CsvRow &)> &take)
+Result<void, CsvFault> readCsv(const QByteArray &text, char separator,
+                               const std::function<bool(const CsvRow &)> &take)
 {
     return Reader(separator).read(text, take);
 }

@@ -1,12 +1,13 @@
 #ifndef TILL_GOODS_CSVROWS_H
 #define TILL_GOODS_CSVROWS_H
 
+#include "till/result/Result.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QString>
 
 #include <functional>
-#include <optional>
 
 namespace till {
 
@@ -31,8 +32,8 @@ struct CsvFault
  * fault, if any, lies behind the last row that was handed over. What \a take throws comes out of
  * here.
  */
-std::optional<CsvFault> readCsv(const QByteArray &text, char separator,
-                                const std::function<bool(const CsvRow &)> &take);
+Result<void, CsvFault> readCsv(const QByteArray &text, char separator,
+                               const std::function<bool(const CsvRow &)> &take);
 
 } // namespace till
 

@@ -11,6 +11,23 @@ namespace till {
 
 namespace {
 
+//! Puts a service in the place of the process's while it lives; then the one before is back.
+template <typename Service>
+class InPlace
+{
+public:
+    explicit InPlace(Service &service)
+        : m_before(Singleton<Service>::instance)
+    {
+        Singleton<Service>::instance = &service;
+    }
+    ~InPlace() { Singleton<Service>::instance = m_before; }
+    Q_DISABLE_COPY_MOVE(InPlace)
+
+private:
+    Service *const m_before;
+};
+
 //! Notes what is subscribed to.
 class SubscriptionRecorder : public ActivityNotifier
 {
@@ -68,13 +85,11 @@ Result<QString> describePlugin(const Setup &setup)
     if (!loaded)
         return loaded.error().fault();
     SubscriptionRecorder notifier;
-    Singleton<Config>::instance = &settings;
-    Singleton<ActivityNotifier>::instance = &notifier;
+    const InPlace<Config> config(settings);
+    const InPlace<ActivityNotifier> activity(notifier);
     const auto initialised = loaded->initialise();
     const QString text = "plugin:   " + setup.plugin + '\n' + describe(*loaded, notifier.codes());
-    loader.unload();
-    Singleton<Config>::instance = nullptr;
-    Singleton<ActivityNotifier>::instance = nullptr;
+    loader.unload(); // as long as there is something to unsubscribe from
     if (!initialised)
         return initialised.error().fault();
     return text;

@@ -67,8 +67,8 @@ public:
             m_archive.list(selection, [this](const KeptReceipt &receipt) { return take(receipt); });
         m_progress.end();
         flush();
-        if (!listed || m_fault)
-            return fail(StartFailed, listed ? *m_fault : listed.error());
+        if (!listed)
+            return fail(StartFailed, listed.error());
         if (m_count == 0 && m_options.lookup.form == Form::Text)
             m_output.print(m_rows.none());
         return m_damaged == 0 ? AllWell : CommandFailed;
@@ -81,20 +81,23 @@ private:
             m_text = csvCaptions();
     }
 
-    //! False when there is no use in going on.
-    bool take(const KeptReceipt &header)
+    //! The fault is why there is no use in going on.
+    Result<> take(const KeptReceipt &header)
     {
         constexpr qsizetype piece = 1 << 16;
         if (m_count++ == 0 && m_options.lookup.form == Form::Text)
             m_text = m_rows.captions();
-        m_text += textOf(header);
+        const Result<QString> text = textOf(header);
+        if (!text)
+            return text.error();
+        m_text += *text;
         m_progress.show(m_count);
         if (m_text.size() >= piece)
             flush();
-        return !m_fault && Output::fault().isEmpty();
+        return Output::written();
     }
 
-    QString textOf(const KeptReceipt &header)
+    Result<QString> textOf(const KeptReceipt &header)
     {
         if (m_options.lookup.form == Form::Json)
             return lineOf(header.record.id);
@@ -102,13 +105,11 @@ private:
         return m_options.lookup.form == Form::Csv ? csvRow(header) : m_rows.row(header);
     }
 
-    QString lineOf(qint64 id)
+    Result<QString> lineOf(qint64 id)
     {
         const auto read = m_archive.receipt(id, taraPlugin());
-        if (!read) {
-            m_fault = read.error();
-            return {};
-        }
+        if (!read)
+            return read.error();
         noteDamage(**read);
         return QString::fromUtf8(jsonLine(jsonOf(**read)));
     }
@@ -136,7 +137,6 @@ private:
     QString m_text;
     qint64 m_count = 0;
     qint64 m_damaged = 0;
-    std::optional<Fault> m_fault; //!< why the database could not be read further
 };
 
 //! As the register shows it.

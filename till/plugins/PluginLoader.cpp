@@ -45,16 +45,17 @@ qint64 wholeLength(const ElfHeader &header)
     return qint64(header.e_shoff) + qint64(header.e_shnum) * header.e_shentsize;
 }
 
-std::optional<PluginError> missingFile(const QFileInfo &file)
+Result<void, PluginError> checkFile(const QFileInfo &file)
 {
     if (file.isFile())
-        return std::nullopt;
+        return {};
     return PluginError{
         PluginError::NoSuchFile, file.absoluteFilePath(), QStringLiteral("a plugin file"),
         file.exists() ? QStringLiteral("a directory or a device") : QStringLiteral("no such file")};
 }
 
-std::optional<PluginError> damage(const QString &path)
+//! Whether it is a library that is there to its end.
+Result<void, PluginError> checkWhole(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -66,7 +67,7 @@ std::optional<PluginError> damage(const QString &path)
             PluginError::NotALibrary, path, QStringLiteral("a shared library"),
             QStringLiteral("a file of another kind, %1 bytes long").arg(file.size())};
     if (file.size() >= wholeLength(*header))
-        return std::nullopt;
+        return {};
     return PluginError{PluginError::Truncated, path,
                        QStringLiteral("a shared library of %1 bytes").arg(wholeLength(*header)),
                        QStringLiteral("only its first %1 bytes").arg(file.size())};
@@ -165,12 +166,10 @@ PluginLoader::~PluginLoader() = default;
 
 Result<PluginMetadata, PluginError> PluginLoader::readMetadata(const QString &path)
 {
-    const QFileInfo file(path);
-    if (auto error = missingFile(file))
-        return *std::move(error);
-    if (auto error = damage(file.absoluteFilePath()))
-        return *std::move(error);
-    return readRecord(*open(file.absoluteFilePath()), file.absoluteFilePath());
+    const QString file = QFileInfo(path).absoluteFilePath();
+    return checkFile(QFileInfo(path)).then([&] { return checkWhole(file); }).then([&] {
+        return readRecord(*open(file), file);
+    });
 }
 
 Result<LoadedPlugin, PluginError> PluginLoader::load(const QString &path)

@@ -13,11 +13,6 @@ void Position::setCount(double count)
     setQuantity(count, count * article().pack);
 }
 
-void Position::setBase(double base)
-{
-    setQuantity(base / article().pack, base);
-}
-
 void Position::setQuantity(double count, double base)
 {
     setCquant(count);

@@ -18,8 +18,6 @@ public:
 
     //! Sets the count of pieces; the base quantity follows by the article's pack.
     void setCount(double count);
-    //! Sets the base quantity; the count of pieces follows by the article's pack.
-    void setBase(double base);
     //! Sets both, of which neither can be had from the other without rounding.
     void setQuantity(double count, double base);
 

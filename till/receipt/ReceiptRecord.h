@@ -37,6 +37,8 @@ struct LineRecord
     QString groupId;
     bool stornoed = false;
 
+    //! Price of the whole line.
+    Kopecks sum() const { return sumOf(article.price, count); }
     bool operator==(const LineRecord &other) const = default;
 };
 

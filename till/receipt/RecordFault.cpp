@@ -19,7 +19,8 @@ bool isBase(double base)
     return std::abs(base) <= greatestCount * greatestPack;
 }
 
-QString lineFault(const LineRecord &line)
+//! What is odd in it, if anything.
+QString oddOf(const LineRecord &line)
 {
     const ArticleData &article = line.article;
     if (article.price < 0 || article.price > greatestSum)
@@ -35,25 +36,26 @@ QString lineFault(const LineRecord &line)
 
 } // namespace
 
-QString faultOf(const LineRecord &line, int nextPosnum)
+Result<> check(const LineRecord &line, int nextPosnum)
 {
     if (line.posnum < 1)
-        return QStringLiteral("%1 is no number of a position").arg(line.posnum);
+        return Fault{{}, QStringLiteral("%1 is no number of a position").arg(line.posnum)};
     if (line.posnum >= nextPosnum)
-        return QStringLiteral("position %1 has a number that was not given yet").arg(line.posnum);
-    const QString fault = lineFault(line);
-    return fault.isEmpty() ? fault
-                           : QStringLiteral("position %1 has %2").arg(line.posnum).arg(fault);
+        return Fault{
+            {}, QStringLiteral("position %1 has a number that was not given yet").arg(line.posnum)};
+    if (const QString odd = oddOf(line); !odd.isEmpty())
+        return Fault{{}, QStringLiteral("position %1 has %2").arg(line.posnum).arg(odd)};
+    return {};
 }
 
-QString faultOf(const ReceiptRecord &record)
+Result<> check(const ReceiptRecord &record)
 {
     QSet<int> numbers;
     for (const LineRecord &line : record.lines) {
-        if (const QString fault = faultOf(line, record.nextPosnum); !fault.isEmpty())
-            return fault;
+        if (const Result<> checked = check(line, record.nextPosnum); !checked)
+            return checked;
         if (numbers.contains(line.posnum))
-            return QStringLiteral("position %1 is there twice").arg(line.posnum);
+            return Fault{{}, QStringLiteral("position %1 is there twice").arg(line.posnum)};
         numbers.insert(line.posnum);
     }
     return {};

@@ -2,18 +2,19 @@
 #define TILL_RECEIPT_RECORDFAULT_H
 
 #include "till/receipt/ReceiptRecord.h"
+#include "till/result/Result.h"
 
 namespace till {
 
 /*!
- * What in \a line no till can have put there: a number of a position below 1 or not below
- * \a nextPosnum, a price or a quantity that is out of range or no number; in words that name the
- * position. Empty when there is nothing.
+ * Whether a till can have put \a line there. The fault, which is of no place and names the
+ * position, is a number of a position below 1 or not below \a nextPosnum, or a price or a quantity
+ * that is out of range or no number.
  */
-QString faultOf(const LineRecord &line, int nextPosnum);
+Result<> check(const LineRecord &line, int nextPosnum);
 
 //! The same of all lines of \a record, each of which has a number of its own.
-QString faultOf(const ReceiptRecord &record);
+Result<> check(const ReceiptRecord &record);
 
 } // namespace till
 

@@ -24,13 +24,6 @@ GoodsUse toGoodsUse(const QVariantMap &map)
     return use;
 }
 
-template <typename Use, typename Match>
-const Use *firstOf(const QList<Use> &uses, Match match)
-{
-    const auto found = std::find_if(uses.cbegin(), uses.cend(), match);
-    return found == uses.cend() ? nullptr : &*found;
-}
-
 //! Of several with one key, the first counts.
 template <typename Key, typename Use>
 void insertFirst(QHash<Key, const Use *> &uses, const Key &key, const Use *use)
@@ -66,16 +59,6 @@ TaraState TaraState::read(const Document::PluginData &data, const QString &plugi
     for (const QVariant &element : goods)
         state.goods.append(toGoodsUse(element.toMap()));
     return state;
-}
-
-const TaraUse *TaraState::tara(int posnum) const
-{
-    return firstOf(taras, [=](const TaraUse &use) { return use.posnum == posnum; });
-}
-
-const GoodsUse *TaraState::goodsOf(int posnum) const
-{
-    return firstOf(goods, [=](const GoodsUse &use) { return use.posnum == posnum; });
 }
 
 TaraIndex::TaraIndex(const TaraState &state)

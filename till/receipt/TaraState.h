@@ -56,11 +56,6 @@ struct TaraState
 
     //! Reads what the plugin called \a pluginId stored in \a data.
     static TaraState read(const Document::PluginData &data, const QString &pluginId);
-
-    //! The first tara record of that position, or null.
-    const TaraUse *tara(int posnum) const;
-    //! The first goods record of that position, or null.
-    const GoodsUse *goodsOf(int posnum) const;
 };
 
 //! Finds the records of a state at a cost that does not grow with it. The state must outlive it and

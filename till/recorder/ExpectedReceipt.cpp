@@ -62,7 +62,6 @@ QHash<int, int> groupsOf(const QList<LineRecord> &lines)
 QStringList partsOf(const LineRecord &line, const LineRecord *before)
 {
     const auto differs = [&](auto part) { return !before || before->*part != line.*part; };
-    const auto sum = [](const LineRecord &of) { return sumOf(of.article.price, of.count); };
     QStringList words;
     if (!before)
         words += {"article", asWord(line.article.code)};
@@ -70,8 +69,8 @@ QStringList partsOf(const LineRecord &line, const LineRecord *before)
         addPart(words, "quantity", line.count);
     if (differs(&LineRecord::base) && toText(line.base) != toText(line.count))
         addPart(words, "base", line.base);
-    if (!before || sum(*before) != sum(line))
-        words += {"sum", toText(sum(line))};
+    if (!before || before->sum() != line.sum())
+        words += {"sum", toText(line.sum())};
     if (differs(&LineRecord::stornoed))
         words += line.stornoed ? "stornoed" : "live";
     return words;

@@ -23,17 +23,19 @@ Recording::Recording(const QString &path)
 {
 }
 
-void Recording::finish()
+Result<> Recording::finish()
 {
     m_subscription.reset();
     m_recorder.finish();
     m_text->end();
+    return m_written;
 }
 
 void Recording::write(const QString &line)
 {
-    if (!writeAll(m_file, line.toUtf8() + '\n') && m_error.isEmpty())
-        m_error = m_file.fileName() + ": " + m_file.errorString();
+    const Result<> written = writeAll(m_file, line.toUtf8() + '\n');
+    if (m_written)
+        m_written = written;
 }
 
 } // namespace till

@@ -24,19 +24,18 @@ public:
     //! which is emptied first.
     static Result<std::unique_ptr<Recording>> start(Notes &notes, const QString &path);
 
-    //! Ends the script.
-    void finish();
+    //! Ends the script. The fault is the first line that could not be written: the till has gone on
+    //! all the same.
+    Result<> finish();
 
     const Recorder &recorder() const { return m_recorder; }
-    //! Why a line could not be written, with the path; empty as long as all were.
-    QString error() const { return m_error; }
 
 private:
     explicit Recording(const QString &path);
     void write(const QString &line);
 
     QFile m_file;
-    QString m_error;
+    Result<> m_written;
     std::optional<RecordedText> m_text; //!< once the file is open
     Recorder m_recorder;
     Subscription m_subscription;

@@ -88,9 +88,8 @@ Result<> replaceScript(const QString &path, const QByteArray &text)
 {
     QSaveFile file(path);
     // Without a buffer: commit() does not tell that the disk was full for what it had.
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, text);
-    if (!isWritten || !file.commit())
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, text)
+        || !file.commit())
         return Fault{path, file.errorString()};
     return {};
 }

@@ -27,11 +27,11 @@ struct Outcome
 
     Kind kind = Done;
     Message reason; //!< what to tell the cashier; of a plugin what it told, which may be nothing
-    QString detail; //!< what is wrong with a file; in English
+    QString detail; //!< of a failure: what is wrong with a file; in English
     std::optional<Kopecks> change = {};  //!< to give back, when money was named to pay with
     std::optional<Kopecks> missing = {}; //!< when that was not enough
 
-    static Outcome done(const QString &detail = {}) { return {Done, {}, detail}; }
+    static Outcome done(const Message &reason = {}) { return {Done, reason, {}}; }
     static Outcome refused(const tr::Tr &reason) { return {RefusedByRegister, {reason, {}}, {}}; }
     static Outcome mistake(const tr::Tr &reason, const QStringList &values = {})
     {

@@ -24,7 +24,7 @@ QJsonArray positionsOf(const ReceiptRecord &record)
 {
     QJsonArray positions;
     for (const LineRecord &line : record.lines)
-        positions.append(describe(line, sumOf(line.article.price, line.count)));
+        positions.append(describe(line, line.sum()));
     return positions;
 }
 

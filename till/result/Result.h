@@ -5,6 +5,7 @@
 
 #include <tl/expected.hpp>
 
+#include <type_traits>
 #include <utility>
 
 namespace till {
@@ -35,6 +36,16 @@ public:
     Result(Error error)
         : tl::expected<Value, Error>(tl::make_unexpected(std::move(error)))
     {
+    }
+
+    //! What \a next comes to, which is given the value, if any; the fault where there is one.
+    template <typename Next>
+    auto then(Next next) const
+    {
+        if constexpr (std::is_void_v<Value>)
+            return *this ? next() : decltype(next())(this->error());
+        else
+            return *this ? next(**this) : decltype(next(**this))(this->error());
     }
 };
 

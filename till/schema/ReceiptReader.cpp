@@ -5,8 +5,6 @@
 #include "till/schema/Schema.h"
 #include "till/schema/SetApart.h"
 
-#include <algorithm>
-
 namespace till {
 
 namespace {
@@ -21,46 +19,51 @@ public:
     {
     }
 
-    std::optional<ReadReceipt> read()
+    Result<std::optional<ReadReceipt>> read()
     {
-        if (!readHeader())
-            return std::nullopt;
-        readLines();
-        readSoftChecks();
-        readValues();
-        checkWhole();
-        return m_database.hasFailed() ? std::nullopt : std::optional(m_read);
+        const Result<> done =
+            readHeader().then([this] { return m_isThere ? readRest() : Result<>(); });
+        if (!done)
+            return done.error();
+        return m_isThere ? std::optional(m_read) : std::nullopt;
     }
 
 private:
-    bool readHeader()
+    Result<> readHeader()
     {
-        QSqlQuery *const rows =
-            m_database.run(receiptsTable().select() + QStringLiteral("WHERE id = ?"), {m_id});
-        if (!rows || !m_database.next(*rows))
-            return false;
-        const Table::Row row = receiptsTable().row(*rows);
-        rows->finish();
-        m_read = headerOf(row);
-        m_contents = row.values[9].toByteArray();
-        return true;
+        return m_database.each(receiptsTable().select() + QStringLiteral("WHERE id = ?"), {m_id},
+                               [this](const QSqlQuery &found) {
+                                   const Table::Row row = receiptsTable().row(found);
+                                   m_isThere = true;
+                                   m_read = headerOf(row);
+                                   m_contents = row.values[9].toByteArray();
+                               });
+    }
+
+    Result<> readRest()
+    {
+        const Result<> done = readLines().then([this] { return readSoftChecks(); }).then([this] {
+            return readValues();
+        });
+        checkWhole();
+        return done;
     }
 
     template <typename Take>
-    void readRowsOf(const Table &table, const QString &order, Take take)
+    Result<> readRowsOf(const Table &table, const QString &order, Take take)
     {
-        QSqlQuery *const rows = m_database.run(
-            table.select() + QStringLiteral("WHERE receipt = ? ORDER BY %1").arg(order), {m_id});
-        while (rows && m_database.next(*rows)) {
-            const Table::Row row = table.row(*rows);
-            m_rows.toggle(row.digest);
-            take(row);
-        }
+        return m_database.each(table.select()
+                                   + QStringLiteral("WHERE receipt = ? ORDER BY %1").arg(order),
+                               {m_id}, [&](const QSqlQuery &found) {
+                                   const Table::Row row = table.row(found);
+                                   m_rows.toggle(row.digest);
+                                   take(row);
+                               });
     }
 
-    void readLines()
+    Result<> readLines()
     {
-        readRowsOf(positionsTable(), QStringLiteral("place"), [this](const Table::Row &row) {
+        return readRowsOf(positionsTable(), QStringLiteral("place"), [this](const Table::Row &row) {
             const LineRecord line = lineOf(row.values);
             if (row.isWhole)
                 m_read.record.lines.append(line);
@@ -69,44 +72,58 @@ private:
         });
     }
 
-    void readSoftChecks()
+    Result<> readSoftChecks()
     {
-        readRowsOf(softChecksTable(), QStringLiteral("place"), [this](const Table::Row &row) {
-            const QString number = row.values[2].toString();
-            if (!row.isWhole)
-                note(QStringLiteral("soft-check %1 is not as it was stored").arg(number));
-            m_read.record.softChecks.append(number);
-        });
+        return readRowsOf(
+            softChecksTable(), QStringLiteral("place"), [this](const Table::Row &row) {
+                const QString number = row.values[2].toString();
+                if (!row.isWhole)
+                    note(QStringLiteral("soft-check %1 is not as it was stored").arg(number));
+                m_read.record.softChecks.append(number);
+            });
     }
 
-    void readValues()
+    Result<> readValues()
     {
-        readRowsOf(pluginDataTable(), QStringLiteral("plugin, key, place"),
-                   [this](const Table::Row &row) {
-                       const QString plugin = row.values[1].toString();
-                       const QString key = row.values[2].toString();
-                       if (!row.isWhole && m_read.valueFault.isEmpty())
-                           m_read.valueFault =
-                               QStringLiteral("the data of plugin \"%1\" under \"%2\" are damaged")
-                                   .arg(plugin, key);
-                       m_read.values.append(
-                           {plugin, key, {row.values[4].toByteArray(), row.values[5].toString()}});
-                   });
+        return readRowsOf(
+            pluginDataTable(), QStringLiteral("plugin, key, place"), [this](const Table::Row &row) {
+                const QString plugin = row.values[1].toString();
+                const QString key = row.values[2].toString();
+                if (!row.isWhole && m_read.valueFault.isEmpty())
+                    m_read.valueFault =
+                        QStringLiteral("the data of plugin \"%1\" under \"%2\" are damaged")
+                            .arg(plugin, key);
+                m_read.values.append(
+                    {plugin, key, {row.values[4].toByteArray(), row.values[5].toString()}});
+            });
     }
 
     void checkWhole()
     {
-        const auto &lines = m_read.record.lines;
-        const auto live = std::count_if(lines.cbegin(), lines.cend(),
-                                        [](const LineRecord &line) { return !line.stornoed; });
-        if (live != m_read.positions)
+        QList<LineRecord> live = m_read.record.lines;
+        live.removeIf([](const LineRecord &line) { return line.stornoed; });
+        if (live.size() != m_read.positions)
             note(QStringLiteral("%1 positions are there, and there were %2")
-                     .arg(live)
+                     .arg(live.size())
                      .arg(m_read.positions));
-        note(faultOf(m_read.record));
+        if (const Result<> checked = check(m_read.record); !checked)
+            note(checked.error().reason);
         // A damaged value has no digest that could tell anything.
         if (m_read.valueFault.isEmpty() && m_rows.bytes() != m_contents)
             note(QStringLiteral("its rows are not those that were stored"));
+        if (m_read.fault.isEmpty())
+            checkTotal(live);
+    }
+
+    //! Of positions that hold. The upgrade counted those of the first format as today's till does.
+    void checkTotal(const QList<LineRecord> &live)
+    {
+        Kopecks total = 0;
+        for (const LineRecord &line : live)
+            total += line.sum();
+        if (total != m_read.total)
+            note(QStringLiteral("its positions come to %1, and its total is %2")
+                     .arg(toText(total), toText(m_read.total)));
     }
 
     void note(const QString &fault)
@@ -117,14 +134,16 @@ private:
 
     Database &m_database;
     qint64 m_id;
+    bool m_isThere = false;
     ReadReceipt m_read;
     QByteArray m_contents;
     RowsDigest m_rows;
 };
 
-void failFor(Database &database, qint64 id, const QString &fault, const QString &remedy = {})
+Fault faultIn(const Database &database, qint64 id, const QString &reason,
+              const QString &remedy = {})
 {
-    database.fail(QStringLiteral("receipt %1: %2").arg(id).arg(fault), remedy);
+    return database.fault(QStringLiteral("receipt %1: %2").arg(id).arg(reason), remedy);
 }
 
 //! How to go on without a receipt that does not hold.
@@ -133,21 +152,6 @@ QString wayOnWithout(qint64 id)
     return QStringLiteral(
                "\"till set-apart %1\" sets this receipt apart, so that another can be opened")
         .arg(id);
-}
-
-void failWithWayOn(Database &database, qint64 id, const QString &fault)
-{
-    failFor(database, id, fault, wayOnWithout(id));
-}
-
-//! The number that \a sql gives; 0 when it gives none.
-qint64 numberOf(Database &database, const QString &sql)
-{
-    QSqlQuery *const rows = database.run(sql);
-    qint64 number = 0;
-    while (rows && database.next(*rows))
-        number = rows->value(0).toLongLong();
-    return number;
 }
 
 //! Takes a row of a value: it is the value, or one more element of the list that it is.
@@ -160,19 +164,22 @@ void take(QVariantMap &values, const QString &key, const QVariant &value)
         static_cast<QVariantList *>(known->data())->append(value);
 }
 
-//! The receipt, if it holds and is unfinished.
-std::optional<ReadReceipt> readIfUnfinished(Database &database, qint64 id)
+//! The receipt, if it is unfinished; it must hold then.
+Result<std::optional<ReceiptRecord>> readIfUnfinished(Database &database, qint64 id)
 {
     const auto read = readRows(database, id);
-    if (!read && !database.hasFailed())
-        failWithWayOn(database, id, QStringLiteral("its header is missing"));
-    if (!read || (read->isHeaderWhole && !isUnfinished(read->record.state)))
-        return std::nullopt;
-    if (const QString fault = read->anyFault(); !fault.isEmpty()) {
-        failWithWayOn(database, id, fault);
-        return std::nullopt;
-    }
-    return read;
+    if (!read)
+        return read.error();
+    if (!*read)
+        return faultIn(database, id, QStringLiteral("its header is missing"), wayOnWithout(id));
+    if ((*read)->isHeaderWhole && !isUnfinished((*read)->record.state))
+        return std::optional<ReceiptRecord>();
+    if (const QString fault = (*read)->anyFault(); !fault.isEmpty())
+        return faultIn(database, id, fault, wayOnWithout(id));
+    const Result<ReceiptRecord> whole = withValues(database, **read);
+    if (!whole)
+        return database.fault(whole.error().reason, wayOnWithout(id));
+    return std::optional(*whole);
 }
 
 } // namespace
@@ -196,64 +203,67 @@ ReadReceipt headerOf(const Table::Row &row)
     return read;
 }
 
-std::optional<ReadReceipt> readRows(Database &database, qint64 id)
+Result<std::optional<ReadReceipt>> readRows(Database &database, qint64 id)
 {
     return Reader(database, id).read();
 }
 
-std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id)
+Result<std::optional<ReceiptRecord>> readReceipt(Database &database, qint64 id)
 {
     const auto read = readRows(database, id);
     if (!read)
-        return std::nullopt;
-    if (const QString fault = read->anyFault(); !fault.isEmpty()) {
-        failFor(database, id, fault);
-        return std::nullopt;
-    }
-    return withValues(database, *read);
+        return read.error();
+    if (!*read)
+        return std::optional<ReceiptRecord>();
+    if (const QString fault = (*read)->anyFault(); !fault.isEmpty())
+        return faultIn(database, id, fault);
+    return withValues(database, **read).then([](const ReceiptRecord &record) {
+        return Result<std::optional<ReceiptRecord>>(record);
+    });
 }
 
-std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read)
+Result<ReceiptRecord> withValues(const Database &database, const ReadReceipt &read)
 {
     ReceiptRecord record = read.record;
     for (const ReadReceipt::Value &value : read.values) {
         const auto decoded = value.bytes.value();
-        if (!decoded) {
-            failFor(database, record.id,
-                    QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
-                        .arg(value.plugin, value.key, decoded.error().reason));
-            return std::nullopt;
-        }
+        if (!decoded)
+            return faultIn(database, record.id,
+                           QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
+                               .arg(value.plugin, value.key, decoded.error().reason));
         take(record.pluginData[value.plugin], value.key, *decoded);
     }
     return record;
 }
 
-std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database)
+Result<std::optional<ReceiptRecord>> readUnfinishedReceipt(Database &database)
 {
-    const qint64 newest = highestNumber(database);
-    std::optional<ReadReceipt> found;
-    if (newest != 0 && !receiptsSetApart(database).contains(newest))
-        found = readIfUnfinished(database, newest);
-    const qint64 next = numberOf(
-        database, QStringLiteral("SELECT id FROM receipts WHERE state < 2 AND id NOT IN (SELECT "
-                                 "receipt FROM setApart) ORDER BY id DESC LIMIT 1"));
-    if (!found && !database.hasFailed() && next != 0)
-        found = readIfUnfinished(database, next);
-    if (!found || database.hasFailed())
-        return std::nullopt;
-    const auto whole = withValues(database, *found);
-    if (!whole) // what it cannot read it has told
-        database.fail(database.fault().reason, wayOnWithout(found->record.id));
-    return whole;
+    QMap<qint64, QString> apart;
+    const Result<qint64> newest =
+        readSetApart(database, apart).then([&] { return highestNumber(database); });
+    if (!newest)
+        return newest.error();
+    if (*newest != 0 && !apart.contains(*newest)) {
+        auto read = readIfUnfinished(database, *newest);
+        if (!read || *read)
+            return read;
+    }
+    const Result<QVariant> next = database.valueOf(
+        QStringLiteral("SELECT id FROM receipts WHERE state < 2 AND id NOT IN (SELECT receipt FROM "
+                       "setApart) ORDER BY id DESC LIMIT 1"));
+    if (!next)
+        return next.error();
+    return next->isValid() ? readIfUnfinished(database, next->toLongLong())
+                           : std::optional<ReceiptRecord>();
 }
 
-qint64 highestNumber(Database &database)
+Result<qint64> highestNumber(Database &database)
 {
-    return numberOf(database,
-                    QStringLiteral("SELECT max(coalesce((SELECT seq FROM sqlite_sequence WHERE "
-                                   "name = 'receipts'), 0), coalesce((SELECT max(id) FROM "
-                                   "receipts), 0))"));
+    return database
+        .valueOf(QStringLiteral("SELECT max(coalesce((SELECT seq FROM sqlite_sequence WHERE "
+                                "name = 'receipts'), 0), coalesce((SELECT max(id) FROM "
+                                "receipts), 0))"))
+        .then([](const QVariant &number) { return Result<qint64>(number.toLongLong()); });
 }
 
 LineRecord lineOf(const QVariantList &values)

@@ -43,25 +43,25 @@ struct ReadReceipt
 //! What the header says of a receipt. Its other rows are not read, and are not known to hold.
 ReadReceipt headerOf(const Table::Row &row);
 
-// Nothing is returned for what is not there, and, with the fault noted, for what cannot be read.
+// There is nothing in the result for a receipt that is not there.
 
 //! The receipt, which need not hold.
-std::optional<ReadReceipt> readRows(Database &database, qint64 id);
+Result<std::optional<ReadReceipt>> readRows(Database &database, qint64 id);
 
 //! The receipt, which must hold, with its plugin data.
-std::optional<ReceiptRecord> readReceipt(Database &database, qint64 id);
+Result<std::optional<ReceiptRecord>> readReceipt(Database &database, qint64 id);
 //! The receipt that was read, with its plugin data.
-std::optional<ReceiptRecord> withValues(Database &database, const ReadReceipt &read);
+Result<ReceiptRecord> withValues(const Database &database, const ReadReceipt &read);
 
 /*!
  * The newest receipt that was neither closed nor cancelled, nor set apart; it must hold. So must
  * the header of the newest of all, lest an unfinished one be taken for finished. The fault says how
  * to go on.
  */
-std::optional<ReceiptRecord> readUnfinishedReceipt(Database &database);
+Result<std::optional<ReceiptRecord>> readUnfinishedReceipt(Database &database);
 
 //! The highest number that was ever given to a receipt; 0 when none was.
-qint64 highestNumber(Database &database);
+Result<qint64> highestNumber(Database &database);
 
 //! The line that a row of positions has.
 LineRecord lineOf(const QVariantList &values);

@@ -3,8 +3,6 @@
 #include "till/database/Database.h"
 #include "till/schema/Upgrade.h"
 
-#include <optional>
-
 namespace till {
 
 namespace {
@@ -75,58 +73,58 @@ constexpr const char *Statements[] = {
     " reason TEXT NOT NULL)",
 };
 
-//! The version of what is in the database; nothing, with the error noted, when it is not ours.
-std::optional<int> versionOf(Database &database)
+//! The version of what is in the database, which is ours.
+Result<int> versionOf(Database &database)
 {
-    const QVariant application = database.valueOf(QStringLiteral("PRAGMA application_id"));
-    const QVariant version = database.valueOf(QStringLiteral("PRAGMA user_version"));
-    const QVariant contents =
-        database.valueOf(QStringLiteral("SELECT count(*) FROM sqlite_master"));
-    if (!application.isValid() || !version.isValid() || !contents.isValid())
-        return std::nullopt;
-    if (application.toInt() == 0 && version.toInt() == 0 && contents.toInt() == 0)
-        return Nothing;
-    if (application.toInt() != ApplicationId) {
-        database.fail(QStringLiteral("this is a database of another program"));
-        return std::nullopt;
+    int numbers[3] = {};
+    int *number = numbers;
+    for (const char *sql :
+         {"PRAGMA application_id", "PRAGMA user_version", "SELECT count(*) FROM sqlite_master"}) {
+        const Result<QVariant> read = database.valueOf(QString::fromLatin1(sql));
+        if (!read)
+            return read.error();
+        *number++ = read->toInt();
     }
-    if (version.toInt() == Version || version.toInt() == VersionBefore)
-        return version.toInt();
-    database.fail(QStringLiteral("the database was made by another version of the till (its format "
-                                 "is %1, this till knows %2)")
-                      .arg(version.toInt())
-                      .arg(Version));
-    return std::nullopt;
+    const auto [application, version, contents] = numbers;
+    if (application == 0 && version == 0 && contents == 0)
+        return Nothing;
+    if (application != ApplicationId)
+        return database.fault(QStringLiteral("this is a database of another program"));
+    if (version == Version || version == VersionBefore)
+        return version;
+    return database.fault(QStringLiteral("the database was made by another version of the till "
+                                         "(its format is %1, this till knows %2)")
+                              .arg(version)
+                              .arg(Version));
 }
 
-bool makeTables(Database &database)
+QStringList makingTables()
 {
-    bool made = database.execute(QStringLiteral("PRAGMA application_id = %1").arg(ApplicationId))
-                && database.execute(QStringLiteral("PRAGMA user_version = %1").arg(Version));
+    QStringList statements{QStringLiteral("PRAGMA application_id = %1").arg(ApplicationId),
+                           QStringLiteral("PRAGMA user_version = %1").arg(Version)};
     for (const char *statement : Statements)
-        made = made && database.execute(QString::fromLatin1(statement));
-    return made;
+        statements.append(QString::fromLatin1(statement));
+    return statements;
 }
 
-bool makeSchema(Database &database)
+//! As `prepareSchema`, of a database that is of that \a version.
+Result<QString> bringToFormat(Database &database, int version)
 {
-    if (database.begin() && makeTables(database) && database.commit())
-        return true;
-    database.rollBack();
-    return false;
+    if (version == VersionBefore)
+        return database.checkFile().then(
+            [&] { return upgradeFromSchema1(database, makingTables()); });
+    if (version == Nothing) {
+        const Result<> made =
+            database.inTransaction([&] { return database.execute(makingTables()); });
+        if (!made)
+            return made.error();
+    }
+    return QString();
 }
 
-bool upgrade(Database &database, QString *copy)
+Result<> checkWritable(Database &database)
 {
-    return database.checkFile() && upgradeFromSchema1(database, makeTables, copy);
-}
-
-bool isWritable(Database &database)
-{
-    if (!database.begin())
-        return false;
-    database.rollBack();
-    return true;
+    return database.inTransaction([] { return Result<>(); });
 }
 
 } // namespace
@@ -161,48 +159,51 @@ const Table &pluginDataTable()
     return table;
 }
 
-bool isComplete(Database &database)
+Result<> checkTables(Database &database)
 {
     for (const char *statement : Statements) {
         const QString sql = QString::fromLatin1(statement);
-        QSqlQuery *const rows =
-            database.run(QStringLiteral("SELECT count(*) FROM sqlite_master WHERE sql = ?"), {sql});
-        if (!rows || !database.next(*rows))
-            return false;
-        const bool isThere = rows->value(0).toInt() == 1;
-        rows->finish();
+        bool isThere = false;
+        const Result<> read =
+            database.each(QStringLiteral("SELECT 1 FROM sqlite_master WHERE sql = ?"), {sql},
+                          [&isThere](const QSqlQuery &) { isThere = true; });
+        if (!read)
+            return read;
         if (!isThere)
-            return database.fail(
+            return database.fault(
                 QStringLiteral("the database is damaged (its %1 %2 is missing or altered)")
                     .arg(sql.section(QLatin1Char(' '), 1, 1).toLower(),
                          sql.section(QLatin1Char(' '), 2, 2)));
     }
-    return true;
+    return {};
 }
 
-bool prepareSchema(Database &database, QString *copy)
+Result<QString> prepareSchema(Database &database)
 {
-    const std::optional<int> version = versionOf(database);
-    if (!version || !database.keepLog())
-        return false;
-    const bool isReady = *version == Nothing         ? makeSchema(database)
-                         : *version == VersionBefore ? upgrade(database, copy)
-                                                     : true;
-    return isReady && isComplete(database) && isWritable(database);
+    const Result<int> version = versionOf(database);
+    if (!version)
+        return version.error();
+    const Result<QString> copy =
+        database.keepLog().then([&] { return bringToFormat(database, *version); });
+    if (!copy)
+        return copy;
+    const Result<> checked = checkTables(database).then([&] { return checkWritable(database); });
+    return checked ? copy : checked.error();
 }
 
-bool isReadable(Database &database)
+Result<> checkFormat(Database &database)
 {
-    const std::optional<int> version = versionOf(database);
-    if (version && *version != Version)
-        return database.fail(
-            QStringLiteral("its format is not today's yet: open the register once"));
-    return version.has_value();
+    return versionOf(database).then([&database](int version) -> Result<> {
+        if (version != Version)
+            return database.fault(
+                QStringLiteral("its format is not today's yet: open the register once"));
+        return {};
+    });
 }
 
-bool isOurs(Database &database)
+Result<> checkOurs(Database &database)
 {
-    return versionOf(database).has_value();
+    return versionOf(database).then([](int) { return Result<>(); });
 }
 
 } // namespace till

@@ -15,22 +15,21 @@ const Table &positionsTable();
 const Table &softChecksTable();
 const Table &pluginDataTable();
 
-// All return false with the fault noted.
-
 /*!
  * Makes \a database one of this till: an empty one gets the tables, one of the till before them is
- * brought to today's, in one transaction, after a check and a copy, whose path is put into \a copy.
- * Another program's, another version's or a damaged one is left as it is.
+ * brought to today's, in one transaction, after a check and a copy, whose path is returned; it is
+ * empty where none was made. Another program's, another version's or a damaged one is left as it
+ * is.
  */
-bool prepareSchema(Database &database, QString *copy);
+Result<QString> prepareSchema(Database &database);
 
 //! Whether \a database is one of this till, of today's format.
-bool isReadable(Database &database);
+Result<> checkFormat(Database &database);
 //! Whether every table and index is as it was made.
-bool isComplete(Database &database);
+Result<> checkTables(Database &database);
 
 //! Whether \a database is one of any till that this one knows, today's or before.
-bool isOurs(Database &database);
+Result<> checkOurs(Database &database);
 
 } // namespace till
 

@@ -5,31 +5,33 @@
 
 namespace till {
 
-QMap<qint64, QString> receiptsSetApart(Database &database)
+Result<> readSetApart(Database &database, QMap<qint64, QString> &reasons)
 {
-    QMap<qint64, QString> reasons;
-    QSqlQuery *const rows =
-        database.run(QStringLiteral("SELECT receipt, reason FROM setApart ORDER BY receipt"));
-    while (rows && database.next(*rows))
-        reasons.insert(rows->value(0).toLongLong(), rows->value(1).toString());
-    return reasons;
+    return database.each(QStringLiteral("SELECT receipt, reason FROM setApart ORDER BY receipt"),
+                         {}, [&reasons](const QSqlQuery &row) {
+                             reasons.insert(row.value(0).toLongLong(), row.value(1).toString());
+                         });
 }
 
-QString reasonToSetApart(Database &database, qint64 id)
+Result<QString> reasonToSetApart(Database &database, qint64 id)
 {
-    if (id < 1 || id > highestNumber(database))
-        database.fail(QStringLiteral("there is no receipt %1").arg(id));
-    else if (receiptsSetApart(database).contains(id))
-        database.fail(QStringLiteral("receipt %1: it is set apart already").arg(id));
-    if (database.hasFailed())
-        return {};
+    QMap<qint64, QString> reasons;
+    const Result<qint64> highest =
+        readSetApart(database, reasons).then([&] { return highestNumber(database); });
+    if (!highest)
+        return highest.error();
+    if (id < 1 || id > *highest)
+        return database.fault(QStringLiteral("there is no receipt %1").arg(id));
+    if (reasons.contains(id))
+        return database.fault(QStringLiteral("receipt %1: it is set apart already").arg(id));
     const auto read = readRows(database, id);
-    const std::optional<Fault> unreadable = database.takeFault();
     if (!read)
-        return unreadable ? unreadable->text() : QStringLiteral("its header is missing");
-    const QString fault = read->anyFault();
-    if (fault.isEmpty() && !isUnfinished(read->record.state))
-        database.fail(QStringLiteral("receipt %1: it is finished and whole").arg(id));
+        return read.error().reason; // the path is told with it
+    if (!*read)
+        return QStringLiteral("its header is missing");
+    const QString fault = (*read)->anyFault();
+    if (fault.isEmpty() && !isUnfinished((*read)->record.state))
+        return database.fault(QStringLiteral("receipt %1: it is finished and whole").arg(id));
     return fault.isEmpty() ? QStringLiteral("unfinished") : fault;
 }
 

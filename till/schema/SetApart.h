@@ -1,6 +1,8 @@
 #ifndef TILL_SCHEMA_SETAPART_H
 #define TILL_SCHEMA_SETAPART_H
 
+#include "till/result/Result.h"
+
 #include <QtCore/QMap>
 #include <QtCore/QString>
 
@@ -8,11 +10,12 @@ namespace till {
 
 class Database;
 
-//! The receipts that were set apart, and why; with a fault noted, as far as they could be read.
-QMap<qint64, QString> receiptsSetApart(Database &database);
+//! Puts the receipts that were set apart into \a reasons, and why; with a fault, as far as they
+//! could be read.
+Result<> readSetApart(Database &database, QMap<qint64, QString> &reasons);
 
-//! Why the receipt may be set apart; a fault is noted when it may not.
-QString reasonToSetApart(Database &database, qint64 id);
+//! Why the receipt may be set apart, in words without a place; the fault is why it may not.
+Result<QString> reasonToSetApart(Database &database, qint64 id);
 
 } // namespace till
 

@@ -25,22 +25,21 @@ using AllContents = QMap<qint64, Contents>;
 constexpr const char *OldTables[] = {"journal", "pluginData", "softChecks", "positions",
                                      "receipts"};
 
-bool putOldAside(Database &database)
+QStringList puttingOldAside()
 {
-    bool done = database.execute(QStringLiteral("DROP INDEX unfinished"))
-                && database.execute(QStringLiteral("DROP INDEX journalOfReceipt"));
+    QStringList statements{QStringLiteral("DROP INDEX unfinished"),
+                           QStringLiteral("DROP INDEX journalOfReceipt")};
     for (const char *table : OldTables)
-        done =
-            done && database.execute(QStringLiteral("ALTER TABLE %1 RENAME TO old_%1").arg(table));
-    return done;
+        statements.append(QStringLiteral("ALTER TABLE %1 RENAME TO old_%1").arg(table));
+    return statements;
 }
 
-bool dropOld(Database &database)
+QStringList droppingOld()
 {
-    bool done = true;
+    QStringList statements;
     for (const char *table : OldTables)
-        done = done && database.execute(QStringLiteral("DROP TABLE old_%1").arg(table));
-    return done;
+        statements.append(QStringLiteral("DROP TABLE old_%1").arg(table));
+    return statements;
 }
 
 void countLine(const QVariantList &values, Contents &contents)
@@ -49,51 +48,48 @@ void countLine(const QVariantList &values, Contents &contents)
     if (line.stornoed)
         return;
     ++contents.positions;
-    if (faultOf(line, line.posnum + 1).isEmpty()) // else its sum may be no number
-        contents.total += sumOf(line.article.price, line.count);
+    if (check(line, line.posnum + 1)) // else its sum may be no number
+        contents.total += line.sum();
 }
 
-//! The next row of \a rows, of which \a table has \a count columns.
-QVariantList valuesOf(const QSqlQuery &rows, int count)
+//! The \a row, of which a table has \a count columns.
+QVariantList valuesOf(const QSqlQuery &row, int count)
 {
     QVariantList values;
     for (int column = 0; column < count; ++column)
-        values.append(rows.value(column));
+        values.append(row.value(column));
     return values;
 }
 
-bool moveRow(Database &database, const Table &table, const QVariantList &values, Contents &contents)
+Result<> moveRow(Database &database, const Table &table, const QVariantList &values,
+                 Contents &contents)
 {
     const QByteArray digest = table.digest(values);
     contents.rows.toggle(digest);
     return table.write(database, values, digest);
 }
 
-bool movePositions(Database &database, AllContents &all)
+Result<> movePositions(Database &database, AllContents &all)
 {
-    QSqlQuery *const rows = database.run(
+    return database.each(
         QStringLiteral("SELECT receipt, place, posnum, code, name, price, taraMode, taraCapacity, "
-                       "pack, unit, count, base, groupId, stornoed FROM old_positions"));
-    while (rows && database.next(*rows)) {
-        const QVariantList values = valuesOf(*rows, 14);
-        Contents &contents = all[values[0].toLongLong()];
-        if (!moveRow(database, positionsTable(), values, contents))
-            return false;
-        countLine(values, contents);
-    }
-    return !database.hasFailed();
+                       "pack, unit, count, base, groupId, stornoed FROM old_positions"),
+        {}, [&](const QSqlQuery &row) {
+            const QVariantList values = valuesOf(row, 14);
+            Contents &contents = all[values[0].toLongLong()];
+            countLine(values, contents);
+            return moveRow(database, positionsTable(), values, contents);
+        });
 }
 
-bool moveSoftChecks(Database &database, AllContents &all)
+Result<> moveSoftChecks(Database &database, AllContents &all)
 {
-    QSqlQuery *const rows =
-        database.run(QStringLiteral("SELECT receipt, place, number FROM old_softChecks"));
-    while (rows && database.next(*rows)) {
-        const QVariantList values = valuesOf(*rows, 3);
-        if (!moveRow(database, softChecksTable(), values, all[values[0].toLongLong()]))
-            return false;
-    }
-    return !database.hasFailed();
+    return database.each(QStringLiteral("SELECT receipt, place, number FROM old_softChecks"), {},
+                         [&](const QSqlQuery &row) {
+                             const QVariantList values = valuesOf(row, 3);
+                             return moveRow(database, softChecksTable(), values,
+                                            all[values[0].toLongLong()]);
+                         });
 }
 
 //! The digest that the first format kept of a value.
@@ -102,46 +98,46 @@ QByteArray digestBefore(const QByteArray &value, const QString &types)
     return QCryptographicHash::hash(value + types.toUtf8(), QCryptographicHash::Blake2b_256);
 }
 
-bool movePluginData(Database &database, AllContents &all)
+Result<> movePluginData(Database &database, AllContents &all)
 {
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT receipt, plugin, key, value, types, digest FROM old_pluginData"));
-    while (rows && database.next(*rows)) {
-        QVariantList values = valuesOf(*rows, 5);
-        const bool isWhole = rows->value(5).toByteArray()
-                             == digestBefore(values[3].toByteArray(), values[4].toString());
-        values.insert(3, 0); // a list stays in one row until it is stored anew
-        const bool isMoved =
-            isWhole ? moveRow(database, pluginDataTable(), values, all[values[0].toLongLong()])
-                    : pluginDataTable().write(database, values, QByteArray("damaged before"));
-        if (!isMoved)
-            return false;
-    }
-    return !database.hasFailed();
+    return database.each(
+        QStringLiteral("SELECT receipt, plugin, key, value, types, digest FROM old_pluginData"), {},
+        [&](const QSqlQuery &row) {
+            QVariantList values = valuesOf(row, 5);
+            const bool isWhole = row.value(5).toByteArray()
+                                 == digestBefore(values[3].toByteArray(), values[4].toString());
+            values.insert(3, 0); // a list stays in one row until it is stored anew
+            return isWhole
+                       ? moveRow(database, pluginDataTable(), values, all[values[0].toLongLong()])
+                       : pluginDataTable().write(database, values, QByteArray("damaged before"));
+        });
 }
 
-bool moveHeaders(Database &database, const AllContents &all)
+Result<> moveHeaders(Database &database, const AllContents &all)
 {
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT id, type, state, orderNumber, nextPosnum FROM old_receipts"));
-    while (rows && database.next(*rows)) {
-        const Contents contents = all.value(rows->value(0).toLongLong());
-        constexpr qint64 notKnown = 0;
-        const QVariantList values = valuesOf(*rows, 5)
-                                    + QVariantList{notKnown, notKnown, contents.positions,
-                                                   contents.total, contents.rows.bytes()};
-        if (!receiptsTable().write(database, values, receiptsTable().digest(values)))
-            return false;
-    }
-    return !database.hasFailed();
+    return database.each(
+        QStringLiteral("SELECT id, type, state, orderNumber, nextPosnum FROM old_receipts"), {},
+        [&](const QSqlQuery &row) {
+            const Contents contents = all.value(row.value(0).toLongLong());
+            constexpr qint64 notKnown = 0;
+            const QVariantList values = valuesOf(row, 5)
+                                        + QVariantList{notKnown, notKnown, contents.positions,
+                                                       contents.total, contents.rows.bytes()};
+            return receiptsTable().write(database, values, receiptsTable().digest(values));
+        });
 }
 
-bool moveAll(Database &database)
+Result<> moveAll(Database &database)
 {
     AllContents all;
-    return movePositions(database, all) && moveSoftChecks(database, all)
-           && movePluginData(database, all) && moveHeaders(database, all)
-           && database.execute(QStringLiteral("INSERT INTO journal SELECT * FROM old_journal"));
+    return movePositions(database, all)
+        .then([&] { return moveSoftChecks(database, all); })
+        .then([&] { return movePluginData(database, all); })
+        .then([&] { return moveHeaders(database, all); })
+        .then([&] {
+            return database.execute(
+                {QStringLiteral("INSERT INTO journal SELECT * FROM old_journal")});
+        });
 }
 
 //! A name beside the database that is free.
@@ -156,21 +152,26 @@ QString nameOfCopy(const QString &path)
 
 } // namespace
 
-bool upgradeFromSchema1(Database &database, bool (*makeTables)(Database &), QString *copy)
+Result<QString> upgradeFromSchema1(Database &database, const QStringList &makingTables)
 {
-    *copy = nameOfCopy(database.path());
-    if (!database.copyTo(*copy))
-        return false;
+    const QString copy = nameOfCopy(database.path());
+    if (const Result<> copied = database.copyTo(copy); !copied)
+        return copied.error();
     // Rows without a header, which only damage makes, are kept too.
-    const bool done = database.execute(QStringLiteral("PRAGMA foreign_keys = OFF"))
-                      && database.begin() && putOldAside(database) && makeTables(database)
-                      && moveAll(database) && dropOld(database) && database.commit()
-                      && database.execute(QStringLiteral("PRAGMA foreign_keys = ON"));
-    if (!done) {
-        database.rollBack();
-        QFile::remove(*copy);
-    }
-    return done;
+    const Result<> done =
+        database.execute({QStringLiteral("PRAGMA foreign_keys = OFF")})
+            .then([&] {
+                return database.inTransaction([&] {
+                    return database.execute(puttingOldAside() + makingTables)
+                        .then([&] { return moveAll(database); })
+                        .then([&] { return database.execute(droppingOld()); });
+                });
+            })
+            .then([&] { return database.execute({QStringLiteral("PRAGMA foreign_keys = ON")}); });
+    if (done)
+        return copy;
+    QFile::remove(copy);
+    return done.error();
 }
 
 } // namespace till

@@ -200,15 +200,16 @@ Message CommandLine::whyDeclined() const
                : told("till", "\"%1\" was answered no").with({question});
 }
 
-QString CommandLine::leftOver() const
+Outcome CommandLine::checkAnswers() const
 {
-    if (!m_unanswered.isEmpty())
-        return m_translator.text(
-            told("till", "no answer was given to: %1").with({m_unanswered.join(", ")}));
+    if (!m_unanswered.isEmpty()) // all of which are named, however many
+        return {Outcome::Mistake,
+                told("till", "no answer was given to: %1").with({m_unanswered.join(", ")}),
+                {}};
     if (m_answers.waiting() > 0)
-        return m_translator.text(told("till", "%1 answer(s) were given that nobody asked for")
-                                     .with({QString::number(m_answers.waiting())}));
-    return {};
+        return Outcome::mistake(told("till", "%1 answer(s) were given that nobody asked for")
+                                    .with({QString::number(m_answers.waiting())}));
+    return Outcome::done();
 }
 
 bool CommandLine::ask(const Question &question)

@@ -51,11 +51,9 @@ public:
     //! While a command is under way nothing happens; the outcome is `Outcome::busy()`.
     Outcome run(const QString &line);
 
-    /*!
-     * What is wrong at the end of a script: answers that no question took, questions that found no
-     * answer. Empty when all is well.
-     */
-    QString leftOver() const;
+    //! Done, or what is wrong at the end of a script: answers that no question took, questions that
+    //! found no answer.
+    Outcome checkAnswers() const;
     //! How many answers wait for a question.
     qsizetype answersWaiting() const { return m_answers.waiting(); }
     //! How many questions nobody was there to answer.

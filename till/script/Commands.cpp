@@ -68,8 +68,8 @@ Outcome CommandLine::set(const QStringList &words)
     }
     if (words.size() == 1)
         return wrongWords({"set", told("till", "[KEY VALUE]"), {}, 0, 0});
-    if (const auto fault = settingFault(words[0], words[1]))
-        return Outcome::mistake(*fault);
+    if (const auto checked = checkSetting(words[0], words[1]); !checked)
+        return Outcome::mistake(checked.error());
     const Result<> isSet = m_desk.set(words[0], words[1]);
     return isSet ? Outcome::done()
                  : Outcome::failed(told("till", "The till could not be switched on"),

@@ -104,9 +104,9 @@ Result<void, ScriptFault> ScriptPlay::step()
         return {};
     const QList<ScriptLine> &lines = m_script.lines();
     Result<void, ScriptFault> played = carryOut(lines[m_next++]);
-    const QString left = m_next == lines.size() ? m_commands.leftOver() : QString();
-    if (played && !left.isEmpty())
-        played = faultOfLoose(left);
+    const Outcome answers = m_next == lines.size() ? m_commands.checkAnswers() : Outcome::done();
+    if (played && !answers)
+        played = faultOfLoose(m_commands.textOf(answers));
     m_hasEnded = !played || m_next == lines.size();
     if (m_hasEnded)
         m_commands.notes().add("verdict", {{"file", m_script.path()},

@@ -34,31 +34,31 @@ QString unquoted(const QString &value)
     return isQuoted ? value.mid(1, value.size() - 2).trimmed() : value;
 }
 
-//! What is wrong with a heading that says \a section: no known setting stands below it.
-std::optional<Message> sectionFault(const QString &section)
+//! Whether a known setting stands below a heading that says \a section.
+Result<void, Message> checkSection(const QString &section)
 {
     QStringList known = knownSettings();
     for (QString &setting : known)
         setting = setting.section(':', 0, 0);
     known.removeDuplicates();
     if (known.contains(section))
-        return std::nullopt;
+        return {};
     return told("till", "no section [%1]; there is [%2]")
         .with({brief(section), known.join("], [")});
 }
 
 using Settings = QList<std::pair<QString, QString>>;
 
-//! Reads one line, under the heading of \a section; what is wrong with it.
-std::optional<Message> readLine(const QString &line, QString &section, Settings &settings)
+//! Reads one line, under the heading of \a section.
+Result<void, Message> readLine(const QString &line, QString &section, Settings &settings)
 {
     if (line.isEmpty())
-        return std::nullopt;
+        return {};
     if (line.startsWith('[')) {
         if (!line.endsWith(']'))
             return told("till", "a section is not closed with \"]\"");
         section = line.mid(1, line.size() - 2).trimmed();
-        return sectionFault(section);
+        return checkSection(section);
     }
     const qsizetype equals = line.indexOf('=');
     if (equals <= 0)
@@ -67,7 +67,7 @@ std::optional<Message> readLine(const QString &line, QString &section, Settings 
         return told("till", "there is no [SECTION] above it");
     const QString key = section + ':' + line.left(equals).trimmed();
     settings.append({key, unquoted(line.mid(equals + 1).trimmed())});
-    return settingFault(key, settings.last().second);
+    return checkSetting(key, settings.last().second);
 }
 
 //! The setting that is meant by \a key, which may lack the section; empty when none is near.
@@ -90,13 +90,13 @@ QStringList knownSettings()
     return {QStringLiteral("PackagingControl:allowSaleEmptyTara")};
 }
 
-std::optional<Message> settingFault(const QString &key, const QString &value)
+Result<void, Message> checkSetting(const QString &key, const QString &value)
 {
-    if (knownSettings().contains(key))
-        return isBoolean(value.trimmed())
-                   ? std::nullopt
-                   : std::optional(told("till", "%1: \"%2\" is neither true nor false")
-                                       .with({key, brief(value)}));
+    if (knownSettings().contains(key)) {
+        if (isBoolean(value.trimmed()))
+            return {};
+        return told("till", "%1: \"%2\" is neither true nor false").with({key, brief(value)});
+    }
     const QString meant = meantBy(key);
     return meant.isEmpty()
                ? told("till", "no setting \"%1\"").with({brief(key)})
@@ -128,9 +128,9 @@ Result<> readSettingsFile(const QString &path, Config &config)
     Settings settings;
     const QStringList lines = text.split('\n');
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        if (const auto fault = readLine(bare(lines[i]), section, settings))
+        if (const auto read = readLine(bare(lines[i]), section, settings); !read)
             return Fault{QStringLiteral("%1:%2").arg(path).arg(i + 1),
-                         Translator(QStringLiteral("en")).text(*fault)};
+                         Translator(QStringLiteral("en")).text(read.error())};
     }
     for (const auto &[key, value] : std::as_const(settings))
         config.set(key, value);

@@ -6,8 +6,6 @@
 
 #include <QtCore/QStringList>
 
-#include <optional>
-
 class Config;
 
 namespace till {
@@ -15,8 +13,9 @@ namespace till {
 //! Keys of the settings that there are. Each is a boolean, true by default.
 QStringList knownSettings();
 
-//! What is wrong with setting \a key to \a value: there is no such setting, or that is no boolean.
-std::optional<Message> settingFault(const QString &key, const QString &value);
+//! Whether \a key can be set to \a value; not where there is no such setting, or that is no
+//! boolean.
+Result<void, Message> checkSetting(const QString &key, const QString &value);
 
 //! The settings as \a config has them, "KEY=true" or "KEY=false".
 QStringList settingsInForce(const Config &config);

@@ -19,8 +19,8 @@ Result<> readSettings(const QStringList &assignments, QMap<QString, QString> &se
         if (equals <= 0)
             return Fault{"--set", '"' + brief(assignment) + "\" is not KEY=VALUE"};
         const QString key = assignment.left(equals);
-        if (const auto fault = settingFault(key, assignment.mid(equals + 1)))
-            return Fault{"--set", Translator("en").text(*fault)};
+        if (const auto checked = checkSetting(key, assignment.mid(equals + 1)); !checked)
+            return Fault{"--set", Translator("en").text(checked.error())};
         settings.insert(key, assignment.mid(equals + 1));
     }
     return {};

@@ -34,62 +34,52 @@ bool isNumber(const QVariant &value)
     return value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Int;
 }
 
-//! What is wrong with the note \a json of a row that says that it is of that \a depth and \a kind.
-QString faultOf(const QByteArray &json, const QVariant &depth, const QString &kind)
+//! Whether \a json is the note of a row that says that it is of that \a depth and \a kind.
+Result<> check(const QByteArray &json, const QVariant &depth, const QString &kind)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json);
     const auto fields = kinds().constFind(kind);
     if (!document.isObject() || fields == kinds().cend() || !isNumber(depth))
-        return QStringLiteral("no note of a journal");
+        return Fault{{}, QStringLiteral("no note of a journal")};
     const QJsonObject note = document.object();
     if (note["kind"] != kind || note["depth"] != depth.toInt())
-        return QStringLiteral("not the note that was stored");
+        return Fault{{}, QStringLiteral("not the note that was stored")};
     for (auto field = fields->cbegin(); field != fields->cend(); ++field) {
         if (note[field.key()].type() != *field)
-            return QString("a note without \"%1\"").arg(field.key());
+            return Fault{{}, QString("a note without \"%1\"").arg(field.key())};
     }
     return {};
 }
 
 } // namespace
 
-void eachOfJournal(Database &database, std::optional<qint64> receiptId,
-                   const std::function<void(const JournalRow &row)> &take)
+Result<> eachOfJournal(Database &database, std::optional<qint64> receiptId,
+                       const std::function<void(const JournalRow &row)> &take)
 {
     const QString all = QStringLiteral("SELECT depth, kind, json, id, receipt FROM journal");
-    QSqlQuery *const rows = receiptId
-                                ? database.run(all + " WHERE receipt = ? ORDER BY id", {*receiptId})
-                                : database.run(all + " ORDER BY id");
-    while (rows && database.next(*rows)) {
-        const JournalEntry entry{rows->value(0).toInt(), rows->value(1).toString(),
-                                 rows->value(2).toByteArray()};
-        const QString fault = faultOf(entry.json, rows->value(0), entry.kind);
-        const QString place = QString("row %1 of its journal: ").arg(rows->value(3).toLongLong());
-        take({rows->value(4).toLongLong(), entry, fault.isEmpty() ? fault : place + fault});
-    }
+    const auto takeRow = [&take](const QSqlQuery &found) {
+        const JournalEntry entry{found.value(0).toInt(), found.value(1).toString(),
+                                 found.value(2).toByteArray()};
+        JournalRow row{found.value(4).toLongLong(), entry, {}};
+        if (const Result<> checked = check(entry.json, found.value(0), entry.kind); !checked)
+            row.fault = QString("row %1 of its journal: ").arg(found.value(3).toLongLong())
+                        + checked.error().reason;
+        take(row);
+    };
+    return receiptId ? database.each(all + " WHERE receipt = ? ORDER BY id", {*receiptId}, takeRow)
+                     : database.each(all + " ORDER BY id", {}, takeRow);
 }
 
-bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal)
+Result<> writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal)
 {
     for (const JournalEntry &entry : journal) {
-        if (!database.run(QStringLiteral("INSERT INTO journal (receipt, depth, kind, json) "
-                                         "VALUES (?, ?, ?, ?)"),
-                          {receiptId, entry.depth, storable(entry.kind), storable(entry.json)}))
-            return false;
+        const Result<> written = database.run(
+            QStringLiteral("INSERT INTO journal (receipt, depth, kind, json) VALUES (?, ?, ?, ?)"),
+            {receiptId, entry.depth, storable(entry.kind), storable(entry.json)});
+        if (!written)
+            return written;
     }
-    return true;
-}
-
-QList<JournalEntry> readJournal(Database &database, qint64 receiptId)
-{
-    QList<JournalEntry> entries;
-    QSqlQuery *const rows = database.run(
-        QStringLiteral("SELECT depth, kind, json FROM journal WHERE receipt = ? ORDER BY id"),
-        {receiptId});
-    while (rows && database.next(*rows))
-        entries.append(
-            {rows->value(0).toInt(), rows->value(1).toString(), rows->value(2).toByteArray()});
-    return entries;
+    return {};
 }
 
 } // namespace till

@@ -10,9 +10,8 @@ namespace till {
 
 class Database;
 
-//! Appends to the receipt's journal, within a transaction of the caller's. False with the fault
-//! noted.
-bool writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal);
+//! Appends to the receipt's journal, within a transaction of the caller's.
+Result<> writeJournal(Database &database, qint64 receiptId, const QList<JournalEntry> &journal);
 
 //! A row of a journal as it was found.
 struct JournalRow
@@ -23,12 +22,9 @@ struct JournalRow
 };
 
 //! Gives \a take each row of the receipt's journal, or of all of them for no receipt, in the order
-//! of writing; with a fault noted, as far as they could be read.
-void eachOfJournal(Database &database, std::optional<qint64> receiptId,
-                   const std::function<void(const JournalRow &row)> &take);
-
-//! What was done to the receipt, oldest first; with a fault noted, as far as it could be read.
-QList<JournalEntry> readJournal(Database &database, qint64 receiptId);
+//! of writing; with a fault, as far as they could be read.
+Result<> eachOfJournal(Database &database, std::optional<qint64> receiptId,
+                       const std::function<void(const JournalRow &row)> &take);
 
 } // namespace till
 

@@ -7,7 +7,6 @@
 
 #include <QtCore/QDateTime>
 
-#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -64,56 +63,75 @@ public:
     {
     }
 
-    bool write()
+    Result<> write()
     {
-        return begin() && writeLines() && writeSoftChecks() && writeValues() && writeHeader();
+        return begin()
+            .then([this] { return writeLines(); })
+            .then([this] { return writeSoftChecks(); })
+            .then([this] { return writeValues(); })
+            .then([this] { return writeHeader(); });
     }
 
 private:
     //! The number of the receipt, and a place without rows that are not known.
-    bool begin()
+    Result<> begin()
     {
+        if (!m_update.isWhole && (m_update.id == 0 || m_update.id != m_stored.id))
+            return m_database.fault(
+                QStringLiteral("receipt %1 is not the one that was stored last").arg(m_update.id));
         if (!m_update.isWhole)
-            return (m_update.id != 0 && m_update.id == m_stored.id)
-                   || m_database.fail(
-                       QStringLiteral("receipt %1 is not the one that was stored last")
-                           .arg(m_update.id));
+            return {};
         m_stored = {};
-        if (m_update.id != 0)
-            return removeRows();
-        m_update.id = m_stored.id = highestNumber(m_database) + 1;
+        return m_update.id == 0 ? takeNumber() : removeRows();
+    }
+
+    Result<> takeNumber()
+    {
+        const Result<qint64> highest = highestNumber(m_database);
+        if (!highest)
+            return highest.error();
+        m_update.id = m_stored.id = *highest + 1;
         m_stored.opened = QDateTime::currentMSecsSinceEpoch();
-        return !m_database.hasFailed();
+        return {};
     }
 
     //! All of the receipt is written anew.
-    bool removeRows()
+    Result<> removeRows()
     {
-        const qint64 id = m_stored.id = m_update.id;
-        QSqlQuery *const header =
-            m_database.run(QStringLiteral("SELECT opened, ended FROM receipts WHERE id = ?"), {id});
-        if (!header || !m_database.next(*header))
-            return header && m_database.fail(QStringLiteral("there is no receipt %1").arg(id));
-        m_stored.opened = header->value(0).toLongLong();
-        m_stored.ended = header->value(1).toLongLong();
-        header->finish();
-        return m_database.run(QStringLiteral("DELETE FROM positions WHERE receipt = ?"), {id})
-               && m_database.run(QStringLiteral("DELETE FROM softChecks WHERE receipt = ?"), {id})
-               && m_database.run(QStringLiteral("DELETE FROM pluginData WHERE receipt = ?"), {id});
+        const qint64 id = m_update.id;
+        const Result<> read =
+            m_database.each(QStringLiteral("SELECT opened, ended FROM receipts WHERE id = ?"), {id},
+                            [this, id](const QSqlQuery &header) {
+                                m_stored.id = id;
+                                m_stored.opened = header.value(0).toLongLong();
+                                m_stored.ended = header.value(1).toLongLong();
+                            });
+        if (!read)
+            return read;
+        if (m_stored.id != id)
+            return m_database.fault(QStringLiteral("there is no receipt %1").arg(id));
+        for (const char *sql :
+             {"DELETE FROM positions WHERE receipt = ?", "DELETE FROM softChecks WHERE receipt = ?",
+              "DELETE FROM pluginData WHERE receipt = ?"}) {
+            if (const Result<> removed = m_database.run(QString::fromLatin1(sql), {id}); !removed)
+                return removed;
+        }
+        return {};
     }
 
-    bool writeHeader()
+    Result<> writeHeader()
     {
         if (!isUnfinished(m_update.state) && m_stored.ended == 0)
             m_stored.ended = QDateTime::currentMSecsSinceEpoch();
         const QVariantList row = rowOf(m_update, m_stored);
-        const bool isSame = row == m_stored.header;
+        if (row == m_stored.header)
+            return {};
         m_stored.header = row;
-        return isSame || receiptsTable().write(m_database, row, receiptsTable().digest(row));
+        return receiptsTable().write(m_database, row, receiptsTable().digest(row));
     }
 
     //! Writes \a row in place of the one that had \a digest, if any, and sets that.
-    bool writeRow(const Table &table, const QVariantList &row, QByteArray &digest)
+    Result<> writeRow(const Table &table, const QVariantList &row, QByteArray &digest)
     {
         m_stored.contents.toggle(digest);
         digest = table.digest(row);
@@ -121,25 +139,26 @@ private:
         return table.write(m_database, row, digest);
     }
 
-    bool writeLines()
+    Result<> writeLines()
     {
         for (auto line = m_update.lines.cbegin(); line != m_update.lines.cend(); ++line) {
             if (line.key() == m_stored.lines.size())
                 m_stored.lines.append(StoredReceipt::Line());
-            if (!writeLine(line.key(), line.value()))
-                return false;
+            if (const Result<> written = writeLine(line.key(), line.value()); !written)
+                return written;
         }
-        return true;
+        return {};
     }
 
-    bool writeLine(qsizetype place, const LineRecord &line)
+    Result<> writeLine(qsizetype place, const LineRecord &line)
     {
-        if (const QString fault = faultOf(line, m_update.nextPosnum); !fault.isEmpty())
-            return m_database.fail(fault + QStringLiteral(", which cannot be stored"));
+        if (const Result<> checked = check(line, m_update.nextPosnum); !checked)
+            return m_database.fault(checked.error().reason
+                                    + QStringLiteral(", which cannot be stored"));
         StoredReceipt::Line &stored = m_stored.lines[place];
         count(stored, -1);
         stored.positions = line.stornoed ? 0 : 1;
-        stored.total = line.stornoed ? 0 : sumOf(line.article.price, line.count);
+        stored.total = line.stornoed ? 0 : line.sum();
         count(stored, 1);
         return writeRow(positionsTable(), rowOf(m_update.id, place, line), stored.digest);
     }
@@ -151,23 +170,26 @@ private:
         m_stored.total += sign * line.total;
     }
 
-    bool writeSoftChecks()
+    Result<> writeSoftChecks()
     {
         const QStringList &numbers = m_update.softChecks;
         const QStringList before = std::exchange(m_stored.softChecks, numbers);
         for (qsizetype place = 0; place < numbers.size(); ++place) {
+            const QVariantList row = rowOf(m_update.id, place, numbers[place]);
             QByteArray digest;
-            if (place < before.size())
+            if (place < before.size()) {
+                if (numbers[place] == before[place])
+                    continue;
                 digest = softChecksTable().digest(rowOf(m_update.id, place, before[place]));
-            if ((place >= before.size() || numbers[place] != before[place])
-                && !writeRow(softChecksTable(), rowOf(m_update.id, place, numbers[place]), digest))
-                return false;
+            }
+            if (const Result<> written = writeRow(softChecksTable(), row, digest); !written)
+                return written;
         }
-        return true;
+        return {};
     }
 
     //! Of what changes more than once only the last is written.
-    bool writeValues()
+    Result<> writeValues()
     {
         std::map<std::pair<QString, QString>, ValueWriter> writers;
         for (const ValueChange &change : m_update.values) {
@@ -177,11 +199,14 @@ private:
                     .try_emplace({change.plugin, change.key}, m_database, m_update.id,
                                  change.plugin, change.key, rows, m_stored.contents)
                     .first;
-            if (!writer->second.apply(change))
-                return false;
+            if (const Result<> applied = writer->second.apply(change); !applied)
+                return applied;
         }
-        return std::all_of(writers.begin(), writers.end(),
-                           [](auto &writer) { return writer.second.write(); });
+        for (auto &[key, writer] : writers) {
+            if (const Result<> written = writer.write(); !written)
+                return written;
+        }
+        return {};
     }
 
     Database &m_database;
@@ -191,7 +216,7 @@ private:
 
 } // namespace
 
-bool writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored)
+Result<> writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored)
 {
     return Writer(database, update, stored).write();
 }

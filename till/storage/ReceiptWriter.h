@@ -39,11 +39,10 @@ struct StoredReceipt
 
 /*!
  * Writes what \a update has, and brings \a stored up to date, which is what the database holds of
- * that receipt unless the update is whole. Gives the receipt a number when it has none. After an
- * error \a stored is worth nothing. Works within a transaction of the caller's, and returns false
- * with the fault noted.
+ * that receipt unless the update is whole. Gives the receipt a number when it has none. With a
+ * fault \a stored is worth nothing. Works within a transaction of the caller's.
  */
-bool writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored);
+Result<> writeReceipt(Database &database, ReceiptUpdate &update, StoredReceipt &stored);
 
 } // namespace till
 

@@ -82,9 +82,6 @@ public:
     //! receipt that holds.
     Result<QString> setApart(qint64 id);
 
-    //! What was done to that receipt, oldest first; empty for an unknown number.
-    QList<JournalEntry> journal(qint64 receiptId) const;
-
     //! The path as it was given.
     QString path() const;
 

@@ -19,54 +19,58 @@ ValueWriter::ValueWriter(Database &database, qint64 receipt, const QString &plug
 {
 }
 
-bool ValueWriter::apply(const ValueChange &change)
+Result<> ValueWriter::apply(const ValueChange &change)
 {
     if (change.parts.isEmpty())
         return replace(change.value);
-    return std::all_of(change.parts.cbegin(), change.parts.cend(),
-                       [this](const ListChange &part) { return replace(part); });
+    for (const ListChange &part : change.parts) {
+        if (const Result<> replaced = replace(part); !replaced)
+            return replaced;
+    }
+    return {};
 }
 
-bool ValueWriter::replace(const QVariant &value)
+Result<> ValueWriter::replace(const QVariant &value)
 {
-    if (!cut(0, static_cast<qsizetype>(m_rows.size())))
-        return false;
+    const Result<> emptied = cut(0, static_cast<qsizetype>(m_rows.size()));
     const bool isList = value.typeId() == QMetaType::QVariantList;
     append(isList ? QVariant(QVariantList()) : value);
     if (isList)
         appendAll(value.toList());
-    return true;
+    return emptied;
 }
 
-bool ValueWriter::replace(const ListChange &part)
+Result<> ValueWriter::replace(const ListChange &part)
 {
     const qsizetype first = 1 + part.at; // behind the list's own row
     const qsizetype replaced = std::min(part.removed, part.added.size());
     for (qsizetype i = 0; i < replaced; ++i)
         m_pending[m_rows[static_cast<size_t>(first + i)].place] = part.added[i];
-    if (!cut(first + replaced, part.removed - replaced))
-        return false;
+    const Result<> isCut = cut(first + replaced, part.removed - replaced);
     appendAll(part.added.mid(replaced));
-    return true;
+    return isCut;
 }
 
-bool ValueWriter::cut(qsizetype from, qsizetype count)
+Result<> ValueWriter::cut(qsizetype from, qsizetype count)
 {
     const auto begin = m_rows.begin() + from;
-    const bool done =
-        std::all_of(begin, begin + count, [this](const StoredElement &row) { return remove(row); });
+    Result<> removed;
+    for (auto row = begin; removed && row != begin + count; ++row)
+        removed = remove(*row);
     m_rows.erase(begin, begin + count);
-    return done;
+    return removed;
 }
 
-bool ValueWriter::remove(const StoredElement &row)
+Result<> ValueWriter::remove(const StoredElement &row)
 {
     m_pending.remove(row.place);
     m_contents.toggle(row.digest);
-    return row.digest.isEmpty()
-           || m_database.run(QStringLiteral("DELETE FROM pluginData WHERE receipt = ? AND plugin = "
-                                            "? AND key = ? AND place = ?"),
-                             {m_receipt, storable(m_plugin), storable(m_key), row.place});
+    if (row.digest.isEmpty())
+        return {};
+    return m_database.run(
+        QStringLiteral(
+            "DELETE FROM pluginData WHERE receipt = ? AND plugin = ? AND key = ? AND place = ?"),
+        {m_receipt, storable(m_plugin), storable(m_key), row.place});
 }
 
 void ValueWriter::appendAll(const QVariantList &elements)
@@ -82,24 +86,24 @@ void ValueWriter::append(const QVariant &value)
     m_pending.insert(place, value);
 }
 
-bool ValueWriter::write()
+Result<> ValueWriter::write()
 {
     for (auto value = m_pending.cbegin(); value != m_pending.cend(); ++value) {
         const auto row = std::lower_bound(
             m_rows.begin(), m_rows.end(), value.key(),
             [](const StoredElement &element, qint64 place) { return element.place < place; });
-        if (!write(*row, value.value()))
-            return false;
+        if (const Result<> written = write(*row, value.value()); !written)
+            return written;
     }
-    return true;
+    return {};
 }
 
-bool ValueWriter::write(StoredElement &row, const QVariant &value)
+Result<> ValueWriter::write(StoredElement &row, const QVariant &value)
 {
     const auto bytes = VariantBytes::of(value);
     if (!bytes)
-        return m_database.fail(QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
-                                   .arg(m_plugin, m_key, bytes.error().reason));
+        return m_database.fault(QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
+                                    .arg(m_plugin, m_key, bytes.error().reason));
     const QVariantList values{m_receipt, storable(m_plugin), storable(m_key),
                               row.place, bytes->bytes,       storable(bytes->types)};
     m_contents.toggle(row.digest);

@@ -3,6 +3,7 @@
 
 #include "till/database/Table.h"
 #include "till/receipt/ValueChange.h"
+#include "till/result/Result.h"
 
 #include <QtCore/QMap>
 
@@ -34,21 +35,19 @@ public:
     ValueWriter(Database &database, qint64 receipt, const QString &plugin, const QString &key,
                 std::vector<StoredElement> &rows, RowsDigest &contents);
 
-    // Both return false with the error noted.
-
     //! Notes a change, and takes out the rows of what it removes.
-    bool apply(const ValueChange &change);
+    Result<> apply(const ValueChange &change);
     //! Writes what is left of all changes.
-    bool write();
+    Result<> write();
 
 private:
-    bool replace(const QVariant &value);
-    bool replace(const ListChange &part);
-    bool cut(qsizetype from, qsizetype count);
+    Result<> replace(const QVariant &value);
+    Result<> replace(const ListChange &part);
+    Result<> cut(qsizetype from, qsizetype count);
     void appendAll(const QVariantList &elements);
     void append(const QVariant &value);
-    bool remove(const StoredElement &row);
-    bool write(StoredElement &row, const QVariant &value);
+    Result<> remove(const StoredElement &row);
+    Result<> write(StoredElement &row, const QVariant &value);
 
     Database &m_database;
     qint64 m_receipt;

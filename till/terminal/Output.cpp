@@ -95,10 +95,11 @@ void Output::installMessageHandler()
         });
 }
 
-QString Output::fault()
+Result<> Output::written()
 {
-    return outputError == 0 ? QString()
-                            : "standard output: " + QString::fromLocal8Bit(strerror(outputError));
+    if (outputError == 0)
+        return {};
+    return Fault{"standard output", QString::fromLocal8Bit(strerror(outputError))};
 }
 
 } // namespace till

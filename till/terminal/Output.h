@@ -1,6 +1,8 @@
 #ifndef TILL_TERMINAL_OUTPUT_H
 #define TILL_TERMINAL_OUTPUT_H
 
+#include "till/result/Result.h"
+
 #include <QtCore/QString>
 
 namespace till {
@@ -41,8 +43,8 @@ public:
     //! Lets what Qt and plugins have to say on standard error pass the same way.
     static void installMessageHandler();
 
-    //! Why standard output could not be written; empty when all of it was.
-    static QString fault();
+    //! Whether all of standard output could be written so far.
+    static Result<> written();
 
 private:
     bool m_isText = false;

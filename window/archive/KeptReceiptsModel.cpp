@@ -17,12 +17,12 @@ Result<> KeptReceiptsModel::read(Archive &archive, const Selection &selection)
 {
     QList<KeptReceipt> receipts; // the oldest first; twice as many at most, and then the later half
     qint64 count = 0;
-    const Result<> listed = archive.list(selection, [&](const KeptReceipt &receipt) {
+    const Result<> listed = archive.list(selection, [&](const KeptReceipt &receipt) -> Result<> {
         if (receipts.size() == 2 * most)
             receipts.remove(0, most);
         receipts.append(receipt);
         ++count;
-        return true;
+        return {};
     });
     if (!listed) {
         clear();

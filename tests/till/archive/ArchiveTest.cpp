@@ -33,7 +33,7 @@ protected:
         EXPECT_EQ(faultText(archive.list(selection,
                                          [&](const KeptReceipt &receipt) {
                                              ids.append(receipt.record.id);
-                                             return true;
+                                             return Result<>();
                                          })),
                   QString());
         EXPECT_EQ(must(archive.count(selection)), ids.size());
@@ -113,14 +113,20 @@ TEST_F(ArchiveTest, States_AreChosen)
     EXPECT_THAT(listed(*kept, {{}, {}, {ReceiptState::Subtotal}}), ElementsAre());
 }
 
-TEST_F(ArchiveTest, List_EndsWhenItIsToldTo)
+TEST_F(ArchiveTest, List_EndsWithTheFaultOfWhoTakes)
 {
     leaveUnfinished(1);
     leaveUnfinished(1);
     const auto kept = archive();
     int count = 0;
-    for (int i = 0; i < 2; ++i)
-        EXPECT_TRUE(kept->list({}, [&](const KeptReceipt &) { return ++count < 0; }));
+    const Fault enough{"the list", "long enough"};
+    for (int i = 0; i < 2; ++i) {
+        const Result<> ended = kept->list({}, [&](const KeptReceipt &) {
+            ++count;
+            return Result<>(enough);
+        });
+        EXPECT_EQ(faultText(ended), enough.text());
+    }
     EXPECT_EQ(count, 2);
     EXPECT_EQ(listed(*kept).size(), 2);
 }
@@ -135,7 +141,7 @@ TEST_F(ArchiveTest, BesideATill_IsAsOfItsFirstLookAndStopsNothing)
         seen.append(receipt.record.id);
         sell(*storage, 2, ReceiptState::Closed);
         sell(*storage, 3, ReceiptState::Open);
-        return true;
+        return Result<>();
     }));
     EXPECT_THAT(seen, ElementsAre(1));
     EXPECT_THAT(listed(*before), ElementsAre(1));
@@ -181,7 +187,7 @@ TEST_F(ArchiveTest, Damage_IsTheFaultOfItsReceiptAlone)
     QStringList faults;
     EXPECT_TRUE(kept->list({}, [&](const KeptReceipt &receipt) {
         faults.append(receipt.fault);
-        return true;
+        return Result<>();
     }));
     EXPECT_EQ(faults, QStringList({"", "its header is not as it was stored", ""}));
 }

@@ -95,7 +95,7 @@ TEST_F(StorageReaders, BackUpWhileATillIsOn_IsWhole)
     EXPECT_EQ(faultText(backUp(path(), path("copy.db"))), QString());
     const auto copy = opened(path("copy.db"));
     EXPECT_EQ(unfinished(*copy), record);
-    EXPECT_EQ(copy->journal(record.id).size(), 1);
+    EXPECT_EQ(journalOf(copy->path(), record.id).size(), 1);
     EXPECT_EQ(unfinished(*storage), record);
 }
 

@@ -239,6 +239,16 @@ TEST_F(ExpectHeard, EmptyReceipts_AreExpectedWithoutOne)
             "goods 1 none", "message none", "question none", "log none"});
 }
 
+TEST_F(ExpectHeard, MistakeThatWasExpected_IsDoneWithItsReasonInEveryLanguage)
+{
+    done({"open"});
+    const Outcome outcome = run("expect mistake storno 7");
+    EXPECT_EQ(outcome.kind, Outcome::Done);
+    EXPECT_EQ(outcome.reason.key(), "tillNoPosition");
+    EXPECT_EQ(outcome.text(Translator("en")), "the receipt has no position 7");
+    EXPECT_EQ(outcome.text(Translator("ru")), "В чеке нет позиции 7");
+}
+
 TEST_F(ExpectHeard, CommandWithQuotedWords_IsToldAsItIsTyped)
 {
     done({"open", "add CHIPS", "expect mistake qty \"1 2\""});

@@ -29,7 +29,7 @@ ToldReceipt ToldReceipt::stored(const Storage &storage, qint64 id)
     const auto pluginData = std::exchange(receipt.record.pluginData, {});
     for (auto plugin = pluginData.cbegin(); plugin != pluginData.cend(); ++plugin)
         receipt.data.insert(plugin.key(), QJsonObject::fromVariantMap(plugin.value()));
-    const auto journal = storage.journal(id);
+    const auto journal = journalOf(storage.path(), id);
     for (const JournalEntry &entry : journal)
         receipt.journal.append(entry.json);
     return receipt;

@@ -1,4 +1,5 @@
 #include "tests/till/support/TillFixture.h"
+#include "till/archive/Archive.h"
 
 // What is kept of a command stands in the journal of its receipt, and of no other command's.
 
@@ -14,9 +15,9 @@ protected:
     {
         commands.reset();
         till.reset();
-        const auto storage = must(Storage::open(setup().database));
+        const auto archive = must(Archive::open(setup().database));
         QStringList kinds;
-        const QList<JournalEntry> entries = storage->journal(1);
+        const QList<JournalEntry> entries = must(archive->journal(1)).entries;
         for (const JournalEntry &entry : entries)
             kinds.append(entry.kind);
         return kinds;

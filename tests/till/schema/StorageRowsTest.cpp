@@ -1,4 +1,6 @@
 #include "tests/till/storage/StorageFixture.h"
+#include "till/archive/Upkeep.h"
+#include "till/schema/Schema.h"
 
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
@@ -55,7 +57,8 @@ protected:
             query.addBindValue(value);
         EXPECT_TRUE(query.exec()) << query.lastError().text().toStdString();
         QVariantList row;
-        for (int column = 0; query.next() && column < query.record().count(); ++column)
+        const int columns = query.next() ? query.record().count() : 0;
+        for (int column = 0; column < columns; ++column)
             row.append(query.value(column));
         return row;
     }
@@ -271,6 +274,34 @@ TEST_F(StorageRows, RowsOfTheCommandBefore_AreRefused)
     run("DELETE FROM positions WHERE receipt = 2");
     run("INSERT INTO positions SELECT * FROM before");
     isRefused("its rows are not those that were stored");
+}
+
+//! A whole row of a header that no till wrote, for its sum is another.
+class OtherTotal : public StorageRows
+{
+protected:
+    OtherTotal()
+    {
+        QVariantList row = run(receiptsTable().select() + "WHERE id = 2");
+        row.removeLast(); // the digest
+        row[8] = row[8].toLongLong() + 1;
+        run("UPDATE receipts SET total = ?, digest = ? WHERE id = 2",
+            {row[8], receiptsTable().digest(row)});
+    }
+};
+
+TEST_F(OtherTotal, ThanThatOfThePositions_IsRefused)
+{
+    isRefused("its positions come to 241.00, and its total is 241.01");
+}
+
+TEST_F(OtherTotal, ThanThatOfThePositions_IsFoundByACheck)
+{
+    const CheckReport report = must(checkDatabase(path()));
+    EXPECT_EQ(report.whole, 1);
+    ASSERT_EQ(report.odd.size(), 1);
+    EXPECT_EQ(report.odd[0].id, 2);
+    EXPECT_EQ(report.odd[0].reason, "its positions come to 241.00, and its total is 241.01");
 }
 
 } // namespace

@@ -43,6 +43,14 @@ TEST_F(StorageSetApart, WithoutAHeader_ItsNumberIsNotGivenAgain)
     EXPECT_EQ(leaveUnfinished(1).id, 3);
 }
 
+TEST_F(StorageSetApart, WithRowsThatCannotBeRead_TellsWhyAndNotWhereOnceMore)
+{
+    const auto storage = opened();
+    query("ALTER TABLE positions RENAME COLUMN unit TO measure");
+    EXPECT_EQ(must(storage->setApart(2)), "no such column: unit");
+    EXPECT_EQ(query("SELECT reason FROM setApart"), QStringList{"no such column: unit"});
+}
+
 TEST_F(StorageSetApart, DamagedLinesOfAFinishedReceipt_StopNobody)
 {
     ReceiptRecord newest = leaveUnfinished(2);

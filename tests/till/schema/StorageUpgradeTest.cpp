@@ -63,7 +63,7 @@ TEST_F(StorageUpgrade, UnfinishedReceipt_IsTakenUp)
     EXPECT_EQ(record->lines[1].count, 1.5);
     EXPECT_EQ(record->pluginData["PackagingControl"].keys(),
               (QStringList{"packagingInfo", "taraInfo"}));
-    EXPECT_EQ(storage->journal(3).size(), 22);
+    EXPECT_EQ(journalOf(path(), 3).size(), 22);
 }
 
 TEST_F(StorageUpgrade, Headers_SayWhatAListNeeds)
@@ -72,6 +72,14 @@ TEST_F(StorageUpgrade, Headers_SayWhatAListNeeds)
     EXPECT_EQ(query("SELECT positions || ' ' || total || ' ' || opened || ' ' || ended FROM "
                     "receipts ORDER BY id"),
               (QStringList{"2 34000 0 0", "1 25980 0 0", "3 38600 0 0"}));
+}
+
+TEST_F(StorageUpgrade, CountOfManyDecimals_IsInTheTotalAsItIsRoundedToday)
+{
+    query("UPDATE positions SET price = 1, count = 0.49986 WHERE receipt = 3 AND place = 1");
+    const auto storage = opened();
+    EXPECT_EQ(unfinished(*storage)->lines[1].sum(), 0); // it was 1 when it was rounded twice
+    EXPECT_EQ(query("SELECT total FROM receipts WHERE id = 3"), QStringList{"17600"});
 }
 
 TEST_F(StorageUpgrade, NextReceipt_GetsTheNextNumber)

@@ -25,6 +25,9 @@ protected:
                                                  CommandLine::Person{[](const QString &) {}, ask});
     }
 
+    //! What is wrong with the answers in the end; empty when nothing is.
+    QString leftOver() const { return commands->textOf(commands->checkAnswers()); }
+
     QStringList asked;
 };
 
@@ -34,7 +37,7 @@ TEST_F(Answers, Queued_AreTakenInOrder)
     refused("storno 2");
     done({"storno 3"});
     expect({"position 1 stornoed", "position 2 live", "position 3 stornoed"});
-    EXPECT_EQ(commands->leftOver(), QString());
+    EXPECT_EQ(leftOver(), QString());
 }
 
 TEST_F(Answers, QueuedTwice_StandBehindTheFirst)
@@ -47,20 +50,20 @@ TEST_F(Answers, QueuedTwice_StandBehindTheFirst)
 TEST_F(Answers, WrongWord_QueuesNone)
 {
     mistake("answer yes perhaps");
-    EXPECT_EQ(commands->leftOver(), QString());
+    EXPECT_EQ(leftOver(), QString());
 }
 
 TEST_F(Answers, Missing_CountsAsNoAndIsLeftOver)
 {
     refused("storno 1");
     expect({"position 1 live"});
-    EXPECT_EQ(commands->leftOver(), QString("нет ответа на: tillStornoPosition"));
+    EXPECT_EQ(leftOver(), QString("нет ответа на: tillStornoPosition"));
 }
 
 TEST_F(Answers, Unused_AreLeftOver)
 {
     done({"answer yes no yes", "storno 1"});
-    EXPECT_EQ(commands->leftOver(), QString("лишних ответов: 2"));
+    EXPECT_EQ(leftOver(), QString("лишних ответов: 2"));
 }
 
 TEST_F(Answers, Queued_SurviveARestart)
@@ -85,7 +88,7 @@ TEST_F(Answers, APerson_IsAskedWhenNoneIsQueued)
     done({"storno 1", "answer no"});
     refused("storno 2");
     EXPECT_EQ(asked, QStringList("? Сторнировать позицию?\n  [Да] [Нет]\n"));
-    EXPECT_EQ(commands->leftOver(), QString());
+    EXPECT_EQ(leftOver(), QString());
 }
 
 TEST_F(Answers, APersonsNo_Refuses)

@@ -54,8 +54,8 @@ TEST_F(SettingsFile, UnknownSection_IsNamedWithItsLineAlsoWhenEmpty)
 
 TEST_F(SettingsFile, KeyWithoutItsSection_BringsTheOneThatIsMeant)
 {
-    EXPECT_EQ(till::settingFault("allowSaleEmptyTara", "false")->values.value(1), key);
-    EXPECT_EQ(till::settingFault("colour", "false")->values.size(), 1);
+    EXPECT_EQ(till::checkSetting("allowSaleEmptyTara", "false").error().values.value(1), key);
+    EXPECT_EQ(till::checkSetting("colour", "false").error().values.size(), 1);
 }
 
 TEST_F(SettingsFile, UnknownKey_IsNamedWithItsLineAndTheNearestOne)

@@ -69,7 +69,7 @@ TEST_P(FullDisk, Save_StoresNothing)
     const auto storage = opened();
     failToSave(*storage);
     EXPECT_EQ(unfinished(*storage), stored);
-    EXPECT_EQ(storage->journal(stored.id), firstEntry);
+    EXPECT_EQ(journalOf(path(), stored.id), firstEntry);
 }
 
 TEST_P(FullDisk, SaveAndRestart_FindsWhatWasStoredBefore)
@@ -81,7 +81,7 @@ TEST_P(FullDisk, SaveAndRestart_FindsWhatWasStoredBefore)
     disk.repair();
     const auto storage = opened();
     EXPECT_EQ(unfinished(*storage), stored);
-    EXPECT_EQ(storage->journal(stored.id), firstEntry);
+    EXPECT_EQ(journalOf(path(), stored.id), firstEntry);
 }
 
 TEST_P(FullDisk, SaveWhenThereIsSpaceAgain_Works)
@@ -95,7 +95,7 @@ TEST_P(FullDisk, SaveWhenThereIsSpaceAgain_Works)
     }
     const auto storage = opened();
     EXPECT_EQ(unfinished(*storage), bigger);
-    EXPECT_EQ(storage->journal(stored.id), firstEntry + secondEntry);
+    EXPECT_EQ(journalOf(path(), stored.id), firstEntry + secondEntry);
 }
 
 TEST_P(FullDisk, NewReceipt_GetsNoNumberUntilItIsStored)

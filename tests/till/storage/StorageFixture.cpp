@@ -93,6 +93,26 @@ QStringList StorageTest::query(const QString &path, const QString &sql)
     return values;
 }
 
+QList<JournalEntry> journalOf(const QString &path, qint64 receipt)
+{
+    QList<JournalEntry> entries;
+    {
+        QSqlDatabase database =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("journal"));
+        database.setDatabaseName(path);
+        EXPECT_TRUE(database.open());
+        QSqlQuery rows(database);
+        rows.prepare("SELECT depth, kind, json FROM journal WHERE receipt = ? ORDER BY id");
+        rows.addBindValue(receipt);
+        EXPECT_TRUE(rows.exec()) << rows.lastError().text().toStdString();
+        while (rows.next())
+            entries.append(
+                {rows.value(0).toInt(), rows.value(1).toString(), rows.value(2).toByteArray()});
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("journal"));
+    return entries;
+}
+
 LineRecord lineOf(int posnum, double count)
 {
     const ArticleData article{"100", "Beer", 12050, Tmc::PackagingGoods, 0.0, 0.5, "l"};

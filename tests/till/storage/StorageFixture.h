@@ -50,6 +50,9 @@ protected:
     ReceiptRecord leaveUnfinished(int count) const;
 };
 
+//! What the database at \a path, which a storage may have open, has in the journal of that receipt.
+QList<JournalEntry> journalOf(const QString &path, qint64 receipt);
+
 //! A position of a plain article.
 LineRecord lineOf(int posnum, double count = 1.0);
 //! A position with something unusual in every field.

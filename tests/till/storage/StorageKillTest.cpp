@@ -52,7 +52,7 @@ protected:
         for (qint64 id = first; auto record = receipt(storage, id); ++id) {
             progress = {id, record->nextPosnum - 1};
             EXPECT_EQ(*record, plannedReceipt(id, progress.step));
-            EXPECT_EQ(storage.journal(id), journalUntil(progress.step));
+            EXPECT_EQ(journalOf(storage.path(), id), journalUntil(progress.step));
             if (receipt(storage, id + 1)) {
                 EXPECT_EQ(record->state, ReceiptState::Closed);
             }

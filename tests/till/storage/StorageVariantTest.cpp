@@ -176,7 +176,7 @@ protected:
                   path() + ": the data of plugin \"plugin\" under \"key\" hold a value of type \""
                       + type + "\", which cannot be stored");
         EXPECT_EQ(unfinished(*storage), before);
-        EXPECT_TRUE(storage->journal(record.id).isEmpty());
+        EXPECT_TRUE(journalOf(path(), record.id).isEmpty());
     }
 };
 

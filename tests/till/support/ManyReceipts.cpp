@@ -95,21 +95,22 @@ private:
 };
 
 //! Stores \a record as opened and ended at \a opened, in the state \a state.
-bool store(Database &database, const ReceiptRecord &record, qint64 opened, ReceiptState state)
+Result<> store(Database &database, const ReceiptRecord &record, qint64 opened, ReceiptState state)
 {
     constexpr qint64 minute = 60'000;
     StoredReceipt stored;
     ReceiptUpdate update = wholeOf(record);
-    if (!writeReceipt(database, update, stored))
-        return false;
+    if (const Result<> written = writeReceipt(database, update, stored); !written)
+        return written;
     stored.opened = opened;
     stored.ended = opened + minute;
     ReceiptUpdate end;
     static_cast<ReceiptHeader &>(end) = update;
     end.state = state;
-    return writeReceipt(database, end, stored)
-           && writeJournal(database, update.id,
-                           {{1, "action", R"({"depth":1,"kind":"action","type":10000})"}});
+    return writeReceipt(database, end, stored).then([&] {
+        return writeJournal(database, update.id,
+                            {{1, "action", R"({"depth":1,"kind":"action","type":10000})"}});
+    });
 }
 
 qint64 openedAt(qint64 id)
@@ -133,24 +134,24 @@ Result<> makeManyReceipts(const QString &path, qint64 count, quint32 seed,
     if (!opened)
         return opened.error();
     Database &database = **opened;
-    QString copy;
-    bool isWell = prepareSchema(database, &copy);
+    if (const Result<QString> prepared = prepareSchema(database); !prepared)
+        return prepared.error();
     Shop shop(seed);
-    for (qint64 id = 1; isWell && id <= count; ++id) {
-        if (id % inOneTransaction == 1)
-            isWell = database.begin();
-        const ReceiptRecord record = shop.sell();
-        isWell = isWell
-                 && store(database, record, openedAt(id),
-                          shop.oneOf(20) ? ReceiptState::Cancelled : ReceiptState::Closed);
-        if (id % inOneTransaction == 0 || id == count) {
-            isWell = isWell && database.commit();
-            if (progress)
-                progress(id);
-        }
+    for (qint64 id = 1; id <= count;) {
+        const Result<> stored = database.inTransaction([&] {
+            Result<> done;
+            for (int i = 0; done && i < inOneTransaction && id <= count; ++i, ++id) {
+                const ReceiptRecord record = shop.sell();
+                done = store(database, record, openedAt(id),
+                             shop.oneOf(20) ? ReceiptState::Cancelled : ReceiptState::Closed);
+            }
+            return done;
+        });
+        if (!stored)
+            return stored;
+        if (progress)
+            progress(id - 1);
     }
-    if (!isWell)
-        return database.fault();
     return {};
 }
 

@@ -1,5 +1,5 @@
-#ifndef TILL_LOOKUP_UPKEEP_H
-#define TILL_LOOKUP_UPKEEP_H
+#ifndef TILL_LOOKUP_FINDINGS_H
+#define TILL_LOOKUP_FINDINGS_H
 
 #include "till/options/ExitStatus.h"
 #include "till/view/ReceiptView.h"
@@ -30,4 +30,4 @@ Result<Finding, Failure> setApartStored(const QString &database, const QString &
 
 } // namespace till
 
-#endif // TILL_LOOKUP_UPKEEP_H
+#endif // TILL_LOOKUP_FINDINGS_H

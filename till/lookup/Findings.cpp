@@ -1,4 +1,4 @@
-#include "till/lookup/Upkeep.h"
+#include "till/lookup/Findings.h"
 
 #include "till/archive/Upkeep.h"
 #include "till/database/DatabaseFile.h"
@@ -77,8 +77,8 @@ Result<Finding, Failure> setApartStored(const QString &database, const QString &
     const qint64 id = number.toLongLong(&isNumber);
     if (!isNumber)
         return Failure{UsageError, {"set-apart", '"' + number + "\" is no number of a receipt"}};
-    if (const QString fault = readingFault(database); !fault.isEmpty())
-        return Failure{StartFailed, {database, fault}}; // else a database would be made there
+    if (const Result<> checked = checkReadable(database); !checked)
+        return Failure{StartFailed, checked.error()}; // else a database would be made there
     const auto storage = Storage::open(database);
     if (!storage)
         return Failure{StartFailed, storage.error()};
