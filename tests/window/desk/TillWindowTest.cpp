@@ -24,7 +24,6 @@ protected:
         scan("CAN3");
     }
     QString page() const { return find("faultPage").isVisible() ? "fault" : "register"; }
-    QString textOf(const QString &name) const { return window->findChild<QLabel *>(name)->text(); }
 };
 
 class ScriptInTheWindow : public WindowTest
@@ -52,7 +51,7 @@ TEST_F(TillWindowTest, QuestionOfThePlugin_HasItsTextsAndChoices)
     whileAsked = [&](QWidget &question) {
         EXPECT_TRUE(question.isModal());
         for (const char *const name : {"confirm", "cancel"})
-            choices.append(question.findChild<QPushButton *>(name)->text());
+            choices.append(partOf<QPushButton>(question, name).text());
     };
     answer({true});
 
@@ -142,7 +141,7 @@ TEST_F(TillWindowTest, WhileAQuestionStands_NothingElseIsDone)
     scan("PET1");
     whileAsked = [this](QWidget &) {
         for (const char *const name : {"quantity", "storno", "subtotal", "pay", "openSale"}) {
-            QWidget &button = *window->findChild<QWidget *>(name);
+            QWidget &button = partOf<QWidget>(*window, name);
             QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
                               button.mapTo(window.get(), button.rect().center()));
             QTest::mouseClick(&button, Qt::LeftButton); // as if the dialog did not keep it away
@@ -284,14 +283,14 @@ TEST_F(ScriptInTheWindow, Line_IsWorkToo)
     QStringList shown;
     const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
         if (note.value("kind") == QLatin1String("action"))
-            shown.append(find<QLabel>("work").text());
+            shown.append(textOf("work"));
     });
 
     click("scriptStep");
     click("scriptStep");
 
     EXPECT_EQ(shown.value(0), "at work, please wait");
-    EXPECT_EQ(find<QLabel>("work").text(), "");
+    EXPECT_EQ(textOf("work"), "");
 }
 
 TEST_F(ScriptInTheWindow, WhileItRuns_CommandsShowWhatCanBeDone)

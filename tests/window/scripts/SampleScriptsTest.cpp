@@ -45,16 +45,10 @@ TEST_F(SampleScripts, PlayedByClicks_GiveTheTraceOfTheProgram)
         start({":memory:", setup().catalogue, setup().plugin, {}, {}});
         ScriptPanel played(*till, notes, *translator);
         played.chooseScript = [&sample](QWidget *, const QString &) { return sample; };
-        played.show();
-        const auto click = [&played](const char *button) {
-            QTest::mouseClick(played.findChild<QPushButton *>(button), Qt::LeftButton);
-        };
+        putUp(played);
         const QStringList byClicks = told([&] {
             click("scriptOpen");
-            click("scriptRun");
-            EXPECT_TRUE(QTest::qWaitFor(
-                [&] { return played.findChild<QPushButton *>("scriptRun")->text() == "Выполнить"; },
-                60000));
+            runAll("Выполнить");
         });
         ASSERT_EQ(byClicks.size(), byProgram.size()) << sample.toStdString();
         for (qsizetype line = 0; line < byProgram.size(); ++line)

@@ -8,6 +8,8 @@
 #include "till/course/Notes.h"
 #include "till/register/CashDesk.h"
 
+#include <QtWidgets/QLabel>
+
 #include <memory>
 
 namespace till {
@@ -30,6 +32,8 @@ protected:
     //! What is said of the position with that number.
     QString said(int posnum) const;
     QString told() const { return window->banner().text(); }
+    //! What the label of that name says, also while a dialog stands before it.
+    QString textOf(const QString &name) const { return partOf<QLabel>(*window, name).text(); }
     //! The texts of the commands that were begun, and how each ended.
     QStringList commands() const;
 
