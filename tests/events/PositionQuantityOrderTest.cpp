@@ -17,8 +17,6 @@ class PositionQuantityOrder : public testing::Test
 protected:
     PositionQuantityOrder()
     {
-        Singleton<Session>::instance = &session;
-        Singleton<ActionQueueController>::instance = &queue;
         position->setBquant(5);
         position->setCquant(1000);
         position->setGroupId("g");
@@ -41,6 +39,8 @@ protected:
     Journal journal;
     JournalingSession session{journal};
     JournalingQueue queue{journal};
+    const Installed<Session> installedSession{&session};
+    const Installed<ActionQueueController> installedQueue{&queue};
     QSharedPointer<JournalingDocument> document =
         QSharedPointer<JournalingDocument>::create(journal);
     QSharedPointer<GoodsItem> position =
@@ -191,15 +191,12 @@ INSTANTIATE_TEST_SUITE_P(Answers, AnswerOfTheQueue, testing::Values(0, 1, 2, 3, 
 
 TEST_F(PositionQuantityOrder, ServicesThatAreMissing_AreMadeOnFirstUse)
 {
-    Singleton<Session>::instance = nullptr;
-    Singleton<ActionQueueController>::instance = nullptr;
+    const Missing<Session> noSession;
+    const Missing<ActionQueueController> noQueue;
 
     EXPECT_FALSE(changeBy(-1)); // nobody carries actions out
     EXPECT_TRUE(Singleton<Session>::instance->getModifiers()->isSet(modifiers::Quantity));
     EXPECT_TRUE(Singleton<ActionQueueController>::instance);
-
-    delete static_cast<Session *>(Singleton<Session>::instance);
-    delete static_cast<ActionQueueController *>(Singleton<ActionQueueController>::instance);
 }
 
 TEST_F(PositionQuantityOrder, PositionTakenOutWhileTheActionRuns_StaysInHandForTheLog)

@@ -1,7 +1,5 @@
 #include "tests/events/ReceiptEvents.h"
 
-#include <memory>
-
 namespace {
 
 using testing::ElementsAre;
@@ -192,12 +190,11 @@ TEST_F(PositionStorno, Position_IsReadFromTheEventNotFromTheDocument)
 TEST_F(PositionStorno, LoyaltyLayerThatNobodyMade_IsMadeOnFirstUse)
 {
     standsTara(2, "A", 5.0, 5.0);
-    Singleton<LoyaltySystemLayer>::instance = nullptr;
+    const Missing<LoyaltySystemLayer> nobody;
 
     host.storno(2);
 
-    const std::unique_ptr<LoyaltySystemLayer> made(Singleton<LoyaltySystemLayer>::instance);
-    EXPECT_NE(made, nullptr);
+    EXPECT_TRUE(Singleton<LoyaltySystemLayer>::instance);
 }
 
 TEST_F(PositionStorno, LoyaltyLayer_IsToldOfTheReceipt)

@@ -44,18 +44,17 @@ public:
 
     explicit ActionInterceptor(Answer answer)
         : m_answer(std::move(answer))
-        , m_host(Singleton<ActionQueueController>::instance())
     {
-        Singleton<ActionQueueController>::instance = this;
     }
 
-    ~ActionInterceptor() override { Singleton<ActionQueueController>::instance = m_host; }
-
-    int runAction(const control::Action &action) override { return m_answer(action, *m_host); }
+    int runAction(const control::Action &action) override
+    {
+        return m_answer(action, m_installed.before());
+    }
 
 private:
     Answer m_answer;
-    ActionQueueController *m_host;
+    const Installed<ActionQueueController> m_installed{this};
 };
 
 inline int positionNumber(const control::Action &action)
@@ -67,14 +66,15 @@ inline int positionNumber(const control::Action &action)
 class LoyaltyOfReceipts : public LoyaltySystemLayer
 {
 public:
-    LoyaltyOfReceipts() { Singleton<LoyaltySystemLayer>::instance = this; }
-
     void updateDocument(const QSharedPointer<AbstractDocument> &document) override
     {
         told << document;
     }
 
     QList<QSharedPointer<AbstractDocument>> told;
+
+private:
+    const Installed<LoyaltySystemLayer> m_installed{this};
 };
 
 //! A plugin at work on an empty sale receipt.

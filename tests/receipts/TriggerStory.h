@@ -33,9 +33,7 @@ public:
         host.config().set("PackagingControl:allowSaleEmptyTara", setting == EmptyTara::Allowed);
         plugin.init();
         plugin.setDocument(host.receipt());
-        Singleton<ActionQueueController>::instance = &m_queue;
     }
-    ~Register() { Singleton<ActionQueueController>::instance = m_queue.inner; }
     Q_DISABLE_COPY_MOVE(Register)
 
     //! The cashier enters another quantity for a position.
@@ -111,20 +109,18 @@ private:
     {
     public:
         explicit Queue(Register &till)
-            : inner(Singleton<ActionQueueController>::instance)
-            , m_till(till)
+            : m_till(till)
         {
         }
         int runAction(const control::Action &action) override
         {
             const auto answer = FakeHost::trigger(m_till.plugin, ActionTrigger::Before, action);
-            return answer == EContext::Continue ? inner->runAction(action) : answer;
+            return answer == EContext::Continue ? m_installed.before().runAction(action) : answer;
         }
-
-        ActionQueueController *const inner;
 
     private:
         Register &m_till;
+        const Installed<ActionQueueController> m_installed{this};
     };
 
     //! The triggers before \a action, then \a carryOut, then the triggers after it.
