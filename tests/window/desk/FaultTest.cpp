@@ -1,9 +1,7 @@
 #include "tests/till/support/FailingDisk.h"
+#include "tests/till/support/Sql.h"
 #include "tests/window/support/WindowTest.h"
 
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlError>
-#include <QtSql/QSqlQuery>
 #include <QtWidgets/QPushButton>
 
 namespace till {
@@ -28,18 +26,7 @@ protected:
         return label.text();
     }
     //! Does \a statement to the database, which nobody has open.
-    void alter(const QString &statement)
-    {
-        const QString connection = QStringLiteral("alter");
-        {
-            auto database = QSqlDatabase::addDatabase("QSQLITE", connection);
-            database.setDatabaseName(setup().database);
-            EXPECT_TRUE(database.open());
-            QSqlQuery query(database);
-            EXPECT_TRUE(query.exec(statement)) << query.lastError().text().toStdString();
-        }
-        QSqlDatabase::removeDatabase(connection);
-    }
+    void alter(const QString &statement) { rowsOf(setup().database, statement); }
     //! What a console says of it, with the window closed.
     QString consoleOf(const till::Setup &setup)
     {
