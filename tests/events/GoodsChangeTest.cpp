@@ -5,14 +5,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class GoodsChange : public ReceiptEvents
-{
-protected:
-    void publishChanged(const QSharedPointer<GoodsItem> &position)
-    {
-        host.publish(EActivityListener::eventModifierApplied, position);
-    }
-};
+using GoodsChange = ReceiptEvents;
 
 class GoodsChangeByCode : public GoodsChange,
                           public testing::WithParamInterface<EActivityListener::Event>

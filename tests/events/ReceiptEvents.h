@@ -104,6 +104,12 @@ protected:
         plugin.putGoods(posnum, usedTara);
     }
 
+    //! The event alone, of a change that the host has made.
+    void publishChanged(const QSharedPointer<GoodsItem> &position)
+    {
+        host.publish(EActivityListener::eventModifierApplied, position);
+    }
+
     QSharedPointer<GoodsItem> position(int posnum) const
     {
         return host.receipt()->getPositionByPosnum(posnum);

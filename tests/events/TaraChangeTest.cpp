@@ -7,14 +7,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class TaraChange : public ReceiptEvents
-{
-protected:
-    void publishChanged(const QSharedPointer<GoodsItem> &position)
-    {
-        host.publish(EActivityListener::eventModifierApplied, position);
-    }
-};
+using TaraChange = ReceiptEvents;
 
 class TaraChangeByCode : public TaraChange,
                          public testing::WithParamInterface<EActivityListener::Event>

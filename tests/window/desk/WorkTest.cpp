@@ -1,5 +1,4 @@
 #include "tests/window/support/WindowTest.h"
-#include "window/scripts/ScriptPanel.h"
 
 // What the window shows while it is at work.
 
@@ -7,20 +6,7 @@ namespace till {
 
 namespace {
 
-class Work : public WindowTest
-{
-protected:
-    //! Opens a script with that text in the dock.
-    void openScript(const QByteArray &text)
-    {
-        const QString script = path("lines.till");
-        overwrite(script, text);
-        press(Qt::Key_F10);
-        auto &panel = static_cast<ScriptPanel &>(*find("scriptOpen").parentWidget());
-        panel.chooseScript = [script](QWidget *, const QString &) { return script; };
-        click("scriptOpen");
-    }
-};
+using Work = WindowTest;
 
 TEST_F(Work, Command_IsShownBeforeItBegins)
 {

@@ -26,6 +26,8 @@ protected:
     //! Opens a window in place of the one before.
     void open(const till::Setup &setup, const QString &language = QStringLiteral("en"));
     void close();
+    //! Opens a script of that text in its dock.
+    void openScript(const QByteArray &text);
 
     const Register &cashRegister() const { return till->cashRegister(); }
     QSharedPointer<const Receipt> receipt() const { return till->cashRegister().receipt(); }
