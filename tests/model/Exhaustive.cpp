@@ -9,8 +9,8 @@ namespace model {
 
 namespace {
 
-constexpr std::uint64_t salt = 7;
-constexpr bool allowSaleEmptyTara = false;
+constexpr std::uint64_t hostSalt = 7;
+constexpr bool isEmptyTaraSold = false;
 
 enum ArticleIndex { Beer = 0, Pet1 = 1, Can3 = 2, Dark = 3 };
 
@@ -81,8 +81,8 @@ std::vector<Command> sharedOpening()
 
 Exhaustive::Exhaustive(const RealHost::MakePlugin &makePlugin, std::vector<Command> alphabet)
     : m_alphabet(std::move(alphabet))
-    , m_real(salt, allowSaleEmptyTara, makePlugin)
-    , m_expected(salt, allowSaleEmptyTara)
+    , m_real(hostSalt, isEmptyTaraSold, makePlugin)
+    , m_expected(hostSalt, isEmptyTaraSold)
     , m_realStart(m_real.moment())
     , m_expectedStart(m_expected.moment())
 {
@@ -114,7 +114,7 @@ void Exhaustive::step(const Command &command)
     if (found.empty())
         return;
     std::ostringstream out;
-    out << Script{salt, allowSaleEmptyTara, m_commands} << found;
+    out << Script{hostSalt, isEmptyTaraSold, m_commands} << found;
     m_found = out.str();
 }
 

@@ -1,0 +1,1 @@
+// Carries the precompiled header for the tests of the window.
