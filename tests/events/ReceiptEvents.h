@@ -14,26 +14,9 @@
 
 #include <functional>
 #include <utility>
-#include <vector>
 
 using TaraInfo = PackagingControl::TaraInfo;
 using PackagingInfo = PackagingControl::PackagingInfo;
-
-//! The records themselves, to be compared by value.
-template <typename Record>
-std::vector<Record> values(const QList<QSharedPointer<Record>> &records)
-{
-    std::vector<Record> result;
-    for (const auto &record : records)
-        result.push_back(*record);
-    return result;
-}
-
-//! What one save asks of the host.
-inline QStringList save()
-{
-    return {"save taraInfo", "save packagingInfo"};
-}
 
 //! Stands before the host's action queue while it lives: it sees each action first.
 class ActionInterceptor : public ActionQueueController
@@ -120,8 +103,8 @@ protected:
     {
         TestPlugin reader;
         reader.setDocument(host.receipt());
-        EXPECT_EQ(values(reader.taraList), values(expected.taraList));
-        EXPECT_EQ(values(reader.packagingList), values(expected.packagingList));
+        EXPECT_EQ(valuesOf(reader.taraList), valuesOf(expected.taraList));
+        EXPECT_EQ(valuesOf(reader.packagingList), valuesOf(expected.packagingList));
     }
 
     FakeHost host;

@@ -58,16 +58,6 @@ protected:
     Plugin plugin;
 };
 
-//! The records of a list, by value: what may be compared after a call.
-template <class Record>
-QList<Record> recordsOf(const QList<QSharedPointer<Record>> &list)
-{
-    QList<Record> records;
-    for (const auto &record : list)
-        records << *record;
-    return records;
-}
-
 //! Position numbers of the records of a list, in its order.
 template <class Record>
 QList<int> posnumsOf(const QList<QSharedPointer<Record>> &list)
