@@ -128,9 +128,8 @@ class Rows:
         self._add(make)
 
 
-def rows_of(results, is_part=False):
-    """The whole table, or what of it another version measured."""
-    rows = Rows(results, is_part)
+def add_plugin(rows):
+    """What the plugin costs by itself."""
     for n, target in ((10, 1.05), (100, 1.03), (1000, 1.02)):
         rows.pair(f"event that saves, over building and storing the tree, {n:,} records",
                   f"save/{n}", target, spare_allocations=2)
@@ -162,6 +161,10 @@ def rows_of(results, is_part=False):
                   f"fillAllLogged/{n}", 1.1)
     rows.pair("load and instance, over an empty plugin", "load/1", 1.15)
     rows.file("stripped plugin file", "PackagingControl.stripped")
+
+
+def add_till(rows):
+    """What programs cost with it."""
     for n, target in ((10, 1.3), (100, 1.5), (1000, 2.5)):
         rows.pair(f"command of the till, over a bare SQLite commit, {n:,} positions", f"till/{n}",
                   target, wall=True)
@@ -178,4 +181,11 @@ def rows_of(results, is_part=False):
     rows.megabytes("memory of the till with that catalogue", "catalogueMemory", 60)
     rows.milliseconds("redraw of the window after a command, 1,000 positions", "window",
                       "windowless", 0.016)
+
+
+def rows_of(results, is_part=False):
+    """The whole table, or what of it another version measured."""
+    rows = Rows(results, is_part)
+    add_plugin(rows)
+    add_till(rows)
     return rows.rows

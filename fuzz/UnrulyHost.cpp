@@ -20,7 +20,6 @@ class UnrulyHost::Queue : public ActionQueueController
 public:
     explicit Queue(UnrulyHost &host)
         : m_host(host)
-        , m_ruly(Singleton<ActionQueueController>::instance)
     {
     }
 
@@ -30,13 +29,14 @@ public:
             if (m_host.m_bytes.seldom(16))
                 return m_host.m_bytes.raw<int>();
             const EContext::Result before = m_host.m_before(action);
-            return before == EContext::Continue ? m_ruly->runAction(action) : int(before);
+            return before == EContext::Continue ? m_installed.before().runAction(action)
+                                                : int(before);
         });
     }
 
 private:
     UnrulyHost &m_host;
-    ActionQueueController *m_ruly;
+    const Installed<ActionQueueController> m_installed{this};
 };
 
 class UnrulyHost::Logic : public DocumentLogic
@@ -85,7 +85,6 @@ UnrulyHost::UnrulyHost(Bytes &bytes, std::function<void()> meanwhile,
     , m_before(std::move(before))
     , m_queue(new Queue(*this))
 {
-    Singleton<ActionQueueController>::instance = m_queue.get();
     MockFactory<DocumentLogic>::mocked.reset(new Logic(*this));
     MockFactory<Dialog>::mocked.reset(new Asking(*this));
 }

@@ -66,44 +66,30 @@ QVariant container(Bytes &bytes, int depth)
 
 QVariant plain(Bytes &bytes)
 {
-    switch (bytes.choice(18)) {
-    case 0:
-        return {};
-    case 1:
-        return bytes.posnum();
-    case 2:
-        return bytes.number();
-    case 3:
-        return bytes.text();
-    case 4:
-        return bytes.seldom(2);
-    case 5:
-        return bytes.raw<quint64>();
-    case 6:
-        return bytes.raw<qint64>();
-    case 7:
-        return static_cast<float>(bytes.number());
-    case 8:
-        return bytes.text().toUtf8();
-    case 9:
-        return QStringList{bytes.text(), bytes.text()};
-    case 10:
-        return QUuid();
-    case 11:
-        return QChar(bytes.raw<char16_t>());
-    case 12:
-        return QDate(2024, 2, 29);
-    case 13:
-        return QVariant::fromValue(loosePosition(bytes));
-    case 14:
-        return QVariant::fromValue(QSharedPointer<GoodsItem>());
-    case 15:
-        return QVariant::fromValue(Quantity(bytes.number(), quantModeNone));
-    case 16:
-        return tr::Tr(bytes.text(), bytes.text());
-    default:
-        return QVariant::fromValue(static_cast<void *>(nullptr));
-    }
+    using Make = QVariant (*)(Bytes &);
+    static constexpr Make makers[] = {
+        [](Bytes &) { return QVariant(); },
+        [](Bytes &from) { return QVariant(from.posnum()); },
+        [](Bytes &from) { return QVariant(from.number()); },
+        [](Bytes &from) { return QVariant(from.text()); },
+        [](Bytes &from) { return QVariant(from.seldom(2)); },
+        [](Bytes &from) { return QVariant(from.raw<quint64>()); },
+        [](Bytes &from) { return QVariant(from.raw<qint64>()); },
+        [](Bytes &from) { return QVariant(static_cast<float>(from.number())); },
+        [](Bytes &from) { return QVariant(from.text().toUtf8()); },
+        [](Bytes &from) {
+            return QVariant(QStringList{from.text(), from.text()});
+        },
+        [](Bytes &) { return QVariant(QUuid()); },
+        [](Bytes &from) { return QVariant(QChar(from.raw<char16_t>())); },
+        [](Bytes &) { return QVariant(QDate(2024, 2, 29)); },
+        [](Bytes &from) { return QVariant::fromValue(loosePosition(from)); },
+        [](Bytes &) { return QVariant::fromValue(QSharedPointer<GoodsItem>()); },
+        [](Bytes &from) { return QVariant::fromValue(Quantity(from.number(), quantModeNone)); },
+        [](Bytes &from) { return QVariant(tr::Tr(from.text(), from.text())); },
+        [](Bytes &) { return QVariant::fromValue(static_cast<void *>(nullptr)); },
+    };
+    return makers[bytes.choice(static_cast<int>(std::size(makers)))](bytes);
 }
 
 QVariant quantities(Bytes &bytes)

@@ -135,8 +135,8 @@ TEST_P(EventWithoutPosition, ChangesLogsAndSavesNothing)
 
     host.notifier().notify(eventWith(argument.value, code));
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 4.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 4.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 1.0}}}));
     EXPECT_EQ(log.lines(), QStringList());
     EXPECT_EQ(host.journal, QStringList());
 }
@@ -178,7 +178,7 @@ TEST_F(ConvertedPosition, Added_IsRecorded)
 {
     notify(EActivityListener::eventPositionAdded);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 2.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 2.0}}}));
 }
 
 TEST_F(ConvertedPosition, Changed_IsFollowed)
@@ -187,7 +187,7 @@ TEST_F(ConvertedPosition, Changed_IsFollowed)
 
     notify(EActivityListener::eventModifierApplied);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 2.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 2.0}}}));
 }
 
 TEST_F(ConvertedPosition, Stornoed_IsForgotten)

@@ -5,14 +5,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class GoodsChange : public ReceiptEvents
-{
-protected:
-    void publishChanged(const QSharedPointer<GoodsItem> &position)
-    {
-        host.publish(EActivityListener::eventModifierApplied, position);
-    }
-};
+using GoodsChange = ReceiptEvents;
 
 class GoodsChangeByCode : public GoodsChange,
                           public testing::WithParamInterface<EActivityListener::Event>
@@ -26,9 +19,9 @@ TEST_P(GoodsChangeByCode, Goods_ArePlacedByTheirNewQuantity)
 
     host.changeQuantity(7, 3, GetParam());
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 2.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
-    EXPECT_EQ(host.journal, save());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 2.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 INSTANTIATE_TEST_SUITE_P(Codes, GoodsChangeByCode,
@@ -42,7 +35,7 @@ TEST_F(GoodsChange, Goods_PourBaseQuantity)
 
     publishChanged(host.putPosition(7, Tmc::PackagingGoods, QVariant(), 100, 4));
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 4.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 4.0}}}));
 }
 
 TEST_F(GoodsChange, GoodsGrownBeyondAllTara_FillItAndLeaveTheRestUnplaced)
@@ -53,9 +46,9 @@ TEST_F(GoodsChange, GoodsGrownBeyondAllTara_FillItAndLeaveTheRestUnplaced)
 
     host.changeQuantity(7, 10);
 
-    EXPECT_THAT(values(plugin.taraList),
+    EXPECT_THAT(valuesOf(plugin.taraList),
                 ElementsAre(TaraInfo{2, "A", 2.0, 0.0}, TaraInfo{3, "B", 2.0, 0.0}));
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{7, {{"A", 2.0}, {"B", 2.0}}}));
     EXPECT_EQ(position(7)->getBquant(), 10.0);
     EXPECT_TRUE(host.errors.isEmpty());
@@ -68,9 +61,9 @@ TEST_F(GoodsChange, ShrunkGoodsInTaraWithRoom_KeepTheirShare)
 
     host.changeQuantity(7, 1);
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 2.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
-    EXPECT_EQ(host.journal, save());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 2.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(GoodsChange, GoodsWithoutRecord_TakeCapacityButGetNoRecord)
@@ -81,7 +74,7 @@ TEST_F(GoodsChange, GoodsWithoutRecord_TakeCapacityButGetNoRecord)
 
     EXPECT_THAT(plugin.packagingList, IsEmpty());
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 3.0);
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(GoodsChange, OtherMode_OnlySaves)
@@ -91,10 +84,10 @@ TEST_F(GoodsChange, OtherMode_OnlySaves)
 
     publishChanged(host.putPosition(4, Tmc::NoTara, 1.5, 2, 2));
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{4, "A", 5.0, 5.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{4, {}}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{4, "A", 5.0, 5.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{4, {}}));
     EXPECT_EQ(log.lines(), QStringList());
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 } // namespace

@@ -92,7 +92,7 @@ protected:
     }
 
     //! The lines of a save.
-    static QStringList savePluginData() { return QStringList{"savePluginData"} + save(); }
+    static QStringList savePluginData() { return QStringList{"savePluginData"} + savedOnce(); }
 
     FakeHost host;
     SeeingPlugin plugin{host.journal};

@@ -66,7 +66,7 @@ public:
 
     int runAction(const control::Action &action) override
     {
-        m_journal << QString("run %1").arg(action.getType());
+        m_journal << "run " + nameOf(action);
         actions << action;
         if (whenRun)
             whenRun();
@@ -78,6 +78,18 @@ public:
     std::function<void()> whenRun;
 
 private:
+    static QString nameOf(const control::Action &action)
+    {
+        switch (action.getType()) {
+        case control::ApplyModifiers:
+            return "change";
+        case control::RemovePosition:
+            return "removal";
+        default:
+            return "something else";
+        }
+    }
+
     Journal &m_journal;
 };
 

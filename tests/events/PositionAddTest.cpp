@@ -30,7 +30,7 @@ TEST_F(PositionAdd, Tara_RecordsCapacityAndSaves)
     EXPECT_EQ(plugin.taraList[0]->capacity, 1.5);
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 1.5);
     EXPECT_EQ(log.lines(), QStringList{"INFO Добавлена тара"});
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
     expectSavedRecordsAreThoseOf(plugin);
 }
 
@@ -40,12 +40,12 @@ TEST_F(PositionAdd, Goods_RecordsWhatIsPouredAndSaves)
 
     host.addGoods(3, 4.5);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 4.5}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 4.5}}}));
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 0.5);
     EXPECT_EQ(log.lines(),
               (QStringList{"INFO Добавлен товар, отпускаемый в тару",
                            "INFO Изменение использованной позицией 3 ёмкости тары 2 на 4.500"}));
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
     expectSavedRecordsAreThoseOf(plugin);
 }
 
@@ -71,10 +71,10 @@ TEST_F(PositionAdd, KnownTara_IsResizedInsteadOfRecordedAgain)
 
     host.addTara(2, 0.5, 3);
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 1.25}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 1.25}));
     EXPECT_EQ(log.lines(),
               (QStringList{"INFO Добавлена тара", "INFO Изменение ёмкости тары 0.500 -> 1.500"}));
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(PositionAdd, KnownGoods_ArePlacedAnewInTheirRecord)
@@ -84,7 +84,7 @@ TEST_F(PositionAdd, KnownGoods_ArePlacedAnewInTheirRecord)
 
     host.addGoods(3, 3.0);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 3.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 3.0}}}));
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 2.0);
 }
 
@@ -92,9 +92,9 @@ TEST_F(PositionAdd, GoodsBeforeAnyTara_AreRecordedWithoutTara)
 {
     host.addGoods(3, 3.0);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {}}));
     EXPECT_EQ(log.lines(), QStringList{"INFO Добавлен товар, отпускаемый в тару"});
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(PositionAdd, TaraAfterGoods_StaysEmpty)
@@ -104,7 +104,7 @@ TEST_F(PositionAdd, TaraAfterGoods_StaysEmpty)
     host.addTara(2, 5.0);
 
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 5.0);
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {}}));
 }
 
 TEST_F(PositionAdd, GoodsOfThree_FillTaraOfTwoAndThenTaraOfFive)
@@ -114,9 +114,9 @@ TEST_F(PositionAdd, GoodsOfThree_FillTaraOfTwoAndThenTaraOfFive)
 
     host.addGoods(3, 3.0);
 
-    EXPECT_THAT(values(plugin.taraList),
+    EXPECT_THAT(valuesOf(plugin.taraList),
                 ElementsAre(TaraInfo{1, "A", 2.0, 0.0}, TaraInfo{2, "B", 5.0, 4.0}));
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{3, {{"A", 2.0}, {"B", 1.0}}}));
 }
 
@@ -126,10 +126,10 @@ TEST_F(PositionAdd, GoodsThatDoNotFit_KeepWhatFittedAndRefuseNothing)
 
     host.addGoods(3, 3.0);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 2.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{3, {{"A", 2.0}}}));
     EXPECT_EQ(position(3)->getBquant(), 3.0);
     EXPECT_TRUE(host.errors.isEmpty());
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(PositionAdd, RecordsKeepOrderOfEvents)

@@ -17,8 +17,6 @@ class PositionQuantityOrder : public testing::Test
 protected:
     PositionQuantityOrder()
     {
-        Singleton<Session>::instance = &session;
-        Singleton<ActionQueueController>::instance = &queue;
         position->setBquant(5);
         position->setCquant(1000);
         position->setGroupId("g");
@@ -41,6 +39,8 @@ protected:
     Journal journal;
     JournalingSession session{journal};
     JournalingQueue queue{journal};
+    const Installed<Session> installedSession{&session};
+    const Installed<ActionQueueController> installedQueue{&queue};
     QSharedPointer<JournalingDocument> document =
         QSharedPointer<JournalingDocument>::create(journal);
     QSharedPointer<GoodsItem> position =
@@ -56,7 +56,7 @@ TEST_F(PositionQuantityOrder, Change_LogsSetsTheModifierThenRuns)
     EXPECT_EQ(journal, (Journal{"look up 3",
                                 "INFO Изменение количества позиции 3, размещенной в таре, на "
                                 "-1.500, в связи с изменением тары [g]",
-                                "modifiers", "run 5"}));
+                                "modifiers", "run change"}));
 }
 
 TEST_F(PositionQuantityOrder, ChangeThatFails_LogsAnErrorAfterwards)
@@ -68,7 +68,7 @@ TEST_F(PositionQuantityOrder, ChangeThatFails_LogsAnErrorAfterwards)
               (Journal{"look up 3",
                        "INFO Изменение количества позиции 3, размещенной в таре, на -1.500, в "
                        "связи с изменением тары [g]",
-                       "modifiers", "run 5",
+                       "modifiers", "run change",
                        "ERROR Не удалось изменить количество позиции, размещенной в тару [g]"}));
 }
 
@@ -109,7 +109,7 @@ TEST_F(PositionQuantityOrder, Change_ActionCarriesThePositionNumberOnly)
     changeBy(-1.5);
 
     ASSERT_EQ(queue.actions.size(), 1);
-    EXPECT_EQ(static_cast<int>(queue.actions[0].getType()), 5);
+    EXPECT_EQ(queue.actions[0].getType(), control::ApplyModifiers);
     EXPECT_EQ(control::args::Core(queue.actions[0]).positionNumber(), 3);
     EXPECT_EQ(queue.actions[0].getArguments().size(), 1);
 }
@@ -131,7 +131,7 @@ TEST_F(PositionQuantityOrder, Removal_LogsClearsTheGroupThenRuns)
     EXPECT_EQ(journal, (Journal{"look up 3",
                                 "INFO Удаление позиции 3, размещенной в таре, в связи с "
                                 "изменением тары [g]",
-                                "run 202"}));
+                                "run removal"}));
     EXPECT_EQ(groupAtRun, "");
 }
 
@@ -144,7 +144,7 @@ TEST_F(PositionQuantityOrder, RemovalThatFails_LogsAnErrorAfterwards)
               (Journal{"look up 3",
                        "INFO Удаление позиции 3, размещенной в таре, в связи с "
                        "изменением тары [g]",
-                       "run 202", "ERROR Не удалось удалить позицию, размещенную в тару []"}));
+                       "run removal", "ERROR Не удалось удалить позицию, размещенную в тару []"}));
 }
 
 TEST_F(PositionQuantityOrder, Removal_ActionCarriesThePositionNumberOnly)
@@ -152,7 +152,7 @@ TEST_F(PositionQuantityOrder, Removal_ActionCarriesThePositionNumberOnly)
     changeBy(-5);
 
     ASSERT_EQ(queue.actions.size(), 1);
-    EXPECT_EQ(static_cast<int>(queue.actions[0].getType()), 202);
+    EXPECT_EQ(queue.actions[0].getType(), control::RemovePosition);
     EXPECT_EQ(control::args::Core(queue.actions[0]).positionNumber(), 3);
     EXPECT_EQ(queue.actions[0].getArguments().size(), 1);
 }
@@ -191,15 +191,12 @@ INSTANTIATE_TEST_SUITE_P(Answers, AnswerOfTheQueue, testing::Values(0, 1, 2, 3, 
 
 TEST_F(PositionQuantityOrder, ServicesThatAreMissing_AreMadeOnFirstUse)
 {
-    Singleton<Session>::instance = nullptr;
-    Singleton<ActionQueueController>::instance = nullptr;
+    const Missing<Session> noSession;
+    const Missing<ActionQueueController> noQueue;
 
     EXPECT_FALSE(changeBy(-1)); // nobody carries actions out
     EXPECT_TRUE(Singleton<Session>::instance->getModifiers()->isSet(modifiers::Quantity));
     EXPECT_TRUE(Singleton<ActionQueueController>::instance);
-
-    delete static_cast<Session *>(Singleton<Session>::instance);
-    delete static_cast<ActionQueueController *>(Singleton<ActionQueueController>::instance);
 }
 
 TEST_F(PositionQuantityOrder, PositionTakenOutWhileTheActionRuns_StaysInHandForTheLog)

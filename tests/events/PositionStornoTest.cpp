@@ -1,7 +1,5 @@
 #include "tests/events/ReceiptEvents.h"
 
-#include <memory>
-
 namespace {
 
 using testing::ElementsAre;
@@ -28,7 +26,7 @@ TEST_F(PositionStorno, Goods_GiveWhatTheyUsedBackToEachTara)
 
     host.storno(5);
 
-    EXPECT_THAT(values(plugin.taraList),
+    EXPECT_THAT(valuesOf(plugin.taraList),
                 ElementsAre(TaraInfo{2, "A", 5.0, 1.5}, TaraInfo{3, "B", 5.0, 3.0},
                             TaraInfo{4, "C", 5.0, 2.0}));
     EXPECT_THAT(plugin.packagingList, IsEmpty());
@@ -42,7 +40,7 @@ TEST_F(PositionStorno, Goods_LogOneLineAndSaveAfterwards)
     host.storno(5);
 
     EXPECT_EQ(log.lines(), QStringList{"INFO При удалении позиции: 5"});
-    EXPECT_EQ(host.journal, save()); // no switch, no loyalty, nothing asked
+    EXPECT_EQ(host.journal, savedOnce()); // no switch, no loyalty, nothing asked
     expectSavedRecordsAreThoseOf(plugin);
 }
 
@@ -54,7 +52,7 @@ TEST_F(PositionStorno, Goods_LeaveOtherGoodsAsTheyAre)
 
     host.storno(5);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{6, {{"A", 2.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{6, {{"A", 2.0}}}));
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 3.0);
 }
 
@@ -75,7 +73,7 @@ TEST_F(PositionStorno, GoodsThatNameTaraOfThePast_GiveNothingBackForIt)
 
     host.storno(5);
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 5.0}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 5.0}));
     EXPECT_THAT(plugin.packagingList, IsEmpty());
 }
 
@@ -97,9 +95,9 @@ TEST_F(PositionStorno, GoodsWithoutRecord_OnlyLogAndSave)
 
     host.storno(5);
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 4.0}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 5.0, 4.0}));
     EXPECT_EQ(log.lines(), QStringList{"INFO При удалении позиции: 5"});
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(PositionStorno, RecordHeldTwice_IsForgottenAltogether)
@@ -125,10 +123,10 @@ TEST_P(StornoOfOtherMode, LogsAndSavesAndChangesNothingElse)
 
     publishStorno(host.putPosition(4, GetParam(), 1.0, 1, 1));
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{4, "A", 5.0, 4.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{4, {{"A", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{4, "A", 5.0, 4.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{4, {{"A", 1.0}}}));
     EXPECT_EQ(log.lines(), QStringList{"INFO При удалении позиции: 4"});
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 INSTANTIATE_TEST_SUITE_P(Modes, StornoOfOtherMode, testing::Values(0, 3, -1));
@@ -140,7 +138,7 @@ TEST_F(PositionStorno, TaraWithoutRecord_OnlyLogsAndSaves)
     publishStorno(host.putPosition(2, Tmc::Tara, 5.0, 1, 1));
 
     EXPECT_EQ(log.lines(), QStringList{"INFO При удалении позиции: 2"});
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(PositionStorno, EmptyTara_IsForgottenWithSwitchAndLoyaltyAndWithoutAnAction)
@@ -151,8 +149,8 @@ TEST_F(PositionStorno, EmptyTara_IsForgottenWithSwitchAndLoyaltyAndWithoutAnActi
 
     host.storno(2);
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 4.0}));
-    EXPECT_EQ(host.journal, (QStringList{"switch off", "switch on", "loyalty"} + save()));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 4.0}));
+    EXPECT_EQ(host.journal, (QStringList{"switch off", "switch on", "loyalty"} + savedOnce()));
     EXPECT_EQ(log.lines(), QStringList{"INFO При удалении позиции: 2"});
     expectSavedRecordsAreThoseOf(plugin);
 }
@@ -192,12 +190,11 @@ TEST_F(PositionStorno, Position_IsReadFromTheEventNotFromTheDocument)
 TEST_F(PositionStorno, LoyaltyLayerThatNobodyMade_IsMadeOnFirstUse)
 {
     standsTara(2, "A", 5.0, 5.0);
-    Singleton<LoyaltySystemLayer>::instance = nullptr;
+    const Missing<LoyaltySystemLayer> nobody;
 
     host.storno(2);
 
-    const std::unique_ptr<LoyaltySystemLayer> made(Singleton<LoyaltySystemLayer>::instance);
-    EXPECT_NE(made, nullptr);
+    EXPECT_TRUE(Singleton<LoyaltySystemLayer>::instance);
 }
 
 TEST_F(PositionStorno, LoyaltyLayer_IsToldOfTheReceipt)
@@ -231,7 +228,7 @@ TEST_F(StornoWithoutDocument, Tara_IsForgottenAndItsGoodsKeepTheirEntry)
     deliverStorno(position(2));
 
     EXPECT_THAT(plugin.taraList, IsEmpty());
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 2.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 2.0}}}));
     EXPECT_EQ(host.journal, QStringList());
 }
 
@@ -263,7 +260,7 @@ TEST_F(StornoWithoutDocument, TaraOfASubclassThatChangesGoodsItself_LosesTheirEn
 
     EXPECT_EQ(subclass.changes, (QMap<int, double>{{5, -2.0}, {7, -1.0}}));
     EXPECT_THAT(
-        values(subclass.packagingList),
+        valuesOf(subclass.packagingList),
         ElementsAre(PackagingInfo{5, {}}, PackagingInfo{6, {{"B", 3.0}}}, PackagingInfo{7, {}}));
 }
 

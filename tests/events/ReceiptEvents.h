@@ -14,26 +14,9 @@
 
 #include <functional>
 #include <utility>
-#include <vector>
 
 using TaraInfo = PackagingControl::TaraInfo;
 using PackagingInfo = PackagingControl::PackagingInfo;
-
-//! The records themselves, to be compared by value.
-template <typename Record>
-std::vector<Record> values(const QList<QSharedPointer<Record>> &records)
-{
-    std::vector<Record> result;
-    for (const auto &record : records)
-        result.push_back(*record);
-    return result;
-}
-
-//! What one save asks of the host.
-inline QStringList save()
-{
-    return {"save taraInfo", "save packagingInfo"};
-}
 
 //! Stands before the host's action queue while it lives: it sees each action first.
 class ActionInterceptor : public ActionQueueController
@@ -44,18 +27,17 @@ public:
 
     explicit ActionInterceptor(Answer answer)
         : m_answer(std::move(answer))
-        , m_host(Singleton<ActionQueueController>::instance())
     {
-        Singleton<ActionQueueController>::instance = this;
     }
 
-    ~ActionInterceptor() override { Singleton<ActionQueueController>::instance = m_host; }
-
-    int runAction(const control::Action &action) override { return m_answer(action, *m_host); }
+    int runAction(const control::Action &action) override
+    {
+        return m_answer(action, m_installed.before());
+    }
 
 private:
     Answer m_answer;
-    ActionQueueController *m_host;
+    const Installed<ActionQueueController> m_installed{this};
 };
 
 inline int positionNumber(const control::Action &action)
@@ -67,14 +49,15 @@ inline int positionNumber(const control::Action &action)
 class LoyaltyOfReceipts : public LoyaltySystemLayer
 {
 public:
-    LoyaltyOfReceipts() { Singleton<LoyaltySystemLayer>::instance = this; }
-
     void updateDocument(const QSharedPointer<AbstractDocument> &document) override
     {
         told << document;
     }
 
     QList<QSharedPointer<AbstractDocument>> told;
+
+private:
+    const Installed<LoyaltySystemLayer> m_installed{this};
 };
 
 //! A plugin at work on an empty sale receipt.
@@ -104,6 +87,12 @@ protected:
         plugin.putGoods(posnum, usedTara);
     }
 
+    //! The event alone, of a change that the host has made.
+    void publishChanged(const QSharedPointer<GoodsItem> &position)
+    {
+        host.publish(EActivityListener::eventModifierApplied, position);
+    }
+
     QSharedPointer<GoodsItem> position(int posnum) const
     {
         return host.receipt()->getPositionByPosnum(posnum);
@@ -114,8 +103,8 @@ protected:
     {
         TestPlugin reader;
         reader.setDocument(host.receipt());
-        EXPECT_EQ(values(reader.taraList), values(expected.taraList));
-        EXPECT_EQ(values(reader.packagingList), values(expected.packagingList));
+        EXPECT_EQ(valuesOf(reader.taraList), valuesOf(expected.taraList));
+        EXPECT_EQ(valuesOf(reader.packagingList), valuesOf(expected.packagingList));
     }
 
     FakeHost host;

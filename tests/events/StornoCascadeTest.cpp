@@ -36,8 +36,8 @@ TEST_F(StornoCascade, PartOfTheGoods_IsTakenOutOfTheReceipt)
     host.storno(2);
 
     EXPECT_EQ(position(5)->getBquant(), 1.0);
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 4.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 4.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
     expectSavedRecordsAreThoseOf(plugin);
 }
 
@@ -48,8 +48,8 @@ TEST_F(StornoCascade, PartOfTheGoods_GoesInTheOrderOfTheContract)
 
     host.storno(2);
 
-    EXPECT_EQ(host.journal, QStringList({"switch off", "change 5 to 1.000"}) + save()
-                                + QStringList({"switch on", "loyalty"}) + save());
+    EXPECT_EQ(host.journal, QStringList({"switch off", "change 5 to 1.000"}) + savedOnce()
+                                + QStringList({"switch on", "loyalty"}) + savedOnce());
     EXPECT_EQ(log.lines(),
               (QStringList{"INFO При удалении позиции: 2",
                            "INFO Изменение количества позиции 5, размещенной в таре, на -2.000, в "
@@ -84,7 +84,7 @@ TEST_F(StornoCascade, GoodsThatLeaveTheListDuringTheWalk_HideNobodyFromIt)
     host.storno(2);
 
     EXPECT_EQ(asked(), cascade({"remove 5", "remove 6", "change 7 to 1.000"}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {}}));
 }
 
 TEST_F(StornoCascade, GoodsOfOtherTara_AreNotAskedFor)
@@ -108,7 +108,7 @@ TEST_F(StornoCascade, EntryOfNothing_IsTakenAwayWithoutAnAction)
     host.storno(2);
 
     EXPECT_EQ(asked(), cascade({}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {}}));
 }
 
 TEST_F(StornoCascade, RecordOfGoodsThatTheReceiptLacks_KeepsItsEntry)
@@ -119,7 +119,7 @@ TEST_F(StornoCascade, RecordOfGoodsThatTheReceiptLacks_KeepsItsEntry)
     host.storno(2);
 
     EXPECT_EQ(asked(), cascade({}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 1.0}}}));
 }
 
 TEST_F(StornoCascade, StornoedTara_IsOutOfTheListBeforeTheFirstReduction)
@@ -128,7 +128,7 @@ TEST_F(StornoCascade, StornoedTara_IsOutOfTheListBeforeTheFirstReduction)
     standsGoods(5, 3.0, {{"A", 2.0}});
     const ActionInterceptor look([this](const control::Action &action, auto &queue) {
         EXPECT_THAT(plugin.taraList, IsEmpty());
-        EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 2.0}}}));
+        EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 2.0}}}));
         EXPECT_FALSE(host.receipt()->isSwitchedOn());
         host.journal << "looked";
         return queue.runAction(action);
@@ -164,9 +164,9 @@ TEST_P(StornoCascadeAnsweredBy, ChangeEvent_ReleasesFromOverfullTaraOnly)
     host.storno(2);
 
     EXPECT_EQ(position(5)->getBquant(), 2.5);
-    EXPECT_THAT(values(plugin.taraList),
+    EXPECT_THAT(valuesOf(plugin.taraList),
                 ElementsAre(TaraInfo{3, "B", 1.0, 0.0}, TaraInfo{4, "C", 5.0, 4.0}));
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{5, {{"B", 1.0}, {"C", 1.0}}}));
     EXPECT_EQ(asked(), cascade({}));
 }
@@ -186,7 +186,7 @@ TEST_F(StornoCascade, StornoWhereAChangeWasAskedFor_ForgetsTheGoodsAndFreesTheir
 
     host.storno(2);
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 5.0}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 5.0}));
     EXPECT_THAT(plugin.packagingList, IsEmpty());
     EXPECT_EQ(asked(), cascade({}));
     expectSavedRecordsAreThoseOf(plugin);
@@ -202,11 +202,11 @@ TEST_F(StornoCascade, LateChange_FindsTheEntryGoneAndMovesNothing)
     host.late = true;
 
     host.storno(2);
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
     host.deliverLate();
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 4.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 4.0}));
     EXPECT_EQ(asked(), cascade({"change 5 to 1.000"}));
 }
 
@@ -217,7 +217,7 @@ TEST_F(StornoCascade, LateRemoval_ForgetsTheGoodsWhenItComes)
     host.late = true;
 
     host.storno(2);
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {}}));
     host.deliverLate();
 
     EXPECT_THAT(plugin.packagingList, IsEmpty());
@@ -238,7 +238,7 @@ TEST_F(StornoCascade, RefusedReduction_LeavesTheEntryAndGoesOn)
 
     EXPECT_EQ(asked(), cascade({"change 5 to 1.000", "change 6 to 1.000", "change 7 to 1.000"}));
     EXPECT_THAT(
-        values(plugin.packagingList),
+        valuesOf(plugin.packagingList),
         ElementsAre(PackagingInfo{5, {}}, PackagingInfo{6, {{"A", 1.0}}}, PackagingInfo{7, {}}));
     EXPECT_EQ(log.lines().filter("ERROR"),
               QStringList{"ERROR Не удалось изменить количество позиции, размещенной в тару"});
@@ -255,9 +255,10 @@ TEST_F(StornoCascade, RefusedRemovals_LeaveTheTaraStornoedAndTheCashierAlone)
     host.storno(2);
 
     EXPECT_EQ(host.journal,
-              QStringList({"switch off", "remove 5", "remove 6", "switch on", "loyalty"}) + save());
+              QStringList({"switch off", "remove 5", "remove 6", "switch on", "loyalty"})
+                  + savedOnce());
     EXPECT_THAT(plugin.taraList, IsEmpty());
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{5, {{"A", 3.0}}}, PackagingInfo{6, {{"A", 3.0}}}));
     EXPECT_EQ(log.lines().filter("ERROR"),
               QStringList(2, "ERROR Не удалось удалить позицию, размещенную в тару"));
@@ -277,7 +278,7 @@ TEST_F(StornoCascade, RefusalAfterTheHostDidSoAfterAll_KeepsTheEntry)
 
     host.storno(2);
 
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 2.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"A", 2.0}}}));
     EXPECT_EQ(asked(), cascade({"change 5 to 1.000"}));
 }
 

@@ -61,7 +61,7 @@ TEST_F(InterruptedStorno, Suspension_SwitchesTheReceiptBackOnAndAsksForNothingMo
     EXPECT_EQ(plugin.heldDocument(), nullptr);
     EXPECT_TRUE(host.receipt()->isSwitchedOn());
     EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{5, {{"B", 1.0}}}, PackagingInfo{6, {{"A", 1.0}}}));
 }
 
@@ -130,7 +130,7 @@ TEST_F(InterruptedStorno, AnotherReceipt_KeepsItsPositionsAndRecords)
 
     EXPECT_NE(position(6), nullptr);
     EXPECT_THAT(plugin.taraList, IsEmpty());
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{6, {{"own", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{6, {{"own", 1.0}}}));
     expectSavedRecordsAreThoseOf(plugin);
 }
 
@@ -142,7 +142,7 @@ TEST_F(InterruptedStorno, SameReceiptSetAgain_ReducesTheRest)
               (QStringList{"switch off", "change 5 to 1.000", "remove 6", "switch on", "loyalty"}));
     EXPECT_EQ(position(6), nullptr);
     // Of the goods 5 the entry left the record that the walk held, not the one restored meanwhile.
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{5, {{"A", 1.0}, {"B", 1.0}}}));
 }
 
@@ -153,7 +153,7 @@ TEST_F(InterruptedStorno, OtherGoodsStornoed_AreNotAskedForAnyMore)
     storno([this] { host.storno(6); });
 
     EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
 }
 
 TEST_F(InterruptedStorno, OtherGoodsGrown_AreReducedFromTheirNewQuantity)
@@ -162,16 +162,16 @@ TEST_F(InterruptedStorno, OtherGoodsGrown_AreReducedFromTheirNewQuantity)
 
     // 2 more were wanted, and tara "B" had room for them
     EXPECT_EQ(position(6)->getBquant(), 2.0);
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{5, {{"B", 1.0}}}, PackagingInfo{6, {{"B", 2.0}}}));
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 2.0}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{3, "B", 5.0, 2.0}));
 }
 
 TEST_F(InterruptedStorno, GoodsAdded_AreNotPouredIntoTheStornoedTara)
 {
     storno([this] { host.addGoods(8, 9.0); });
 
-    EXPECT_THAT(values(plugin.packagingList),
+    EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{5, {{"B", 1.0}}}, PackagingInfo{8, {{"B", 4.0}}}));
     expectSavedRecordsAreThoseOf(plugin);
 }
@@ -220,7 +220,7 @@ TEST_F(InterruptedStorno, SameNumberAddedAsNewTara_IsNotTakenForTheOldOne)
     ASSERT_EQ(plugin.taraList.size(), 2);
     EXPECT_EQ(plugin.taraList[1]->posnum, 2);
     EXPECT_EQ(plugin.taraList[1]->freeCapacity, 7.0);
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
 }
 
 TEST_F(InterruptedStorno, HostException_PassesToTheHost)

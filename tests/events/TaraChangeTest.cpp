@@ -7,14 +7,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class TaraChange : public ReceiptEvents
-{
-protected:
-    void publishChanged(const QSharedPointer<GoodsItem> &position)
-    {
-        host.publish(EActivityListener::eventModifierApplied, position);
-    }
-};
+using TaraChange = ReceiptEvents;
 
 class TaraChangeByCode : public TaraChange,
                          public testing::WithParamInterface<EActivityListener::Event>
@@ -28,9 +21,9 @@ TEST_P(TaraChangeByCode, Growth_GrowsItsGoods)
 
     host.changeQuantity(2, 2, GetParam());
 
-    EXPECT_EQ(host.journal, QStringList{"change 7 to 3.000"} + save() + save());
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 0.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
+    EXPECT_EQ(host.journal, QStringList{"change 7 to 3.000"} + savedOnce() + savedOnce());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 0.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 3.0}}}));
     EXPECT_EQ(position(7)->getBquant(), 3.0);
     expectSavedRecordsAreThoseOf(plugin);
 }
@@ -46,7 +39,7 @@ TEST_F(TaraChange, GrownTara_IsResizedBeforeItsGoodsAreAskedFor)
     const ActionInterceptor refusal([this](const control::Action &action, auto &) {
         EXPECT_EQ(action.getType(), control::ApplyModifiers);
         EXPECT_EQ(positionNumber(action), 7);
-        EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
+        EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
         EXPECT_EQ(host.journal, QStringList()); // saved only when the handler ends
         host.journal << "asked";
         return EContext::Error;
@@ -54,7 +47,7 @@ TEST_F(TaraChange, GrownTara_IsResizedBeforeItsGoodsAreAskedFor)
 
     host.changeQuantity(2, 2);
 
-    EXPECT_EQ(host.journal, QStringList{"asked"} + save());
+    EXPECT_EQ(host.journal, QStringList{"asked"} + savedOnce());
 }
 
 TEST_F(TaraChange, ShrunkTara_DrawsItsGoodsBackOut)
@@ -64,9 +57,9 @@ TEST_F(TaraChange, ShrunkTara_DrawsItsGoodsBackOut)
 
     host.changeQuantity(2, 1);
 
-    EXPECT_EQ(host.journal, QStringList{"change 7 to 1.500"} + save() + save());
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 0.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 1.5}}}));
+    EXPECT_EQ(host.journal, QStringList{"change 7 to 1.500"} + savedOnce() + savedOnce());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 0.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 1.5}}}));
     EXPECT_EQ(
         log.lines(),
         (QStringList{"INFO Изменение ёмкости тары 3.000 -> 1.500",
@@ -82,11 +75,11 @@ TEST_F(TaraChange, ShrunkTaraWhoseGoodsAnswerLate_IsOverfullUntilTheyDo)
     host.late = true;
 
     host.changeQuantity(2, 1);
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, -1.5}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, -1.5}));
 
     host.deliverLate();
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 0.0}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 1.5}}}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 0.0}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 1.5}}}));
 }
 
 TEST_F(TaraChange, TaraShrunkToNothing_RemovesItsGoods)
@@ -96,8 +89,8 @@ TEST_F(TaraChange, TaraShrunkToNothing_RemovesItsGoods)
 
     host.changeQuantity(2, 0);
 
-    EXPECT_EQ(host.journal, QStringList{"remove 7"} + save() + save());
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 0.0, 0.0}));
+    EXPECT_EQ(host.journal, QStringList{"remove 7"} + savedOnce() + savedOnce());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 0.0, 0.0}));
     EXPECT_THAT(plugin.packagingList, IsEmpty());
     expectSavedRecordsAreThoseOf(plugin);
 }
@@ -108,7 +101,7 @@ TEST_F(TaraChange, ChangedTara_TakesCapacityFromBaseQuantity)
 
     publishChanged(host.putPosition(2, Tmc::Tara, 1.5, 100, 2));
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 3.0}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 3.0}));
 }
 
 TEST_F(TaraChange, ChangedTara_IsReadFromTheEventNotFromTheDocument)
@@ -130,8 +123,8 @@ TEST_F(TaraChange, TaraOfTheSameCapacity_LogsNothingAdjustsNoGoodsAndSaves)
     host.changeQuantity(2, 1.0002); // 0.0003 of capacity
 
     EXPECT_EQ(log.lines(), QStringList());
-    EXPECT_EQ(host.journal, save());
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 0.0}));
+    EXPECT_EQ(host.journal, savedOnce());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 1.5, 0.0}));
     EXPECT_EQ(position(7)->getBquant(), 1.5);
 }
 
@@ -143,8 +136,8 @@ TEST_F(TaraChange, EmptyTara_ChangesOnlyItsCapacity)
     host.changeQuantity(2, 2);
 
     EXPECT_EQ(log.lines(), QStringList{"INFO Изменение ёмкости тары 1.500 -> 3.000"});
-    EXPECT_EQ(host.journal, save());
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 3.0}));
+    EXPECT_EQ(host.journal, savedOnce());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 3.0}));
 }
 
 TEST_F(TaraChange, EmptyTaraThatGoodsStillName_LeavesThemAlone)
@@ -154,7 +147,7 @@ TEST_F(TaraChange, EmptyTaraThatGoodsStillName_LeavesThemAlone)
 
     host.changeQuantity(2, 2);
 
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(TaraChange, TaraOfSeveralGoods_GivesTheWholeChangeToTheFirst)
@@ -166,7 +159,7 @@ TEST_F(TaraChange, TaraOfSeveralGoods_GivesTheWholeChangeToTheFirst)
 
     host.changeQuantity(2, 2);
 
-    EXPECT_EQ(host.journal, QStringList{"change 7 to 5.000"} + save() + save());
+    EXPECT_EQ(host.journal, QStringList{"change 7 to 5.000"} + savedOnce() + savedOnce());
     EXPECT_EQ(position(6)->getBquant(), 3.0);
     EXPECT_EQ(position(5)->getBquant(), 1.0);
 }
@@ -189,8 +182,8 @@ TEST_F(TaraChange, FilledTaraThatNoGoodsName_AsksForNothing)
 
     host.changeQuantity(2, 2);
 
-    EXPECT_EQ(host.journal, save());
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 2.0}));
+    EXPECT_EQ(host.journal, savedOnce());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 2.0}));
 }
 
 TEST_F(TaraChange, FilledTaraWithoutAnyGoods_AsksForNothing)
@@ -199,8 +192,8 @@ TEST_F(TaraChange, FilledTaraWithoutAnyGoods_AsksForNothing)
 
     host.changeQuantity(2, 2);
 
-    EXPECT_EQ(host.journal, save());
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
+    EXPECT_EQ(host.journal, savedOnce());
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
 }
 
 TEST_F(TaraChange, RefusedGoods_LeaveTheNewCapacityStanding)
@@ -211,11 +204,11 @@ TEST_F(TaraChange, RefusedGoods_LeaveTheNewCapacityStanding)
 
     host.changeQuantity(2, 2);
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
-    EXPECT_THAT(values(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 1.5}}}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
+    EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{7, {{"A", 1.5}}}));
     EXPECT_EQ(log.lines().constLast(),
               "ERROR Не удалось изменить количество позиции, размещенной в тару");
-    EXPECT_EQ(host.journal, QStringList{"change 7 to 3.000"} + save());
+    EXPECT_EQ(host.journal, QStringList{"change 7 to 3.000"} + savedOnce());
 }
 
 TEST_F(TaraChange, TaraWithoutRecord_OnlySaves)
@@ -224,7 +217,7 @@ TEST_F(TaraChange, TaraWithoutRecord_OnlySaves)
 
     EXPECT_THAT(plugin.taraList, IsEmpty());
     EXPECT_EQ(log.lines(), QStringList());
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 // The ways out.
@@ -239,7 +232,7 @@ TEST_F(TaraChange, HostException_PassesAfterTheSave)
 
     EXPECT_THROW(host.changeQuantity(2, 2), std::runtime_error);
 
-    EXPECT_EQ(host.journal, save());
+    EXPECT_EQ(host.journal, savedOnce());
     expectSavedRecordsAreThoseOf(plugin);
     EXPECT_EQ(plugin.taraList[0]->capacity, 3.0);
 }
@@ -254,7 +247,7 @@ TEST_F(TaraChange, WithoutDocument_ResizesTaraAndAsksTheHostForNothing)
     plugin.handleEvent(Event(EActivityListener::eventModifierApplied)
                            .addArgument("position", QVariant::fromValue(position(2))));
 
-    EXPECT_THAT(values(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
+    EXPECT_THAT(valuesOf(plugin.taraList), ElementsAre(TaraInfo{2, "A", 3.0, 1.5}));
     EXPECT_EQ(host.journal, QStringList());
 }
 

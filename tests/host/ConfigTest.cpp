@@ -1,5 +1,5 @@
 #include "tests/support/Printers.h"
-#include "tests/support/WarningCapture.h"
+#include "tests/support/QtLines.h"
 
 #include "host/Config.h"
 
@@ -56,13 +56,13 @@ class ConfigSpelling : public testing::TestWithParam<Spelling>
 
 TEST_P(ConfigSpelling, KnownSpelling_OverrulesTheDefault)
 {
-    const WarningCapture warnings;
+    const QtLines warnings;
     Config config;
     config.set(key, GetParam().value);
 
     EXPECT_EQ(config.getBool(key, true), GetParam().meaning);
     EXPECT_EQ(config.getBool(key, false), GetParam().meaning);
-    EXPECT_EQ(warnings.lines(), QStringList());
+    EXPECT_EQ(warnings(), QStringList());
 }
 
 INSTANTIATE_TEST_SUITE_P(True, ConfigSpelling,
@@ -85,7 +85,7 @@ class ConfigMisspelling : public testing::TestWithParam<QVariant>
 
 TEST_P(ConfigMisspelling, UnknownSpelling_IsTheDefault)
 {
-    const WarningCapture warnings;
+    const QtLines warnings;
     Config config;
     config.set(key, GetParam());
 
@@ -95,15 +95,15 @@ TEST_P(ConfigMisspelling, UnknownSpelling_IsTheDefault)
 
 TEST_P(ConfigMisspelling, UnknownSpelling_IsWarnedAboutWithItsKey)
 {
-    const WarningCapture warnings;
+    const QtLines warnings;
     Config config;
     config.set(key, GetParam());
 
     config.getBool(key, true);
 
-    ASSERT_EQ(warnings.lines().size(), 1);
-    EXPECT_TRUE(warnings.lines()[0].contains(key)) << warnings.lines()[0].toStdString();
-    EXPECT_TRUE(warnings.lines()[0].contains(GetParam().toString()));
+    ASSERT_EQ(warnings().size(), 1);
+    EXPECT_TRUE(warnings()[0].contains(key)) << warnings()[0].toStdString();
+    EXPECT_TRUE(warnings()[0].contains(GetParam().toString()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, ConfigMisspelling,

@@ -1,6 +1,6 @@
 #include "tests/log4qt/JournalAppender.h"
-#include "tests/log4qt/QtLines.h"
 #include "tests/support/Printers.h"
+#include "tests/support/QtLines.h"
 
 #include <gtest/gtest.h>
 

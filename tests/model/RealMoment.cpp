@@ -7,15 +7,6 @@ namespace model {
 namespace {
 
 template <typename Record>
-QList<Record> valuesOf(const QList<QSharedPointer<Record>> &records)
-{
-    QList<Record> values;
-    for (const auto &record : records)
-        values.append(*record);
-    return values;
-}
-
-template <typename Record>
 QList<QSharedPointer<Record>> recordsOf(const QList<Record> &values)
 {
     QList<QSharedPointer<Record>> records;

@@ -1,6 +1,5 @@
 #include "tests/model/TillProgram.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QProcess>
 
 #include <sstream>
@@ -25,10 +24,8 @@ std::vector<std::string> linesOf(const std::string &text)
 
 QString TillProgram::write(const QString &name, const std::string &text) const
 {
-    QFile file(directory.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_EQ(file.write(QByteArray::fromStdString(text)), static_cast<qint64>(text.size()));
-    return file.fileName();
+    overwrite(path(name), QByteArray::fromStdString(text));
+    return path(name);
 }
 
 void TillProgram::takeRows(const std::string &script)
@@ -54,9 +51,7 @@ TillProgram::Run TillProgram::run(const QStringList &arguments, const std::strin
 
 QString TillProgram::catalogue() const
 {
-    QFile sample(TILL_SHARE_DIR "/catalogue.csv");
-    EXPECT_TRUE(sample.open(QIODevice::ReadOnly));
-    std::string text = sample.readAll().toStdString();
+    std::string text = contents(TILL_SHARE_DIR "/catalogue.csv").toStdString();
     for (const std::string &row : rows)
         text += row + '\n';
     return write("catalogue.csv", text);

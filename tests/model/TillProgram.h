@@ -2,11 +2,9 @@
 #define TESTS_MODEL_TILLPROGRAM_H
 
 #include "tests/model/Command.h"
-
-#include <gtest/gtest.h>
+#include "tests/till/support/FolderTest.h"
 
 #include <QtCore/QStringList>
-#include <QtCore/QTemporaryDir>
 
 #include <set>
 #include <string>
@@ -21,7 +19,7 @@ std::string printed(const Script &script);
 std::vector<std::string> linesOf(const std::string &text);
 
 //! Runs the till's program in a folder of the test's.
-class TillProgram : public testing::Test
+class TillProgram : public till::FolderTest
 {
 protected:
     //! What a run left.
@@ -38,8 +36,6 @@ protected:
     void takeRows(const std::string &script);
     //! Runs the program with \a arguments on \a input, in English and quietly.
     Run run(const QStringList &arguments, const std::string &input = {}) const;
-
-    QTemporaryDir directory;
 
 private:
     //! The sample shop's articles, and those that the scripts bring.

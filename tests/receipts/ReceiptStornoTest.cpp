@@ -2,7 +2,6 @@
 
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 class ReceiptStorno : public ReceiptStory
@@ -15,15 +14,15 @@ TEST_P(ReceiptStorno, MiddleOfThreeTara_TakesItsShareOfTheGoodsAlong)
     host.addTara(3, 2.0);
     host.addTara(4, 5.0);
     host.addGoods(5, 6.0);
-    ASSERT_THAT(goods(), ElementsAre(Goods{5, {{2, 1.0}, {3, 2.0}, {4, 3.0}}}));
+    ASSERT_EQ(goods(), QStringList{"goods 5: 1 in 2, 2 in 3, 3 in 4"});
 
     host.storno(3);
 
     EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 4.000", "switch on", "loyalty"}));
     EXPECT_EQ(quantity(5), 4.0);
-    EXPECT_THAT(tara(), ElementsAre(Tara{2, 1.0, 0.0}, Tara{4, 5.0, 2.0}));
-    EXPECT_THAT(goods(), ElementsAre(Goods{5, {{2, 1.0}, {4, 3.0}}}));
-    expectReopenedIsTheSame();
+    EXPECT_EQ(tara(), (QStringList{"tara 2: 0 of 1 free", "tara 4: 2 of 5 free"}));
+    EXPECT_EQ(goods(), QStringList{"goods 5: 1 in 2, 3 in 4"});
+    EXPECT_EQ(savedRecords(), records());
 }
 
 TEST_P(ReceiptStorno, TaraOneAfterTheOther_EmptiesTheReceipt)
@@ -41,7 +40,7 @@ TEST_P(ReceiptStorno, TaraOneAfterTheOther_EmptiesTheReceipt)
     EXPECT_TRUE(host.receipt()->getPositionList().isEmpty());
     EXPECT_THAT(tara(), IsEmpty());
     EXPECT_THAT(goods(), IsEmpty());
-    expectReopenedIsTheSame();
+    EXPECT_EQ(savedRecords(), records());
 }
 
 TEST_P(ReceiptStorno, RefusedReduction_LeavesTheGoodsNamingTheLostTara)
@@ -56,12 +55,12 @@ TEST_P(ReceiptStorno, RefusedReduction_LeavesTheGoodsNamingTheLostTara)
     EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
     EXPECT_TRUE(host.receipt()->isSwitchedOn());
     EXPECT_EQ(quantity(5), 3.0);
-    EXPECT_THAT(tara(), ElementsAre(Tara{3, 5.0, 4.0}));
-    EXPECT_THAT(goods(), ElementsAre(Goods{5, {{0, 2.0}, {3, 1.0}}}));
-    expectReopenedIsTheSame();
+    EXPECT_EQ(tara(), QStringList{"tara 3: 4 of 5 free"});
+    EXPECT_EQ(goods(), QStringList{"goods 5: 1 in 3, 2 in lost tara"});
+    EXPECT_EQ(savedRecords(), records());
 
     host.storno(5); // what was in the lost tara comes back to nobody
-    EXPECT_THAT(tara(), ElementsAre(Tara{3, 5.0, 5.0}));
+    EXPECT_EQ(tara(), QStringList{"tara 3: 5 of 5 free"});
     EXPECT_THAT(goods(), IsEmpty());
 }
 
@@ -76,7 +75,7 @@ TEST_P(ReceiptStorno, TaraOfTwoGoods_TakesBothAlong)
     EXPECT_EQ(asked(), (QStringList{"switch off", "remove 3", "remove 4", "switch on", "loyalty"}));
     EXPECT_TRUE(host.receipt()->getPositionList().isEmpty());
     EXPECT_THAT(goods(), IsEmpty());
-    expectReopenedIsTheSame();
+    EXPECT_EQ(savedRecords(), records());
 }
 
 TEST_P(ReceiptStorno, TaraOfTwoGoodsOneElsewhereToo_RemovesOneAndReducesTheOther)
@@ -90,9 +89,9 @@ TEST_P(ReceiptStorno, TaraOfTwoGoodsOneElsewhereToo_RemovesOneAndReducesTheOther
 
     EXPECT_EQ(asked(),
               (QStringList{"switch off", "remove 3", "change 4 to 1.000", "switch on", "loyalty"}));
-    EXPECT_THAT(tara(), ElementsAre(Tara{6, 5.0, 4.0}));
-    EXPECT_THAT(goods(), ElementsAre(Goods{4, {{6, 1.0}}}));
-    expectReopenedIsTheSame();
+    EXPECT_EQ(tara(), QStringList{"tara 6: 4 of 5 free"});
+    EXPECT_EQ(goods(), QStringList{"goods 4: 1 in 6"});
+    EXPECT_EQ(savedRecords(), records());
 }
 
 TEST_P(ReceiptStorno, TaraOfTwoGoodsAndASlowHost_IsAtRestWhenAllEventsCame)
@@ -106,9 +105,9 @@ TEST_P(ReceiptStorno, TaraOfTwoGoodsAndASlowHost_IsAtRestWhenAllEventsCame)
     host.storno(2);
     host.deliverLate();
 
-    EXPECT_THAT(tara(), ElementsAre(Tara{6, 5.0, 4.0}));
-    EXPECT_THAT(goods(), ElementsAre(Goods{4, {{6, 1.0}}}));
-    expectReopenedIsTheSame();
+    EXPECT_EQ(tara(), QStringList{"tara 6: 4 of 5 free"});
+    EXPECT_EQ(goods(), QStringList{"goods 4: 1 in 6"});
+    EXPECT_EQ(savedRecords(), records());
 }
 
 TEST_P(ReceiptStorno, Goods_MakeRoomForTheNext)
@@ -116,14 +115,14 @@ TEST_P(ReceiptStorno, Goods_MakeRoomForTheNext)
     host.addTara(2, 5.0);
     host.addGoods(3, 5.0);
     host.addGoods(4, 2.0);
-    ASSERT_THAT(goods(), ElementsAre(Goods{3, {{2, 5.0}}}, Goods{4, {}}));
+    ASSERT_EQ(goods(), (QStringList{"goods 3: 5 in 2", "goods 4: none"}));
 
     host.storno(3);
     host.addGoods(5, 1.5);
 
-    EXPECT_THAT(tara(), ElementsAre(Tara{2, 5.0, 3.5}));
-    EXPECT_THAT(goods(), ElementsAre(Goods{4, {}}, Goods{5, {{2, 1.5}}}));
-    expectReopenedIsTheSame();
+    EXPECT_EQ(tara(), QStringList{"tara 2: 3.5 of 5 free"});
+    EXPECT_EQ(goods(), (QStringList{"goods 4: none", "goods 5: 1.5 in 2"}));
+    EXPECT_EQ(savedRecords(), records());
 }
 
 INSTANTIATE_TEST_SUITE_P(By, ReceiptStorno,

@@ -137,7 +137,7 @@ TEST_F(Save, WritesTheTaraFirstAndReadsNothing)
 {
     plugin.savePluginData();
 
-    EXPECT_EQ(host.journal, (QStringList{"save taraInfo", "save packagingInfo"}));
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(Save, ChangesAndLogsNothing)

@@ -1,8 +1,6 @@
 #include "host/ActionArguments.h"
-#include "host/ActionQueueController.h"
-#include "host/ActivityNotifier.h"
 #include "host/Event.h"
-#include "host/Session.h"
+#include "tests/support/InstalledServices.h"
 #include "tests/till/support/TillFixture.h"
 
 // What other registers got wrong when their host was slow or reported twice, in the till, whose own
@@ -16,9 +14,6 @@ namespace {
 class LateQueue : public ActionQueueController
 {
 public:
-    LateQueue() { Singleton<ActionQueueController>::instance = this; }
-    ~LateQueue() override { Singleton<ActionQueueController>::instance = m_inTime; }
-
     int runAction(const control::Action &action) override
     {
         m_asked.append({action, pending()->value(modifiers::Quantity)});
@@ -33,7 +28,7 @@ public:
         for (const Asked &asked : std::exchange(m_asked, {})) {
             if (asked.quantity.isValid())
                 pending()->set(modifiers::Quantity, asked.quantity);
-            EXPECT_EQ(m_inTime->runAction(asked.action), EContext::Continue);
+            EXPECT_EQ(m_inTime.before().runAction(asked.action), EContext::Continue);
         }
     }
 
@@ -46,7 +41,7 @@ private:
 
     static ModifiersContainer *pending() { return Singleton<Session>::instance()->getModifiers(); }
 
-    ActionQueueController *m_inTime = Singleton<ActionQueueController>::instance();
+    const Installed<ActionQueueController> m_inTime{this};
     QList<Asked> m_asked;
 };
 

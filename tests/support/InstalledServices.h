@@ -23,8 +23,23 @@ public:
     ~Installed() { Singleton<Service>::instance = m_before; }
     Q_DISABLE_COPY_MOVE(Installed)
 
+    Service &before() const { return *m_before; }
+
 private:
     Service *m_before;
+};
+
+//! No service in its singleton's place while it lives; what is made there meanwhile goes with it.
+template <class Service>
+class Missing
+{
+public:
+    Missing() = default;
+    ~Missing() { delete static_cast<Service *>(Singleton<Service>::instance); }
+    Q_DISABLE_COPY_MOVE(Missing)
+
+private:
+    const Installed<Service> m_nothing{nullptr};
 };
 
 //! All services of a host in their places while it lives.

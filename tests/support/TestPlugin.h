@@ -58,6 +58,22 @@ public:
     }
 };
 
+//! The records themselves, to be compared by value, or kept from what is changed later.
+template <typename Record>
+QList<Record> valuesOf(const QList<QSharedPointer<Record>> &records)
+{
+    QList<Record> values;
+    for (const auto &record : records)
+        values.append(*record);
+    return values;
+}
+
+//! What a host's journal tells when the plugin has saved its records once.
+inline QStringList savedOnce()
+{
+    return {"save taraInfo", "save packagingInfo"};
+}
+
 // How failed comparisons show records.
 
 inline void PrintTo(const PackagingControl::TaraInfo &tara, std::ostream *out)

@@ -6,22 +6,20 @@ class AfterSplitPositions : public TriggerTest<TestPlugin>
 {
 protected:
     EContext::Result split(const QVariantList &elements) { return after(actions::split(elements)); }
-
-    const QStringList savedOnce{"save taraInfo", "save packagingInfo"};
 };
 
 TEST_F(AfterSplitPositions, NothingWasSplit_LogsSavesOnceAndChangesNothing)
 {
     plugin.putTara(1, "A", 10, 8);
     plugin.putGoods(2, {{"A", 2}});
-    const auto taras = recordsOf(plugin.taraList);
-    const auto goods = recordsOf(plugin.packagingList);
+    const auto taras = valuesOf(plugin.taraList);
+    const auto goods = valuesOf(plugin.packagingList);
 
     EXPECT_EQ(split({}), EContext::Continue);
 
-    EXPECT_EQ(recordsOf(plugin.taraList), taras);
-    EXPECT_EQ(recordsOf(plugin.packagingList), goods);
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(valuesOf(plugin.taraList), taras);
+    EXPECT_EQ(valuesOf(plugin.packagingList), goods);
+    EXPECT_EQ(host.journal, savedOnce());
     EXPECT_EQ(log.lines(), QStringList{"INFO Обработка разбиения позиции"});
 }
 
@@ -30,7 +28,7 @@ TEST_F(AfterSplitPositions, ActionWithoutArguments_OnlySaves)
     plugin.putGoods(2);
     EXPECT_EQ(after(control::Action(control::SplitPositions, {})), EContext::Continue);
     EXPECT_EQ(posnumsOf(plugin.packagingList), QList<int>{2});
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(AfterSplitPositions, RemovedSource_IsForgottenAndOnlyThePiecesAreRecorded)
@@ -43,7 +41,7 @@ TEST_F(AfterSplitPositions, RemovedSource_IsForgottenAndOnlyThePiecesAreRecorded
               EContext::Continue);
 
     using Info = PackagingControl::PackagingInfo;
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{3, {{"A", 2}}}, {4, {{"A", 3}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{3, {{"A", 2}}}, {4, {{"A", 3}}}}));
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 5);
     EXPECT_EQ(source->getGroupId(), QString());
 }
@@ -68,7 +66,7 @@ TEST_F(AfterSplitPositions, KeptSource_IsRecordedAnewBeforeThePieces)
     split({actions::splitOf(goods(2, 2), {goods(3, 3)}, false)});
 
     using Info = PackagingControl::PackagingInfo;
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}, {3, {{"B", 3}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}, {3, {{"B", 3}}}}));
     EXPECT_EQ(plugin.taraList[1]->freeCapacity, 7);
 }
 
@@ -132,7 +130,7 @@ TEST_F(AfterSplitPositions, TwoSplits_MakeAGroupEachAndSaveOnce)
 
     EXPECT_NE(first->getGroupId(), second->getGroupId());
     EXPECT_EQ(posnumsOf(plugin.packagingList), (QList<int>{2, 3, 4, 5}));
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 // Were the second source forgotten before the first pieces are placed, those would find its room.
@@ -146,7 +144,7 @@ TEST_F(AfterSplitPositions, TwoSplits_FinishTheFirstBeforeTheSecondStarts)
            actions::splitOf(goods(4, 3), {goods(5, 3)}, true)});
 
     using Info = PackagingControl::PackagingInfo;
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{3, {{"A", 1}}}, {5, {{"A", 3}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{3, {{"A", 1}}}, {5, {{"A", 3}}}}));
 }
 
 TEST_F(AfterSplitPositions, SecondSplitOfAPiece_StartsFromItsRecord)
@@ -177,7 +175,7 @@ TEST_P(AfterSplitPositionsOfAnyArticle, PiecesAreRecordedAsGoodsAndTakeCapacity)
     split({actions::splitOf(source, {piece}, false)});
 
     using Info = PackagingControl::PackagingInfo;
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 3}}}, {3, {{"A", 2}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 3}}}, {3, {{"A", 2}}}}));
     EXPECT_EQ(plugin.taraList.size(), 1);
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 5);
     EXPECT_EQ(log.lines(),
@@ -210,7 +208,7 @@ TEST_F(AfterSplitPositions, NullSource_SkipsThatSplitOnly)
 
     EXPECT_EQ(posnumsOf(plugin.packagingList), (QList<int>{4, 5}));
     EXPECT_EQ(stray->getGroupId(), QString());
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(AfterSplitPositions, NullPieces_AreSkipped)

@@ -13,8 +13,6 @@ protected:
     }
 
     double freeIn(int tara) const { return plugin.getTaraByPosnum(tara)->freeCapacity; }
-
-    const QStringList savedOnce{"save taraInfo", "save packagingInfo"};
 };
 
 TEST_F(AfterUnitePositions, NothingWasUnited_LogsSavesOnceAndChangesNothing)
@@ -24,9 +22,9 @@ TEST_F(AfterUnitePositions, NothingWasUnited_LogsSavesOnceAndChangesNothing)
 
     EXPECT_EQ(unite({}, {}), EContext::Continue);
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
     EXPECT_EQ(freeIn(1), 8);
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(host.journal, savedOnce());
     EXPECT_EQ(log.lines(), QStringList{"INFO Обработка объединения позиций"});
 }
 
@@ -37,9 +35,9 @@ TEST_F(AfterUnitePositions, ActionWithoutArguments_OnlySaves)
 
     EXPECT_EQ(after(control::Action(control::UnitePositions, {})), EContext::Continue);
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
     EXPECT_EQ(freeIn(1), 8);
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(AfterUnitePositions, DeletedGoods_AreForgottenAndGiveTheirCapacityBack)
@@ -52,7 +50,7 @@ TEST_F(AfterUnitePositions, DeletedGoods_AreForgottenAndGiveTheirCapacityBack)
 
     EXPECT_EQ(posnumsOf(plugin.packagingList), QList<int>{3});
     EXPECT_EQ(freeIn(1), 7);
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(AfterUnitePositions, DeletedWithoutRecord_ChangesNothing)
@@ -71,7 +69,7 @@ TEST_F(AfterUnitePositions, ChangedGoods_FollowTheirBaseQuantity)
 
     unite({}, {host.putPosition(2, Tmc::PackagingGoods, {}, 1, 6)});
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 6}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 6}}}}));
     EXPECT_EQ(freeIn(1), 4);
 }
 
@@ -83,7 +81,7 @@ TEST_F(AfterUnitePositions, TwoGoodsOfOneTara_TheSurvivorTakesWhatTheOtherGaveBa
 
     EXPECT_EQ(unite({goods(3, 3)}, {goods(2, 5)}), EContext::Continue);
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 5}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 5}}}}));
     EXPECT_EQ(freeIn(1), 0);
     EXPECT_EQ(log.lines(),
               (QStringList{"INFO Обработка объединения позиций",
@@ -99,7 +97,7 @@ TEST_F(AfterUnitePositions, SeveralGroups_AllDeletedGiveBackBeforeTheFirstChange
 
     unite({goods(3, 1), goods(4, 4)}, {goods(2, 6)});
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 6}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 6}}}}));
 }
 
 TEST_F(AfterUnitePositions, TwoChanged_TakeInTheirOrder)
@@ -110,7 +108,7 @@ TEST_F(AfterUnitePositions, TwoChanged_TakeInTheirOrder)
 
     unite({}, {goods(3, 3), goods(2, 3)});
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}, {3, {{"A", 3}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}, {3, {{"A", 3}}}}));
 }
 
 TEST_F(AfterUnitePositions, PositionBothDeletedAndChanged_LosesItsRecordAndTakesAsUnknown)
@@ -138,7 +136,7 @@ TEST_P(AfterUnitePositionsOfUnknown, TakesCapacityThatNoRecordHolds)
 
     unite({}, {position});
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
     EXPECT_EQ(freeIn(1), 4);
     EXPECT_EQ(log.lines(),
               (QStringList{"INFO Обработка объединения позиций",
@@ -165,8 +163,8 @@ TEST_F(AfterUnitePositions, NullPositions_AreSkipped)
 
     EXPECT_EQ(unite({nullptr, goods(3, 3)}, {nullptr, goods(2, 5)}), EContext::Continue);
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 5}}}}));
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 5}}}}));
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(AfterUnitePositions, ArgumentsOfOtherTypes_AreEmptyLists)
@@ -178,9 +176,9 @@ TEST_F(AfterUnitePositions, ArgumentsOfOtherTypes_AreEmptyLists)
 
     EXPECT_EQ(after(action), EContext::Continue);
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
     EXPECT_EQ(freeIn(1), 8);
-    EXPECT_EQ(host.journal, savedOnce);
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 } // namespace

@@ -179,7 +179,7 @@ TEST_F(TriggerArguments, SplitDataOfAnotherType_IsAnEmptyListAndIsSaved)
 {
     EXPECT_EQ(afterSplit({{"splitPositionsData", 7}}), EContext::Continue);
     EXPECT_EQ(plugin.packagingList.size(), 0);
-    EXPECT_EQ(host.journal, (QStringList{"save taraInfo", "save packagingInfo"}));
+    EXPECT_EQ(host.journal, savedOnce());
 }
 
 TEST_F(TriggerArguments, SplitDataAsAListOfMaps_Converts)
@@ -224,7 +224,7 @@ TEST_F(TriggerArguments, UnitedPositionsUnderLowerCaseKeys_AreUsed)
     afterUnion(
         {{"deletedpositions", list({goods(3, 3)})}, {"changedpositions", list({goods(2, 4)})}});
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 4}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 4}}}}));
 }
 
 TEST_F(TriggerArguments, UnitedPositionsUnderBothKeys_TheExactOnesCount)
@@ -238,7 +238,7 @@ TEST_F(TriggerArguments, UnitedPositionsUnderBothKeys_TheExactOnesCount)
                 {"changedPositions", list({host.receipt()->getPositionByPosnum(2)})},
                 {"changedpositions", list({goods(4, 7)})}});
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 2}}}}));
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 8);
 }
 
@@ -252,7 +252,7 @@ TEST_F(TriggerArguments, UnitedPositionsWithARegisteredConversion_Convert)
     afterUnion({{"deletedPositions", QVariant::fromValue(ForeignPositions{{goods(3, 3)}})},
                 {"changedPositions", QVariant::fromValue(ForeignPositions{{goods(2, 4)}})}});
 
-    EXPECT_EQ(recordsOf(plugin.packagingList), (QList<Info>{{2, {{"A", 4}}}}));
+    EXPECT_EQ(valuesOf(plugin.packagingList), (QList<Info>{{2, {{"A", 4}}}}));
 }
 
 } // namespace

@@ -119,8 +119,8 @@ TEST_F(BeforeApplyModifiersCalls, Refusal_ClearsTheModifiersBetweenTheTwoQuestio
 TEST_F(BeforeApplyModifiersCalls, Refusal_NotifiesOnceWithTheWholeEventWhenTheModifiersAreCleared)
 {
     EXPECT_CALL(plugin, isTaraSplitted(tara)).Times(2).WillRepeatedly(Return(true));
-    testing::StrictMock<MockNotifier> *const notifier = new testing::StrictMock<MockNotifier>;
-    const ServiceInstead<ActivityNotifier> instead(notifier);
+    testing::StrictMock<MockNotifier> notifier;
+    const Installed<ActivityNotifier> instead(&notifier);
     const Event expected =
         Event(EActivityListener::eventError)
             .addArgument("errorText",
@@ -128,7 +128,7 @@ TEST_F(BeforeApplyModifiersCalls, Refusal_NotifiesOnceWithTheWholeEventWhenTheMo
                                 "Тара используется разными товарами.\nИзменение количества "
                                 "запрещено"))
             .addArgument("forCustomer", false);
-    EXPECT_CALL(*notifier, notify(expected)).WillOnce([this] {
+    EXPECT_CALL(notifier, notify(expected)).WillOnce([this] {
         EXPECT_FALSE(host.modifiers().isSet(modifiers::Quantity));
     });
 
@@ -137,7 +137,7 @@ TEST_F(BeforeApplyModifiersCalls, Refusal_NotifiesOnceWithTheWholeEventWhenTheMo
 
 TEST_F(BeforeApplyModifiersCalls, SessionWasNeverMade_MakesItAndContinues)
 {
-    const ServiceInstead<Session> none(nullptr);
+    const Missing<Session> none;
     EXPECT_EQ(applyModifiers(), EContext::Continue);
     EXPECT_NE(static_cast<Session *>(Singleton<Session>::instance), nullptr);
 }
@@ -145,7 +145,7 @@ TEST_F(BeforeApplyModifiersCalls, SessionWasNeverMade_MakesItAndContinues)
 TEST_F(BeforeApplyModifiersCalls, PositionIsNoTara_AsksForNoSession)
 {
     goods(2, 1);
-    const ServiceInstead<Session> none(nullptr);
+    const Missing<Session> none;
     for (const int posnum : {2, 99})
         EXPECT_EQ(before(actions::on(posnum, control::ApplyModifiers)), EContext::Continue);
     EXPECT_EQ(static_cast<Session *>(Singleton<Session>::instance), nullptr);
@@ -154,7 +154,7 @@ TEST_F(BeforeApplyModifiersCalls, PositionIsNoTara_AsksForNoSession)
 TEST_F(BeforeApplyModifiersCalls, NotifierWasNeverMade_MakesItAndRefuses)
 {
     EXPECT_CALL(plugin, isTaraSplitted(tara)).Times(2).WillRepeatedly(Return(true));
-    const ServiceInstead<ActivityNotifier> none(nullptr);
+    const Missing<ActivityNotifier> none;
     EXPECT_EQ(applyModifiers(), EContext::Error);
     EXPECT_NE(static_cast<ActivityNotifier *>(Singleton<ActivityNotifier>::instance), nullptr);
 }

@@ -167,13 +167,13 @@ TEST_F(BeforeApplyModifiers, Refusal_ChangesNoRecordAndSavesNothing)
 {
     tara(1, 5);
     plugin.putGoods(2, {{"tara 1", 5}});
-    const auto taras = recordsOf(plugin.taraList);
-    const auto goods = recordsOf(plugin.packagingList);
+    const auto taras = valuesOf(plugin.taraList);
+    const auto goods = valuesOf(plugin.packagingList);
 
     applyModifiersTo(1);
 
-    EXPECT_EQ(recordsOf(plugin.taraList), taras);
-    EXPECT_EQ(recordsOf(plugin.packagingList), goods);
+    EXPECT_EQ(valuesOf(plugin.taraList), taras);
+    EXPECT_EQ(valuesOf(plugin.packagingList), goods);
     EXPECT_EQ(host.journal.filter("save"), QStringList());
     EXPECT_EQ(log.lines(), QStringList());
 }

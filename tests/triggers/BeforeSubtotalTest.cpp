@@ -51,7 +51,7 @@ TEST_P(BeforeSubtotal, AnsweredNo_CancelsAndLeavesTheReceiptAsItIs)
     host.addTara(1, 10);
     host.addGoods(2, 4);
     host.addTara(3, 10);
-    const auto taras = recordsOf(plugin.taraList);
+    const auto taras = valuesOf(plugin.taraList);
     host.journal.clear();
     log.clear();
     host.dialogAnswer = false;
@@ -59,7 +59,7 @@ TEST_P(BeforeSubtotal, AnsweredNo_CancelsAndLeavesTheReceiptAsItIs)
     EXPECT_EQ(subtotal(), EContext::Cancel);
 
     EXPECT_EQ(host.receipt()->getPositionList().size(), 3);
-    EXPECT_EQ(recordsOf(plugin.taraList), taras);
+    EXPECT_EQ(valuesOf(plugin.taraList), taras);
     EXPECT_EQ(host.journal, QStringList{"ask packingControlSaleEmptyTara"});
     EXPECT_EQ(log.lines(), QStringList());
 }

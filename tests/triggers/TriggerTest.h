@@ -58,38 +58,6 @@ protected:
     Plugin plugin;
 };
 
-//! Puts another service into the slot of `T` (null: none) while it lives; deletes what is made
-//! there.
-template <class T>
-class ServiceInstead
-{
-public:
-    explicit ServiceInstead(T *substitute)
-        : m_original(Singleton<T>::instance)
-    {
-        Singleton<T>::instance = substitute;
-    }
-    ~ServiceInstead()
-    {
-        delete static_cast<T *>(Singleton<T>::instance);
-        Singleton<T>::instance = m_original;
-    }
-    Q_DISABLE_COPY_MOVE(ServiceInstead)
-
-private:
-    T *m_original;
-};
-
-//! The records of a list, by value: what may be compared after a call.
-template <class Record>
-QList<Record> recordsOf(const QList<QSharedPointer<Record>> &list)
-{
-    QList<Record> records;
-    for (const auto &record : list)
-        records << *record;
-    return records;
-}
-
 //! Position numbers of the records of a list, in its order.
 template <class Record>
 QList<int> posnumsOf(const QList<QSharedPointer<Record>> &list)

@@ -197,18 +197,15 @@ void describeOptions(QCommandLineParser &parser)
 Result<> readOptions(const QCommandLineParser &parser, Options &options)
 {
     const QStringList words = parser.positionalArguments();
-    if (Result<> checked = checkEmpty(parser, words); !checked)
-        return checked;
     options.mode = words.value(0);
     options.words = words.mid(1);
-    if (Result<> checked = checkWords(options.mode, options.words); !checked)
-        return checked;
-    if (Result<> checked = checkTogether(parser, options.mode); !checked)
-        return checked;
-    if (Result<> checked = checkMeaning(parser, options.mode); !checked)
-        return checked;
-    if (Result<> checked = checkOnce(parser); !checked)
-        return checked;
+    for (const Result<> &checked :
+         {checkEmpty(parser, words), checkWords(options.mode, options.words),
+          checkTogether(parser, options.mode), checkMeaning(parser, options.mode),
+          checkOnce(parser)}) {
+        if (!checked)
+            return checked;
+    }
     const auto setup = readSetup(parser);
     if (!setup)
         return setup.error();

@@ -59,6 +59,17 @@ void ArticlePanel::layOut()
         m_groups.addButton(button, group);
         groups->addWidget(button);
     }
+    layOutTiles();
+    auto *const all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(4);
+    all->addLayout(fields);
+    all->addLayout(groups);
+    all->addWidget(&m_tiles, 1);
+}
+
+void ArticlePanel::layOutTiles()
+{
     m_tiles.setModel(&m_articles);
     m_tiles.setItemDelegate(new ArticleDelegate(&m_tiles));
     m_tiles.setViewMode(QListView::IconMode);
@@ -74,12 +85,6 @@ void ArticlePanel::layOut()
     m_nothing.setWordWrap(true);
     auto *const inPlace = new QVBoxLayout(&m_tiles);
     inPlace->addWidget(&m_nothing);
-    auto *const all = new QVBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(4);
-    all->addLayout(fields);
-    all->addLayout(groups);
-    all->addWidget(&m_tiles, 1);
 }
 
 void ArticlePanel::sizeTiles()

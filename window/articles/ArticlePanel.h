@@ -54,6 +54,7 @@ protected:
 
 private:
     void layOut();
+    void layOutTiles();
     void sizeTiles();
     void filter();
     void tellNothing();

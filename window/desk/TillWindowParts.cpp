@@ -24,6 +24,19 @@
 
 namespace till {
 
+namespace {
+
+//! A column of parts that fills \a widget.
+QVBoxLayout *makeColumn(QWidget *widget)
+{
+    auto *const column = new QVBoxLayout(widget);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    return column;
+}
+
+} // namespace
+
 void TillWindow::layOut()
 {
     QFont large = font();
@@ -32,9 +45,7 @@ void TillWindow::layOut()
     m_total.setFont(large);
     m_total.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto *const left = new QWidget;
-    auto *const receipt = new QVBoxLayout(left);
-    receipt->setContentsMargins(0, 0, 0, 0);
-    receipt->setSpacing(4);
+    auto *const receipt = makeColumn(left);
     receipt->addWidget(&m_table, 1);
     m_paidLabel.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *const sums = new QHBoxLayout;
@@ -43,9 +54,7 @@ void TillWindow::layOut()
     receipt->addLayout(sums);
     receipt->addWidget(&m_deeds);
     auto *const right = new QWidget;
-    auto *const goods = new QVBoxLayout(right);
-    goods->setContentsMargins(0, 0, 0, 0);
-    goods->setSpacing(4);
+    auto *const goods = makeColumn(right);
     goods->addWidget(&m_articles, 3);
     goods->addWidget(&m_shelf, 2);
     auto *const halves = new QSplitter;
@@ -54,9 +63,8 @@ void TillWindow::layOut()
     halves->addWidget(right);
     halves->setSizes({540, 480});
     auto *const cashDesk = new QWidget;
-    auto *const all = new QVBoxLayout(cashDesk);
+    auto *const all = makeColumn(cashDesk);
     all->setContentsMargins(4, 0, 4, 4);
-    all->setSpacing(4);
     all->addWidget(&m_strip);
     constexpr QSize leastOfDesk(360, 160);
     all->addWidget(new ScrolledPage(halves, leastOfDesk), 1);

@@ -49,7 +49,22 @@ void EntryDialog::layOut(const Translator &translator)
     warning.setColor(QPalette::WindowText, warningColour(warning));
     m_fault.setPalette(warning);
     m_fault.setMinimumHeight(m_fault.fontMetrics().height() * 2);
+    auto *const buttons = makeButtons(translator);
+    auto *const all = new QVBoxLayout(this);
+    for (QWidget *const widget : std::initializer_list<QWidget *>{title, &m_field, hint, &m_fault})
+        all->addWidget(widget);
+    constexpr QSize leastOfPad(3 * touchHeight, touchHeight);
+    all->addWidget(new ScrolledPage(makePad(translator), leastOfPad), 1);
+    all->addLayout(buttons);
+    // As high as its wrapped texts make it, within the screen and the frame about it.
+    constexpr QSize frame(16, 40);
+    const int width = all->sizeHint().width();
+    const int height = std::max(all->totalHeightForWidth(width), all->sizeHint().height());
+    resize(QSize(width, height).boundedTo(screen()->availableSize() - frame));
+}
 
+QLayout *EntryDialog::makeButtons(const Translator &translator)
+{
     m_confirm.setObjectName(QStringLiteral("confirm"));
     m_confirm.setText(translator.text(told("till", "Enter")));
     m_confirm.setDefault(true);
@@ -62,17 +77,7 @@ void EntryDialog::layOut(const Translator &translator)
         button->setMinimumHeight(touchHeight);
         buttons->addWidget(button);
     }
-    auto *const all = new QVBoxLayout(this);
-    for (QWidget *const widget : std::initializer_list<QWidget *>{title, &m_field, hint, &m_fault})
-        all->addWidget(widget);
-    constexpr QSize leastOfPad(3 * touchHeight, touchHeight);
-    all->addWidget(new ScrolledPage(makePad(translator), leastOfPad), 1);
-    all->addLayout(buttons);
-    // As high as its wrapped texts make it, within the screen and the frame about it.
-    constexpr QSize frame(16, 40);
-    const int width = all->sizeHint().width();
-    const int height = std::max(all->totalHeightForWidth(width), all->sizeHint().height());
-    resize(QSize(width, height).boundedTo(screen()->availableSize() - frame));
+    return buttons;
 }
 
 QPushButton *EntryDialog::makeKey(const QString &sign, const QString &name,

@@ -9,6 +9,7 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 QT_END_NAMESPACE
@@ -40,6 +41,7 @@ public:
 
 private:
     void layOut(const Translator &translator);
+    QLayout *makeButtons(const Translator &translator);
     QWidget *makePad(const Translator &translator);
     QPushButton *makeKey(const QString &sign, const QString &name, std::function<void()> press);
     void check();

@@ -25,6 +25,17 @@ FaultPage::FaultPage(const Translator &translator, QWidget *parent)
     m_reason.setObjectName(QStringLiteral("reason"));
     m_remedy.setObjectName(QStringLiteral("remedy"));
     m_goOn.setObjectName(QStringLiteral("goOn"));
+    m_goOn.setAutoDefault(true);
+    setFocusProxy(&m_goOn);
+    layOut();
+    connect(&m_goOn, &QPushButton::clicked, this, [this] {
+        if (goOn)
+            goOn();
+    });
+}
+
+void FaultPage::layOut()
+{
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.6);
     m_title.setFont(large);
@@ -43,15 +54,9 @@ FaultPage::FaultPage(const Translator &translator, QWidget *parent)
     for (QLabel *const caption : {&m_placeCaption, &m_reasonCaption, &m_remedyCaption})
         caption->setFont(bold);
     m_goOn.setMinimumHeight(touchHeight);
-    m_goOn.setAutoDefault(true);
-    setFocusProxy(&m_goOn);
     all->addSpacing(16);
     all->addWidget(&m_goOn, 0, Qt::AlignLeft);
     all->addStretch();
-    connect(&m_goOn, &QPushButton::clicked, this, [this] {
-        if (goOn)
-            goOn();
-    });
 }
 
 void FaultPage::tellStart(const Fault &fault)

@@ -34,6 +34,7 @@ public:
     std::function<void()> goOn;
 
 private:
+    void layOut();
     void tell();
     void fill();
     void setPart(QLabel &caption, QLabel &text, const Message &title, const QString &words);

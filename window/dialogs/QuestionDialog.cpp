@@ -30,6 +30,27 @@ QLabel *makeText(const QString &text, const char *name, QWidget *parent)
     return label;
 }
 
+QLabel *makeIcon(QWidget *parent)
+{
+    auto *const icon = new QLabel(parent);
+    const QStyle &style = *parent->style();
+    const int size = style.pixelMetric(QStyle::PM_MessageBoxIconSize);
+    icon->setPixmap(style.standardIcon(QStyle::SP_MessageBoxQuestion).pixmap(size));
+    return icon;
+}
+
+QPushButton *makeChoice(const QString &text, const char *name, QWidget *parent)
+{
+    // An ampersand in a choice is no mark of a key.
+    auto *const button =
+        new QPushButton(printable(text).replace(u'&', QLatin1String("&&")), parent);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(text);
+    button->setMinimumSize(3 * touchHeight, touchHeight);
+    button->setAutoDefault(true);
+    return button;
+}
+
 } // namespace
 
 QuestionDialog::QuestionDialog(const Translator &translator, const Question &question,
@@ -45,25 +66,12 @@ QuestionDialog::QuestionDialog(const Translator &translator, const Question &que
     subject->setVisible(!subject->text().isEmpty());
     setAccessibleName(subject->text().isEmpty() ? text->text()
                                                 : subject->text() + u'\n' + text->text());
-    auto *const icon = new QLabel(this);
-    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxQuestion).pixmap(size));
-    const auto makeButton = [&](const tr::Tr &choice, const char *name) {
-        // An ampersand in a choice is no mark of a key.
-        auto *const button =
-            new QPushButton(printable(translator.text(choice)).replace(u'&', QLatin1String("&&")));
-        button->setObjectName(QLatin1String(name));
-        button->setAccessibleName(translator.text(choice));
-        button->setMinimumSize(3 * touchHeight, touchHeight);
-        button->setAutoDefault(true);
-        return button;
-    };
-    auto *const confirm = makeButton(question.confirm, "confirm");
-    auto *const cancel = makeButton(question.cancel, "cancel");
+    auto *const confirm = makeChoice(translator.text(question.confirm), "confirm", this);
+    auto *const cancel = makeChoice(translator.text(question.cancel), "cancel", this);
     connect(confirm, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto *const words = new QHBoxLayout;
-    words->addWidget(icon, 0, Qt::AlignTop);
+    words->addWidget(makeIcon(this), 0, Qt::AlignTop);
     auto *const lines = new QVBoxLayout;
     lines->addWidget(subject);
     lines->addWidget(text);

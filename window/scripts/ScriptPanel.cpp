@@ -85,9 +85,8 @@ QPushButton *ScriptPanel::makeButton(const char *name, void (ScriptPanel::*click
     return button;
 }
 
-void ScriptPanel::layOut()
+void ScriptPanel::layOutLines()
 {
-    constexpr int printedLines = 2000;
     m_lines->setModel(&m_model);
     m_lines->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_lines->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -102,6 +101,12 @@ void ScriptPanel::layOut()
     connect(m_lines, &QTableView::doubleClicked, this, [this] { runToLine(); });
     connect(m_lines->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { tellState(); });
+}
+
+void ScriptPanel::layOut()
+{
+    constexpr int printedLines = 2000;
+    layOutLines();
     m_printed->setReadOnly(true);
     m_printed->setTabChangesFocus(true);
     m_printed->setMaximumBlockCount(printedLines);

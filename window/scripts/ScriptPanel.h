@@ -53,6 +53,7 @@ public:
 
 private:
     QPushButton *makeButton(const char *name, void (ScriptPanel::*click)());
+    void layOutLines();
     void layOut();
     void tellTexts();
     //! Says of each button whether it can be pressed, and why not.

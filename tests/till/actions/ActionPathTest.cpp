@@ -1,3 +1,4 @@
+#include "host/EActivityListener.h"
 #include "tests/till/support/TillFixture.h"
 
 // The path that actions take, with the real plugin on it.
@@ -14,24 +15,25 @@ protected:
     int recomputations() const { return receipt()->recomputations(); }
 };
 
-TEST_F(ActionPath, CashiersChange_IsReportedAs26)
+TEST_F(ActionPath, CashiersChange_IsReportedAsAppliedModifiers)
 {
     done({"open", "add BEER"});
     heard.clear();
     done({"qty 1 2"});
-    EXPECT_EQ(events(), QVariantList() << 26);
+    EXPECT_EQ(events(), QVariantList() << EActivityListener::eventModifierApplied);
     EXPECT_EQ(noted("action", "origin"), QVariantList({"cashier"}));
 }
 
-TEST_F(ActionPath, ChangeThroughTheQueue_IsReportedAs252)
+TEST_F(ActionPath, ChangeThroughTheQueue_IsReportedAsOfAProgram)
 {
     done({"open", "add PET15", "add BEER 1.5"});
     heard.clear();
     done({"qty 1 2"});
     EXPECT_EQ(noted("event", "position"), QVariantList({1, 2}));
-    EXPECT_EQ(events(), QVariantList({26, 252}));
+    EXPECT_EQ(events(), (QVariantList{EActivityListener::eventModifierApplied,
+                                      EActivityListener::eventModifierApplied2}));
     EXPECT_EQ(noted("action", "origin"), QVariantList({"cashier", "program"}));
-    EXPECT_EQ(noted("result", "result"), QVariantList({2, 2}));
+    EXPECT_EQ(noted("result", "result"), (QVariantList{EContext::Continue, EContext::Continue}));
 }
 
 TEST_F(ActionPath, NestedActions_AreDeeper)
@@ -43,12 +45,13 @@ TEST_F(ActionPath, NestedActions_AreDeeper)
     EXPECT_EQ(noted("result", "depth"), QVariantList({3, 1}));
 }
 
-TEST_F(ActionPath, RemovalThroughTheQueue_IsReportedAs21)
+TEST_F(ActionPath, RemovalThroughTheQueue_IsReportedAsAStorno)
 {
     done({"open", "add PET15", "add BEER 1.5"});
     heard.clear();
     done({"qty 1 0"});
-    EXPECT_EQ(events(), QVariantList({26, 21}));
+    EXPECT_EQ(events(), (QVariantList{EActivityListener::eventModifierApplied,
+                                      EActivityListener::eventPositionStorno}));
     EXPECT_EQ(noted("action", "type"),
               (QVariantList{control::ApplyModifiers, control::RemovePosition}));
 }
@@ -58,8 +61,8 @@ TEST_F(ActionPath, Refusal_PublishesTheErrorAndNothingElse)
     done({"open", "add PET15", "add BEER 1"});
     heard.clear();
     refused("qty 1 2");
-    EXPECT_EQ(events(), QVariantList() << 29);
-    EXPECT_EQ(noted("result", "result"), QVariantList() << 1);
+    EXPECT_EQ(events(), QVariantList() << EActivityListener::eventError);
+    EXPECT_EQ(noted("result", "result"), QVariantList() << EContext::Error);
     expect({"position 1 quantity 1"});
 }
 
@@ -78,7 +81,7 @@ TEST_F(ActionPath, PluginsNo_CancelsTheSubtotal)
         heard.clear();
         done({"answer no"});
         refused(line);
-        EXPECT_EQ(noted("result", "result"), QVariantList() << 0);
+        EXPECT_EQ(noted("result", "result"), QVariantList() << EContext::Cancel);
         expect({"state open", "position 1 live"});
     }
 }

@@ -2,11 +2,10 @@
 
 #include "tests/till/storage/StorageFixture.h"
 #include "tests/till/support/ManyReceipts.h"
+#include "tests/till/support/Sql.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlQuery>
 
 #include <gmock/gmock.h>
 
@@ -58,16 +57,10 @@ protected:
     QString planOf(const Selection &selection) const
     {
         QString plan;
-        {
-            QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "plan");
-            database.setDatabaseName(path());
-            EXPECT_TRUE(database.open());
-            QSqlQuery rows(database);
-            EXPECT_TRUE(rows.exec("EXPLAIN QUERY PLAN SELECT * FROM receipts" + selection.sql()));
-            while (rows.next())
-                plan += rows.value(3).toString() + '\n';
-        }
-        QSqlDatabase::removeDatabase("plan");
+        const QList<QVariantList> rows =
+            rowsOf(path(), "EXPLAIN QUERY PLAN SELECT * FROM receipts" + selection.sql());
+        for (const QVariantList &row : rows)
+            plan += row.last().toString() + '\n';
         return plan;
     }
 };

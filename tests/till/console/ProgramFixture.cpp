@@ -2,8 +2,6 @@
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QProcessEnvironment>
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlQuery>
 
 QString ProgramTest::write(const QString &name, const QByteArray &contents) const
 {
@@ -28,17 +26,6 @@ void ProgramTest::startRegister(QProcess &process, const QByteArray &lines) cons
     QByteArray said;
     while (!said.contains("ready") && process.waitForReadyRead(patience))
         said += process.readAllStandardOutput();
-}
-
-void ProgramTest::query(const QString &sql) const
-{
-    {
-        QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "test");
-        connection.setDatabaseName(database());
-        EXPECT_TRUE(connection.open());
-        EXPECT_TRUE(QSqlQuery(connection).exec(sql));
-    }
-    QSqlDatabase::removeDatabase("test");
 }
 
 RunResult ProgramTest::run(const QStringList &arguments, const QByteArray &input) const

@@ -2,6 +2,7 @@
 #define TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
 
 #include "tests/till/support/FolderTest.h"
+#include "tests/till/support/Sql.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
@@ -36,7 +37,7 @@ protected:
     //! Starts a register on the database, and waits until it has carried out \a lines.
     void startRegister(QProcess &process, const QByteArray &lines) const;
     //! Runs \a sql on the database.
-    void query(const QString &sql) const;
+    void query(const QString &sql) const { till::rowsOf(database(), sql); }
     //! Runs the program on \a input to its end.
     RunResult run(const QStringList &arguments, const QByteArray &input = {}) const;
     //! Plays \a script, which must be done with nothing on standard error; what it prints.

@@ -175,9 +175,11 @@ TEST_F(TerminalSafety, Trace_HasControlsEscaped)
         run({"--trace", "-", "play", write("s.till", "say \x7f\xc2\x80\xc2\x9f\xc2\xa0.\n")});
     EXPECT_THAT(traced.out, HasSubstr("say \\u007f\\u0080\\u009f\xc2\xa0."));
     expectHarmless(traced.out);
+    QStringList texts;
     const auto notes = trace(QByteArray::fromStdString(traced.out));
-    EXPECT_EQ(notes[2].value("text").toString(),
-              QString::fromUtf8("say \x7f\xc2\x80\xc2\x9f\xc2\xa0."));
+    for (const QJsonObject &note : notes)
+        texts.append(note.value("text").toString());
+    EXPECT_TRUE(texts.contains(QString::fromUtf8("say \x7f\xc2\x80\xc2\x9f\xc2\xa0.")));
 }
 
 class FullDevice : public ProgramTest

@@ -1,40 +1,17 @@
 #include "host/EActionType.h"
 #include "tests/till/console/ProgramFixture.h"
+#include "tests/till/support/SampleScripts.h"
 #include "tests/till/support/StoredReceipts.h"
 #include "till/course/RebuiltReceipt.h"
 #include "till/receipt/Receipt.h"
 
 #include <QtCore/QDateTime>
-#include <QtCore/QDir>
 
 // The trace of the sample scripts, and receipts rebuilt from it alone.
 
 namespace {
 
 using testing::HasSubstr;
-
-//! A script, by its name in the names of tests.
-struct Sample
-{
-    QString path;
-
-    QString name() const { return path.section('/', -1).section('.', 0, 0); }
-};
-
-void PrintTo(const Sample &sample, std::ostream *out)
-{
-    *out << sample.name().toStdString();
-}
-
-QList<Sample> sampleScripts()
-{
-    QList<Sample> samples;
-    const QDir folder(QStringLiteral(TILL_SHARE_DIR "/scripts"));
-    const QStringList names = folder.entryList({"*.till"}, QDir::Files, QDir::Name);
-    for (const QString &name : names)
-        samples.append({folder.filePath(name)});
-    return samples;
-}
 
 //! The receipts of a trace as they were last, and their totals, by their numbers.
 struct Told
@@ -83,7 +60,7 @@ protected:
     }
 };
 
-class SampleTrace : public Trace, public testing::WithParamInterface<Sample>
+class SampleTrace : public Trace, public testing::WithParamInterface<till::SampleScript>
 {
 };
 
@@ -125,10 +102,8 @@ TEST_P(SampleTrace, Actions_EndInTheirResultAtTheirDepth)
     EXPECT_TRUE(open.isEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, SampleTrace, testing::ValuesIn(sampleScripts()),
-                         [](const auto &script) {
-                             return script.param.name().replace('-', '_').toStdString();
-                         });
+INSTANTIATE_TEST_SUITE_P(Scripts, SampleTrace, testing::ValuesIn(till::sampleScripts()),
+                         till::sampleName);
 
 //! The last note of \a kind.
 QJsonObject lastOf(const QList<QJsonObject> &notes, const QString &kind)
@@ -274,8 +249,8 @@ TEST_F(Trace, EachKindAndField_IsInTheDocument)
 {
     const QString page = QString::fromUtf8(contents(QStringLiteral(DOCS_DIR "/trace.md")));
     const auto kinds = documentedKinds(page);
-    const QList<Sample> scripts = sampleScripts();
-    for (const Sample &script : scripts) {
+    const QList<till::SampleScript> scripts = till::sampleScripts();
+    for (const till::SampleScript &script : scripts) {
         const auto notes =
             trace(QByteArray::fromStdString(run({"--trace", "-", "play", script.path}).out));
         for (const QJsonObject &note : notes) {

@@ -1,11 +1,9 @@
 #ifndef TESTS_TILL_GOODS_CATALOGUEFILE_H
 #define TESTS_TILL_GOODS_CATALOGUEFILE_H
 
+#include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Results.h"
 #include "till/goods/Catalogue.h"
-
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 
 #include <ostream>
 
@@ -22,13 +20,11 @@ inline void PrintTo(const ArticleData &article, std::ostream *out)
 } // namespace till
 
 //! A catalogue file of its own for each test.
-class CatalogueFile
+class CatalogueFile : public till::FolderTest
 {
-public:
-    QString path() const { return m_folder.filePath("goods.csv"); }
-
+protected:
     //! The articles of a file with that text, or the error as the only element's name.
-    QList<till::ArticleData> articles(const QByteArray &text) const
+    QList<till::ArticleData> articlesOf(const QByteArray &text) const
     {
         const auto loaded = load(text);
         if (!loaded)
@@ -41,22 +37,18 @@ public:
     }
 
     //! What is said of a file with that text, its name shortened to FILE; empty when it is taken.
-    QString error(const QByteArray &text) const
+    QString errorOf(const QByteArray &text) const
     {
-        return till::faultText(load(text)).replace(path(), "FILE");
+        return till::faultText(load(text)).replace(file, "FILE");
     }
 
     till::Result<till::Catalogue> load(const QByteArray &text) const
     {
-        QFile file(path());
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            return till::Fault{"the test cannot write", file.errorString()};
-        file.close();
-        return till::Catalogue::load(path());
+        overwrite(file, text);
+        return till::Catalogue::load(file);
     }
 
-private:
-    QTemporaryDir m_folder;
+    const QString file = path("goods.csv");
 };
 
 #endif // TESTS_TILL_GOODS_CATALOGUEFILE_H

@@ -1,8 +1,6 @@
 #include "tests/support/Printers.h"
 #include "tests/till/goods/CatalogueFile.h"
 
-#include <gtest/gtest.h>
-
 // The forms in which a shop's spreadsheet may come.
 
 namespace {
@@ -23,15 +21,13 @@ void PrintTo(const Form &form, std::ostream *out)
     *out << form.what;
 }
 
-class CatalogueForm : public testing::TestWithParam<Form>
+class CatalogueForm : public CatalogueFile, public testing::WithParamInterface<Form>
 {
-protected:
-    CatalogueFile file;
 };
 
 TEST_P(CatalogueForm, OfTwoArticles_IsRead)
 {
-    EXPECT_EQ(file.articles(GetParam().text), (QList{Beer, Bottle}));
+    EXPECT_EQ(articlesOf(GetParam().text), (QList{Beer, Bottle}));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -125,18 +121,16 @@ INSTANTIATE_TEST_SUITE_P(
                                        "BEER,Пиво,140.50,2,,,л\n"
                                        "PET,Бутылка,9,1,1.5,,шт\n"}));
 
-class CatalogueName : public testing::Test
+class CatalogueName : public CatalogueFile
 {
 protected:
     QString nameOf(const QByteArray &field)
     {
-        const auto articles = file.articles("code;name;price;tara mode;tara capacity;pack;unit\n"
-                                            "A;"
-                                            + field + ";1;0;0;1;kg\n");
+        const auto articles = articlesOf("code;name;price;tara mode;tara capacity;pack;unit\n"
+                                         "A;"
+                                         + field + ";1;0;0;1;kg\n");
         return articles.first().name;
     }
-
-    CatalogueFile file;
 };
 
 TEST_F(CatalogueName, InQuotes_MayHoldSeparators)

@@ -1,8 +1,6 @@
 #include "tests/support/Printers.h"
 #include "tests/till/goods/CatalogueFile.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using till::ArticleData;
@@ -10,19 +8,17 @@ using till::Catalogue;
 
 const QByteArray Head = "code,name,price,tara mode,tara capacity,pack,unit\n";
 
-class CatalogueContents : public testing::Test
+class CatalogueContents : public CatalogueFile
 {
 protected:
-    ArticleData article(const QByteArray &row) { return file.articles(Head + row).first(); }
-
-    CatalogueFile file;
+    ArticleData article(const QByteArray &row) { return articlesOf(Head + row).first(); }
 };
 
 TEST_F(CatalogueContents, FindByCode_GivesThatArticle)
 {
-    const auto catalogue = must(file.load(Head
-                                          + "A,Chips,1,0,0,1,pc\n"
-                                            "B,Fish,2,0,0,1,pc\n"));
+    const auto catalogue = must(load(Head
+                                     + "A,Chips,1,0,0,1,pc\n"
+                                       "B,Fish,2,0,0,1,pc\n"));
 
     ASSERT_TRUE(catalogue.find("B"));
     EXPECT_EQ(catalogue.find("B")->data.name, "Fish");
@@ -31,7 +27,7 @@ TEST_F(CatalogueContents, FindByCode_GivesThatArticle)
 
 TEST_F(CatalogueContents, FindOfUnknownCode_GivesNull)
 {
-    const auto catalogue = must(file.load(Head + "A,Chips,1,0,0,1,pc\n"));
+    const auto catalogue = must(load(Head + "A,Chips,1,0,0,1,pc\n"));
 
     EXPECT_FALSE(catalogue.find("B"));
     EXPECT_FALSE(catalogue.find("a"));
@@ -40,10 +36,10 @@ TEST_F(CatalogueContents, FindOfUnknownCode_GivesNull)
 
 TEST_F(CatalogueContents, Articles_StandInTheOrderOfTheFile)
 {
-    const auto articles = file.articles(Head
-                                        + "Z,Chips,1,0,0,1,pc\n"
-                                          "A,Fish,2,0,0,1,pc\n"
-                                          "M,Bag,3,0,0,1,pc\n");
+    const auto articles = articlesOf(Head
+                                     + "Z,Chips,1,0,0,1,pc\n"
+                                       "A,Fish,2,0,0,1,pc\n"
+                                       "M,Bag,3,0,0,1,pc\n");
 
     ASSERT_EQ(articles.size(), 3);
     EXPECT_EQ(articles[0].code, "Z");
@@ -53,10 +49,10 @@ TEST_F(CatalogueContents, Articles_StandInTheOrderOfTheFile)
 
 TEST_F(CatalogueContents, Containing_TakesCodesAndNamesInAnyCase)
 {
-    const auto catalogue = must(file.load(Head
-                                          + "A1,Chips,1,0,0,1,pc\n"
-                                            "B,Fish a1,2,0,0,1,pc\n"
-                                            "C,Bag,2,0,0,1,pc\n"));
+    const auto catalogue = must(load(Head
+                                     + "A1,Chips,1,0,0,1,pc\n"
+                                       "B,Fish a1,2,0,0,1,pc\n"
+                                       "C,Bag,2,0,0,1,pc\n"));
 
     EXPECT_EQ(catalogue.containing("a1").size(), 2);
     EXPECT_EQ(catalogue.containing("CHI").size(), 1);
@@ -65,9 +61,9 @@ TEST_F(CatalogueContents, Containing_TakesCodesAndNamesInAnyCase)
 
 TEST_F(CatalogueContents, Containing_TakesYoForYe)
 {
-    const auto catalogue = must(file.load(Head
-                                          + "A,Мёд,1,0,0,1,pc\n"
-                                            "B,МЕДОК,2,0,0,1,pc\n"));
+    const auto catalogue = must(load(Head
+                                     + "A,Мёд,1,0,0,1,pc\n"
+                                       "B,МЕДОК,2,0,0,1,pc\n"));
 
     for (const char *const text : {"мед", "мёд", "МЁД", "МЕД"})
         EXPECT_EQ(catalogue.containing(text).size(), 2) << text;
@@ -76,7 +72,7 @@ TEST_F(CatalogueContents, Containing_TakesYoForYe)
 
 TEST_F(CatalogueContents, Article_TellsTheHostItsTaraModeAndCapacity)
 {
-    const auto catalogue = must(file.load(Head + "A,Bottle,1,1,1.5,1,pc\n"));
+    const auto catalogue = must(load(Head + "A,Bottle,1,1,1.5,1,pc\n"));
 
     EXPECT_EQ(catalogue.find("A")->getTaraMode(), Tmc::Tara);
     EXPECT_EQ(catalogue.find("A")->getTaraCapacity(), QVariant(1.5));
@@ -110,7 +106,7 @@ TEST_F(CatalogueContents, EmptyUnit_IsTaken)
 
 TEST_F(CatalogueContents, CodesThatDifferInLetterCase_AreTwoArticles)
 {
-    EXPECT_EQ(file.error(Head + "A,Chips,1,0,,1,pc\na,Fish,1,0,,1,pc\n"), "");
+    EXPECT_EQ(errorOf(Head + "A,Chips,1,0,,1,pc\na,Fish,1,0,,1,pc\n"), "");
 }
 
 struct Refused
@@ -139,15 +135,13 @@ QString notANumber(const QString &place, const QString &name, const QString &tex
         .arg(place, name, text);
 }
 
-class CatalogueRefusal : public testing::TestWithParam<Refused>
+class CatalogueRefusal : public CatalogueFile, public testing::WithParamInterface<Refused>
 {
-protected:
-    CatalogueFile file;
 };
 
 TEST_P(CatalogueRefusal, SaysWhereAndWhy)
 {
-    EXPECT_EQ(file.error(GetParam().text), GetParam().error);
+    EXPECT_EQ(errorOf(GetParam().text), GetParam().error);
 }
 
 INSTANTIATE_TEST_SUITE_P(

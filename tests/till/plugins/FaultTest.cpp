@@ -1,12 +1,11 @@
 #include "till/plugins/PluginLoader.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "tests/till/support/FolderTest.h"
 
-#include <QtCore/QFile>
+#include <gmock/gmock.h>
+
 #include <QtCore/QFileInfo>
 #include <QtCore/QPluginLoader>
-#include <QtCore/QTemporaryDir>
 
 #include <optional>
 #include <ostream>
@@ -42,17 +41,19 @@ bool isLoaded(const QString &path)
     return QPluginLoader(path).isLoaded();
 }
 
-//! Writes the first \a length bytes of the real plugin to \a path.
-void truncate(const QString &path, qint64 length)
+class LoaderFault : public till::FolderTest
 {
-    QFile whole(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE));
-    QFile part(path);
-    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-    ASSERT_TRUE(part.open(QIODevice::WriteOnly));
-    ASSERT_EQ(part.write(whole.read(length)), length);
-}
+protected:
+    //! Writes the first \a length bytes of the real plugin to a file; its path.
+    QString cutOff(qint64 length) const
+    {
+        const QString part = path("PackagingControl.so");
+        overwrite(part, contents(PACKAGINGCONTROL_PLUGIN_FILE).left(length));
+        return part;
+    }
+};
 
-TEST(LoaderFault, NoSuchFile_IsSaid)
+TEST_F(LoaderFault, NoSuchFile_IsSaid)
 {
     const auto error = errorOf("/nowhere/PackagingControl.so");
 
@@ -63,7 +64,7 @@ TEST(LoaderFault, NoSuchFile_IsSaid)
               "plugin file, found no such file");
 }
 
-TEST(LoaderFault, RelativePath_IsNamedInFull)
+TEST_F(LoaderFault, RelativePath_IsNamedInFull)
 {
     const auto error = errorOf("nowhere.so");
 
@@ -71,7 +72,7 @@ TEST(LoaderFault, RelativePath_IsNamedInFull)
     EXPECT_EQ(error->path, QFileInfo("nowhere.so").absoluteFilePath());
 }
 
-TEST(LoaderFault, Directory_IsNoPluginFile)
+TEST_F(LoaderFault, Directory_IsNoPluginFile)
 {
     const auto error = errorOf(BROKEN_PLUGIN_DIR);
 
@@ -80,15 +81,11 @@ TEST(LoaderFault, Directory_IsNoPluginFile)
     EXPECT_THAT(textOf(*error), HasSubstr("expected a plugin file, found a directory"));
 }
 
-TEST(LoaderFault, TextFile_IsNoLibrary)
+TEST_F(LoaderFault, TextFile_IsNoLibrary)
 {
-    const QTemporaryDir folder;
-    QFile text(folder.filePath("notes.so"));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-    text.write(QByteArray(1000, 'x'));
-    text.close();
+    overwrite(path("notes.so"), QByteArray(1000, 'x'));
 
-    const auto error = errorOf(text.fileName());
+    const auto error = errorOf(path("notes.so"));
 
     ASSERT_TRUE(error);
     EXPECT_EQ(error->kind, PluginError::NotALibrary);
@@ -96,41 +93,34 @@ TEST(LoaderFault, TextFile_IsNoLibrary)
                 HasSubstr("expected a shared library, found a file of another kind"));
 }
 
-class CutOffAfter : public testing::TestWithParam<int>
+class CutOffAfter : public LoaderFault, public testing::WithParamInterface<int>
 {
-protected:
-    QTemporaryDir folder;
-    QString path = folder.filePath("PackagingControl.so");
 };
 
 TEST_P(CutOffAfter, PerMilleOfTheFile_IsTruncated)
 {
     const qint64 whole = QFileInfo(QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE)).size();
     const qint64 length = whole * GetParam() / 1000;
-    truncate(path, length);
+    const QString part = cutOff(length);
 
-    const auto error = errorOf(path);
+    const auto error = errorOf(part);
 
     ASSERT_TRUE(error);
     EXPECT_EQ(error->kind, PluginError::Truncated);
-    EXPECT_EQ(error->path, path);
+    EXPECT_EQ(error->path, part);
     EXPECT_EQ(error->expected, QString("a shared library of %1 bytes").arg(whole));
     EXPECT_EQ(error->found, QString("only its first %1 bytes").arg(length));
 }
 
 INSTANTIATE_TEST_SUITE_P(LoaderFault, CutOffAfter, testing::Values(10, 500, 900, 999));
 
-class ShorterThanAHeader : public testing::TestWithParam<int>
+class ShorterThanAHeader : public LoaderFault, public testing::WithParamInterface<int>
 {
 };
 
 TEST_P(ShorterThanAHeader, File_IsNoLibrary)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("PackagingControl.so");
-    truncate(path, GetParam());
-
-    const auto error = errorOf(path);
+    const auto error = errorOf(cutOff(GetParam()));
 
     ASSERT_TRUE(error);
     EXPECT_EQ(error->kind, PluginError::NotALibrary);
@@ -139,7 +129,7 @@ TEST_P(ShorterThanAHeader, File_IsNoLibrary)
 
 INSTANTIATE_TEST_SUITE_P(LoaderFault, ShorterThanAHeader, testing::Values(0, 3, 4, 63));
 
-TEST(LoaderFault, LibraryWithoutMetadata_IsNoQtPlugin)
+TEST_F(LoaderFault, LibraryWithoutMetadata_IsNoQtPlugin)
 {
     const auto error = errorOf(broken("NoMetadata"));
 
@@ -150,7 +140,7 @@ TEST(LoaderFault, LibraryWithoutMetadata_IsNoQtPlugin)
     EXPECT_FALSE(isLoaded(broken("NoMetadata")));
 }
 
-TEST(LoaderFault, WrongInterface_NamesBothAndRunsNothing)
+TEST_F(LoaderFault, WrongInterface_NamesBothAndRunsNothing)
 {
     const auto error = errorOf(broken("WrongInterface"));
 
@@ -163,7 +153,7 @@ TEST(LoaderFault, WrongInterface_NamesBothAndRunsNothing)
     EXPECT_FALSE(qEnvironmentVariableIsSet("WRONG_INTERFACE_WAS_RUN"));
 }
 
-TEST(LoaderFault, UnresolvedSymbol_IsNamed)
+TEST_F(LoaderFault, UnresolvedSymbol_IsNamed)
 {
     const auto error = errorOf(broken("UnresolvedSymbol"));
 
@@ -212,7 +202,7 @@ INSTANTIATE_TEST_SUITE_P(
         WrongObject{"NoObject", "pos.host.BasicPlugin/1.0", "no object"}),
     [](const auto &row) { return std::string(row.param.file); });
 
-TEST(LoaderFault, AfterAFault_TheSameLoaderLoadsAGoodFile)
+TEST_F(LoaderFault, AfterAFault_TheSameLoaderLoadsAGoodFile)
 {
     PluginLoader loader;
     ASSERT_FALSE(loader.load(broken("NoPlugin")));

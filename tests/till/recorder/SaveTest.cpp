@@ -8,6 +8,7 @@ namespace till {
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -41,12 +42,11 @@ protected:
     const QString file = path("saved.till");
 };
 
-TEST_F(Save, Receipt_IsAScriptThatTellsWhatItDid)
+TEST_F(Save, Receipt_IsAScriptThatTellsWhatTheCommandsDid)
 {
     done({"open", "add CAN3", "add BEER 1,5"});
     refused("qty 1 2");
     mistake("qty 7 1");
-    done({"answer yes", "storno 1"});
     EXPECT_EQ(saved(), "set PackagingControl:allowSaleEmptyTara true\n"
                        "open sale\n"
                        "expect message none\n"
@@ -67,25 +67,38 @@ TEST_F(Save, Receipt_IsAScriptThatTellsWhatItDid)
                        "expect refused qty 1 2\n"
                        "expect message packingControlTaraAlmostFull\n"
                        "expect mistake qty 7 1\n"
-                       "answer yes\n"
-                       "storno 1\n"
-                       "expect question tillStornoPosition\n"
-                       "expect question \"Сторнировать позицию?\"\n"
-                       "expect loyalty 1\n"
-                       "expect message none\n"
-                       "expect position 1 stornoed\n"
-                       "expect position 2 stornoed\n"
-                       "expect tara 1 none\n"
-                       "expect goods 2 none\n"
-                       "expect records 0 0\n"
-                       "expect total 0.00\n"
                        "# What it came to:\n"
                        "expect state open\n"
-                       "expect positions 0\n"
-                       "expect position 1 article CAN3 quantity 1 sum 60.00 stornoed\n"
-                       "expect position 2 article BEER quantity 1.5 sum 210.00 stornoed\n"
-                       "expect records 0 0\n"
-                       "expect total 0.00\n");
+                       "expect positions 2\n"
+                       "expect position 1 article CAN3 quantity 1 sum 60.00 live\n"
+                       "expect position 2 article BEER quantity 1.5 sum 210.00 live\n"
+                       "expect tara 1 capacity 3 free 1.5\n"
+                       "expect goods 2 in 1 1.5 unplaced 0\n"
+                       "expect records 1 1\n"
+                       "expect total 270.00\n");
+    EXPECT_EQ(played(), "");
+}
+
+TEST_F(Save, StornoedTara_IsToldWithItsQuestionAndItsGoods)
+{
+    done({"open", "add CAN3", "add BEER 1,5", "answer yes", "storno 1"});
+    EXPECT_THAT(saved(),
+                EndsWith("\nanswer yes\nstorno 1\n"
+                         "expect question tillStornoPosition\n"
+                         "expect question \"Сторнировать позицию?\"\n"
+                         "expect loyalty 1\n"
+                         "expect message none\n"
+                         "expect position 1 stornoed\n"
+                         "expect position 2 stornoed\n"
+                         "expect tara 1 none\n"
+                         "expect goods 2 none\n"
+                         "expect records 0 0\nexpect total 0.00\n"
+                         "# What it came to:\n"
+                         "expect state open\n"
+                         "expect positions 0\n"
+                         "expect position 1 article CAN3 quantity 1 sum 60.00 stornoed\n"
+                         "expect position 2 article BEER quantity 1.5 sum 210.00 stornoed\n"
+                         "expect records 0 0\nexpect total 0.00\n"));
     EXPECT_EQ(played(), "");
 }
 

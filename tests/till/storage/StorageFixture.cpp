@@ -1,11 +1,8 @@
 #include "tests/till/storage/StorageFixture.h"
 
 #include "tests/support/Printers.h"
+#include "tests/till/support/Sql.h"
 #include "till/goods/Limits.h"
-
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlError>
-#include <QtSql/QSqlQuery>
 
 #include <limits>
 
@@ -79,17 +76,9 @@ std::optional<ReceiptRecord> StorageTest::unfinished(const Storage &storage)
 QStringList StorageTest::query(const QString &path, const QString &sql)
 {
     QStringList values;
-    {
-        QSqlDatabase database =
-            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("test"));
-        database.setDatabaseName(path);
-        EXPECT_TRUE(database.open());
-        QSqlQuery rows(database);
-        EXPECT_TRUE(rows.exec(sql)) << rows.lastError().text().toStdString();
-        while (rows.next())
-            values.append(rows.value(0).toString());
-    }
-    QSqlDatabase::removeDatabase(QStringLiteral("test"));
+    const QList<QVariantList> rows = rowsOf(path, sql);
+    for (const QVariantList &row : rows)
+        values.append(row.value(0).toString());
     return values;
 }
 

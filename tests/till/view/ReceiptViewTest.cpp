@@ -18,8 +18,6 @@ protected:
         return shown(control).section("\n  №", 0, 0);
     }
 
-    QString row(int posnum) const { return shown().split('\n').at(2 + posnum); }
-
     int widestLine() const
     {
         const QStringList lines = shown().split('\n');

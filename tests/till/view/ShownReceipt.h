@@ -71,6 +71,8 @@ protected:
         return view().render(receipt, taras, control);
     }
 
+    //! The line of the position with that number.
+    QString row(int posnum) const { return shown().split('\n').value(rowOf(posnum)); }
     //! The lines below the position with that number, up to the next row or rule, unindented.
     QStringList notesOf(int posnum) const
     {
@@ -87,11 +89,11 @@ protected:
     till::Style style;
 
 private:
-    //! Which line shows the position, in a Russian receipt of less than ten positions.
+    //! Which line shows the position, in a receipt without colours.
     int rowOf(int posnum) const
     {
         const QStringList lines = shown().split('\n');
-        const QRegularExpression row(QStringLiteral("[ x] %1  .*").arg(posnum));
+        const QRegularExpression row(QStringLiteral("[ x] *%1  .*").arg(posnum));
         const auto at = lines.indexOf(row);
         EXPECT_GE(at, 0) << "no row of position " << posnum;
         return int(at);

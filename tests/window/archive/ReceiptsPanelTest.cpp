@@ -1,14 +1,11 @@
 #include "window/archive/ReceiptsPanel.h"
 
-#include "tests/support/Printers.h"
-#include "tests/till/support/TillFixture.h"
 #include "tests/window/support/ModelTexts.h"
+#include "tests/window/support/PartTest.h"
 
-#include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTextBrowser>
 
@@ -17,7 +14,7 @@ namespace till {
 namespace {
 
 //! The panel in English, with two receipts behind it and a third under way.
-class PastReceipts : public TillTest
+class PastReceipts : public PartTest
 {
 protected:
     PastReceipts()
@@ -25,26 +22,14 @@ protected:
         done({"open", "add CAN3", "add BEER 2", "answer yes", "storno 1", "add CHIPS", "pay",
               "open return", "add CHIPS", "answer yes", "cancel", "open", "add PET1"});
         database = path("till.sqlite");
-        panel.resize(500, 500);
-        panel.show();
-        panel.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+        putUp(panel);
     }
 
-    template <typename Widget>
-    Widget &part(const char *name) const
-    {
-        return *panel.findChild<Widget *>(name);
-    }
     QTableView &list() const { return part<QTableView>("receiptList"); }
     QString page() const { return part<QTextBrowser>("receiptPage").toPlainText(); }
     QStringList numbers() const { return textsOf(*list().model()); }
 
-    void clickRow(int row)
-    {
-        const QRect place = list().visualRect(list().model()->index(row, 0));
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, place.center());
-    }
+    void clickRow(int row) { click(list(), list().model()->index(row, 0)); }
     void find(const QString &number)
     {
         auto &field = part<QLineEdit>("receiptNumber");
@@ -116,7 +101,7 @@ TEST_F(PastReceipts, ReadAnew_HasWhatCameMeanwhile)
     EXPECT_TRUE(page().startsWith("Receipt No. 3 · closed"));
     done({"open", "add CHIPS"});
     EXPECT_EQ(numbers().size(), 3);
-    QTest::mouseClick(&part<QPushButton>("receiptsRead"), Qt::LeftButton);
+    click("receiptsRead");
     EXPECT_EQ(numbers(), (QStringList{"4", "3", "2", "1"}));
     EXPECT_TRUE(page().startsWith("Receipt No. 3 · closed"));
 }
@@ -133,7 +118,7 @@ TEST_F(PastReceipts, Looking_ChangesNothing)
 TEST_F(PastReceipts, DatabaseThatIsGone_IsSaidWithItsPlace)
 {
     database = path("none.sqlite");
-    QTest::mouseClick(&part<QPushButton>("receiptsRead"), Qt::LeftButton);
+    click("receiptsRead");
     EXPECT_TRUE(page().startsWith(path("none.sqlite") + ": ")) << page().toStdString();
     EXPECT_TRUE(numbers().isEmpty());
 }
@@ -191,7 +176,7 @@ TEST_F(PastReceipts, DatabaseInMemory_IsNamedAsSuch)
 {
     database = ":memory:";
 
-    QTest::mouseClick(&part<QPushButton>("receiptsRead"), Qt::LeftButton);
+    click("receiptsRead");
 
     EXPECT_EQ(page(), "The database is in memory: there is no file in which past receipts could be "
                       "looked up");

@@ -1,17 +1,14 @@
 #include "window/course/CourseDock.h"
 
-#include "tests/support/Printers.h"
-#include "tests/till/support/TillFixture.h"
 #include "tests/window/support/ModelTexts.h"
+#include "tests/window/support/PartTest.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
-#include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeView>
 
 namespace till {
@@ -19,7 +16,7 @@ namespace till {
 namespace {
 
 //! The dock in a window, in English, as it is used with mouse and keys.
-class CourseInADock : public TillTest
+class CourseInADock : public PartTest
 {
 protected:
     CourseInADock()
@@ -34,31 +31,15 @@ protected:
         window = std::make_unique<QMainWindow>();
         window->addDockWidget(Qt::RightDockWidgetArea, dock);
         window->addAction(dock->showAction());
-        window->resize(700, 500);
-        window->show();
-        window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        putUp(*window, {700, 500});
         QGuiApplication::clipboard()->clear();
     }
 
-    template <typename Widget>
-    Widget &part(const char *name) const
-    {
-        return *dock->findChild<Widget *>(name);
-    }
     QTreeView &tree() const { return part<QTreeView>("courseTree"); }
     const QAbstractItemModel &shown() const { return *tree().model(); }
 
     void type(const QString &text) { QTest::keyClicks(&part<QLineEdit>("courseFilter"), text); }
-    void click(const char *button)
-    {
-        QTest::mouseClick(&part<QPushButton>(button), Qt::LeftButton);
-    }
-    void click(const QModelIndex &row)
-    {
-        tree().scrollTo(row);
-        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualRect(row).center());
-    }
+    void clickRow(int row) { click(tree(), shown().index(row, 0)); }
     static QString copied() { return QGuiApplication::clipboard()->text(); }
 
     std::unique_ptr<QMainWindow> window;
@@ -118,7 +99,7 @@ TEST_F(CourseInADock, Filter_HoldsForWhatHappensLater)
 TEST_F(CourseInADock, Copy_TakesTheSelectedRow)
 {
     done({"open", "add CAN3", "add BEER 2"});
-    click(shown().index(1, 0));
+    clickRow(1);
     click("courseCopy");
     EXPECT_EQ(copied().count("\"kind\":\"command\""), 1);
     EXPECT_TRUE(copied().contains("\"text\":\"add CAN3 1\""));
@@ -127,7 +108,7 @@ TEST_F(CourseInADock, Copy_TakesTheSelectedRow)
 TEST_F(CourseInADock, CopyByKey_TakesTheSelectedRow)
 {
     done({"open", "add CAN3"});
-    click(shown().index(0, 0));
+    clickRow(0);
     QTest::keyClick(&tree(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(copied().count("\"kind\":\"command\""), 1);
     EXPECT_TRUE(copied().contains("\"text\":\"open sale\""));
@@ -148,7 +129,7 @@ TEST_F(CourseInADock, CopyWithoutASelection_TakesAllThatIsShown)
 TEST_F(CourseInADock, Keys_FoldAndUnfold)
 {
     done({"open", "add CAN3"});
-    click(shown().index(0, 0));
+    clickRow(0);
     QTest::keyClick(&tree(), Qt::Key_Right);
     EXPECT_TRUE(tree().isExpanded(shown().index(0, 0)));
     QTest::keyClick(&tree(), Qt::Key_Left);

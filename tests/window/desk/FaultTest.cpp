@@ -1,9 +1,7 @@
 #include "tests/till/support/FailingDisk.h"
+#include "tests/till/support/Sql.h"
 #include "tests/window/support/WindowTest.h"
 
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlError>
-#include <QtSql/QSqlQuery>
 #include <QtWidgets/QPushButton>
 
 namespace till {
@@ -19,27 +17,16 @@ protected:
         open(setup);
         EXPECT_TRUE(find("faultPage").isVisible());
         EXPECT_FALSE(find("receipt").isVisible());
-        return Fault{textOf("place"), textOf("reason"), textOf("remedy")}.text();
+        return Fault{part("place"), part("reason"), part("remedy")}.text();
     }
-    QString textOf(const QString &name) const
+    QString part(const QString &name) const
     {
         const QLabel &label = find<QLabel>(name);
         EXPECT_EQ(label.isVisible(), !label.text().isEmpty());
         return label.text();
     }
     //! Does \a statement to the database, which nobody has open.
-    void alter(const QString &statement)
-    {
-        const QString connection = QStringLiteral("alter");
-        {
-            auto database = QSqlDatabase::addDatabase("QSQLITE", connection);
-            database.setDatabaseName(setup().database);
-            EXPECT_TRUE(database.open());
-            QSqlQuery query(database);
-            EXPECT_TRUE(query.exec(statement)) << query.lastError().text().toStdString();
-        }
-        QSqlDatabase::removeDatabase(connection);
-    }
+    void alter(const QString &statement) { rowsOf(setup().database, statement); }
     //! What a console says of it, with the window closed.
     QString consoleOf(const till::Setup &setup)
     {
@@ -57,7 +44,7 @@ TEST_F(WindowFaultTest, MissingPlugin_IsToldAsOnAConsole)
     const QString fault = faultOf(without);
 
     EXPECT_TRUE(fault.contains(path("no.so"))) << fault.toStdString();
-    EXPECT_EQ(textOf("remedy"), "name another plugin with --plugin, or --no-plugin for none");
+    EXPECT_EQ(part("remedy"), "name another plugin with --plugin, or --no-plugin for none");
     EXPECT_EQ(fault, consoleOf(without));
 }
 
@@ -106,7 +93,7 @@ TEST_F(WindowFaultTest, DamagedReceipt_IsToldWithItsNumberAndTheWayOn)
     const QString fault = faultOf(setup());
 
     EXPECT_TRUE(fault.contains("receipt 1")) << fault.toStdString();
-    EXPECT_FALSE(textOf("remedy").isEmpty());
+    EXPECT_FALSE(part("remedy").isEmpty());
     EXPECT_EQ(fault, consoleOf(setup()));
 }
 
@@ -131,15 +118,13 @@ TEST_F(WindowFaultTest, FullDisk_IsToldOnAPage_AndTheReceiptIsAsBefore)
     disk.leaveRoomFor(0);
     scan("PET1");
     disk.repair();
-    EXPECT_FALSE(textOf("remedy").isEmpty());
+    EXPECT_FALSE(part("remedy").isEmpty());
     press(Qt::Key_L, Qt::ControlModifier);
-    EXPECT_TRUE(textOf("reason").startsWith("Не удалось сохранить"))
-        << textOf("reason").toStdString();
+    EXPECT_TRUE(part("reason").startsWith("Не удалось сохранить")) << part("reason").toStdString();
     press(Qt::Key_L, Qt::ControlModifier);
 
     EXPECT_TRUE(find("faultPage").isVisible());
-    EXPECT_TRUE(textOf("reason").startsWith("could not be stored"))
-        << textOf("reason").toStdString();
+    EXPECT_TRUE(part("reason").startsWith("could not be stored")) << part("reason").toStdString();
     click("goOn");
     EXPECT_EQ(rows().rowCount(), 1);
     scan("PET1");

@@ -13,11 +13,7 @@ namespace till {
 
 namespace {
 
-class WindowLooks : public WindowTest
-{
-protected:
-    QString textOf(const QString &name) const { return window->findChild<QLabel *>(name)->text(); }
-};
+using WindowLooks = WindowTest;
 
 TEST_F(WindowLooks, Badge_TellsOfTaraControl)
 {

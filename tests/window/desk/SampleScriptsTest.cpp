@@ -1,40 +1,19 @@
 // The sample scripts, played by hands in the window, do what the program does with them.
 
+#include "tests/till/support/SampleScripts.h"
 #include "tests/window/support/TracedCourse.h"
 #include "tests/window/support/WindowTest.h"
 #include "till/script/CommandLine.h"
 #include "till/words/RegisterWords.h"
 #include "till/words/Words.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QTextStream>
 
 namespace till {
 
 namespace {
 
-//! A script by its name, as tests of it are called.
-struct Sample
-{
-    QString path;
-};
-
-void PrintTo(const Sample &sample, std::ostream *out)
-{
-    *out << QFileInfo(sample.path).completeBaseName().toStdString();
-}
-
-QList<Sample> samples()
-{
-    QList<Sample> samples;
-    const QDir folder(QStringLiteral(TILL_SHARE_DIR "/scripts"), QStringLiteral("*.till"));
-    const QStringList names = folder.entryList();
-    for (const QString &name : names)
-        samples.append({folder.filePath(name)});
-    return samples;
-}
-
-class SampleByHands : public WindowTest, public testing::WithParamInterface<Sample>
+class SampleByHands : public WindowTest, public testing::WithParamInterface<SampleScript>
 {
 protected:
     till::Setup fresh() const
@@ -134,10 +113,7 @@ TEST_P(SampleByHands, GivesTheTraceOfTheProgram)
     EXPECT_EQ(byHands.size(), byProgram.size());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, SampleByHands, testing::ValuesIn(samples()), [](const auto &given) {
-    QString name = QFileInfo(given.param.path).completeBaseName();
-    return name.replace(u'-', u'_').toStdString();
-});
+INSTANTIATE_TEST_SUITE_P(All, SampleByHands, testing::ValuesIn(sampleScripts()), sampleName);
 
 } // namespace
 

@@ -1,7 +1,5 @@
 #include "tests/window/support/WindowTest.h"
-#include "window/scripts/ScriptPanel.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QTimer>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -24,25 +22,6 @@ protected:
         scan("CAN3");
     }
     QString page() const { return find("faultPage").isVisible() ? "fault" : "register"; }
-    QString textOf(const QString &name) const { return window->findChild<QLabel *>(name)->text(); }
-};
-
-class ScriptInTheWindow : public WindowTest
-{
-protected:
-    //! Opens a script with that text in the dock.
-    void openScript(const QByteArray &text)
-    {
-        const QString path = directory.filePath("lines.till");
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        file.close();
-        press(Qt::Key_F10);
-        auto &panel = static_cast<ScriptPanel &>(*find("scriptOpen").parentWidget());
-        panel.chooseScript = [path](QWidget *, const QString &) { return path; };
-        click("scriptOpen");
-    }
 };
 
 TEST_F(TillWindowTest, QuestionOfThePlugin_HasItsTextsAndChoices)
@@ -52,7 +31,7 @@ TEST_F(TillWindowTest, QuestionOfThePlugin_HasItsTextsAndChoices)
     whileAsked = [&](QWidget &question) {
         EXPECT_TRUE(question.isModal());
         for (const char *const name : {"confirm", "cancel"})
-            choices.append(question.findChild<QPushButton *>(name)->text());
+            choices.append(partOf<QPushButton>(question, name).text());
     };
     answer({true});
 
@@ -142,7 +121,7 @@ TEST_F(TillWindowTest, WhileAQuestionStands_NothingElseIsDone)
     scan("PET1");
     whileAsked = [this](QWidget &) {
         for (const char *const name : {"quantity", "storno", "subtotal", "pay", "openSale"}) {
-            QWidget &button = *window->findChild<QWidget *>(name);
+            QWidget &button = partOf<QWidget>(*window, name);
             QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
                               button.mapTo(window.get(), button.rect().center()));
             QTest::mouseClick(&button, Qt::LeftButton); // as if the dialog did not keep it away
@@ -255,59 +234,6 @@ TEST_F(TillWindowTest, WhatWasDone_IsThereAtTheNextStart)
     open(setup());
 
     EXPECT_EQ(said(1), "PET1 Бутылка ПЭТ 1 л\n1 / 1 л, full: pos. 2 — 1");
-}
-
-TEST_F(TillWindowTest, Work_IsShownBeforeItBegins)
-{
-    QStringList shown;
-    const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
-        if (note.value("kind") != QLatin1String("action"))
-            return;
-        const QLabel &work = find<QLabel>("work");
-        shown.append(work.text());
-        EXPECT_GE(work.width(), work.sizeHint().width());
-        EXPECT_FALSE(work.geometry().intersects(find("control").geometry()));
-    });
-
-    scan("PET1");
-
-    EXPECT_FALSE(shown.isEmpty());
-    EXPECT_EQ(shown.constFirst(), "at work, please wait");
-    whileAsked = [this](QWidget &) { EXPECT_EQ(textOf("work"), ""); }; // the cashier is waited for
-    click("cancelReceipt");
-    EXPECT_EQ(textOf("work"), "");
-}
-
-TEST_F(ScriptInTheWindow, Line_IsWorkToo)
-{
-    openScript("open\nadd PET1\n");
-    QStringList shown;
-    const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
-        if (note.value("kind") == QLatin1String("action"))
-            shown.append(find<QLabel>("work").text());
-    });
-
-    click("scriptStep");
-    click("scriptStep");
-
-    EXPECT_EQ(shown.value(0), "at work, please wait");
-    EXPECT_EQ(find<QLabel>("work").text(), "");
-}
-
-TEST_F(ScriptInTheWindow, WhileItRuns_CommandsShowWhatCanBeDone)
-{
-    openScript("open\n" + QByteArray("add BAG\n").repeated(20));
-    bool couldPay = false;
-    const Subscription hears = notes.subscribe([&](const QJsonObject &note) {
-        if (note.value("kind") == QLatin1String("outcome"))
-            couldPay = find("pay").isEnabled();
-    });
-
-    click("scriptRun");
-
-    EXPECT_TRUE(QTest::qWaitFor([this] { return find("scriptOpen").isEnabled(); }));
-    EXPECT_EQ(receipt()->lines().size(), 20);
-    EXPECT_TRUE(couldPay);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "tests/window/support/WindowTest.h"
-#include "window/scripts/ScriptPanel.h"
 
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QTabBar>
@@ -24,15 +23,6 @@ protected:
     {
         QTabBar &bar = *find<QTabWidget>("scriptsTabs").tabBar();
         click(bar, bar.tabRect(tab).center());
-    }
-    QTableView &openScript(const QStringList &lines)
-    {
-        overwrite(path("s.till"), lines.join('\n').toUtf8());
-        press(Qt::Key_F10);
-        auto &panel = static_cast<ScriptPanel &>(*find("scriptOpen").parentWidget());
-        panel.chooseScript = [this](QWidget *, const QString &) { return path("s.till"); };
-        click("scriptOpen");
-        return find<QTableView>("scriptLines");
     }
 };
 
@@ -74,7 +64,8 @@ TEST_F(TypingTest, InADockThatFloats_IsACode)
 
 TEST_F(TypingTest, InTheLinesOfAScript_IsACode_AndRunsNothing)
 {
-    QTableView &lines = openScript({"open", "add CHIPS", "add CHIPS"});
+    openScript("open\nadd CHIPS\nadd CHIPS\n");
+    auto &lines = find<QTableView>("scriptLines");
     click(*lines.viewport(), lines.visualRect(lines.model()->index(2, 1)).center());
     EXPECT_TRUE(lines.hasFocus());
 

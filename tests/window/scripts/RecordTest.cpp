@@ -147,15 +147,11 @@ TEST_F(RecordedByClicks, ReceiptOfATillBefore_IsSaidToBeMissing)
     must(till->stop());
     must(till->start());
     ScriptPanel other(*till, notes, Translator("en"));
-    const auto record = [&other] {
-        QTest::mouseClick(other.findChild<QPushButton *>("scriptRecord"), Qt::LeftButton);
-    };
-    other.show();
-    record();
+    putUp(other);
+    click("scriptRecord");
     EXPECT_TRUE(carryOut(command::Add{"BEER", 1}));
-    record();
-    const auto *const model = other.findChild<QTableView *>("scriptLines")->model();
-    EXPECT_EQ(model->index(0, ScriptModel::Text).data().toString(),
+    click("scriptRecord");
+    EXPECT_EQ(cell(0, ScriptModel::Text),
               "# the receipt was opened before this begins: add BEER 1");
 }
 

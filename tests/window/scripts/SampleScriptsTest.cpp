@@ -2,9 +2,8 @@
 
 #include "tests/window/scripts/ScriptWindow.h"
 
+#include "tests/till/support/SampleScripts.h"
 #include "tests/window/support/TracedCourse.h"
-
-#include <QtCore/QDir>
 
 namespace till {
 
@@ -13,16 +12,6 @@ namespace {
 class SampleScripts : public ScriptWindow
 {
 protected:
-    static QStringList samples()
-    {
-        const QDir folder(TILL_SHARE_DIR "/scripts", "*.till");
-        QStringList paths;
-        const QStringList names = folder.entryList();
-        for (const QString &name : names)
-            paths.append(folder.filePath(name));
-        return paths;
-    }
-
     //! What is told by \a play.
     QStringList told(const std::function<void()> &play)
     {
@@ -34,31 +23,26 @@ protected:
 
 TEST_F(SampleScripts, PlayedByClicks_GiveTheTraceOfTheProgram)
 {
-    ASSERT_GE(samples().size(), 12);
-    for (const QString &sample : samples()) {
+    const QList<SampleScript> samples = sampleScripts();
+    ASSERT_GE(samples.size(), 12);
+    for (const SampleScript &sample : samples) {
         start({":memory:", setup().catalogue, setup().plugin, {}, {}});
         const QStringList byProgram = told([&] {
             Script script;
-            must(script.read(sample));
+            must(script.read(sample.path));
             EXPECT_EQ(faultText(script.play(*commands, [](const QString &) {})), QString());
         });
         start({":memory:", setup().catalogue, setup().plugin, {}, {}});
         ScriptPanel played(*till, notes, *translator);
-        played.chooseScript = [&sample](QWidget *, const QString &) { return sample; };
-        played.show();
-        const auto click = [&played](const char *button) {
-            QTest::mouseClick(played.findChild<QPushButton *>(button), Qt::LeftButton);
-        };
+        played.chooseScript = [&sample](QWidget *, const QString &) { return sample.path; };
+        putUp(played);
         const QStringList byClicks = told([&] {
             click("scriptOpen");
-            click("scriptRun");
-            EXPECT_TRUE(QTest::qWaitFor(
-                [&] { return played.findChild<QPushButton *>("scriptRun")->text() == "Выполнить"; },
-                60000));
+            runAll("Выполнить");
         });
-        ASSERT_EQ(byClicks.size(), byProgram.size()) << sample.toStdString();
+        ASSERT_EQ(byClicks.size(), byProgram.size()) << sample.name().toStdString();
         for (qsizetype line = 0; line < byProgram.size(); ++line)
-            EXPECT_EQ(byClicks[line], byProgram[line]) << sample.toStdString();
+            EXPECT_EQ(byClicks[line], byProgram[line]) << sample.name().toStdString();
         EXPECT_GT(byProgram.size(), 10);
     }
 }

@@ -1,16 +1,13 @@
 #ifndef TESTS_WINDOW_SCRIPTS_SCRIPTWINDOW_H
 #define TESTS_WINDOW_SCRIPTS_SCRIPTWINDOW_H
 
-#include "tests/support/Printers.h"
 #include "tests/till/support/TestFront.h"
-#include "tests/till/support/TillFixture.h"
+#include "tests/window/support/PartTest.h"
 #include "window/scripts/ScriptPanel.h"
 
-#include <QtTest/QTest>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPlainTextEdit>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 
 #include <algorithm>
@@ -18,28 +15,16 @@
 namespace till {
 
 //! A panel of scripts in English beside a register, used with mouse and keys.
-class ScriptWindow : public TillTest
+class ScriptWindow : public PartTest
 {
 protected:
     ScriptWindow()
     {
         panel.chooseScript = [this](QWidget *, const QString &) { return chosen; };
         panel.chooseTarget = panel.chooseScript;
-        panel.resize(500, 500);
-        panel.show();
-        panel.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+        putUp(panel);
     }
 
-    template <typename Widget>
-    Widget &part(const char *name) const
-    {
-        return *panel.findChild<Widget *>(name);
-    }
-    void click(const char *button)
-    {
-        QTest::mouseClick(&part<QPushButton>(button), Qt::LeftButton);
-    }
     bool canClick(const char *button) const { return part<QPushButton>(button).isEnabled(); }
     QString tip(const char *button) const { return part<QPushButton>(button).toolTip(); }
     QString status() const { return part<QLabel>("scriptStatus").text(); }
@@ -52,16 +37,16 @@ protected:
         chosen = path("s.till");
         click("scriptOpen");
     }
-    //! Waits until the script stands still.
-    void settle()
+    //! Waits until the script stands still, and its button says \a run again.
+    void settle(const QString &run = "Run")
     {
-        EXPECT_TRUE(QTest::qWaitFor(
-            [this] { return part<QPushButton>("scriptRun").text() == "Run"; }, 60000));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return part<QPushButton>("scriptRun").text() == run; }, 60000));
     }
-    void runAll()
+    void runAll(const QString &run = "Run")
     {
         click("scriptRun");
-        settle();
+        settle(run);
     }
 
     QTableView &lines() const { return part<QTableView>("scriptLines"); }
@@ -77,13 +62,7 @@ protected:
             all += cell(row, ScriptModel::Mark).isEmpty() ? "." : cell(row, ScriptModel::Mark);
         return all;
     }
-    void clickLine(int row)
-    {
-        const QModelIndex index = lines().model()->index(row, ScriptModel::Text);
-        lines().scrollTo(index);
-        QTest::mouseClick(lines().viewport(), Qt::LeftButton, {},
-                          lines().visualRect(index).center());
-    }
+    void clickLine(int row) { click(lines(), lines().model()->index(row, ScriptModel::Text)); }
 
     QString chosen; //!< the file that is named when one is asked for
     ScriptPanel panel{*till, notes, Translator("en")};

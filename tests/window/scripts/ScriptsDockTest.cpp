@@ -1,9 +1,7 @@
 #include "window/scripts/ScriptsDock.h"
 
-#include "tests/support/Printers.h"
-#include "tests/till/support/TillFixture.h"
+#include "tests/window/support/PartTest.h"
 
-#include <QtTest/QTest>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
@@ -13,7 +11,7 @@ namespace till {
 
 namespace {
 
-class ScriptsInADock : public TillTest
+class ScriptsInADock : public PartTest
 {
 protected:
     ScriptsInADock()
@@ -21,13 +19,10 @@ protected:
         dock = new ScriptsDock(*till, notes, Translator("en"));
         window.addDockWidget(Qt::RightDockWidgetArea, dock);
         window.addAction(dock->showAction());
-        window.resize(700, 500);
-        window.show();
-        window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        putUp(window, {700, 500});
     }
 
-    QTabWidget &tabs() const { return *dock->findChild<QTabWidget *>("scriptsTabs"); }
+    QTabWidget &tabs() const { return part<QTabWidget>("scriptsTabs"); }
 
     QMainWindow window;
     ScriptsDock *dock = nullptr;
@@ -45,10 +40,10 @@ TEST_F(ScriptsInADock, F10_HidesAndShows)
 TEST_F(ScriptsInADock, PastReceipts_AreReadWhenTheirPageIsSeen)
 {
     done({"open", "add CHIPS", "pay"});
-    const auto *const list = dock->findChild<QTableView *>("receiptList");
-    EXPECT_EQ(list->model()->rowCount(), 0);
+    const QAbstractItemModel &list = *part<QTableView>("receiptList").model();
+    EXPECT_EQ(list.rowCount(), 0);
     QTest::mouseClick(tabs().tabBar(), Qt::LeftButton, {}, tabs().tabBar()->tabRect(1).center());
-    EXPECT_EQ(list->model()->rowCount(), 1);
+    EXPECT_EQ(list.rowCount(), 1);
 }
 
 TEST_F(ScriptsInADock, OtherLanguage_ChangesItsTexts)

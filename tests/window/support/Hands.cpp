@@ -141,15 +141,15 @@ void Hands::openMenu(const QList<Qt::Key> &keys)
 
 void Hands::meet(QWidget &question)
 {
-    questions.append(question.findChild<QLabel *>(QStringLiteral("text"))->text());
+    questions.append(partOf<QLabel>(question, QStringLiteral("text")).text());
     const QPointer<QWidget> asked = &question;
     if (whileAsked)
         std::exchange(whileAsked, {})(question);
     if (!asked || !asked->isVisible())
         return;
     const bool isConfirmed = !m_answers.isEmpty() && m_answers.takeFirst();
-    click(*question.findChild<QPushButton *>(isConfirmed ? QStringLiteral("confirm")
-                                                         : QStringLiteral("cancel")));
+    click(partOf<QPushButton>(question,
+                              isConfirmed ? QStringLiteral("confirm") : QStringLiteral("cancel")));
 }
 
 void Hands::enterAt(const QString &button, const QString &text)

@@ -1,6 +1,7 @@
 #ifndef TESTS_WINDOW_SUPPORT_HANDS_H
 #define TESTS_WINDOW_SUPPORT_HANDS_H
 
+#include "tests/window/support/PartOf.h"
 #include "window/desk/TillWindow.h"
 #include "window/receipt/ReceiptTable.h"
 #include "window/shelf/Shelf.h"
@@ -9,7 +10,6 @@
 #include <QtWidgets/QLineEdit>
 
 #include <memory>
-#include <stdexcept>
 
 namespace till {
 
@@ -28,10 +28,7 @@ public:
     template <typename Widget = QWidget>
     Widget &find(const QString &name) const
     {
-        Widget *const found = top().findChild<Widget *>(name);
-        if (!found)
-            throw std::runtime_error("no widget " + name.toStdString());
-        return *found;
+        return partOf<Widget>(top(), name);
     }
     QWidget &top() const;
 

@@ -1,5 +1,7 @@
 #include "tests/window/support/WindowTest.h"
 
+#include "window/scripts/ScriptPanel.h"
+
 namespace till {
 
 WindowTest::WindowTest()
@@ -37,6 +39,16 @@ void WindowTest::close()
 {
     window.reset();
     till.reset();
+}
+
+void WindowTest::openScript(const QByteArray &text)
+{
+    const QString script = path(QStringLiteral("lines.till"));
+    overwrite(script, text);
+    press(Qt::Key_F10);
+    auto &panel = static_cast<ScriptPanel &>(*find(QStringLiteral("scriptOpen")).parentWidget());
+    panel.chooseScript = [script](QWidget *, const QString &) { return script; };
+    click(QStringLiteral("scriptOpen"));
 }
 
 QString WindowTest::said(int posnum) const

@@ -8,6 +8,8 @@
 #include "till/course/Notes.h"
 #include "till/register/CashDesk.h"
 
+#include <QtWidgets/QLabel>
+
 #include <memory>
 
 namespace till {
@@ -24,12 +26,16 @@ protected:
     //! Opens a window in place of the one before.
     void open(const till::Setup &setup, const QString &language = QStringLiteral("en"));
     void close();
+    //! Opens a script of that text in its dock.
+    void openScript(const QByteArray &text);
 
     const Register &cashRegister() const { return till->cashRegister(); }
     QSharedPointer<const Receipt> receipt() const { return till->cashRegister().receipt(); }
     //! What is said of the position with that number.
     QString said(int posnum) const;
     QString told() const { return window->banner().text(); }
+    //! What the label of that name says, also while a dialog stands before it.
+    QString textOf(const QString &name) const { return partOf<QLabel>(*window, name).text(); }
     //! The texts of the commands that were begun, and how each ended.
     QStringList commands() const;
 

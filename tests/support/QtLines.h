@@ -1,10 +1,10 @@
-#ifndef TESTS_LOG4QT_QTLINES_H
-#define TESTS_LOG4QT_QTLINES_H
+#ifndef TESTS_SUPPORT_QTLINES_H
+#define TESTS_SUPPORT_QTLINES_H
 
 #include <QtCore/QStringList>
 #include <QtCore/qlogging.h>
 
-//! Keeps what Qt would print, in the user's message pattern, while it lives. One at a time.
+//! Keeps what Qt would print, in the program's message pattern, while it lives. One at a time.
 class QtLines
 {
 public:
@@ -30,4 +30,4 @@ private:
     QtMessageHandler m_previous;
 };
 
-#endif // TESTS_LOG4QT_QTLINES_H
+#endif // TESTS_SUPPORT_QTLINES_H
