@@ -1,7 +1,7 @@
 #ifndef TESTS_SUPPORT_PRECOMPILED_H
 #define TESTS_SUPPORT_PRECOMPILED_H
 
-// What nearly every test includes, compiled once for each program.
+// What nearly every test includes, compiled once.
 
 #include "tests/support/FakeHost.h"
 #include "tests/support/LogCapture.h"

@@ -1,5 +1,5 @@
-// What most tests of the window include, compiled once; Qt's own headers for tests are not the same in
-// every folder.
+// What most tests of the window include, compiled once; Qt's own headers for tests are not the same
+// in every folder.
 
 #include "tests/support/Printers.h"
 #include "tests/till/support/TillFixture.h"

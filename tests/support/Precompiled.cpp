@@ -1,1 +1,0 @@
-// Carries the precompiled header for the tests; it has no tests of its own.
