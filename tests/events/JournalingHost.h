@@ -4,6 +4,7 @@
 #include "host/ActionArguments.h"
 #include "host/ActionQueueController.h"
 #include "host/Document.h"
+#include "host/EContext.h"
 #include "host/Quantity.h"
 #include "host/Session.h"
 
