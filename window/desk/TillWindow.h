@@ -2,10 +2,10 @@
 #define WINDOW_DESK_TILLWINDOW_H
 
 #include "till/register/CashDesk.h"
+#include "window/articles/Typing.h"
 #include "window/desk/DeedBar.h"
 #include "window/desk/TopStrip.h"
 #include "window/desk/WindowFront.h"
-#include "window/look/Typing.h"
 
 #include <QtCore/QTimer>
 #include <QtCore/QTranslator>

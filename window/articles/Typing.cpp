@@ -1,4 +1,4 @@
-#include "window/look/Typing.h"
+#include "window/articles/Typing.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>

@@ -1,5 +1,5 @@
-#ifndef WINDOW_LOOK_TYPING_H
-#define WINDOW_LOOK_TYPING_H
+#ifndef WINDOW_ARTICLES_TYPING_H
+#define WINDOW_ARTICLES_TYPING_H
 
 #include <QtCore/QObject>
 
@@ -43,4 +43,4 @@ private:
 
 } // namespace till
 
-#endif // WINDOW_LOOK_TYPING_H
+#endif // WINDOW_ARTICLES_TYPING_H
