@@ -34,6 +34,8 @@ if(NOT PACKAGINGCONTROL_HOST_PACKAGE)
     add_compile_definitions(QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
     set(PACKAGINGCONTROL_NO_CASTS QT_NO_CAST_FROM_ASCII)
 endif()
+# Programs share precompiled headers with libraries, and are compiled as those are.
+add_compile_options(-fPIC)
 add_link_options(-Wl,--as-needed)
 if(PACKAGINGCONTROL_SANITIZE)
     set(PACKAGINGCONTROL_SANITIZERS -fsanitize=address,undefined)
