@@ -199,13 +199,13 @@ Result<> readOptions(const QCommandLineParser &parser, Options &options)
     const QStringList words = parser.positionalArguments();
     options.mode = words.value(0);
     options.words = words.mid(1);
-    for (const Result<> &checked :
-         {checkEmpty(parser, words), checkWords(options.mode, options.words),
-          checkTogether(parser, options.mode), checkMeaning(parser, options.mode),
-          checkOnce(parser)}) {
-        if (!checked)
-            return checked;
-    }
+    const Result<> checked = checkEmpty(parser, words)
+                                 .then([&] { return checkWords(options.mode, options.words); })
+                                 .then([&] { return checkTogether(parser, options.mode); })
+                                 .then([&] { return checkMeaning(parser, options.mode); })
+                                 .then([&] { return checkOnce(parser); });
+    if (!checked)
+        return checked;
     const auto setup = readSetup(parser);
     if (!setup)
         return setup.error();

@@ -1,6 +1,7 @@
 #include "till/storage/Storage.h"
 
 #include "till/database/Database.h"
+#include "till/receipt/RecordFault.h"
 #include "till/schema/ReceiptReader.h"
 #include "till/schema/Schema.h"
 #include "till/schema/SetApart.h"
@@ -8,6 +9,9 @@
 #include "till/storage/ReceiptWriter.h"
 
 #include <QtCore/QDateTime>
+#include <QtCore/QSet>
+
+#include <limits>
 
 namespace till {
 
@@ -69,7 +73,14 @@ Result<std::optional<ReceiptRecord>> Storage::receipt(qint64 id) const
 QList<LineRecord> Storage::lines(qint64 id) const
 {
     const auto read = readRows(*m_database, id);
-    return read && *read ? (*read)->record.lines : QList<LineRecord>();
+    QList<LineRecord> lines = read && *read ? (*read)->record.lines : QList<LineRecord>();
+    QSet<int> numbers;
+    lines.removeIf([&](const LineRecord &line) {
+        const bool isSecond = numbers.contains(line.posnum);
+        numbers.insert(line.posnum);
+        return isSecond || !check(line, std::numeric_limits<int>::max());
+    });
+    return lines;
 }
 
 Result<QString> Storage::setApart(qint64 id)

@@ -73,8 +73,8 @@ public:
     //! The receipt with that number; nothing when there is none.
     Result<std::optional<ReceiptRecord>> receipt(qint64 id) const;
 
-    //! Those lines of the receipt that hold, whatever else of it does not; none of one that cannot
-    //! be read.
+    //! Those lines of the receipt that hold, whatever else of it does not, each number once; none
+    //! of one that cannot be read.
     QList<LineRecord> lines(qint64 id) const;
 
     //! Sets the receipt apart: it stays as it is, and is never taken up again. Returns the reason,

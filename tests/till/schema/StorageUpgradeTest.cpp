@@ -1,6 +1,7 @@
 #include "tests/till/storage/StorageFixture.h"
 #include "tests/till/support/FailingDisk.h"
 #include "till/archive/Upkeep.h"
+#include "till/receipt/RecordFault.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -147,6 +148,19 @@ TEST_P(OutOfRange, IsRefusedAndSetApart)
                     "opened");
     EXPECT_EQ(faultText(storage->setApart(3)), QString());
     EXPECT_EQ(unfinished(*storage), std::nullopt);
+}
+
+// What no till can have stored cannot be drawn either: two lines of one number, a sum of 1e300
+// pieces.
+TEST_P(OutOfRange, IsNotAmongTheLinesThatAreShown)
+{
+    query(QStringLiteral("UPDATE %1 WHERE receipt = 3 AND place = 1").arg(GetParam().first));
+    const auto storage = opened();
+    ReceiptRecord shown;
+    shown.lines = storage->lines(3);
+    shown.nextPosnum = 6;
+    EXPECT_FALSE(shown.lines.isEmpty());
+    EXPECT_EQ(faultText(check(shown)), QString());
 }
 
 INSTANTIATE_TEST_SUITE_P(
