@@ -93,12 +93,12 @@ Result<qint64> Archive::count(const Selection &selection)
 
 Result<std::optional<KeptReceipt>> Archive::receipt(qint64 id, const QString &plugin)
 {
-    const auto found = readRows(*m_database, id);
+    auto found = readRows(*m_database, id);
     if (!found)
         return found.error();
     if (!*found)
         return std::optional<KeptReceipt>();
-    ReadReceipt read = **found;
+    ReadReceipt &read = **found;
     read.values.removeIf([&](const ReadReceipt::Value &value) { return value.plugin != plugin; });
     if (const QString fault = read.anyFault(); !fault.isEmpty())
         return std::optional(kept(read, fault));

@@ -175,13 +175,13 @@ private:
         const QStringList &numbers = m_update.softChecks;
         const QStringList before = std::exchange(m_stored.softChecks, numbers);
         for (qsizetype place = 0; place < numbers.size(); ++place) {
-            const QVariantList row = rowOf(m_update.id, place, numbers[place]);
             QByteArray digest;
             if (place < before.size()) {
                 if (numbers[place] == before[place])
                     continue;
                 digest = softChecksTable().digest(rowOf(m_update.id, place, before[place]));
             }
+            const QVariantList row = rowOf(m_update.id, place, numbers[place]);
             if (const Result<> written = writeRow(softChecksTable(), row, digest); !written)
                 return written;
         }
