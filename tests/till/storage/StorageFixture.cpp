@@ -85,20 +85,11 @@ QStringList StorageTest::query(const QString &path, const QString &sql)
 QList<JournalEntry> journalOf(const QString &path, qint64 receipt)
 {
     QList<JournalEntry> entries;
-    {
-        QSqlDatabase database =
-            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("journal"));
-        database.setDatabaseName(path);
-        EXPECT_TRUE(database.open());
-        QSqlQuery rows(database);
-        rows.prepare("SELECT depth, kind, json FROM journal WHERE receipt = ? ORDER BY id");
-        rows.addBindValue(receipt);
-        EXPECT_TRUE(rows.exec()) << rows.lastError().text().toStdString();
-        while (rows.next())
-            entries.append(
-                {rows.value(0).toInt(), rows.value(1).toString(), rows.value(2).toByteArray()});
-    }
-    QSqlDatabase::removeDatabase(QStringLiteral("journal"));
+    const QList<QVariantList> rows = rowsOf(
+        path, QStringLiteral("SELECT depth, kind, json FROM journal WHERE receipt = %1 ORDER BY id")
+                  .arg(receipt));
+    for (const QVariantList &row : rows)
+        entries.append({row[0].toInt(), row[1].toString(), row[2].toByteArray()});
     return entries;
 }
 
