@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-l10n-tools qt6-translations-l10n libqt6sql6-sqlite libreadline-dev libcsv-dev
     libexpected-dev libutf8proc-dev)
-test_packages=(clang libgtest-dev libgmock-dev librapidcheck-dev binutils locales
+test_packages=(clang lld libgtest-dev libgmock-dev librapidcheck-dev binutils locales
     python3-jsonschema libxml2-utils fonts-dejavu-core)
 bench_packages=(libbenchmark-dev libsqlite3-dev valgrind binutils git python3 python3-matplotlib)
 check_packages=(clang clang-format clang-tidy clazy libclang-rt-dev shellcheck git gcovr valgrind)
