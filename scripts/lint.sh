@@ -14,7 +14,7 @@ CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
     -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
 cmake --build "$build" --target autogen >/dev/null
 # Clang's analyzer follows paths only in the file that it is given, and in those that this one includes
-# if its own name has UnifiedSource in it.
+# itself if its name has UnifiedSource in it.
 find "$build" -name 'unity_*.cxx' -print0 | while IFS= read -r -d '' batch; do
     cp "$batch" "${batch/\/unity_//UnifiedSource_}"
 done
@@ -40,18 +40,45 @@ mapfile -t others < <(git ls-files 'host/*.cpp' 'log4qt/*.cpp' 'till/*.cpp' 'win
 covered '*/plugin/*' "${plugin[@]}"
 covered '*' "${others[@]}"
 
-echo "clang-tidy: $((${#plugin[@]} + ${#others[@]})) sources"
-batches '*' | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p "$build" --quiet \
-    --checks=-bugprone-suspicious-include
+# The till's modules are small, and read together as far as the names in them go together.
+mapfile -t flags < <(grep -B 1 -E '"file": ".*/(till|window)/' "$build/compile_commands.json" \
+    | grep -oE -- '-(D[^ ]+|I[^ ]+|isystem [^ ]+)' | sed 's/isystem /isystem/; s/\\\\\\"/"/g' | sort -u)
+flags+=(-std=c++20 -fPIC)
+# together BATCHES...: tells a file that has them all, or several.
+together() {
+    local all
+    all=$(mktemp "$build/UnifiedSource_XXXXXX.cxx")
+    cat "$@" >"$all"
+    if [ $# -eq 1 ] || clang++ "${flags[@]}" -fsyntax-only -ferror-limit=1 "$all" 2>/dev/null; then
+        printf '%s\0' "$all"
+    else
+        rm "$all"
+        together "${@:1:$#/2}"
+        together "${@:$#/2+1}"
+    fi
+}
+tidy=(clang-tidy --quiet --checks=-bugprone-suspicious-include)
 
-# Batches hide what a source forgot to include, so each is looked at alone too.
+echo "clang-tidy: $((${#plugin[@]} + ${#others[@]})) sources"
+rm -f "$build"/UnifiedSource_*
+mapfile -d '' -t small < <(batches "$build/till/*"; batches "$build/window/*")
+for ((i = 0; i < ${#small[@]}; i += 10)); do
+    together "${small[@]:i:10}"
+done | xargs -0 -I '{}' -P "$(nproc)" "${tidy[@]}" '{}' -- "${flags[@]}"
+for module in plugin host log4qt contract; do
+    batches "$build/$module/*"
+done | xargs -0 -n 1 -P "$(nproc)" "${tidy[@]}" -p "$build"
+
+# Batches hide what a source forgot to include, so each is compiled alone too, but for its code.
 alone=build/lint-alone
-CXX=clang++ cmake -S . -B "$alone" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
+CXX=clang++ cmake -S . -B "$alone" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPACKAGINGCONTROL_WERROR=ON \
     -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
 cmake --build "$alone" --target autogen >/dev/null
 echo "each alone: $((${#plugin[@]} + ${#others[@]})) sources"
-printf '%s\0' "${plugin[@]}" "${others[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p "$alone" --quiet \
-    --checks=-*,misc-definitions-in-headers
+for source in "${plugin[@]}" "${others[@]}"; do
+    sed -n "s:^ *\"command\"\: \"\(.* -c $PWD/$source\)\",\$:\1:p" "$alone/compile_commands.json" \
+        | head -n 1 | grep . || { echo "$source is not compiled in $alone" >&2; exit 1; }
+done | sed 's/\\\(.\)/\1/g' | xargs -d '\n' -P "$(nproc)" -I '{}' sh -c "cd $alone && {} -fsyntax-only"
 
 echo "clazy: ${#plugin[@]} sources"
 batches '*/plugin/*' | CLAZY_CHECKS=level1 xargs -0 -n 1 -P "$(nproc)" clazy-standalone -p "$build" \
