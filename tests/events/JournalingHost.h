@@ -8,11 +8,7 @@
 #include "host/Quantity.h"
 #include "host/Session.h"
 
-#include <log4qt/appenderskeleton.h>
-#include <log4qt/logger.h>
-#include <log4qt/loggingevent.h>
-
-#include <functional>
+#include <QtCore/QStringList>
 
 // A host's services that note in one journal what they are asked.
 
@@ -92,28 +88,6 @@ private:
     }
 
     Journal &m_journal;
-};
-
-class JournalingAppender : public Log4Qt::AppenderSkeleton
-{
-public:
-    JournalingAppender(Journal &journal, std::function<QString()> group)
-        : m_journal(journal)
-        , m_group(std::move(group))
-    {
-    }
-
-    bool requiresLayout() const override { return false; }
-
-protected:
-    void append(const Log4Qt::LoggingEvent &event) override
-    {
-        m_journal << event.level().toString() + ' ' + event.message() + " [" + m_group() + ']';
-    }
-
-private:
-    Journal &m_journal;
-    std::function<QString()> m_group;
 };
 
 #endif // TESTS_EVENTS_JOURNALINGHOST_H

@@ -1,5 +1,6 @@
 #include "tests/events/JournalingHost.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TestPlugin.h"
 
@@ -23,11 +24,8 @@ protected:
         document->addPosition(position);
         plugin.setDocument(document);
         plugin.putGoods(3);
-        plugin.logger->addAppender(appender);
         journal.clear();
     }
-
-    ~PositionQuantityOrder() override { plugin.logger->removeAppender(appender); }
 
     bool changeBy(double delta)
     {
@@ -45,9 +43,9 @@ protected:
         QSharedPointer<JournalingDocument>::create(journal);
     QSharedPointer<GoodsItem> position =
         QSharedPointer<GoodsItem>::create(3, QSharedPointer<Tmc>::create(Tmc::PackagingGoods));
-    Log4Qt::AppenderSharedPtr appender{
-        new JournalingAppender(journal, [this] { return position->getGroupId(); })};
     TestPlugin plugin;
+    LogListener listener{
+        [this](const QString &line) { journal << line + " [" + position->getGroupId() + ']'; }};
 };
 
 TEST_F(PositionQuantityOrder, Change_LogsSetsTheModifierThenRuns)

@@ -2,10 +2,6 @@
 
 #include "host/Event.h"
 
-#include <log4qt/appenderskeleton.h>
-#include <log4qt/loggingevent.h>
-#include <log4qt/logmanager.h>
-
 #include <algorithm>
 
 namespace model {
@@ -162,45 +158,18 @@ private:
     RealHost &m_host;
 };
 
-class RealHost::Services::Appender : public Log4Qt::AppenderSkeleton
-{
-public:
-    explicit Appender(RealHost &host)
-        : m_host(host)
-    {
-    }
-
-    bool requiresLayout() const override { return false; }
-
-protected:
-    void append(const Log4Qt::LoggingEvent &event) override
-    {
-        m_host.say(event.level().toString() + ' ' + event.message());
-    }
-
-private:
-    RealHost &m_host;
-};
-
 RealHost::Services::Services(RealHost &host)
     : m_notifier(new Notifier(host))
     , m_settings(new Settings(host))
     , m_queue(new Queue(host))
     , m_loyalty(new Loyalty(host))
     , m_messages(new Messages(host))
-    , m_logger(Log4Qt::LogManager::logger("packaging"))
-    , m_appender(new Appender(host))
     , m_installed(m_notifier.get(), m_settings.get(), &host.m_session, m_queue.get(),
                   m_loyalty.get(), new Question(host), new Logic(host))
+    , m_log([&host](const QString &line) { host.say(line); })
 {
     // What the messages listen to is no part of the journal.
     m_notifier->ActivityNotifier::subscribe(m_messages.get(), {EActivityListener::eventError});
-    m_logger->addAppender(m_appender);
-}
-
-RealHost::Services::~Services()
-{
-    m_logger->removeAppender(m_appender);
 }
 
 } // namespace model

@@ -3,10 +3,9 @@
 
 #include "tests/model/RealHost.h"
 #include "tests/support/InstalledServices.h"
+#include "tests/support/LogCapture.h"
 
 #include "host/BaseActivityListener.h"
-
-#include <log4qt/logger.h>
 
 namespace model {
 
@@ -15,7 +14,7 @@ class RealHost::Services
 {
 public:
     explicit Services(RealHost &host);
-    ~Services();
+    ~Services() = default;
     Q_DISABLE_COPY_MOVE(Services)
 
     ActivityNotifier &notifier() { return *m_notifier; }
@@ -28,16 +27,14 @@ private:
     class Logic;
     class Question;
     class Messages;
-    class Appender;
 
     std::unique_ptr<ActivityNotifier> m_notifier;
     std::unique_ptr<Config> m_settings;
     std::unique_ptr<ActionQueueController> m_queue;
     std::unique_ptr<LoyaltySystemLayer> m_loyalty;
     std::unique_ptr<BaseActivityListener> m_messages;
-    Log4Qt::Logger *m_logger;
-    Log4Qt::AppenderSharedPtr m_appender;
     const InstalledServices m_installed;
+    LogListener m_log;
 };
 
 } // namespace model

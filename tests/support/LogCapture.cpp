@@ -5,11 +5,11 @@
 
 #include <utility>
 
-class LogCapture::Appender : public Log4Qt::AppenderSkeleton
+class LogListener::Appender : public Log4Qt::AppenderSkeleton
 {
 public:
-    explicit Appender(QSharedPointer<QStringList> lines)
-        : m_lines(std::move(lines))
+    explicit Appender(Told told)
+        : m_told(std::move(told))
     {
     }
 
@@ -18,32 +18,21 @@ public:
 protected:
     void append(const Log4Qt::LoggingEvent &event) override
     {
-        m_lines->append(event.level().toString() + QLatin1Char(' ') + event.message());
+        m_told(event.level().toString() + QLatin1Char(' ') + event.message());
     }
 
 private:
-    QSharedPointer<QStringList> m_lines;
+    const Told m_told;
 };
 
-LogCapture::LogCapture(const QString &loggerName)
-    : m_logger(Log4Qt::LogManager::logger(loggerName))
-    , m_lines(QSharedPointer<QStringList>::create())
-    , m_appender(new Appender(m_lines))
+LogListener::LogListener(Told told)
+    : m_logger(Log4Qt::LogManager::logger(QStringLiteral("packaging")))
+    , m_appender(new Appender(std::move(told)))
 {
     m_logger->addAppender(m_appender);
 }
 
-LogCapture::~LogCapture()
+LogListener::~LogListener()
 {
     m_logger->removeAppender(m_appender);
-}
-
-QStringList LogCapture::lines() const
-{
-    return *m_lines;
-}
-
-void LogCapture::clear()
-{
-    m_lines->clear();
 }

@@ -6,22 +6,34 @@
 
 #include <QtCore/QStringList>
 
-//! Keeps what a logger logs while it lives, each line as "INFO text" or "ERROR text".
-class LogCapture
+#include <functional>
+
+//! Hears what the plugin logs while it lives, each line as "INFO text" or "ERROR text".
+class LogListener
 {
 public:
-    explicit LogCapture(const QString &loggerName = QStringLiteral("packaging"));
-    ~LogCapture();
-    Q_DISABLE_COPY_MOVE(LogCapture)
+    using Told = std::function<void(const QString &line)>;
 
-    QStringList lines() const;
-    void clear();
+    explicit LogListener(Told told);
+    ~LogListener();
+    Q_DISABLE_COPY_MOVE(LogListener)
 
 private:
     class Appender;
     Log4Qt::Logger *m_logger;
-    QSharedPointer<QStringList> m_lines;
     Log4Qt::AppenderSharedPtr m_appender;
+};
+
+//! Keeps what the plugin logs while it lives.
+class LogCapture
+{
+public:
+    QStringList lines() const { return m_lines; }
+    void clear() { m_lines.clear(); }
+
+private:
+    QStringList m_lines;
+    LogListener m_listener{[this](const QString &line) { m_lines << line; }};
 };
 
 #endif // TESTS_SUPPORT_LOGCAPTURE_H
