@@ -19,19 +19,9 @@ bool isBase(double base)
     return std::abs(base) <= greatestCount * greatestPack;
 }
 
-//! What is odd in it, if anything.
-QString oddOf(const LineRecord &line)
+Fault outOfRange(const LineRecord &line, const char *what)
 {
-    const ArticleData &article = line.article;
-    if (article.price < 0 || article.price > greatestSum)
-        return QStringLiteral("a price out of range");
-    if (!isCount(std::abs(line.count)) || !isBase(line.base))
-        return QStringLiteral("a quantity out of range");
-    if (!(article.pack > 0.0 && article.pack <= greatestPack))
-        return QStringLiteral("a pack out of range");
-    if (!(article.taraCapacity >= 0.0 && article.taraCapacity <= greatestPack))
-        return QStringLiteral("a tara capacity out of range");
-    return {};
+    return {{}, QStringLiteral("position %1 has a %2 out of range").arg(line.posnum).arg(what)};
 }
 
 } // namespace
@@ -43,8 +33,15 @@ Result<> check(const LineRecord &line, int nextPosnum)
     if (line.posnum >= nextPosnum)
         return Fault{
             {}, QStringLiteral("position %1 has a number that was not given yet").arg(line.posnum)};
-    if (const QString odd = oddOf(line); !odd.isEmpty())
-        return Fault{{}, QStringLiteral("position %1 has %2").arg(line.posnum).arg(odd)};
+    const ArticleData &article = line.article;
+    if (article.price < 0 || article.price > greatestSum)
+        return outOfRange(line, "price");
+    if (!isCount(std::abs(line.count)) || !isBase(line.base))
+        return outOfRange(line, "quantity");
+    if (!(article.pack > 0.0 && article.pack <= greatestPack))
+        return outOfRange(line, "pack");
+    if (!(article.taraCapacity >= 0.0 && article.taraCapacity <= greatestPack))
+        return outOfRange(line, "tara capacity");
     return {};
 }
 

@@ -9,6 +9,13 @@ namespace till {
 
 namespace {
 
+//! What is wrong with a value that a plugin stored.
+Fault faultInData(const QString &plugin, const QString &key, const QString &reason)
+{
+    return {{},
+            QStringLiteral("the data of plugin \"%1\" under \"%2\" %3").arg(plugin, key, reason)};
+}
+
 //! Reads one receipt; notes the first fault of each kind and goes on.
 class Reader
 {
@@ -89,10 +96,8 @@ private:
             pluginDataTable(), QStringLiteral("plugin, key, place"), [this](const Table::Row &row) {
                 const QString plugin = row.values[1].toString();
                 const QString key = row.values[2].toString();
-                if (!row.isWhole && m_read.valueFault.isEmpty())
-                    m_read.valueFault =
-                        QStringLiteral("the data of plugin \"%1\" under \"%2\" are damaged")
-                            .arg(plugin, key);
+                if (!row.isWhole && m_read.valuesHold)
+                    m_read.valuesHold = faultInData(plugin, key, QStringLiteral("are damaged"));
                 m_read.values.append(
                     {plugin, key, {row.values[4].toByteArray(), row.values[5].toString()}});
             });
@@ -109,9 +114,9 @@ private:
         if (const Result<> checked = check(m_read.record); !checked)
             note(checked.error().reason);
         // A damaged value has no digest that could tell anything.
-        if (m_read.valueFault.isEmpty() && m_rows.bytes() != m_contents)
+        if (m_read.valuesHold && m_rows.bytes() != m_contents)
             note(QStringLiteral("its rows are not those that were stored"));
-        if (m_read.fault.isEmpty())
+        if (m_read.recordHolds)
             checkTotal(live);
     }
 
@@ -128,8 +133,8 @@ private:
 
     void note(const QString &fault)
     {
-        if (m_read.fault.isEmpty())
-            m_read.fault = fault;
+        if (m_read.recordHolds)
+            m_read.recordHolds = Fault{{}, fault};
     }
 
     Database &m_database;
@@ -174,11 +179,9 @@ Result<std::optional<ReceiptRecord>> readIfUnfinished(Database &database, qint64
         return faultIn(database, id, QStringLiteral("its header is missing"), wayOnWithout(id));
     if ((*read)->isHeaderWhole && !isUnfinished((*read)->record.state))
         return std::optional<ReceiptRecord>();
-    if (const QString fault = (*read)->anyFault(); !fault.isEmpty())
-        return faultIn(database, id, fault, wayOnWithout(id));
-    const Result<ReceiptRecord> whole = withValues(database, **read);
+    const Result<ReceiptRecord> whole = wholeOf(**read);
     if (!whole)
-        return database.fault(whole.error().reason, wayOnWithout(id));
+        return faultIn(database, id, whole.error().reason, wayOnWithout(id));
     return std::optional(*whole);
 }
 
@@ -199,7 +202,7 @@ ReadReceipt headerOf(const Table::Row &row)
     read.total = row.values[8].toLongLong();
     read.isHeaderWhole = row.isWhole;
     if (!row.isWhole)
-        read.fault = QStringLiteral("its header is not as it was stored");
+        read.recordHolds = Fault{{}, QStringLiteral("its header is not as it was stored")};
     return read;
 }
 
@@ -215,22 +218,21 @@ Result<std::optional<ReceiptRecord>> readReceipt(Database &database, qint64 id)
         return read.error();
     if (!*read)
         return std::optional<ReceiptRecord>();
-    if (const QString fault = (*read)->anyFault(); !fault.isEmpty())
-        return faultIn(database, id, fault);
-    return withValues(database, **read).then([](const ReceiptRecord &record) {
-        return Result<std::optional<ReceiptRecord>>(record);
-    });
+    const Result<ReceiptRecord> whole = wholeOf(**read);
+    if (!whole)
+        return faultIn(database, id, whole.error().reason);
+    return std::optional(*whole);
 }
 
-Result<ReceiptRecord> withValues(const Database &database, const ReadReceipt &read)
+Result<ReceiptRecord> wholeOf(const ReadReceipt &read)
 {
+    if (const Result<> held = read.holds(); !held)
+        return held.error();
     ReceiptRecord record = read.record;
     for (const ReadReceipt::Value &value : read.values) {
         const auto decoded = value.bytes.value();
         if (!decoded)
-            return faultIn(database, record.id,
-                           QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
-                               .arg(value.plugin, value.key, decoded.error().reason));
+            return faultInData(value.plugin, value.key, decoded.error().reason);
         take(record.pluginData[value.plugin], value.key, *decoded);
     }
     return record;
