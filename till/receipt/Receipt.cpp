@@ -173,8 +173,8 @@ bool Receipt::hasPlaceFor(const ArticleData &article, double count, const Positi
 {
     const Kopecks others =
         replaced ? m_sum - m_lines[m_places.value(replaced->getPosnum())].counted : m_sum;
-    const double sum = static_cast<double>(article.price) * count + static_cast<double>(others);
-    return isCount(count) && sum <= static_cast<double>(greatestSum);
+    const double sum = static_cast<double>(article.price) * count;
+    return isCount(count) && isSum(sum) && isSum(sum + static_cast<double>(others));
 }
 
 void Receipt::setDocumentSwitch(bool on)

@@ -24,6 +24,11 @@ Fault outOfRange(const LineRecord &line, const char *what)
     return {{}, QStringLiteral("position %1 has a %2 out of range").arg(line.posnum).arg(what)};
 }
 
+Fault totalOutOfRange()
+{
+    return {{}, QStringLiteral("its total is out of range")};
+}
+
 } // namespace
 
 Result<> check(const LineRecord &line, int nextPosnum)
@@ -42,6 +47,8 @@ Result<> check(const LineRecord &line, int nextPosnum)
         return outOfRange(line, "pack");
     if (!(article.taraCapacity >= 0.0 && article.taraCapacity <= greatestPack))
         return outOfRange(line, "tara capacity");
+    if (!isSum(static_cast<double>(article.price) * line.count))
+        return outOfRange(line, "sum");
     return {};
 }
 
@@ -55,7 +62,24 @@ Result<> check(const ReceiptRecord &record)
             return Fault{{}, QStringLiteral("position %1 is there twice").arg(line.posnum)};
         numbers.insert(line.posnum);
     }
-    return {};
+    return totalOf(record).then([](Kopecks) { return Result<>(); });
+}
+
+Result<> checkTotal(Kopecks total)
+{
+    if (isSum(static_cast<double>(total)))
+        return {};
+    return totalOutOfRange();
+}
+
+Result<Kopecks> totalOf(const ReceiptRecord &record)
+{
+    Kopecks total = 0;
+    for (const LineRecord &line : record.lines) {
+        if (!line.stornoed && qAddOverflow(total, line.sum(), &total))
+            return totalOutOfRange();
+    }
+    return checkTotal(total).then([total] { return Result<Kopecks>(total); });
 }
 
 } // namespace till

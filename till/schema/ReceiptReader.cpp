@@ -5,6 +5,8 @@
 #include "till/schema/Schema.h"
 #include "till/schema/SetApart.h"
 
+#include <algorithm>
+
 namespace till {
 
 namespace {
@@ -105,11 +107,12 @@ private:
 
     void checkWhole()
     {
-        QList<LineRecord> live = m_read.record.lines;
-        live.removeIf([](const LineRecord &line) { return line.stornoed; });
-        if (live.size() != m_read.positions)
+        const QList<LineRecord> &lines = m_read.record.lines;
+        const auto live = std::count_if(lines.cbegin(), lines.cend(),
+                                        [](const LineRecord &line) { return !line.stornoed; });
+        if (live != m_read.positions)
             note(QStringLiteral("%1 positions are there, and there were %2")
-                     .arg(live.size())
+                     .arg(live)
                      .arg(m_read.positions));
         if (const Result<> checked = check(m_read.record); !checked)
             note(checked.error().reason);
@@ -117,15 +120,13 @@ private:
         if (m_read.valuesHold && m_rows.bytes() != m_contents)
             note(QStringLiteral("its rows are not those that were stored"));
         if (m_read.recordHolds)
-            checkTotal(live);
+            compareTotal();
     }
 
     //! Of positions that hold. The upgrade counted those of the first format as today's till does.
-    void checkTotal(const QList<LineRecord> &live)
+    void compareTotal()
     {
-        Kopecks total = 0;
-        for (const LineRecord &line : live)
-            total += line.sum();
+        const Kopecks total = totalOf(m_read.record).value_or(0);
         if (total != m_read.total)
             note(QStringLiteral("its positions come to %1, and its total is %2")
                      .arg(toText(total), toText(m_read.total)));
