@@ -82,8 +82,8 @@ QList<QSharedPointer<Position>> Receipt::lines() const
 
 QSharedPointer<Position> Receipt::line(int posnum) const
 {
-    const auto place = m_places.constFind(posnum);
-    return place == m_places.cend() ? nullptr : m_lines[*place].position;
+    const qsizetype place = placeOf(posnum);
+    return place < 0 ? nullptr : m_lines[place].position;
 }
 
 QSharedPointer<GoodsItem> Receipt::getPositionByPosnum(int posnum) const
