@@ -21,6 +21,7 @@ may_include(triggers host log4qt plugin registry)
 may_include(contract host log4qt)
 # The till knows the host and Log4Qt, never the plugin; a module of it knows the ones before it that
 # it is made of.
+may_include(till) # what belongs to no module of it
 may_include(till/result)
 may_include(till/language host)
 may_include(till/goods host till/result)
@@ -50,6 +51,7 @@ may_include(till/lookup ${known_by_till/options} till/options till/reports)
 may_include(till/console ${known_by_till/lookup} till/lookup till/runner till/verdicts)
 
 # The window knows the till but for what is a terminal's, and its own modules before each.
+may_include(window)
 set(look ${known_by_till/register} till/register till/view window/look)
 may_include(window/look ${look})
 may_include(window/receipt ${look})
@@ -75,11 +77,21 @@ function(folder_of path result)
     set(${result} "${folder}" PARENT_SCOPE)
 endfunction()
 
+# All is delivered but what measures and tests it, and what is built.
+file(GLOB delivered RELATIVE ${ROOT} ${ROOT}/*)
+list(FILTER delivered EXCLUDE REGEX "^(tests|bench|fuzz|build.*)$")
+
 set(faults)
 set(count 0)
-foreach(folder ${folders})
-    file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
+foreach(top ${delivered})
+    file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/${top}/*)
+    list(FILTER sources INCLUDE REGEX "\\.(h|hh|hpp|hxx|c|cc|cpp|cxx)$|^plugin/PackagingControl$")
     foreach(source ${sources})
+        folder_of(${source} folder)
+        if(NOT folder IN_LIST folders)
+            list(APPEND faults "${source} is in no folder that is listed here")
+            continue()
+        endif()
         file(STRINGS ${ROOT}/${source} includes REGEX "^[ \t]*#[ \t]*include")
         math(EXPR count "${count} + 1")
         foreach(include ${includes})

@@ -22,6 +22,7 @@ expect_fault(till/goods/A.cpp "#include \"till/goods/A.h\"" "")
 expect_fault(till/goods/A.cpp "#include <host/Tmc.h>" "")
 expect_fault(till/console/A.cpp "#include \"till/language/A.h\"" "")
 expect_fault(plugin/A.cpp "#include \"A.moc\"" "")
+expect_fault(till/Precompiled.h "" "")
 
 expect_fault(host/A.h "#include \"plugin/PackagingControl.h\"" "host/A.h includes plugin/")
 expect_fault(contract/A.cpp "#include \"plugin/PackagingControl.h\"" "contract/A.cpp includes plugin/")
@@ -46,7 +47,15 @@ expect_fault(window/look/A.cpp "#include \"till/console/Options.h\""
     "window/look/A.cpp includes till/console")
 expect_fault(till/view/A.cpp "#include \"window/look/GoodsLook.h\""
     "till/view/A.cpp includes window/look")
+expect_fault(till/Precompiled.h "#include \"till/goods/Money.h\""
+    "till/Precompiled.h includes till/goods")
+expect_fault(window/Precompiled.h "#include \"till/goods/Money.h\""
+    "window/Precompiled.h includes till/goods")
+expect_fault(plugin/PackagingControl "#include \"events/EventPosition.h\""
+    "plugin/PackagingControl includes events/")
 expect_fault(window/attic/CMakeLists.txt "" "window/attic is not listed")
 expect_fault(till/attic/CMakeLists.txt "" "till/attic is not listed")
-expect_fault(attic/A.cpp "" "no sources in")
+expect_fault(till/attic/A.cpp "" "till/attic/A.cpp is in no folder")
+expect_fault(attic/A.cc "" "attic/A.cc is in no folder")
+expect_fault(tests/A.cpp "" "no sources in")
 file(REMOVE_RECURSE ${WORK_DIR})

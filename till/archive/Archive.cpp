@@ -77,11 +77,9 @@ Result<std::unique_ptr<Archive>> Archive::open(const QString &path)
 Result<> Archive::list(const Selection &selection,
                        const std::function<Result<>(const KeptReceipt &receipt)> &take)
 {
-    return m_database->each(receiptsTable().select() + selection.sql(), {},
-                            [&](const QSqlQuery &row) {
-                                const ReadReceipt header = headerOf(receiptsTable().row(row));
-                                return take(kept(header, header.fault));
-                            });
+    return m_database->each(
+        receiptsTable().select() + selection.sql(), {},
+        [&](const QSqlQuery &row) { return take(kept(headerOf(receiptsTable().row(row)))); });
 }
 
 Result<qint64> Archive::count(const Selection &selection)
@@ -99,39 +97,35 @@ Result<std::optional<KeptReceipt>> Archive::receipt(qint64 id, const QString &pl
     if (!*found)
         return std::optional<KeptReceipt>();
     ReadReceipt &read = **found;
+    KeptReceipt receipt = kept(read);
     read.values.removeIf([&](const ReadReceipt::Value &value) { return value.plugin != plugin; });
-    if (const QString fault = read.anyFault(); !fault.isEmpty())
-        return std::optional(kept(read, fault));
-    const Result<ReceiptRecord> record = withValues(*m_database, read);
-    if (!record)
-        return std::optional(kept(read, record.error().reason));
-    read.record = *record;
-    return std::optional(kept(read, {}));
+    if (const Result<ReceiptRecord> whole = wholeOf(read); whole)
+        receipt.record = *whole;
+    else if (receipt.recordHolds)
+        receipt.dataHold = whole.error();
+    return std::optional(receipt);
 }
 
 Result<KeptJournal> Archive::journal(qint64 id)
 {
     KeptJournal journal;
     const Result<> read = eachOfJournal(*m_database, id, [&journal](const JournalRow &row) {
-        if (row.fault.isEmpty())
-            journal.entries.append(row.entry);
+        if (row.entry)
+            journal.entries.append(*row.entry);
         else
-            journal.faults.append(row.fault);
+            journal.faults.append(row.entry.error().reason);
     });
     if (!read)
         return read.error();
     return journal;
 }
 
-KeptReceipt Archive::kept(const ReadReceipt &read, const QString &fault) const
+KeptReceipt Archive::kept(const ReadReceipt &read) const
 {
-    return {read.record,
-            timeOf(read.opened),
-            timeOf(read.ended),
-            read.positions,
-            read.total,
-            fault,
-            m_setApart.value(read.record.id)};
+    return {read.record,        timeOf(read.opened),
+            timeOf(read.ended), read.positions,
+            read.total,         m_setApart.value(read.record.id),
+            read.recordHolds,   {}};
 }
 
 } // namespace till

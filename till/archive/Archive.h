@@ -42,8 +42,16 @@ struct KeptReceipt
     QDateTime ended;      //!< closed or cancelled; invalid before, and when not known
     qint64 positions = 0; //!< that are not stornoed
     Kopecks total = 0;    //!< of these
-    QString fault;        //!< why it does not hold: then nothing counts but its number
     QString setApart;     //!< why it was set apart; empty when it was not
+
+    // Faults are of no place.
+    Result<> recordHolds; //!< where it does not, nothing counts but its number
+    Result<> dataHold;    //!< what plugins stored; where one of these does not, there are none
+
+    Result<> holds() const
+    {
+        return recordHolds.then([this] { return dataHold; });
+    }
 };
 
 //! What was done to a receipt, as it is kept.
@@ -78,6 +86,7 @@ public:
     Result<qint64> count(const Selection &selection);
 
     //! All of the receipt, with the data of \a plugin alone; nothing when there never was one.
+    //! Without these where what plugins stored does not hold.
     Result<std::optional<KeptReceipt>> receipt(qint64 id, const QString &plugin);
 
     //! What was done to that receipt, oldest first; empty for an unknown number.
@@ -86,7 +95,7 @@ public:
 private:
     explicit Archive(std::unique_ptr<Database> database);
 
-    KeptReceipt kept(const ReadReceipt &read, const QString &fault) const;
+    KeptReceipt kept(const ReadReceipt &read) const;
 
     std::unique_ptr<Database> m_database;
     QMap<qint64, QString> m_setApart;

@@ -24,13 +24,12 @@ Result<> findNumbers(Database &database, QList<qint64> &ids)
         {}, [&ids](const QSqlQuery &row) { ids.append(row.value(0).toLongLong()); });
 }
 
-//! What is wrong with the receipt; empty when it holds.
-QString faultOf(Database &database, qint64 id)
+//! Whether the receipt holds.
+Result<> checkReceipt(Database &database, qint64 id)
 {
-    const auto read = readRows(database, id);
-    if (!read)
-        return read.error().reason;
-    return *read ? (*read)->anyFault() : QStringLiteral("its header is missing");
+    return readRows(database, id).then([](const std::optional<ReadReceipt> &read) -> Result<> {
+        return read ? read->holds() : Fault{{}, QStringLiteral("its header is missing")};
+    });
 }
 
 //! Looks at every receipt and journal as far as they can be read.
@@ -43,14 +42,14 @@ Result<> checkReceipts(Database &database, CheckReport &report)
     for (const qint64 id : all) {
         if (const auto reason = apart.constFind(id); reason != apart.cend())
             report.odd.append({id, true, *reason});
-        else if (const QString fault = faultOf(database, id); !fault.isEmpty())
-            report.odd.append({id, false, fault});
+        else if (const Result<> held = checkReceipt(database, id); !held)
+            report.odd.append({id, false, held.error().reason});
         else
             ++report.whole;
     }
     const Result<> readJournals = eachOfJournal(database, {}, [&](const JournalRow &row) {
-        if (!row.fault.isEmpty() && !apart.contains(row.receipt))
-            report.journalFaults.append({row.receipt, row.fault});
+        if (!row.entry && !apart.contains(row.receipt))
+            report.journalFaults.append({row.receipt, row.entry.error().reason});
     });
     report.hasAll = foundApart && foundAll;
     return !foundAll ? foundAll : !foundApart ? foundApart : readJournals;
@@ -60,7 +59,7 @@ Result<> checkReceipts(Database &database, CheckReport &report)
 
 bool CheckReport::isGood() const
 {
-    return fileFault.isEmpty() && hasAll && journalFaults.isEmpty()
+    return fileHolds && hasAll && journalFaults.isEmpty()
            && std::all_of(odd.cbegin(), odd.cend(),
                           [](const OddReceipt &receipt) { return receipt.isSetApart; });
 }
@@ -77,8 +76,7 @@ Result<CheckReport> checkDatabase(const QString &path)
     CheckReport report;
     const Result<> whole = database->checkFile().then([&] { return checkTables(*database); });
     const Result<> read = checkReceipts(*database, report);
-    if (const Result<> &first = whole ? read : whole; !first) // the rest follows from the damage
-        report.fileFault = first.error().reason;
+    report.fileHolds = whole ? read : whole; // the rest follows from the damage
     return report;
 }
 

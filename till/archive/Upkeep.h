@@ -30,8 +30,8 @@ struct JournalFault
 //! What a check of a database found.
 struct CheckReport
 {
-    QString fileFault; //!< of the file itself, by SQLite's own check; empty when there is none
-    qint64 whole = 0;  //!< receipts that hold
+    Result<> fileHolds; //!< the file itself, by SQLite's own check
+    qint64 whole = 0;   //!< receipts that hold
     QList<OddReceipt> odd;
     bool hasAll = true;                //!< else the file is so damaged that some were not found
     QList<JournalFault> journalFaults; //!< of receipts that are not set apart

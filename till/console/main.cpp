@@ -23,6 +23,7 @@
 #include <clocale>
 #include <csignal>
 #include <cstring>
+#include <tuple>
 
 #include <fcntl.h>
 #include <langinfo.h>
@@ -57,7 +58,8 @@ int info(const Options &options)
 int openRegister(const Options &options, Notes &notes, const Translator &translator)
 {
     if (options.setup.database != ":memory:")
-        makePrivateFolder(QFileInfo(options.setup.database).absolutePath());
+        // Where it cannot be made, the database says that it is missing.
+        std::ignore = makePrivateFolder(QFileInfo(options.setup.database).absolutePath());
     CashDesk desk(options.setup, notes);
     if (const Result<> started = desk.start(); !started)
         return fail(StartFailed, started.error().text());

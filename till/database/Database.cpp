@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <tuple>
 
 namespace till {
 
@@ -54,10 +55,12 @@ void Database::disconnect()
     QSqlDatabase::removeDatabase(m_connection);
 }
 
-Result<std::unique_ptr<Database>> Database::open(const QString &path, Access access)
+Result<std::unique_ptr<Database>> Database::open(const QString &path, Access access,
+                                                 const Check &isOurs)
 {
     std::unique_ptr<Database> database(new Database(path, access));
-    const Result<> opened = database->prepare().then([&] { return database->connectToFile(); });
+    const Result<> opened =
+        database->prepare(isOurs).then([&] { return database->connectToFile(); });
     if (!opened)
         return opened.error();
     return database;
@@ -69,38 +72,32 @@ Fault Database::fault(const QSqlError &error) const
     return {m_path, fault.reason, fault.remedy};
 }
 
-Result<> Database::prepare()
+Result<> Database::prepare(const Check &isOurs)
 {
     if (m_access == Access::Reading)
         return checkReadable(m_path);
     if (m_path == inMemory())
         return {};
-    return checkPlace(m_path).then([this] { return claim(); }).then([this] {
-        return hasLog(m_path) ? checkLeftOpen() : Result<>();
+    return checkPlace(m_path).then([this] { return claim(); }).then([&] {
+        return hasLog(m_path) ? checkLeftOpen(isOurs) : Result<>();
     });
 }
 
 //! Read by somebody who cannot write, for who can write brings the log into the file at the end.
-Result<> Database::checkLeftOpen() const
+Result<> Database::checkLeftOpen(const Check &isOurs) const
 {
-    return open(m_path, Access::Reading).then([](const auto &reader) {
-        return reader->checkFile();
+    return open(m_path, Access::Reading).then([&](const auto &reader) {
+        const Result<> ours = isOurs ? isOurs(*reader) : Result<>();
+        return ours.then([&] { return reader->checkFile(); });
     });
 }
 
 Result<> Database::claim()
 {
-    makePrivateFile(m_path); // otherwise SQLite would, as the umask has it
-    if (m_lock.take(m_path)) {
-        // One that was made by hand, or before files were private.
-        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner);
-        return {};
-    }
-    if (errno == EWOULDBLOCK)
-        return fault(QStringLiteral("another till has this database open"),
-                     QStringLiteral("close it, or name another database with --db"));
-    return fault(QStringLiteral("the database cannot be opened for writing (%1)")
-                     .arg(qt_error_string(errno)));
+    // Otherwise SQLite would, as the umask has it. Where there is one, or none can be made, the
+    // lock and SQLite tell.
+    std::ignore = makePrivateFile(m_path);
+    return m_lock.take(m_path);
 }
 
 Result<> Database::connectToFile()
@@ -144,6 +141,8 @@ Result<> Database::checkFile()
 
 Result<> Database::keepLog()
 {
+    if (m_path != inMemory())
+        makePrivate(m_path); // one that was made by hand, or before files were private
     return valueOf(QStringLiteral("PRAGMA journal_mode = WAL"))
         .then([this](const QVariant &mode) -> Result<> {
             if (m_path != inMemory() && mode.toString() != QLatin1String("wal"))
@@ -169,18 +168,23 @@ Result<> Database::copyTo(const QString &path)
     if (QFileInfo::exists(path))
         return failed(QStringLiteral("there is something already"));
     QFile::remove(part);
-    if (!makePrivateFile(part))
-        return failed(qt_error_string(errno));
-    QSqlQuery copying(m_database);
-    copying.prepare(
-        QStringLiteral("VACUUM INTO ?")); // one transaction; Qt has no backup of SQLite's
-    copying.addBindValue(QFileInfo(part).absoluteFilePath());
-    const bool isWhole = copying.exec();
-    if (isWhole && bringToMedium(part) && QFile::rename(part, path) && bringToMedium(path))
+    const auto write = [&] { // one transaction; Qt has no backup of SQLite's
+        return run(QStringLiteral("VACUUM INTO ?"), {QFileInfo(part).absoluteFilePath()});
+    };
+    const auto name = [&]() -> Result<> {
+        if (QFile::rename(part, path))
+            return {};
+        return Fault{path, qt_error_string(errno)};
+    };
+    const Result<> copied = makePrivateFile(part)
+                                .then(write)
+                                .then([&] { return bringToMedium(part); })
+                                .then(name)
+                                .then([&] { return bringToMedium(path); });
+    if (copied)
         return {};
-    const QString reason = isWhole ? qt_error_string(errno) : faultOf(copying.lastError()).reason;
     QFile::remove(part);
-    return failed(reason);
+    return failed(copied.error().reason);
 }
 
 Result<> Database::execute(const QStringList &statements)

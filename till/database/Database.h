@@ -28,11 +28,15 @@ public:
                  //!< empty log is left beside it
     };
 
+    using Check = std::function<Result<>(Database &database)>;
+
     /*!
      * Connects to the file at \a path; a till makes it, empty, when there is none, and checks one
-     * that was left with a log, as after a kill.
+     * that was left with a log, as after a kill: first by \a isOurs, for in the end the log is
+     * brought into the file.
      */
-    static Result<std::unique_ptr<Database>> open(const QString &path, Access access);
+    static Result<std::unique_ptr<Database>> open(const QString &path, Access access,
+                                                  const Check &isOurs = {});
     ~Database();
     Q_DISABLE_COPY_MOVE(Database)
 
@@ -77,7 +81,8 @@ public:
     Result<> holdStill() { return execute({QStringLiteral("BEGIN")}); }
 
     //! Keeps what is committed in a log until it is folded in, so that a commit costs one wait for
-    //! the disk and readers see a whole database meanwhile.
+    //! the disk and readers see a whole database meanwhile. The database, which must be known to be
+    //! the till's, is its owner's alone from now on.
     Result<> keepLog();
     //! Brings what the log holds into the file, as far as no reader is in the way; nothing depends
     //! on it.
@@ -95,9 +100,9 @@ private:
 
     Database(const QString &path, Access access);
 
-    Result<> prepare();
+    Result<> prepare(const Check &isOurs);
     Result<> claim();
-    Result<> checkLeftOpen() const;
+    Result<> checkLeftOpen(const Check &isOurs) const;
     Result<> connectToFile();
     bool connectToRead();
     bool connectAs(const QString &name, const QString &options);

@@ -61,14 +61,30 @@ Result<> checkFolder(const QString &path)
     return {};
 }
 
-bool synchronise(const QByteArray &path, int flags)
+//! What `errno` says.
+Fault systemFault(const QString &path)
 {
-    const int descriptor = ::open(path.constData(), flags | O_CLOEXEC);
+    return {path, qt_error_string(errno)};
+}
+
+Result<> synchronise(const QString &path, int flags)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
     if (descriptor < 0)
-        return false;
-    const bool done = fsync(descriptor) == 0;
+        return systemFault(path);
+    const Result<> done = fsync(descriptor) == 0 ? Result<>() : systemFault(path);
     close(descriptor);
     return done;
+}
+
+//! Why a database is not locked, by `errno`.
+Fault lockFault(const QString &path)
+{
+    if (errno == EWOULDBLOCK)
+        return {path, QStringLiteral("another till has this database open"),
+                QStringLiteral("close it, or name another database with --db")};
+    return {path, QStringLiteral("the database cannot be opened for writing (%1)")
+                      .arg(qt_error_string(errno))};
 }
 
 //! The log beside the database.
@@ -153,33 +169,44 @@ QString nameOfStillFile(const QString &path)
            + QStringLiteral("?immutable=1");
 }
 
-bool makePrivateFile(const QString &path)
+Result<> makePrivateFile(const QString &path)
 {
     const int descriptor = ::open(QFile::encodeName(path).constData(),
                                   O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, ownersFile);
     if (descriptor < 0)
-        return false;
-    const bool done = fchmod(descriptor, ownersFile) == 0; // the umask may have taken more away
+        return systemFault(path);
+    // The umask may have taken more away.
+    const Result<> done = fchmod(descriptor, ownersFile) == 0 ? Result<>() : systemFault(path);
     close(descriptor);
     return done;
 }
 
-bool makePrivateFolder(const QString &path)
+Result<> makePrivateFolder(const QString &path)
 {
     const QString folder = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (QFileInfo(folder).isDir())
-        return true;
-    if (!makePrivateFolder(QFileInfo(folder).path()))
-        return false;
-    const QByteArray name = QFile::encodeName(folder);
-    return mkdir(name.constData(), ownersFolder) == 0 && chmod(name.constData(), ownersFolder) == 0;
+        return {};
+    return makePrivateFolder(QFileInfo(folder).path()).then([&]() -> Result<> {
+        const QByteArray name = QFile::encodeName(folder);
+        if (mkdir(name.constData(), ownersFolder) == 0
+            && chmod(name.constData(), ownersFolder) == 0)
+            return {};
+        return systemFault(folder);
+    });
 }
 
-bool bringToMedium(const QString &path)
+void makePrivate(const QString &path)
 {
-    return synchronise(QFile::encodeName(path), O_RDWR)
-           && synchronise(QFile::encodeName(QFileInfo(path).absolutePath()),
-                          O_RDONLY | O_DIRECTORY);
+    for (const char *const end : {"", "-wal", "-shm"})
+        QFile::setPermissions(realPath(path) + QLatin1String(end),
+                              QFile::ReadOwner | QFile::WriteOwner);
+}
+
+Result<> bringToMedium(const QString &path)
+{
+    return synchronise(path, O_RDWR).then([&] {
+        return synchronise(QFileInfo(path).absolutePath(), O_RDONLY | O_DIRECTORY);
+    });
 }
 
 DatabaseLock::~DatabaseLock()
@@ -190,28 +217,27 @@ DatabaseLock::~DatabaseLock()
     close(m_descriptor);
 }
 
-bool DatabaseLock::take(const QString &path)
+Result<> DatabaseLock::take(const QString &path)
 {
     m_file = QFile::encodeName(realPath(path) + QStringLiteral("-lock"));
     for (;;) {
         const int descriptor = ::open(m_file.constData(), O_RDWR | O_CREAT | O_CLOEXEC, ownersFile);
         if (descriptor < 0)
-            return false;
+            return lockFault(path);
         struct stat locked = {};
         struct stat named = {};
         const bool isMine =
             fchmod(descriptor, ownersFile) == 0 && flock(descriptor, LOCK_EX | LOCK_NB) == 0;
         if (!isMine || fstat(descriptor, &locked) != 0) {
-            const int reason = errno;
+            const Fault fault = lockFault(path);
             close(descriptor);
-            errno = reason;
-            return false;
+            return fault;
         }
         // The one before may have taken the file away between the two calls: then another would
         // make and lock a new one.
         if (stat(m_file.constData(), &named) == 0 && named.st_ino == locked.st_ino) {
             m_descriptor = descriptor;
-            return true;
+            return {};
         }
         close(descriptor);
     }

@@ -32,14 +32,17 @@ QString nameOfFile(const QString &path);
 //! The same of one that is still: beside that, SQLite makes nothing.
 QString nameOfStillFile(const QString &path);
 
-//! Makes an empty file that its owner alone may read and write, whatever the umask. False when
-//! there is one already or none can be made; `errno` says which.
-bool makePrivateFile(const QString &path);
+//! Makes an empty file that its owner alone may read and write, whatever the umask. The fault is
+//! that there is one already or that none can be made.
+Result<> makePrivateFile(const QString &path);
 //! Makes the folder and those above it as far as they are missing, for their owner alone, whatever
-//! the umask. False, with `errno`, when that cannot be done.
-bool makePrivateFolder(const QString &path);
-//! Brings what is written to the file at \a path, and its name, to the medium. False with `errno`.
-bool bringToMedium(const QString &path);
+//! the umask.
+Result<> makePrivateFolder(const QString &path);
+//! Leaves the database at \a path, with what lies beside it, to its owner alone, as far as it is
+//! this user's to say.
+void makePrivate(const QString &path);
+//! Brings what is written to the file at \a path, and its name, to the medium.
+Result<> bringToMedium(const QString &path);
 
 /*!
  * A till's claim on a database: a locked file beside it, which other programs that read the
@@ -52,9 +55,9 @@ public:
     ~DatabaseLock();
     Q_DISABLE_COPY_MOVE(DatabaseLock)
 
-    //! Locks the database at \a path, which must exist. False when another has it locked, with
-    //! `errno` EWOULDBLOCK, or when the file cannot be made.
-    bool take(const QString &path);
+    //! Locks the database at \a path, which must exist. The fault is that another has it locked, or
+    //! that the file cannot be made.
+    Result<> take(const QString &path);
 
 private:
     QByteArray m_file;

@@ -12,6 +12,8 @@ constexpr Kopecks greatestSum = greatestAmount;
 
 //! Whether \a count pieces can stand in one position. What is not a number cannot.
 bool isCount(double count);
+//! Whether a position or a receipt can come to \a sum kopecks. What is not a number cannot be one.
+bool isSum(double sum);
 
 } // namespace till
 

@@ -55,9 +55,10 @@ Kopecks sumOf(Kopecks price, double quantity)
 {
     const double sum = static_cast<double>(price) * quantity;
     const double thousandths = std::round(quantity * 1000.0);
-    if (std::abs(sum) < greatestExact && std::abs(quantity * 1000.0 - thousandths) < computed)
+    if (std::abs(sum) < greatestExact && std::abs(thousandths) < greatestExact
+        && std::abs(quantity * 1000.0 - thousandths) < computed)
         return rounded(price * static_cast<qint64>(thousandths));
-    return std::llround(sum);
+    return std::isnan(sum) ? 0 : std::llround(std::clamp(sum, -greatestExact, greatestExact));
 }
 
 QString toText(Kopecks amount)

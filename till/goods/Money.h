@@ -18,6 +18,7 @@ constexpr double greatestQuantity = 999'999'999.999;
 //! Price of \a quantity pieces at \a price each, rounded once to the nearest kopeck, halves away
 //! from 0. A quantity of three decimals is taken for exactly that, however it was computed. Totals
 //! that are stored are checked against it: to round otherwise takes another format of the database.
+//! Beyond ten times what can be written it is that; what is not a number comes to 0.
 Kopecks sumOf(Kopecks price, double quantity);
 
 //! \a amount in roubles with two decimals and a point: 123450 is "1234.50".

@@ -12,9 +12,10 @@ struct Message
 {
     tr::Tr pattern; //!< "%1" stands for the first value, "%L2" for the second, translated
     QStringList values;
+    tr::Tr quoted = {}; //!< what "%Q" stands for, translated by its own key, in one line
 
     QString key() const { return pattern.key(); }
-    Message with(const QStringList &given) const { return {pattern, given}; }
+    Message with(const QStringList &given) const { return {pattern, given, quoted}; }
     bool operator==(const Message &) const = default;
 };
 

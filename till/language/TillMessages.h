@@ -7,7 +7,8 @@
 
 // Everything that the register itself says to a cashier: a key, which is also the name of the
 // function that gives the message, and the Russian text. In patterns "%1" and "%2" stand for the
-// values. A message added here needs a text in each .ini file beside this one.
+// values, "%Q" for what is quoted. A message added here needs a text in each .ini file beside this
+// one.
 #define TILL_MESSAGES(MESSAGE)                                                                     \
     /* Questions and refusals */                                                                   \
     MESSAGE(tillStornoPosition, "Сторнировать позицию?")                                           \
@@ -15,6 +16,7 @@
     MESSAGE(tillNotEnoughMoney, "Недостаточно денег для оплаты")                                   \
     MESSAGE(tillCannotFollow, "Товар в таре не изменён: предел количества или суммы")              \
     MESSAGE(tillReceiptEmpty, "В чеке нет позиций")                                                \
+    MESSAGE(tillDeclined, "На вопрос \"%Q\" ответили \"нет\"")                                     \
     MESSAGE(tillYes, "Да")                                                                         \
     MESSAGE(tillNo, "Нет")                                                                         \
     MESSAGE(tillChange, "Сдача %1")                                                                \

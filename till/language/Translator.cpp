@@ -62,7 +62,7 @@ QString Translator::text(const tr::Tr &message) const
 
 QString Translator::text(const Message &message) const
 {
-    static const QRegularExpression place(QStringLiteral("%(L?)([1-9])"));
+    static const QRegularExpression place(QStringLiteral("%(Q|L?([1-9]))"));
     const QString pattern = text(message.pattern);
     QString filled;
     qsizetype read = 0;
@@ -70,7 +70,10 @@ QString Translator::text(const Message &message) const
         const QRegularExpressionMatch found = places.next();
         const QString value = message.values.value(found.capturedView(2).toInt() - 1);
         filled += pattern.mid(read, found.capturedStart() - read);
-        filled += found.capturedLength(1) == 0 ? value : text(tr::Tr(QString(), value));
+        if (found.capturedView(1) == QLatin1String("Q"))
+            filled += text(message.quoted).replace(u'\n', u' ');
+        else
+            filled += found.capturedLength(1) == 1 ? value : text(tr::Tr(QString(), value));
         read = found.capturedEnd();
     }
     return filled + pattern.mid(read);

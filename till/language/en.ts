@@ -48,6 +48,10 @@ Storno the tara and go on to payment?</translation>
         <translation>There are no positions in the receipt</translation>
     </message>
     <message>
+        <source>tillDeclined</source>
+        <translation>&quot;%Q&quot; was answered no</translation>
+    </message>
+    <message>
         <source>tillYes</source>
         <translation>Yes</translation>
     </message>

@@ -316,12 +316,8 @@
         <translation>отказано: %1</translation>
     </message>
     <message>
-        <source>nobody answered &quot;%1&quot;; &apos;answer yes&apos; before it would take it</source>
-        <translation>никто не ответил на &quot;%1&quot;; answer yes перед командой ответит</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; was answered no</source>
-        <translation>на &quot;%1&quot; ответили нет</translation>
+        <source>nobody answered &quot;%Q&quot;; &apos;answer yes&apos; before it would take it</source>
+        <translation>никто не ответил на &quot;%Q&quot;; answer yes перед командой ответит</translation>
     </message>
     <message>
         <source>no answer was given to: %1</source>

@@ -53,7 +53,7 @@ Result<Finding, Failure> checkStored(const QString &database)
     const auto report = checkDatabase(database);
     if (!report)
         return Failure{StartFailed, report.error()};
-    QString text = row("file", report->fileFault.isEmpty() ? "whole" : report->fileFault)
+    QString text = row("file", report->fileHolds ? "whole" : report->fileHolds.error().reason)
                    + row("receipts", summary(*report));
     for (const OddReceipt &receipt : report->odd)
         text += row("receipt " + QString::number(receipt.id),

@@ -116,11 +116,12 @@ private:
 
     void noteDamage(const KeptReceipt &receipt)
     {
-        if (receipt.fault.isEmpty() || !receipt.setApart.isEmpty())
+        const Result<> held = receipt.holds();
+        if (held || !receipt.setApart.isEmpty())
             return;
         ++m_damaged;
         m_progress.hide();
-        Output::error(nameOf(receipt.record.id) + ": " + receipt.fault);
+        Output::error(nameOf(receipt.record.id) + ": " + held.error().reason);
     }
 
     void flush()
@@ -155,12 +156,13 @@ int showReceipt(const Options &options, const Translator &translator, Archive &a
     if (!*read)
         return fail(CommandFailed, {options.setup.database, "there is no " + nameOf(id)});
     const KeptReceipt &kept = **read;
-    if (!kept.fault.isEmpty())
-        return fail(CommandFailed, {options.setup.database, nameOf(id) + ": " + kept.fault});
-    const QString text = options.lookup.form == Form::Json
-                             ? QString::fromUtf8(jsonLine(jsonOf(kept)))
-                             : shown(kept, ReceiptView(translator, options.style));
-    outputOf(options).print(text);
+    if (kept.recordHolds)
+        outputOf(options).print(options.lookup.form == Form::Json
+                                    ? QString::fromUtf8(jsonLine(jsonOf(kept)))
+                                    : shown(kept, ReceiptView(translator, options.style)));
+    if (const Result<> held = kept.holds(); !held)
+        return fail(CommandFailed,
+                    {options.setup.database, nameOf(id) + ": " + held.error().reason});
     return AllWell;
 }
 

@@ -82,8 +82,8 @@ QList<QSharedPointer<Position>> Receipt::lines() const
 
 QSharedPointer<Position> Receipt::line(int posnum) const
 {
-    const auto place = m_places.constFind(posnum);
-    return place == m_places.cend() ? nullptr : m_lines[*place].position;
+    const qsizetype place = placeOf(posnum);
+    return place < 0 ? nullptr : m_lines[place].position;
 }
 
 QSharedPointer<GoodsItem> Receipt::getPositionByPosnum(int posnum) const
@@ -173,8 +173,8 @@ bool Receipt::hasPlaceFor(const ArticleData &article, double count, const Positi
 {
     const Kopecks others =
         replaced ? m_sum - m_lines[m_places.value(replaced->getPosnum())].counted : m_sum;
-    const double sum = static_cast<double>(article.price) * count + static_cast<double>(others);
-    return isCount(count) && sum <= static_cast<double>(greatestSum);
+    const double sum = static_cast<double>(article.price) * count;
+    return isCount(count) && isSum(sum) && isSum(sum + static_cast<double>(others));
 }
 
 void Receipt::setDocumentSwitch(bool on)

@@ -39,6 +39,8 @@ public:
 
     //! Every line, stornoed ones too, in the order of adding.
     QList<QSharedPointer<Position>> lines() const;
+    //! Where in them the line with that number is; -1 when there never was one.
+    qsizetype placeOf(int posnum) const { return m_places.value(posnum, -1); }
     //! The line with that number, stornoed or not; null when there never was one.
     QSharedPointer<Position> line(int posnum) const;
     //! The same unless it is stornoed.

@@ -19,19 +19,14 @@ bool isBase(double base)
     return std::abs(base) <= greatestCount * greatestPack;
 }
 
-//! What is odd in it, if anything.
-QString oddOf(const LineRecord &line)
+Fault outOfRange(const LineRecord &line, const char *what)
 {
-    const ArticleData &article = line.article;
-    if (article.price < 0 || article.price > greatestSum)
-        return QStringLiteral("a price out of range");
-    if (!isCount(std::abs(line.count)) || !isBase(line.base))
-        return QStringLiteral("a quantity out of range");
-    if (!(article.pack > 0.0 && article.pack <= greatestPack))
-        return QStringLiteral("a pack out of range");
-    if (!(article.taraCapacity >= 0.0 && article.taraCapacity <= greatestPack))
-        return QStringLiteral("a tara capacity out of range");
-    return {};
+    return {{}, QStringLiteral("position %1 has a %2 out of range").arg(line.posnum).arg(what)};
+}
+
+Fault totalOutOfRange()
+{
+    return {{}, QStringLiteral("its total is out of range")};
 }
 
 } // namespace
@@ -43,8 +38,17 @@ Result<> check(const LineRecord &line, int nextPosnum)
     if (line.posnum >= nextPosnum)
         return Fault{
             {}, QStringLiteral("position %1 has a number that was not given yet").arg(line.posnum)};
-    if (const QString odd = oddOf(line); !odd.isEmpty())
-        return Fault{{}, QStringLiteral("position %1 has %2").arg(line.posnum).arg(odd)};
+    const ArticleData &article = line.article;
+    if (article.price < 0 || article.price > greatestSum)
+        return outOfRange(line, "price");
+    if (!isCount(std::abs(line.count)) || !isBase(line.base))
+        return outOfRange(line, "quantity");
+    if (!(article.pack > 0.0 && article.pack <= greatestPack))
+        return outOfRange(line, "pack");
+    if (!(article.taraCapacity >= 0.0 && article.taraCapacity <= greatestPack))
+        return outOfRange(line, "tara capacity");
+    if (!isSum(static_cast<double>(article.price) * line.count))
+        return outOfRange(line, "sum");
     return {};
 }
 
@@ -58,7 +62,24 @@ Result<> check(const ReceiptRecord &record)
             return Fault{{}, QStringLiteral("position %1 is there twice").arg(line.posnum)};
         numbers.insert(line.posnum);
     }
-    return {};
+    return totalOf(record).then([](Kopecks) { return Result<>(); });
+}
+
+Result<> checkTotal(Kopecks total)
+{
+    if (isSum(static_cast<double>(total)))
+        return {};
+    return totalOutOfRange();
+}
+
+Result<Kopecks> totalOf(const ReceiptRecord &record)
+{
+    Kopecks total = 0;
+    for (const LineRecord &line : record.lines) {
+        if (!line.stornoed && qAddOverflow(total, line.sum(), &total))
+            return totalOutOfRange();
+    }
+    return checkTotal(total).then([total] { return Result<Kopecks>(total); });
 }
 
 } // namespace till

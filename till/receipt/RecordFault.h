@@ -6,15 +6,23 @@
 
 namespace till {
 
+// Faults are of no place.
+
 /*!
- * Whether a till can have put \a line there. The fault, which is of no place and names the
- * position, is a number of a position below 1 or not below \a nextPosnum, or a price or a quantity
- * that is out of range or no number.
+ * Whether a till can have put \a line there. The fault, which names the position, is a number of a
+ * position below 1 or not below \a nextPosnum, or a price, a quantity or a sum that is out of range
+ * or no number.
  */
 Result<> check(const LineRecord &line, int nextPosnum);
 
-//! The same of all lines of \a record, each of which has a number of its own.
+//! The same of all lines of \a record, each of which has a number of its own, and of their total.
 Result<> check(const ReceiptRecord &record);
+
+//! Whether a receipt can come to \a total.
+Result<> checkTotal(Kopecks total);
+
+//! What the lines that are not stornoed come to, if a receipt can.
+Result<Kopecks> totalOf(const ReceiptRecord &record);
 
 } // namespace till
 

@@ -81,6 +81,7 @@ Outcome Register::carryOut(const Command &command)
     const UnderWay underWay(*this);
     m_journal.begin();
     m_shown = {};
+    m_declined = {};
     return tellCommand(m_notes, toText(command), [&] { return begin(command); });
 }
 
@@ -119,6 +120,8 @@ bool Register::ask(const Question &question)
 {
     m_notes.add("question", {{"key", question.text.key()}, {"text", question.text.text()}});
     const bool answer = m_front && m_front->ask(question);
+    if (!answer)
+        m_declined = question.text;
     const tr::Tr &taken = answer ? question.confirm : question.cancel;
     m_notes.add("answer", {{"key", taken.key()}, {"confirmed", answer}});
     return answer;
@@ -172,8 +175,10 @@ Outcome Register::outcomeOf(EContext::Result result) const
 {
     if (result == EContext::Continue)
         return Outcome::done();
-    if (result == EContext::Cancel)
+    if (result == EContext::Cancel && m_declined == tr::Tr()) // a plugin asked nobody
         return {Outcome::Declined, {}, {}};
+    if (result == EContext::Cancel)
+        return {Outcome::Declined, {messages::tillDeclined(), {}, m_declined}, {}};
     if (m_runner.wasStoppedByPlugin())
         return {Outcome::RefusedByPlugin, {m_shown, {}}, {}};
     return {Outcome::RefusedByRegister, m_runner.reason(), {}};

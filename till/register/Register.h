@@ -147,6 +147,7 @@ private:
     QSharedPointer<Receipt> m_receipt;
     Journal m_journal; //!< of the command that is under way
     tr::Tr m_shown;    //!< the last message of that command
+    tr::Tr m_declined; //!< the last question of it that was answered no
     Observers<> m_receiptObservers;
     bool m_isReceiptTouched = false; //!< and nobody was told yet
     bool m_isPluginReady = false;

@@ -93,10 +93,11 @@ QString wordOfType(int type)
 QJsonObject jsonOf(const KeptReceipt &receipt)
 {
     const ReceiptRecord &record = receipt.record;
+    const Result<> held = receipt.holds();
     QJsonObject object{{"id", record.id},
                        {"setApart", orNull(receipt.setApart)},
-                       {"fault", orNull(receipt.fault)}};
-    if (!receipt.fault.isEmpty())
+                       {"fault", held ? QJsonValue() : held.error().reason}};
+    if (!receipt.recordHolds)
         return object;
     object.insert("type", wordOfType(record.type));
     object.insert("state", wordOf(record.state));
@@ -106,7 +107,8 @@ QJsonObject jsonOf(const KeptReceipt &receipt)
     object.insert("softChecks", QJsonArray::fromStringList(record.softChecks));
     object.insert("total", receipt.total);
     object.insert("positions", positionsOf(record));
-    object.insert("tara", TaraRecords(record).all());
+    if (receipt.dataHold)
+        object.insert("tara", TaraRecords(record).all());
     return object;
 }
 

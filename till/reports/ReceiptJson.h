@@ -14,8 +14,9 @@ QString taraPlugin();
 //! returns.
 QString wordOfType(int type);
 
-//! \a receipt, which must be whole, with its positions and the records of its tara, as
-//! docs/reports.md describes it. Of one that does not hold, its number and what is wrong with it.
+//! \a receipt with its positions and the records of its tara, as docs/reports.md describes it. Of
+//! one that does not hold, its number and what is wrong with it; the records alone are left out
+//! where nothing else is damaged.
 QJsonObject jsonOf(const KeptReceipt &receipt);
 
 } // namespace till

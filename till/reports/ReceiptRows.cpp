@@ -75,7 +75,7 @@ QString ReceiptRows::row(const KeptReceipt &receipt) const
 {
     const QString number = QString::number(receipt.record.id);
     const TextPage page(m_style);
-    if (!receipt.fault.isEmpty())
+    if (!receipt.recordHolds)
         return page.painted(line(number, {}, {}, wordsOf(receipt, m_translator)), Paint::Red)
                + QLatin1Char('\n');
     return line(number, receipt.opened.toString(QStringLiteral("yyyy-MM-dd hh:mm")),
@@ -94,9 +94,10 @@ QString wordsOf(const KeptReceipt &receipt, const Translator &translator)
     QStringList words;
     if (!receipt.setApart.isEmpty())
         words.append(translator.text(told("till", "set apart: %1").with({receipt.setApart})));
-    else if (!receipt.fault.isEmpty())
-        words.append(translator.text(told("till", "damaged: %1").with({receipt.fault})));
-    if (receipt.fault.isEmpty()) {
+    else if (!receipt.recordHolds)
+        words.append(translator.text(
+            told("till", "damaged: %1").with({receipt.recordHolds.error().reason})));
+    if (receipt.recordHolds) {
         words +=
             {translator.text(nameOfType(record.type)), translator.text(nameOf(record.state)),
              translator.text(told("till", "%1 pos.").with({QString::number(receipt.positions)}))};
@@ -116,8 +117,17 @@ QString csvRow(const KeptReceipt &receipt)
 {
     const ReceiptRecord &record = receipt.record;
     const QString number = QString::number(record.id);
-    if (!receipt.fault.isEmpty())
-        return csvLine({number, {}, {}, {}, {}, {}, {}, {}, receipt.setApart, receipt.fault});
+    if (!receipt.recordHolds)
+        return csvLine({number,
+                        {},
+                        {},
+                        {},
+                        {},
+                        {},
+                        {},
+                        {},
+                        receipt.setApart,
+                        receipt.recordHolds.error().reason});
     return csvLine({number,
                     wordOfType(record.type),
                     wordOf(record.state),

@@ -5,9 +5,18 @@
 #include "till/schema/Schema.h"
 #include "till/schema/SetApart.h"
 
+#include <algorithm>
+
 namespace till {
 
 namespace {
+
+//! What is wrong with a value that a plugin stored.
+Fault faultInData(const QString &plugin, const QString &key, const QString &reason)
+{
+    return {{},
+            QStringLiteral("the data of plugin \"%1\" under \"%2\" %3").arg(plugin, key, reason)};
+}
 
 //! Reads one receipt; notes the first fault of each kind and goes on.
 class Reader
@@ -89,10 +98,8 @@ private:
             pluginDataTable(), QStringLiteral("plugin, key, place"), [this](const Table::Row &row) {
                 const QString plugin = row.values[1].toString();
                 const QString key = row.values[2].toString();
-                if (!row.isWhole && m_read.valueFault.isEmpty())
-                    m_read.valueFault =
-                        QStringLiteral("the data of plugin \"%1\" under \"%2\" are damaged")
-                            .arg(plugin, key);
+                if (!row.isWhole && m_read.valuesHold)
+                    m_read.valuesHold = faultInData(plugin, key, QStringLiteral("are damaged"));
                 m_read.values.append(
                     {plugin, key, {row.values[4].toByteArray(), row.values[5].toString()}});
             });
@@ -100,27 +107,26 @@ private:
 
     void checkWhole()
     {
-        QList<LineRecord> live = m_read.record.lines;
-        live.removeIf([](const LineRecord &line) { return line.stornoed; });
-        if (live.size() != m_read.positions)
+        const QList<LineRecord> &lines = m_read.record.lines;
+        const auto live = std::count_if(lines.cbegin(), lines.cend(),
+                                        [](const LineRecord &line) { return !line.stornoed; });
+        if (live != m_read.positions)
             note(QStringLiteral("%1 positions are there, and there were %2")
-                     .arg(live.size())
+                     .arg(live)
                      .arg(m_read.positions));
         if (const Result<> checked = check(m_read.record); !checked)
             note(checked.error().reason);
         // A damaged value has no digest that could tell anything.
-        if (m_read.valueFault.isEmpty() && m_rows.bytes() != m_contents)
+        if (m_read.valuesHold && m_rows.bytes() != m_contents)
             note(QStringLiteral("its rows are not those that were stored"));
-        if (m_read.fault.isEmpty())
-            checkTotal(live);
+        if (m_read.recordHolds)
+            compareTotal();
     }
 
     //! Of positions that hold. The upgrade counted those of the first format as today's till does.
-    void checkTotal(const QList<LineRecord> &live)
+    void compareTotal()
     {
-        Kopecks total = 0;
-        for (const LineRecord &line : live)
-            total += line.sum();
+        const Kopecks total = totalOf(m_read.record).value_or(0);
         if (total != m_read.total)
             note(QStringLiteral("its positions come to %1, and its total is %2")
                      .arg(toText(total), toText(m_read.total)));
@@ -128,8 +134,8 @@ private:
 
     void note(const QString &fault)
     {
-        if (m_read.fault.isEmpty())
-            m_read.fault = fault;
+        if (m_read.recordHolds)
+            m_read.recordHolds = Fault{{}, fault};
     }
 
     Database &m_database;
@@ -174,11 +180,9 @@ Result<std::optional<ReceiptRecord>> readIfUnfinished(Database &database, qint64
         return faultIn(database, id, QStringLiteral("its header is missing"), wayOnWithout(id));
     if ((*read)->isHeaderWhole && !isUnfinished((*read)->record.state))
         return std::optional<ReceiptRecord>();
-    if (const QString fault = (*read)->anyFault(); !fault.isEmpty())
-        return faultIn(database, id, fault, wayOnWithout(id));
-    const Result<ReceiptRecord> whole = withValues(database, **read);
+    const Result<ReceiptRecord> whole = wholeOf(**read);
     if (!whole)
-        return database.fault(whole.error().reason, wayOnWithout(id));
+        return faultIn(database, id, whole.error().reason, wayOnWithout(id));
     return std::optional(*whole);
 }
 
@@ -199,7 +203,7 @@ ReadReceipt headerOf(const Table::Row &row)
     read.total = row.values[8].toLongLong();
     read.isHeaderWhole = row.isWhole;
     if (!row.isWhole)
-        read.fault = QStringLiteral("its header is not as it was stored");
+        read.recordHolds = Fault{{}, QStringLiteral("its header is not as it was stored")};
     return read;
 }
 
@@ -215,22 +219,21 @@ Result<std::optional<ReceiptRecord>> readReceipt(Database &database, qint64 id)
         return read.error();
     if (!*read)
         return std::optional<ReceiptRecord>();
-    if (const QString fault = (*read)->anyFault(); !fault.isEmpty())
-        return faultIn(database, id, fault);
-    return withValues(database, **read).then([](const ReceiptRecord &record) {
-        return Result<std::optional<ReceiptRecord>>(record);
-    });
+    const Result<ReceiptRecord> whole = wholeOf(**read);
+    if (!whole)
+        return faultIn(database, id, whole.error().reason);
+    return std::optional(*whole);
 }
 
-Result<ReceiptRecord> withValues(const Database &database, const ReadReceipt &read)
+Result<ReceiptRecord> wholeOf(const ReadReceipt &read)
 {
+    if (const Result<> held = read.holds(); !held)
+        return held.error();
     ReceiptRecord record = read.record;
     for (const ReadReceipt::Value &value : read.values) {
         const auto decoded = value.bytes.value();
         if (!decoded)
-            return faultIn(database, record.id,
-                           QStringLiteral("the data of plugin \"%1\" under \"%2\" %3")
-                               .arg(value.plugin, value.key, decoded.error().reason));
+            return faultInData(value.plugin, value.key, decoded.error().reason);
         take(record.pluginData[value.plugin], value.key, *decoded);
     }
     return record;

@@ -4,6 +4,7 @@
 #include "till/database/Table.h"
 #include "till/database/VariantBytes.h"
 #include "till/receipt/ReceiptRecord.h"
+#include "till/result/Result.h"
 
 #include <optional>
 
@@ -33,11 +34,14 @@ struct ReadReceipt
     };
     QList<Value> values;
 
-    QString fault;      //!< why the record does not hold; empty when it does
-    QString valueFault; //!< why a value of a plugin does not
+    // The first fault of each kind is of no place.
+    Result<> recordHolds; //!< header, lines and soft-checks
+    Result<> valuesHold;  //!< the rows of plugins' values
 
-    //! The first fault; empty when all holds.
-    QString anyFault() const { return fault.isEmpty() ? valueFault : fault; }
+    Result<> holds() const
+    {
+        return recordHolds.then([this] { return valuesHold; });
+    }
 };
 
 //! What the header says of a receipt. Its other rows are not read, and are not known to hold.
@@ -50,8 +54,8 @@ Result<std::optional<ReadReceipt>> readRows(Database &database, qint64 id);
 
 //! The receipt, which must hold, with its plugin data.
 Result<std::optional<ReceiptRecord>> readReceipt(Database &database, qint64 id);
-//! The receipt that was read, with its plugin data.
-Result<ReceiptRecord> withValues(const Database &database, const ReadReceipt &read);
+//! The receipt that was read, which must hold, with its plugin data. The fault is of no place.
+Result<ReceiptRecord> wholeOf(const ReadReceipt &read);
 
 /*!
  * The newest receipt that was neither closed nor cancelled, nor set apart; it must hold. So must

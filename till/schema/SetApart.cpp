@@ -29,10 +29,11 @@ Result<QString> reasonToSetApart(Database &database, qint64 id)
         return read.error().reason; // the path is told with it
     if (!*read)
         return QStringLiteral("its header is missing");
-    const QString fault = (*read)->anyFault();
-    if (fault.isEmpty() && !isUnfinished((*read)->record.state))
+    if (const Result<> held = (*read)->holds(); !held)
+        return held.error().reason;
+    if (!isUnfinished((*read)->record.state))
         return database.fault(QStringLiteral("receipt %1: it is finished and whole").arg(id));
-    return fault.isEmpty() ? QStringLiteral("unfinished") : fault;
+    return QStringLiteral("unfinished");
 }
 
 } // namespace till

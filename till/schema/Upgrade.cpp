@@ -9,6 +9,8 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <tuple>
+
 namespace till {
 
 namespace {
@@ -49,7 +51,7 @@ void countLine(const QVariantList &values, Contents &contents)
         return;
     ++contents.positions;
     if (check(line, line.posnum + 1)) // else its sum may be no number
-        contents.total += line.sum();
+        std::ignore = qAddOverflow(contents.total, line.sum(), &contents.total); // refused later
 }
 
 //! The \a row, of which a table has \a count columns.

@@ -174,9 +174,12 @@ Outcome CommandLine::runOwn(const QStringList &words)
 
 QString CommandLine::textOf(const Outcome &outcome) const
 {
-    const QString why = (outcome.kind == Outcome::Declined ? m_translator.text(whyDeclined())
-                                                           : outcome.text(m_translator))
-                            .replace('\n', ' ');
+    Outcome ended = outcome;
+    if (outcome.kind == Outcome::Declined
+        && m_heard.lacksAnswer) // here one may be typed in advance
+        ended.reason.pattern =
+            told("till", "nobody answered \"%Q\"; 'answer yes' before it would take it").pattern;
+    const QString why = ended.text(m_translator).replace('\n', ' ');
     if (!outcome.isRefusal())
         return forTerminal(why);
     return forTerminal(m_translator.text(why.isEmpty() ? told("till", "refused")
@@ -187,17 +190,6 @@ bool CommandLine::hasShown(const Outcome &outcome) const
 {
     return outcome.isRefusal() && !outcome.missing
            && m_heard.messages.contains(outcome.reason.pattern);
-}
-
-Message CommandLine::whyDeclined() const
-{
-    if (m_heard.questions.isEmpty())
-        return {};
-    const QString question = m_translator.text(m_heard.questions.constLast()).replace('\n', ' ');
-    return m_heard.lacksAnswer
-               ? told("till", "nobody answered \"%1\"; 'answer yes' before it would take it")
-                     .with({question})
-               : told("till", "\"%1\" was answered no").with({question});
 }
 
 Outcome CommandLine::checkAnswers() const

@@ -90,7 +90,6 @@ private:
     struct Row;
     static const QList<Row> &ownRows();
     static QStringList commandNames();
-    Message whyDeclined() const;
     QStringList candidatesFor(const QStringList &words) const;
     QStringList secondWords(const QString &command) const;
     QStringList expectedWords(const QStringList &words) const;

@@ -60,10 +60,11 @@ Result<> eachOfJournal(Database &database, std::optional<qint64> receiptId,
     const auto takeRow = [&take](const QSqlQuery &found) {
         const JournalEntry entry{found.value(0).toInt(), found.value(1).toString(),
                                  found.value(2).toByteArray()};
-        JournalRow row{found.value(4).toLongLong(), entry, {}};
+        JournalRow row{found.value(4).toLongLong(), entry};
         if (const Result<> checked = check(entry.json, found.value(0), entry.kind); !checked)
-            row.fault = QString("row %1 of its journal: ").arg(found.value(3).toLongLong())
-                        + checked.error().reason;
+            row.entry = Fault{{},
+                              QString("row %1 of its journal: ").arg(found.value(3).toLongLong())
+                                  + checked.error().reason};
         take(row);
     };
     return receiptId ? database.each(all + " WHERE receipt = ? ORDER BY id", {*receiptId}, takeRow)

@@ -17,8 +17,7 @@ Result<> writeJournal(Database &database, qint64 receiptId, const QList<JournalE
 struct JournalRow
 {
     qint64 receipt = 0;
-    JournalEntry entry;
-    QString fault; //!< what is wrong with it; empty when it holds
+    Result<JournalEntry> entry; //!< or what is wrong with it
 };
 
 //! Gives \a take each row of the receipt's journal, or of all of them for no receipt, in the order

@@ -119,8 +119,15 @@ private:
         return {};
     }
 
+    Fault cannotBeStored(const Fault &odd) const
+    {
+        return m_database.fault(odd.reason + QStringLiteral(", which cannot be stored"));
+    }
+
     Result<> writeHeader()
     {
+        if (const Result<> checked = checkTotal(m_stored.total); !checked)
+            return cannotBeStored(checked.error());
         if (!isUnfinished(m_update.state) && m_stored.ended == 0)
             m_stored.ended = QDateTime::currentMSecsSinceEpoch();
         const QVariantList row = rowOf(m_update, m_stored);
@@ -153,8 +160,7 @@ private:
     Result<> writeLine(qsizetype place, const LineRecord &line)
     {
         if (const Result<> checked = check(line, m_update.nextPosnum); !checked)
-            return m_database.fault(checked.error().reason
-                                    + QStringLiteral(", which cannot be stored"));
+            return cannotBeStored(checked.error());
         StoredReceipt::Line &stored = m_stored.lines[place];
         count(stored, -1);
         stored.positions = line.stornoed ? 0 : 1;

@@ -25,7 +25,7 @@ Storage::~Storage() = default;
 
 Result<std::unique_ptr<Storage>> Storage::open(const QString &path)
 {
-    auto database = Database::open(path, Database::Access::Till);
+    auto database = Database::open(path, Database::Access::Till, checkOurs);
     if (!database)
         return database.error();
     const Result<QString> copy = prepareSchema(**database);

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <tuple>
 
 #include <termios.h>
 #include <unistd.h>
@@ -93,7 +94,7 @@ void openTerminal(CommandLine &commands, const QString &historyFile)
     rl_prep_term_function = prepareTerminal;
     rl_initialize();
     rl_bind_key(ctrlC, dropLine);
-    makePrivateFolder(QFileInfo(historyFile).path());
+    std::ignore = makePrivateFolder(QFileInfo(historyFile).path()); // then none is kept
     read_history(QFile::encodeName(historyFile).constData());
 }
 

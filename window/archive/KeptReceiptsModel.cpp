@@ -88,7 +88,7 @@ QString KeptReceiptsModel::textAt(const KeptReceipt &receipt, int column) const
         return QString::number(receipt.record.id);
     if (column == What)
         return wordsOf(receipt, m_translator);
-    if (!receipt.fault.isEmpty())
+    if (!receipt.recordHolds)
         return {};
     return column == Opened ? receipt.opened.toString(QStringLiteral("yyyy-MM-dd hh:mm"))
                             : toText(receipt.total);

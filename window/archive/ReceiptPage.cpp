@@ -78,6 +78,12 @@ QString tableOf(const ReceiptText &text)
 
 } // namespace
 
+Message damageOf(const KeptReceipt &kept)
+{
+    return told("till", "Receipt %1 is damaged: %2")
+        .with({QString::number(kept.record.id), kept.holds().error().reason});
+}
+
 QString receiptPage(const KeptReceipt &kept, const KeptJournal &journal,
                     const Translator &translator)
 {
@@ -88,6 +94,10 @@ QString receiptPage(const KeptReceipt &kept, const KeptJournal &journal,
     QString html =
         element(QStringLiteral("p"), htmlOf(separated(text.header, QStringLiteral(" ·"))))
         + tableOf(text);
+    if (!kept.dataHold)
+        html +=
+            element(QStringLiteral("p"),
+                    element(QStringLiteral("b"), translator.text(damageOf(kept)).toHtmlEscaped()));
     if (!course.isEmpty())
         html += element(QStringLiteral("p"),
                         element(QStringLiteral("b"),

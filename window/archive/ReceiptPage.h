@@ -6,8 +6,12 @@
 
 namespace till {
 
-//! A kept receipt as the register shows it, which must hold, and below it what \a journal tells of
-//! its course: as HTML in one language. Nothing that a receipt holds is taken for markup.
+//! What is wrong with a kept receipt that does not hold.
+Message damageOf(const KeptReceipt &kept);
+
+//! A kept receipt as the register shows it, the record of which must hold, what else is wrong with
+//! it, and what \a journal tells of its course: as HTML in one language. Nothing that a receipt
+//! holds is taken for markup.
 QString receiptPage(const KeptReceipt &kept, const KeptJournal &journal,
                     const Translator &translator);
 

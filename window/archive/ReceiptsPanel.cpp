@@ -210,11 +210,10 @@ void ReceiptsPanel::open(qint64 number)
     const auto read = (*archive)->receipt(number, taraPlugin());
     if (!read)
         return tellFault(read.error().text());
-    const QString shown = QString::number(number);
     if (!*read)
-        return tellFault(told("till", "There is no receipt %1").with({shown}));
-    if (const QString fault = (**read).fault; !fault.isEmpty())
-        return tellFault(told("till", "Receipt %1 is damaged: %2").with({shown, fault}));
+        return tellFault(told("till", "There is no receipt %1").with({QString::number(number)}));
+    if (!(**read).recordHolds)
+        return tellFault(damageOf(**read));
     const auto journal = (*archive)->journal(number);
     if (!journal)
         return tellFault(journal.error().text());

@@ -188,7 +188,8 @@ QString outcomeText(const CourseNode &node, const Translator &translator)
     const bool declined = outcome["by"].toString() == "cashier";
     const QString end = translator.text(declined ? told("till", "declined")
                                                  : ends.value(outcome["outcome"].toString()));
-    const QString why = quotedText(outcome, translator);
+    // What was declined stands with its answer above.
+    const QString why = declined ? QString() : quotedText(outcome, translator);
     return why.isEmpty() ? end : end + QStringLiteral(": ") + why;
 }
 

@@ -166,10 +166,10 @@ EntryDialog::Wanted entryFor(Deed deed, const QList<int> &selected, const Receip
     const auto read = [=](const QString &text) {
         return enteredFor(deed, posnum, proposal, text, doer);
     };
-    const auto check = [read, translator, doer](const QString &text) {
+    const auto check = [read, translator, doer](const QString &text) -> Result<void, QString> {
         const Entered entered = read(text);
         const Outcome outcome = entered ? doer.check(*entered) : entered.error();
-        return outcome ? QString() : outcome.text(translator);
+        return outcome ? Result<void, QString>() : outcome.text(translator);
     };
     const auto taken = [read, doer](const QString &text) {
         if (const Entered entered = read(text))

@@ -172,7 +172,6 @@ Outcome TillWindow::carryOut(const Command &command)
         return Outcome::busy();
     }
     m_hasShownMessage = false;
-    m_front.takeDeclined();
     const auto receipt = m_desk.cashRegister().receipt();
     m_front.setAbout(receipt ? aboutOf(command, *receipt) : Message());
     banner().clear();
@@ -193,7 +192,8 @@ void TillWindow::tellOutcome(const Outcome &outcome)
     if (outcome && outcome.change)
         tellChange(*outcome.change);
     else if (!outcome && (!m_hasShownMessage || outcome.missing)) // which stands there already
-        tellRefusal(outcome);
+        tell(outcome,
+             outcome.kind == Outcome::Declined ? Banner::Tone::Notice : Banner::Tone::Warning);
 }
 
 void TillWindow::tellChange(Kopecks change)
@@ -204,23 +204,10 @@ void TillWindow::tellChange(Kopecks change)
     showReceipt();
 }
 
-void TillWindow::tellRefusal(const Outcome &outcome)
-{
-    if (!outcome.text(m_translator).isEmpty())
-        return tell(outcome, Banner::Tone::Warning);
-    // Whoever said no knows why, but it may have been a scanner.
-    const auto question = m_front.takeDeclined();
-    if (!question)
-        return;
-    const auto answered = [question = *question](const Translator &translator) {
-        const QString asked = translator.text(question).replace(u'\n', u' ');
-        return translator.text(told("till", "\"%1\" was answered no").with({asked}));
-    };
-    banner().tell(answered, Banner::Tone::Notice);
-}
-
 void TillWindow::tell(const Outcome &outcome, Banner::Tone tone)
 {
+    if (outcome.text(m_translator).isEmpty())
+        return; // a plugin that says nothing
     banner().tell([outcome](const Translator &translator) { return outcome.text(translator); },
                   tone);
 }

@@ -75,7 +75,6 @@ private:
     void doDeed(Deed deed);
     void tellOutcome(const Outcome &outcome);
     void tellChange(Kopecks change);
-    void tellRefusal(const Outcome &outcome);
     void tell(const Outcome &outcome, Banner::Tone tone);
 
     CashDesk &m_desk;

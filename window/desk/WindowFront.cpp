@@ -19,8 +19,6 @@ bool WindowFront::ask(const Question &question)
     m_strip.showWork(work);
     if (isAtWork)
         QGuiApplication::restoreOverrideCursor();
-    if (!isConfirmed)
-        m_declined = question.text;
     return isConfirmed;
 }
 

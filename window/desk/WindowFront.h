@@ -5,9 +5,6 @@
 #include "till/language/Translator.h"
 #include "window/desk/TopStrip.h"
 
-#include <optional>
-#include <utility>
-
 namespace till {
 
 //! Asks the cashier in a dialog of the window, and shows messages in its strip.
@@ -27,15 +24,12 @@ public:
 
     //! What the questions from now on are about; empty when they say it themselves.
     void setAbout(const Message &about) { m_about = about; }
-    //! The question that was answered no last, since this was asked for.
-    std::optional<tr::Tr> takeDeclined() { return std::exchange(m_declined, {}); }
 
 private:
     QWidget &m_window;
     TopStrip &m_strip;
     const Translator &m_translator;
     Message m_about;
-    std::optional<tr::Tr> m_declined;
 };
 
 } // namespace till

@@ -116,9 +116,10 @@ QWidget *EntryDialog::makePad(const Translator &translator)
 void EntryDialog::check()
 {
     const QString text = m_field.text().trimmed();
-    const QString fault = text.isEmpty() ? QString() : m_wanted.check(text);
+    const auto checked = text.isEmpty() ? Result<void, QString>() : m_wanted.check(text);
+    const QString fault = checked ? QString() : checked.error();
     m_fault.setText(fault);
-    m_confirm.setEnabled(!text.isEmpty() && fault.isEmpty());
+    m_confirm.setEnabled(!text.isEmpty() && checked);
     m_confirm.setToolTip(fault);
 }
 

@@ -2,6 +2,7 @@
 #define WINDOW_DIALOGS_ENTRYDIALOG_H
 
 #include "till/language/Translator.h"
+#include "till/result/Result.h"
 
 #include <QtWidgets/QDialog>
 
@@ -32,8 +33,8 @@ public:
         QString hint;     //!< below the field; may be empty
         QString proposal; //!< what the field begins with, selected
         QString signs;    //!< beside the digits, each a key of the pad
-        //! What is wrong with what was entered, in words; empty when it can be taken.
-        std::function<QString(const QString &text)> check;
+        //! Whether what was entered can be taken; else what is wrong with it, in words.
+        std::function<Result<void, QString>(const QString &text)> check;
         std::function<void(const QString &text)> taken;
     };
 

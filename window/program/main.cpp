@@ -11,6 +11,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <tuple>
 #include <vector>
 
 using namespace till;
@@ -58,7 +59,8 @@ private:
 int run(const Setup &setup, const QString &language)
 {
     if (setup.database != QLatin1String(":memory:"))
-        makePrivateFolder(QFileInfo(setup.database).absolutePath());
+        // Where it cannot be made, the database says that it is missing.
+        std::ignore = makePrivateFolder(QFileInfo(setup.database).absolutePath());
     Notes notes;
     CashDesk desk(setup, notes);
     TillWindow window(desk, notes, language);

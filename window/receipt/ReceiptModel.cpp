@@ -2,7 +2,6 @@
 
 #include "window/look/Paints.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace till {
@@ -110,9 +109,8 @@ void ReceiptModel::setLit(const QSet<int> &posnums)
 
 int ReceiptModel::rowOf(int posnum) const
 {
-    const auto found = std::find_if(m_rows.cbegin(), m_rows.cend(),
-                                    [=](const Row &row) { return row.line.posnum == posnum; });
-    return found == m_rows.cend() ? -1 : static_cast<int>(found - m_rows.cbegin());
+    const qsizetype place = m_shown ? m_shown->receipt().placeOf(posnum) : -1;
+    return place < m_rows.size() ? static_cast<int>(place) : -1; // new ones are told last
 }
 
 std::optional<Filling> ReceiptModel::fillingAt(int row) const

@@ -117,6 +117,14 @@ TEST_F(Triggers, Cancel_StopsTheActionToo)
     EXPECT_EQ(notesOf("result").last().value("result").toInt(), EContext::Cancel);
 }
 
+TEST_F(Triggers, CancelOfOneThatAskedNobody_HasNoReason)
+{
+    EXPECT_EQ(carryOut(command::Storno{1}).reason.quoted, messages::tillStornoPosition());
+    plugin.add("stops", control::Payment, ActionTrigger::Before, ActionTrigger::High,
+               EContext::Cancel);
+    EXPECT_EQ(carryOut(command::Pay{}).reason, Message());
+}
+
 TEST_F(Triggers, AfterTheAction_NothingIsStopped)
 {
     plugin.add("refuses", control::Subtotal, ActionTrigger::After, ActionTrigger::High,

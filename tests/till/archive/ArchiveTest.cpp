@@ -74,7 +74,7 @@ TEST_F(ArchiveTest, Receipt_IsTheOneThatWasSaved)
     const KeptReceipt receipt = receiptOf(*kept, 1);
     record.pluginData.remove("another"); // was not asked for
     EXPECT_EQ(receipt.record, record);
-    EXPECT_EQ(receipt.fault, QString());
+    EXPECT_TRUE(receipt.holds());
     EXPECT_EQ(receipt.setApart, QString());
     EXPECT_EQ(receipt.positions, 2);
     EXPECT_EQ(receipt.opened.timeSpec(), Qt::LocalTime);
@@ -174,12 +174,12 @@ TEST_F(ArchiveTest, Damage_IsTheFaultOfItsReceiptAlone)
     query("UPDATE positions SET price = -100 WHERE receipt = 1");
     query("UPDATE receipts SET orderNumber = 'x' WHERE id = 2");
     const auto kept = archive();
-    EXPECT_EQ(receiptOf(*kept, 1).fault, "position 1 is not as it was stored");
-    EXPECT_EQ(receiptOf(*kept, 2).fault, "its header is not as it was stored");
-    EXPECT_EQ(receiptOf(*kept, 3).fault, QString());
+    EXPECT_EQ(faultText(receiptOf(*kept, 1).recordHolds), "position 1 is not as it was stored");
+    EXPECT_EQ(faultText(receiptOf(*kept, 2).recordHolds), "its header is not as it was stored");
+    EXPECT_TRUE(receiptOf(*kept, 3).holds());
     QStringList faults;
     EXPECT_TRUE(kept->list({}, [&](const KeptReceipt &receipt) {
-        faults.append(receipt.fault);
+        faults.append(faultText(receipt.holds()));
         return Result<>();
     }));
     EXPECT_EQ(faults, QStringList({"", "its header is not as it was stored", ""}));
@@ -194,14 +194,19 @@ TEST_F(ArchiveTest, WhatWasSetApart_HasItsReason)
     EXPECT_EQ(receipt.record.lines.size(), 1);
 }
 
-TEST_F(ArchiveTest, DataThatCannotBeHad_AreAFaultOfTheReceipt)
+TEST_F(ArchiveTest, DataThatCannotBeHad_AreAFaultAndLeaveTheLines)
 {
     leaveUnfinished(1);
     ReceiptRecord record = StorageTest::receiptOf(1);
     record.pluginData["PackagingControl"]["taraInfo"] = QVariantList{1};
     save(*opened(), record);
     query("UPDATE pluginData SET value = x'00' WHERE place = 1");
-    EXPECT_THAT(receiptOf(*archive(), 2).fault.toStdString(), HasSubstr("are damaged"));
+    const KeptReceipt receipt = receiptOf(*archive(), 2);
+    EXPECT_EQ(faultText(receipt.holds()),
+              "the data of plugin \"PackagingControl\" under \"taraInfo\" are damaged");
+    EXPECT_TRUE(receipt.recordHolds);
+    EXPECT_EQ(receipt.record.lines, record.lines);
+    EXPECT_TRUE(receipt.record.pluginData.isEmpty());
 }
 
 TEST_F(ArchiveTest, WhatIsNoDatabaseOfToday_IsRefused)
@@ -229,7 +234,7 @@ TEST_F(ArchiveTest, Days_AreFoundByAnIndexInItsOrder)
     EXPECT_EQ(planOf({last, {}, {}}), "SEARCH receipts USING INDEX receiptsByTime (opened>?)\n");
     EXPECT_EQ(planOf({}), "SCAN receipts USING INDEX receiptsByTime\n"); // nothing is sorted
     for (const qint64 id : {qint64(1), count / 2, count})
-        EXPECT_EQ(receiptOf(*kept, id).fault, QString());
+        EXPECT_TRUE(receiptOf(*kept, id).holds());
 }
 
 // Of two, SQLite may search from the one that is further away, and the plan does not show it.

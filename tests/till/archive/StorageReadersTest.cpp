@@ -168,7 +168,7 @@ TEST_F(StorageReaders, CheckOfAWholeDatabase_FindsNothing)
     leaveUnfinished(2);
     leaveUnfinished(3);
     const CheckReport report = checked(path());
-    EXPECT_EQ(report.fileFault, QString());
+    EXPECT_TRUE(report.fileHolds);
     EXPECT_EQ(report.whole, 2);
     EXPECT_TRUE(report.isGood());
 }
@@ -215,7 +215,7 @@ TEST_F(StorageReaders, CheckOfADamagedFile_SaysSo)
     damaged.replace(damaged.size() / 8192 * 4096, 4096, QByteArray(4096, '\x5a'));
     overwrite(path(), damaged);
     const CheckReport report = checked(path());
-    EXPECT_THAT(report.fileFault.toStdString(), HasSubstr("damaged"));
+    EXPECT_THAT(faultText(report.fileHolds).toStdString(), HasSubstr("damaged"));
     EXPECT_FALSE(report.isGood());
     EXPECT_EQ(contents(path()), damaged);
 }
@@ -224,8 +224,8 @@ TEST_F(StorageReaders, CheckWithoutATable_SaysSo)
 {
     leaveUnfinished(1);
     query("DROP TABLE journal");
-    EXPECT_EQ(checked(path()).fileFault,
-              "the database is damaged (its table journal is missing or altered)");
+    EXPECT_EQ(faultText(checked(path()).fileHolds),
+              path() + ": the database is damaged (its table journal is missing or altered)");
 }
 
 //! Whether the file is its owner's alone, whatever the umask.

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 using namespace till;
@@ -104,7 +106,12 @@ INSTANTIATE_TEST_SUITE_P(
         SumRow{"a tenth that sums of binary numbers miss", 5, 1.0 - 0.9, 1},
         SumRow{"a tenth that sums of binary numbers pass", 5, 0.3 - 0.2 - 1e-17, 1},
         SumRow{"a third", 10000, 1.0 / 3.0, 3333}, SumRow{"two thirds", 10000, 2.0 / 3.0, 6667},
-        SumRow{"large amounts", 99'999'999'999'999, 10.0, 999'999'999'999'990}));
+        SumRow{"large amounts", 99'999'999'999'999, 10.0, 999'999'999'999'990},
+        SumRow{"what money cannot hold", 99'999'999'999'999, 1e6, 1'000'000'000'000'000},
+        SumRow{"what it cannot hold below 0", 99'999'999'999'999, -1e6, -1'000'000'000'000'000},
+        SumRow{"too many for a whole number, for nothing", 0, 1e300, 0},
+        SumRow{"no number", 1, std::numeric_limits<double>::quiet_NaN(), 0},
+        SumRow{"no end", 1, std::numeric_limits<double>::infinity(), 1'000'000'000'000'000}));
 
 struct ReadQuantity
 {

@@ -34,11 +34,11 @@ bool hasCyrillic(const QString &text)
     return text.contains(QRegularExpression("\\p{Cyrillic}"));
 }
 
-//! "%1" and the like, each once.
+//! "%1", "%Q" and the like, each once.
 QSet<QString> placesIn(const QString &text)
 {
     QSet<QString> places;
-    auto matches = QRegularExpression("%[0-9]").globalMatch(text);
+    auto matches = QRegularExpression("%[0-9Q]").globalMatch(text);
     while (matches.hasNext())
         places.insert(matches.next().captured());
     return places;
@@ -125,6 +125,17 @@ TEST(Translator, EnglishOk_IsLatin)
 TEST(Translator, UnknownKey_GivesItsOwnText)
 {
     EXPECT_EQ(Translator("en").text({"noSuchKey", "Сам текст"}), "Сам текст");
+}
+
+TEST(Translator, WhatIsQuoted_HasTheTextOfItsKeyInOneLine)
+{
+    const till::Message declined{till::messages::tillDeclined(), {}, pluginMessages()[2]};
+    EXPECT_EQ(Translator("en").text(declined),
+              "\"There is empty tara in the receipt. Storno the tara and go on to payment?\" was "
+              "answered no");
+    EXPECT_EQ(Translator("en").text(
+                  till::Message{till::messages::tillDeclined(), {}, {"", "Сам\nтекст с %1"}}),
+              "\"Сам текст с %1\" was answered no");
 }
 
 TEST(Translator, EmptyKey_GivesItsOwnText)

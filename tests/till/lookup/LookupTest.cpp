@@ -215,6 +215,36 @@ TEST_F(Lookup, DamagedReceipt_IsNamedAndNothingElseIsToldOfIt)
     EXPECT_EQ(lookUp({"receipt", "2"}).status, 1);
 }
 
+TEST_F(Lookup, ReceiptWithDamagedDataOfAPlugin_IsShownWithoutItsTara)
+{
+    sell();
+    const std::string whole = told({"receipt", "1"});
+    EXPECT_THAT(whole, HasSubstr("free 1: pos. 3"));
+    query("UPDATE pluginData SET value = x'00' WHERE receipt = 1 AND key = 'taraInfo'");
+    const std::string reason =
+        "the data of plugin \"PackagingControl\" under \"taraInfo\" are damaged";
+
+    const RunResult text = lookUp({"receipt", "1"});
+    EXPECT_EQ(text.status, 1);
+    EXPECT_EQ(text.err, "till: " + database().toStdString() + ": receipt 1: " + reason + '\n');
+    EXPECT_THAT(text.out, HasSubstr("280.00"));
+    EXPECT_THAT(text.out, HasSubstr("349.00"));
+    EXPECT_THAT(text.out, Not(HasSubstr("pos. 3")));
+
+    const RunResult line = lookUp({"receipt", "1", "--json"});
+    EXPECT_EQ(line.status, 1);
+    EXPECT_EQ(line.err, text.err);
+    const QJsonObject receipt = trace(QByteArray::fromStdString(line.out)).value(0);
+    EXPECT_EQ(receipt.value("fault").toString().toStdString(), reason);
+    EXPECT_EQ(receipt.value("positions").toArray().size(), 3);
+    EXPECT_FALSE(receipt.contains("tara"));
+
+    const RunResult list = lookUp({"receipts", "--json"});
+    EXPECT_EQ(list.status, 1);
+    EXPECT_EQ(list.err, "till: receipt 1: " + reason + '\n');
+    EXPECT_THAT(list.out, StartsWith(line.out));
+}
+
 TEST_F(Lookup, ReceiptThatWasSetApart_IsMarked)
 {
     sell();

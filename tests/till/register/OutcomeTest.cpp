@@ -46,15 +46,23 @@ TEST_F(Outcomes, CashiersNo_Declines)
 {
     done({"open", "add CHIPS", "answer no no"});
     ends(Outcome::Declined, "storno 1");
-    ends(Outcome::Declined, "cancel");
+    const Outcome outcome = ends(Outcome::Declined, "cancel");
+    EXPECT_EQ(outcome.reason.key(), QString("tillDeclined"));
+    EXPECT_EQ(outcome.text(Translator("en")), QString("\"Cancel the receipt?\" was answered no"));
     EXPECT_EQ(lastOutcome()["outcome"].toString(), QString("refused"));
     EXPECT_EQ(lastOutcome()["by"].toString(), QString("cashier"));
+    EXPECT_EQ(lastOutcome()["key"].toString(), QString("tillDeclined"));
+    EXPECT_EQ(lastOutcome()["text"].toString(),
+              QString("На вопрос \"Отменить чек?\" ответили \"нет\""));
 }
 
 TEST_F(Outcomes, CashiersNoToThePlugin_Declines)
 {
     done({"set PackagingControl:allowSaleEmptyTara false", "open", "add CAN3", "answer no"});
-    ends(Outcome::Declined, "subtotal");
+    const Outcome outcome = ends(Outcome::Declined, "subtotal");
+    EXPECT_EQ(outcome.text(Translator("en")),
+              QString("\"There is empty tara in the receipt. Storno the tara and go on to "
+                      "payment?\" was answered no"));
 }
 
 TEST_F(Outcomes, Mistake_HasItsValuesInAnyLanguage)

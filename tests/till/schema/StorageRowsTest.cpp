@@ -1,3 +1,4 @@
+#include "tests/till/storage/PluginTypes.h"
 #include "tests/till/storage/StorageFixture.h"
 #include "till/archive/Upkeep.h"
 #include "till/schema/Schema.h"
@@ -30,10 +31,11 @@ protected:
         record = receiptOf(3);
         record.order = "17";
         record.lines[1].stornoed = true;
-        record.lines[2].groupId = "{group}";
+        record.lines[0].groupId = "{group}";
         record.softChecks = QStringList{"5", "6"};
         record.pluginData["plugin"]["taraInfo"] = QVariantList{1, "a", 2.5};
         record.pluginData["plugin"]["other"] = 7;
+        record.pluginData["plugin"]["own"] = QVariant::fromValue(Streamed{8});
         ReceiptRecord finished = receiptOf(1);
         finished.state = ReceiptState::Closed;
         save(*storage, finished);
@@ -84,6 +86,7 @@ struct Column
 {
     const char *table;
     const char *column;
+    const char *row = "place = 0";
 };
 
 void PrintTo(const Column &column, std::ostream *out)
@@ -129,15 +132,13 @@ TEST_P(FlippedBit, OfAnOpenReceipt_IsRefused)
 {
     const QString table = GetParam().table;
     const QString column = GetParam().column;
-    const QString where = table == "receipts"     ? "id = 2"
-                          : column == "place"     ? "receipt = 2 AND key = 'other'"
-                          : table == "pluginData" ? "receipt = 2 AND place = 2"
-                                                  : "receipt = 2 AND place = 0";
+    const QString where =
+        table == "receipts" ? "id = 2" : QString("receipt = 2 AND ") + GetParam().row;
     const QVariant value =
         run(QString("SELECT %1 FROM %2 WHERE %3").arg(column, table, where)).value(0);
     const bool isText = value.typeId() == QMetaType::QString;
-    const QString set = QString(isText ? "UPDATE %2 SET %1 = CAST(? AS TEXT) WHERE %3"
-                                       : "UPDATE %2 SET %1 = ? WHERE %3")
+    const QString set = QString(isText ? "UPDATE OR IGNORE %2 SET %1 = CAST(? AS TEXT) WHERE %3"
+                                       : "UPDATE OR IGNORE %2 SET %1 = ? WHERE %3")
                             .arg(column, table, where);
     int flips = 0;
     const QVariantList others = flipped(value);
@@ -146,11 +147,11 @@ TEST_P(FlippedBit, OfAnOpenReceipt_IsRefused)
         if (other.typeId() == QMetaType::Double
             && (std::isnan(other.toDouble()) || other.toDouble() == value.toDouble()))
             continue;
-        if (column == "state" && (other.toLongLong() < 0 || other.toLongLong() > 3))
-            continue; // refused by the database
+        run(set, {other});
+        if (run("SELECT changes()") == QVariantList{0})
+            continue; // the database itself refuses it
         ++flips;
         SCOPED_TRACE(other.toString().toStdString());
-        run(set, {other});
         isRefused();
         run(set, {value});
     }
@@ -168,10 +169,13 @@ INSTANTIATE_TEST_SUITE_P(
         Column{"positions", "code"}, Column{"positions", "name"}, Column{"positions", "price"},
         Column{"positions", "taraMode"}, Column{"positions", "taraCapacity"},
         Column{"positions", "pack"}, Column{"positions", "unit"}, Column{"positions", "count"},
-        Column{"positions", "base"}, Column{"positions", "stornoed"}, Column{"positions", "digest"},
-        Column{"softChecks", "number"}, Column{"softChecks", "digest"},
-        Column{"pluginData", "plugin"}, Column{"pluginData", "key"}, Column{"pluginData", "place"},
-        Column{"pluginData", "value"}, Column{"pluginData", "digest"}),
+        Column{"positions", "base"}, Column{"positions", "groupId"},
+        Column{"positions", "stornoed"}, Column{"positions", "digest"},
+        Column{"positions", "place", "posnum = 1"}, Column{"softChecks", "number"},
+        Column{"softChecks", "place", "number = '5'"}, Column{"softChecks", "digest"},
+        Column{"pluginData", "plugin", "place = 2"}, Column{"pluginData", "key", "place = 2"},
+        Column{"pluginData", "place", "key = 'other'"}, Column{"pluginData", "value", "place = 2"},
+        Column{"pluginData", "types", "key = 'own'"}, Column{"pluginData", "digest", "place = 2"}),
     [](const auto &test) { return std::string(test.param.table) + '_' + test.param.column; });
 
 //! What somebody may have done to rows, and what the till says to it.

@@ -172,6 +172,10 @@ INSTANTIATE_TEST_SUITE_P(
         std::pair("positions SET count = 1e300", "position 2 has a quantity out of range"),
         std::pair("positions SET count = 9e999", "position 2 has a quantity out of range"),
         std::pair("positions SET count = 1000000", "position 2 has a quantity out of range"),
+        std::pair("positions SET price = 99999999999999, count = 999999",
+                  "position 2 has a sum out of range"),
+        std::pair("positions SET price = 99999999999999, count = -1.001",
+                  "position 2 has a sum out of range"),
         std::pair("positions SET base = -9e999", "position 2 has a quantity out of range"),
         std::pair("positions SET pack = 0", "position 2 has a pack out of range"),
         std::pair("positions SET taraCapacity = -1", "position 2 has a tara capacity out of range"),
@@ -179,6 +183,13 @@ INSTANTIATE_TEST_SUITE_P(
         std::pair("positions SET posnum = -1", "-1 is no number of a position"),
         std::pair("positions SET posnum = 5", "position 5 has a number that was not given yet"),
         std::pair("positions SET posnum = 3", "position 3 is there twice")));
+
+TEST_F(StorageUpgrade, TotalOutOfRange_IsRefused)
+{
+    query("UPDATE positions SET price = 99999999999999, count = 1, stornoed = 0 WHERE receipt = 3");
+    EXPECT_THAT(faultText(opened()->unfinishedReceipt()).toStdString(),
+                HasSubstr("receipt 3: its total is out of range; "));
+}
 
 TEST_F(StorageUpgrade, WithoutRoom_LeavesTheFileAndNoCopy)
 {

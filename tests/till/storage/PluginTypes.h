@@ -10,6 +10,8 @@
 struct Streamed
 {
     int number = 0;
+
+    bool operator==(const Streamed &other) const = default;
 };
 
 inline QDataStream &operator<<(QDataStream &stream, const Streamed &value)

@@ -1,4 +1,5 @@
 #include "tests/till/storage/StorageFixture.h"
+#include "till/goods/Limits.h"
 
 #include <limits>
 
@@ -60,6 +61,21 @@ TEST_F(StorageSave, QuantityThatIsNoNumber_IsRefusedAndNothingStored)
               path() + ": position 2 has a quantity out of range, which cannot be stored");
     EXPECT_EQ(unfinished(*storage), before);
     EXPECT_TRUE(journalOf(path(), record.id).isEmpty());
+}
+
+TEST_F(StorageSave, SumThatIsOutOfRange_IsRefused)
+{
+    const auto storage = opened();
+    ReceiptRecord record = receiptOf(2);
+    record.lines[0].article.price = greatestSum - record.lines[1].sum();
+    save(*storage, record);
+    record.lines[0].count = 1e5;
+    EXPECT_EQ(trySave(*storage, record),
+              path() + ": position 1 has a sum out of range, which cannot be stored");
+    record.lines[0].count = 1.0;
+    record.lines[0].article.price += 1;
+    EXPECT_EQ(trySave(*storage, record),
+              path() + ": its total is out of range, which cannot be stored");
 }
 
 TEST_F(StorageSave, RefusedFirstSave_LeavesTheRecordWithoutANumber)

@@ -1,5 +1,6 @@
 #include "window/archive/ReceiptsPanel.h"
 
+#include "tests/till/support/Sql.h"
 #include "tests/window/support/ModelTexts.h"
 #include "tests/window/support/PartTest.h"
 
@@ -55,6 +56,32 @@ TEST_F(PastReceipts, Click_ShowsTheReceiptAndItsCourse)
     EXPECT_TRUE(page().contains("CHIPS"));
     EXPECT_TRUE(page().contains("129.90"));
     EXPECT_TRUE(page().contains("add BEER 2"));
+}
+
+TEST_F(PastReceipts, DamagedDataOfAPlugin_AreToldBelowTheLines)
+{
+    rowsOf(database, "UPDATE pluginData SET value = x'00' WHERE receipt = 1 AND key = 'taraInfo'");
+
+    clickRow(2);
+
+    EXPECT_TRUE(page().contains("129.90")) << page().toStdString();
+    EXPECT_TRUE(page()
+                    .section("TOTAL", 1)
+                    .section("Course", 0, 0)
+                    .contains("Receipt 1 is damaged: the data of plugin \"PackagingControl\" under "
+                              "\"taraInfo\" are "
+                              "damaged"))
+        << page().toStdString();
+    EXPECT_TRUE(page().contains("add BEER 2"));
+}
+
+TEST_F(PastReceipts, DamagedReceipt_IsNotShown)
+{
+    rowsOf(database, "UPDATE positions SET price = 1 WHERE receipt = 1 AND posnum = 3");
+
+    clickRow(2);
+
+    EXPECT_EQ(page(), "Receipt 1 is damaged: position 3 is not as it was stored");
 }
 
 TEST_F(PastReceipts, Keys_GoFromOneToTheNext)

@@ -57,6 +57,17 @@ TEST_F(TillWindowTest, DeclinedQuestion_StopsTheCommand)
     EXPECT_EQ(receipt()->state(), ReceiptState::Open);
 }
 
+TEST_F(TillWindowTest, DeclinedQuestion_IsToldInTheLanguageThatIsChosenAfterwards)
+{
+    scan("BAG");
+    answer({false});
+    click("cancelReceipt");
+
+    window->setLanguage("ru");
+
+    EXPECT_EQ(told(), "На вопрос \"Отменить чек?\" ответили \"нет\"");
+}
+
 TEST_F(TillWindowTest, ScannerThatTypesIntoAQuestion_DoesNotSayYes)
 {
     scan("BAG");

@@ -85,6 +85,31 @@ TEST_F(ReceiptModelTest, Row_SaysWhatTheViewSays)
     EXPECT_EQ(text(0, ReceiptModel::Sum), "18.00");
 }
 
+TEST_F(ReceiptModelTest, RowOfAPosition_IsWhereItStands)
+{
+    run({command::Add{"CHIPS", 3}, command::Add{"PET1"}, command::Split{1, {1}}});
+
+    EXPECT_EQ(model.rowOf(1), 0);
+    EXPECT_EQ(model.rowOf(3), 2);
+    EXPECT_EQ(model.rowOf(4), -1);
+    model.show(nullptr);
+    EXPECT_EQ(model.rowOf(1), -1);
+}
+
+TEST_F(ReceiptModelTest, WhileAChangeIsTold_NewRowsAreNotThereYet)
+{
+    run({command::Add{"CAN3"}});
+    QList<int> rows;
+    QObject::connect(&model, &QAbstractItemModel::dataChanged, &model,
+                     [&] { rows.append(model.rowOf(2)); });
+    QObject::connect(&model, &QAbstractItemModel::rowsInserted, &model,
+                     [&] { rows.append(model.rowOf(2)); });
+
+    run({command::Add{"BEER"}});
+
+    EXPECT_EQ(rows, (QList<int>{-1, 1}));
+}
+
 TEST_F(ReceiptModelTest, Tara_SaysWhatIsInIt)
 {
     run({command::Add{"PET15"}, command::Add{"BEER", 0.5}, command::Add{"DARK", 0.25}});
