@@ -7,7 +7,7 @@
 
 // Everything that the register itself says to a cashier: a key, which is also the name of the
 // function that gives the message, and the Russian text. In patterns "%1" and "%2" stand for the
-// values, "%Q" for what is quoted. A message added here needs a text in each .ini file beside this
+// values, "%Q" for what is quoted. A message added here needs a text in each .ts file beside this
 // one.
 #define TILL_MESSAGES(MESSAGE)                                                                     \
     /* Questions and refusals */                                                                   \
