@@ -50,7 +50,8 @@ if [ "${1-}" = --renew ]; then
 fi
 
 factor=${1:-1}
-seed=${TEST_SEED:-1}
+seed=${TEST_SEED:-20240607}
+echo "Fuzzing with seed $seed; TEST_SEED=N tries another"
 pids=()
 for target in "${targets[@]}"; do
     read -r name runs length processes <<<"$target"
@@ -58,7 +59,7 @@ for target in "${targets[@]}"; do
     for ((i = 1; i <= processes; ++i)); do
         # shellcheck disable=SC2046
         "$build/bin/fuzz_$name" -runs=$((runs * factor / processes)) -max_len="$length" -timeout=20 \
-            -seed=$(((seed + i - 1) % 4294967295)) -print_final_stats=1 \
+            -seed=$(((seed + i) % 4294967295 + 1)) -print_final_stats=1 \
             -artifact_prefix="$findings/$name-" $(words "$name") \
             "$build/new/$name" "fuzz/corpus/$name" >"$log/$name-$i.log" 2>&1 &
         pids+=($!)

@@ -15,6 +15,7 @@ CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
 cmake --build "$build" --target autogen >/dev/null
 # Clang's analyzer follows paths only in the file that it is given, and in those that this one includes
 # itself if its name has UnifiedSource in it.
+find "$build" -name 'UnifiedSource_*' -delete
 find "$build" -name 'unity_*.cxx' -print0 | while IFS= read -r -d '' batch; do
     cp "$batch" "${batch/\/unity_//UnifiedSource_}"
 done
@@ -25,27 +26,15 @@ batches() {
     find "$build" -path "$1" -name 'UnifiedSource_*.cxx' -print0 | sort -rz
 }
 
-# covered FILTER SOURCES...: fails where a source is in none of the batches, so that none is left out.
-covered() {
-    local filter=$1 source
-    shift
-    for source in "$@"; do
-        batches "$filter" | xargs -0 grep -qsF "/$source\"" \
-            || { echo "$source is in no batch of $build" >&2; return 1; }
-    done
-}
-
 mapfile -t plugin < <(git ls-files 'plugin/*.cpp' 'registry/*.cpp' 'events/*.cpp' 'triggers/*.cpp')
 mapfile -t others < <(git ls-files 'host/*.cpp' 'log4qt/*.cpp' 'till/*.cpp' 'window/*.cpp')
-covered '*/plugin/*' "${plugin[@]}"
-covered '*' "${others[@]}"
 
 # The till's modules are small, and read together as far as the names in them go together.
 mapfile -t flags < <(grep -B 1 -E '"file": ".*/(till|window)/' "$build/compile_commands.json" \
     | grep -oE -- '-(D[^ ]+|I[^ ]+|isystem [^ ]+)' | sed 's/isystem /isystem/; s/\\\\\\"/"/g' | sort -u)
 flags+=(-std=c++20 -fPIC)
-# together BATCHES...: tells a file that has them all, or several.
-together() {
+# join BATCHES...: tells a file that has them all, or several.
+join() {
     local all
     all=$(mktemp "$build/UnifiedSource_XXXXXX.cxx")
     cat "$@" >"$all"
@@ -53,21 +42,25 @@ together() {
         printf '%s\0' "$all"
     else
         rm "$all"
-        together "${@:1:$#/2}"
-        together "${@:$#/2+1}"
+        join "${@:1:$#/2}"
+        join "${@:$#/2+1}"
     fi
 }
-tidy=(clang-tidy --quiet --checks=-bugprone-suspicious-include)
-
-echo "clang-tidy: $((${#plugin[@]} + ${#others[@]})) sources"
-rm -f "$build"/UnifiedSource_*
 mapfile -d '' -t small < <(batches "$build/till/*"; batches "$build/window/*")
-for ((i = 0; i < ${#small[@]}; i += 10)); do
-    together "${small[@]:i:10}"
-done | xargs -0 -I '{}' -P "$(nproc)" "${tidy[@]}" '{}' -- "${flags[@]}"
-for module in plugin host log4qt contract; do
-    batches "$build/$module/*"
-done | xargs -0 -n 1 -P "$(nproc)" "${tidy[@]}" -p "$build"
+mapfile -d '' -t joined < <(for ((i = 0; i < ${#small[@]}; i += 10)); do join "${small[@]:i:10}"; done)
+mapfile -d '' -t apart < <(for module in plugin host log4qt contract; do batches "$build/$module/*"; done)
+for source in "${plugin[@]}" "${others[@]}"; do
+    grep -qsF "/$source\"" "${joined[@]}" "${apart[@]}" \
+        || { echo "$source is in no batch that is read" >&2; exit 1; }
+done
+
+# tidy ARGUMENTS...: reads the files that it is given.
+tidy() {
+    xargs -0 -I '{}' -P "$(nproc)" clang-tidy --quiet --checks=-bugprone-suspicious-include '{}' "$@"
+}
+echo "clang-tidy: $((${#plugin[@]} + ${#others[@]})) sources"
+printf '%s\0' "${apart[@]}" | tidy -p "$build"
+printf '%s\0' "${joined[@]}" | tidy -- "${flags[@]}"
 
 # Batches hide what a source forgot to include, so each is compiled alone too, but for its code.
 alone=build/lint-alone

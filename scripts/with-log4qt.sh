@@ -8,6 +8,7 @@
 #
 # Log4Qt is not to be had from Debian. Version 1.6 fits Qt 6.4, version 2.0 Qt 6.5 and newer.
 set -euo pipefail
+given=${1+$(realpath -m -- "$1")} # from where the caller is
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/dependencies.sh
 . scripts/dependencies.sh
@@ -41,8 +42,7 @@ case ${1-} in
         prefix=$PWD/$build/prefix
         install_stand_in "$prefix" >"$build/stand-in.log" 2>&1 || { cat "$build/stand-in.log" >&2; exit 1; }
         ;;
-    /*) prefix=$1 ;;
-    ?*) prefix=$PWD/$1 ;;
+    ?*) prefix=$given ;;
     *)
         echo "usage: $0 PREFIX | --stand-in" >&2
         exit 2
@@ -67,5 +67,7 @@ if ! readelf -d "$build/build/lib/packagingcontrol/plugins/PackagingControl.so" 
 fi
 
 # What was logged is looked at in tests of every module. The tests of the stand-in itself are not
-# built, and the installed tree is another matter.
-ctest --test-dir "$build/build" -j "$(nproc)" --output-on-failure --no-tests=error -E '^Install\.|_NOT_BUILT'
+# built, nor is what was not asked for, and the installed tree is another matter.
+left_out='^Install\.|_is_not_built$'
+[ $# -eq 0 ] || left_out+='|^(Contract|PluginSession|Slot|regressions|till)\.'
+ctest --test-dir "$build/build" -j "$(nproc)" --output-on-failure --no-tests=error -E "$left_out"
