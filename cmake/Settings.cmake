@@ -37,11 +37,10 @@ endif()
 # Programs share precompiled headers with libraries, and are compiled as those are.
 add_compile_options(-fPIC)
 add_link_options(-Wl,--as-needed)
-set(delivered $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
 # What is not delivered may be linked by any linker: this one takes a fifth of the time.
 find_program(PACKAGINGCONTROL_LLD ld.lld)
 if(PACKAGINGCONTROL_LLD)
-    add_link_options("$<$<NOT:${delivered}>:-fuse-ld=lld>")
+    add_link_options($<$<CONFIG:Debug>:-fuse-ld=lld>)
 endif()
 if(PACKAGINGCONTROL_SANITIZE)
     set(PACKAGINGCONTROL_SANITIZERS -fsanitize=address,undefined)
@@ -52,6 +51,7 @@ else()
     add_link_options(-Wl,--no-undefined)
 
     # What is delivered is hardened as Debian hardens its packages, and names no folder of its build.
+    set(delivered $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
     add_compile_options("$<${delivered}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
     add_compile_options("$<${delivered}:-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>")
     add_compile_options("$<${delivered}:-fstack-protector-strong;-Wformat;-Wformat-security>")
