@@ -2,6 +2,7 @@
 
 #include "till/archive/Upkeep.h"
 #include "till/database/DatabaseFile.h"
+#include "till/database/SqlFault.h"
 #include "till/receipt/Receipt.h"
 #include "till/storage/Storage.h"
 
@@ -28,6 +29,13 @@ QString summary(const CheckReport &report)
         return counts;
     const bool hasNone = report.whole == 0 && report.odd.isEmpty();
     return hasNone ? QStringLiteral("cannot be read") : counts + ", others cannot be read";
+}
+
+//! What leads on where a receipt cannot even be set apart.
+Fault withoutSettingApart(const Fault &fault)
+{
+    return {fault.place, fault.reason,
+            fault.remedy == wayOutOfDamage() ? wayBackFromDamage() : fault.remedy};
 }
 
 //! The lines of the receipt that hold, for whoever has to enter them anew.
@@ -79,12 +87,12 @@ Result<Finding, Failure> setApartStored(const QString &database, const QString &
         return Failure{UsageError, {"set-apart", '"' + number + "\" is no number of a receipt"}};
     if (const Result<> checked = checkReadable(database); !checked)
         return Failure{StartFailed, checked.error()}; // else a database would be made there
-    const auto storage = Storage::open(database);
+    const auto storage = Storage::open(database, Storage::For::SettingApart);
     if (!storage)
-        return Failure{StartFailed, storage.error()};
+        return Failure{StartFailed, withoutSettingApart(storage.error())};
     const auto reason = (*storage)->setApart(id);
     if (!reason)
-        return Failure{CommandFailed, reason.error()};
+        return Failure{CommandFailed, withoutSettingApart(reason.error())};
     const QString copy = (*storage)->copyBefore();
     const QString before =
         copy.isEmpty() ? QString() : translator.text(broughtToFormat(database, copy)) + '\n';

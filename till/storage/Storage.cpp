@@ -23,9 +23,12 @@ Storage::Storage(std::unique_ptr<Database> database)
 
 Storage::~Storage() = default;
 
-Result<std::unique_ptr<Storage>> Storage::open(const QString &path)
+Result<std::unique_ptr<Storage>> Storage::open(const QString &path, For use)
 {
-    auto database = Database::open(path, Database::Access::Till, checkOurs);
+    auto database = Database::open(path, Database::Access::Till, [use](Database &left) -> Result<> {
+        const Result<> ours = checkOurs(left);
+        return ours && use == For::Selling ? left.checkFile() : ours;
+    });
     if (!database)
         return database.error();
     const Result<QString> copy = prepareSchema(**database);

@@ -39,13 +39,20 @@ struct JournalEntry
 class Storage
 {
 public:
+    //! What a database is opened for.
+    enum class For {
+        Selling,
+        SettingApart, //!< which a file that is damaged elsewhere does not stop
+    };
+
     /*!
      * Opens the database at \a path, or makes it when there is no file; ":memory:" is one that goes
      * with the object. A file that is in use, damaged, another program's or another version's, or
      * cannot be written is left as it was. One of the format before is brought to today's: see
-     * `copyBefore`. A file that was left by a killed till is checked as a whole.
+     * `copyBefore`. A file that was left by a killed till is checked as a whole before anything is
+     * sold on it.
      */
-    static Result<std::unique_ptr<Storage>> open(const QString &path);
+    static Result<std::unique_ptr<Storage>> open(const QString &path, For use = For::Selling);
     ~Storage();
     Q_DISABLE_COPY_MOVE(Storage)
 
