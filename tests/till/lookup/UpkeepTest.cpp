@@ -46,13 +46,27 @@ TEST_F(Upkeep, CheckWithoutADatabase_IsAFileThatCannotBeUsed)
 TEST_F(Upkeep, CheckOfAFileThatCannotBeRead_CountsNothing)
 {
     sell();
-    QByteArray bytes = contents(database());
+    const QByteArray bytes = contents(database());
     constexpr qsizetype page = 4096;
-    overwrite(database(), bytes.replace(page, 200, QByteArray(200, '\xa5')));
+    overwrite(database(), bytes.left(page) + QByteArray(bytes.size() - page, '\xa5'));
     const RunResult checked = check();
     EXPECT_EQ(checked.status, 1);
     EXPECT_THAT(checked.out, StartsWith("file            the database is damaged ("));
     EXPECT_THAT(checked.out, HasSubstr("\nreceipts        cannot be read\n"));
+}
+
+TEST_F(Upkeep, CheckOfAFileWhoseHeadersCannotBeRead_NamesTheReceiptsOfWhichThereAreOtherRows)
+{
+    sell();
+    QByteArray bytes = contents(database());
+    constexpr qsizetype page = 4096; // the second is that of the headers
+    overwrite(database(), bytes.replace(page, 200, QByteArray(200, '\xa5')));
+    const RunResult checked = check();
+    EXPECT_EQ(checked.status, 1);
+    EXPECT_THAT(checked.out,
+                HasSubstr("\nreceipts        0 whole, 2 damaged, 0 set apart, others cannot be "
+                          "read\nreceipt 1       damaged: the database is damaged ("));
+    EXPECT_THAT(checked.out, HasSubstr("\nreceipt 2       damaged: the database is damaged ("));
 }
 
 TEST_F(Upkeep, DamagedReceipt_IsRefusedThenSetApartAndAnotherOpened)
