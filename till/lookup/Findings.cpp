@@ -38,12 +38,10 @@ Fault withoutSettingApart(const Fault &fault)
             fault.remedy == wayOutOfDamage() ? wayBackFromDamage() : fault.remedy};
 }
 
-//! The lines of the receipt that hold, for whoever has to enter them anew.
-QString linesOf(const Storage &storage, qint64 id, const ReceiptView &view)
+//! What of the receipt holds, for whoever has to enter it anew.
+QString remainsOf(const Storage &storage, qint64 id, const ReceiptView &view)
 {
-    ReceiptRecord record;
-    record.id = id;
-    record.lines = storage.lines(id);
+    const ReceiptRecord record = storage.remains(id);
     return record.lines.isEmpty() ? "none of its lines can be read"
                                   : view.render(Receipt(record), {}, TaraControl::Absent);
 }
@@ -99,7 +97,7 @@ Result<Finding, Failure> setApartStored(const QString &database, const QString &
     return Finding{
         AllWell,
         before + QString("receipt %1 is set apart (%2) and stays as it is\n").arg(number, *reason)
-            + linesOf(**storage, id, ReceiptView(translator, style))};
+            + remainsOf(**storage, id, ReceiptView(translator, style))};
 }
 
 } // namespace till

@@ -73,17 +73,27 @@ Result<std::optional<ReceiptRecord>> Storage::receipt(qint64 id) const
     return readReceipt(*m_database, id);
 }
 
-QList<LineRecord> Storage::lines(qint64 id) const
+ReceiptRecord Storage::remains(qint64 id) const
 {
+    ReceiptRecord remains;
+    remains.id = id;
     const auto read = readRows(*m_database, id);
-    QList<LineRecord> lines = read && *read ? (*read)->record.lines : QList<LineRecord>();
+    if (!read || !*read)
+        return remains;
+    const ReceiptRecord &record = (*read)->record;
+    if ((*read)->isHeaderWhole) {
+        remains.type = record.type;
+        remains.state = record.state;
+        remains.order = record.order;
+    }
+    remains.lines = record.lines;
     QSet<int> numbers;
-    lines.removeIf([&](const LineRecord &line) {
+    remains.lines.removeIf([&](const LineRecord &line) {
         const bool isSecond = numbers.contains(line.posnum);
         numbers.insert(line.posnum);
         return isSecond || !check(line, std::numeric_limits<int>::max());
     });
-    return lines;
+    return remains;
 }
 
 Result<QString> Storage::setApart(qint64 id)

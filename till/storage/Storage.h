@@ -80,9 +80,9 @@ public:
     //! The receipt with that number; nothing when there is none.
     Result<std::optional<ReceiptRecord>> receipt(qint64 id) const;
 
-    //! Those lines of the receipt that hold, whatever else of it does not, each number once; none
-    //! of one that cannot be read.
-    QList<LineRecord> lines(qint64 id) const;
+    //! What holds of the receipt's header and lines, whatever else of it does not, each line's
+    //! number once; no lines of one that cannot be read.
+    ReceiptRecord remains(qint64 id) const;
 
     //! Sets the receipt apart: it stays as it is, and is never taken up again. Returns the reason,
     //! what does not hold or that it is unfinished. A fault of an unknown number and of a finished

@@ -111,6 +111,16 @@ TEST_F(Upkeep, LinesThatHold_AreShownBesideOneThatDoesNot)
     EXPECT_THAT(apart.out, Not(HasSubstr("CAN3")));
 }
 
+TEST_F(Upkeep, HeaderThatHolds_IsShownWithTheLines)
+{
+    EXPECT_EQ(run({"--db", database()}, "open return\nadd CHIPS\nadd BAG\norder A7\npay\n").status,
+              0);
+    query("UPDATE positions SET price = -100 WHERE place = 1");
+    const RunResult apart = run({"--db", database(), "--lang", "en", "set-apart", "1"});
+    EXPECT_THAT(apart.out, HasSubstr("Return No. 1 \302\267 closed \302\267 order A7"));
+    EXPECT_THAT(apart.out, HasSubstr("CHIPS"));
+}
+
 TEST_F(Upkeep, ReceiptOfWhichNothingHolds_IsSetApartWithoutLines)
 {
     sell();

@@ -172,7 +172,7 @@ TEST_P(DamagedPluginData, DoesNotHideTheLines)
     save(*opened(), record);
     query(QStringLiteral("UPDATE pluginData SET %1").arg(GetParam()));
 
-    EXPECT_EQ(opened()->lines(record.id), record.lines);
+    EXPECT_EQ(opened()->remains(record.id).lines, record.lines);
     EXPECT_FALSE(opened()->receipt(record.id));
 }
 
