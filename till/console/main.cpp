@@ -80,7 +80,7 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
     };
     CommandLine commands(desk, notes, translator, options.style,
                          {show, isTerminal() ? ask : decltype(CommandLine::Person::ask)()});
-    const QString receipt = commands.renderReceipt();
+    const QString receipt = quiet ? QString() : commands.renderReceipt();
     if (!receipt.isEmpty())
         show(receipt);
     return runInteractive(commands, translator, historyFile(), show) ? AllWell : CommandFailed;
