@@ -1,7 +1,9 @@
 #include "tests/till/console/ProgramFixture.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 // What the program does with its database beside selling.
@@ -262,6 +264,24 @@ TEST_F(Upkeep, FolderThatTheTillMakes_IsItsOwnersAlone)
     EXPECT_EQ(run({"--db", folder + "/till.sqlite"}, "open\n").status, 0);
     for (const QString &made : {folder, path("shop")})
         EXPECT_EQ(QFile::permissions(made) & others, QFile::Permissions()) << made.toStdString();
+}
+
+TEST_F(Upkeep, FolderOfAnEarlierTill_IsItsOwnersAloneUnlessItWasNamed)
+{
+    const auto mode = [this](const QString &folder) {
+        struct stat status = {};
+        EXPECT_EQ(stat(QFile::encodeName(path(folder)).constData(), &status), 0);
+        return status.st_mode & 07777;
+    };
+    for (const QString folder : {"data", "data/till", "shop"}) {
+        ASSERT_TRUE(QDir().mkpath(path(folder)));
+        ASSERT_EQ(chmod(QFile::encodeName(path(folder)).constData(), 0755), 0);
+    }
+    EXPECT_EQ(run({}, "open\n").status, 0);
+    EXPECT_EQ(run({"--db", path("shop/till.sqlite")}, "open\n").status, 0);
+    EXPECT_EQ(mode("data/till"), 0700U);
+    EXPECT_EQ(mode("data"), 0755U);
+    EXPECT_EQ(mode("shop"), 0755U);
 }
 
 } // namespace
