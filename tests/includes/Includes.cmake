@@ -36,7 +36,7 @@ may_include(till/plugins host till/result)
 may_include(till/settings host till/result till/language)
 may_include(till/actions ${receipt} log4qt till/language till/course)
 may_include(till/register ${known_by_till/actions} till/actions till/plugins till/settings till/storage)
-may_include(till/startup ${known_by_till/register} till/register)
+may_include(till/startup ${known_by_till/register} till/register till/database)
 may_include(till/view ${receipt} till/language)
 may_include(till/reports ${known_by_till/archive} till/archive till/course till/language till/view)
 may_include(till/words ${known_by_till/register} till/register)
@@ -63,7 +63,7 @@ may_include(window/archive ${known_by_till/reports} till/reports window/look)
 may_include(window/scripts ${known_by_till/script} till/script window/look window/archive)
 may_include(window/desk ${look} window/receipt window/articles window/shelf window/dialogs window/course
     window/scripts)
-may_include(window/program ${look} window/desk till/startup till/database)
+may_include(window/program ${look} window/desk till/startup)
 
 # Sets FOLDER to the folder that PATH, which an include names, leads into: empty for what is not the
 # project's.

@@ -3,7 +3,6 @@
 #include "till/console/Play.h"
 #include "till/console/TraceFile.h"
 #include "till/course/Trace.h"
-#include "till/database/DatabaseFile.h"
 #include "till/lookup/Findings.h"
 #include "till/lookup/FromTrace.h"
 #include "till/lookup/Info.h"
@@ -17,13 +16,11 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
 #include <QtCore/QLoggingCategory>
 
 #include <clocale>
 #include <csignal>
 #include <cstring>
-#include <tuple>
 
 #include <fcntl.h>
 #include <langinfo.h>
@@ -57,9 +54,7 @@ int info(const Options &options)
 
 int openRegister(const Options &options, Notes &notes, const Translator &translator)
 {
-    if (options.setup.database != ":memory:")
-        // Where it cannot be made, the database says that it is missing.
-        std::ignore = makePrivateFolder(QFileInfo(options.setup.database).absolutePath());
+    prepareFolder(options.setup.database);
     CashDesk desk(options.setup, notes);
     if (const Result<> started = desk.start(); !started)
         return fail(StartFailed, started.error().text());
@@ -80,7 +75,7 @@ int openRegister(const Options &options, Notes &notes, const Translator &transla
     };
     CommandLine commands(desk, notes, translator, options.style,
                          {show, isTerminal() ? ask : decltype(CommandLine::Person::ask)()});
-    const QString receipt = commands.renderReceipt();
+    const QString receipt = quiet ? QString() : commands.renderReceipt();
     if (!receipt.isEmpty())
         show(receipt);
     return runInteractive(commands, translator, historyFile(), show) ? AllWell : CommandFailed;

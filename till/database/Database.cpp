@@ -56,11 +56,11 @@ void Database::disconnect()
 }
 
 Result<std::unique_ptr<Database>> Database::open(const QString &path, Access access,
-                                                 const Check &isOurs)
+                                                 const Check &leftOpen)
 {
     std::unique_ptr<Database> database(new Database(path, access));
     const Result<> opened =
-        database->prepare(isOurs).then([&] { return database->connectToFile(); });
+        database->prepare(leftOpen).then([&] { return database->connectToFile(); });
     if (!opened)
         return opened.error();
     return database;
@@ -72,23 +72,19 @@ Fault Database::fault(const QSqlError &error) const
     return {m_path, fault.reason, fault.remedy};
 }
 
-Result<> Database::prepare(const Check &isOurs)
+Result<> Database::prepare(const Check &leftOpen)
 {
     if (m_access == Access::Reading)
         return checkReadable(m_path);
     if (m_path == inMemory())
         return {};
-    return checkPlace(m_path).then([this] { return claim(); }).then([&] {
-        return hasLog(m_path) ? checkLeftOpen(isOurs) : Result<>();
-    });
-}
-
-//! Read by somebody who cannot write, for who can write brings the log into the file at the end.
-Result<> Database::checkLeftOpen(const Check &isOurs) const
-{
-    return open(m_path, Access::Reading).then([&](const auto &reader) {
-        const Result<> ours = isOurs ? isOurs(*reader) : Result<>();
-        return ours.then([&] { return reader->checkFile(); });
+    return checkPlace(m_path).then([this] { return claim(); }).then([&]() -> Result<> {
+        if (!leftOpen || !hasLog(m_path))
+            return {};
+        // By one who cannot write, for who can brings the log into the file at the end.
+        return open(m_path, Access::Reading).then([&](const auto &reader) {
+            return leftOpen(*reader);
+        });
     });
 }
 

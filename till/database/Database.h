@@ -31,12 +31,12 @@ public:
     using Check = std::function<Result<>(Database &database)>;
 
     /*!
-     * Connects to the file at \a path; a till makes it, empty, when there is none, and checks one
-     * that was left with a log, as after a kill: first by \a isOurs, for in the end the log is
-     * brought into the file.
+     * Connects to the file at \a path; a till makes it, empty, when there is none. One that was
+     * left with a log, as after a kill, it opens only if \a leftOpen finds nothing against that,
+     * for in the end the log is brought into the file.
      */
     static Result<std::unique_ptr<Database>> open(const QString &path, Access access,
-                                                  const Check &isOurs = {});
+                                                  const Check &leftOpen = {});
     ~Database();
     Q_DISABLE_COPY_MOVE(Database)
 
@@ -100,9 +100,8 @@ private:
 
     Database(const QString &path, Access access);
 
-    Result<> prepare(const Check &isOurs);
+    Result<> prepare(const Check &leftOpen);
     Result<> claim();
-    Result<> checkLeftOpen(const Check &isOurs) const;
     Result<> connectToFile();
     bool connectToRead();
     bool connectAs(const QString &name, const QString &options);

@@ -48,6 +48,12 @@ QString wayOutOfDamage()
         "one out; or put a copy that was made before in its place");
 }
 
+QString wayBackFromDamage()
+{
+    return QStringLiteral("put a copy that was made before in its place; what can still be read, "
+                          "\"till receipts\" and \"till receipt NUMBER\" show");
+}
+
 Fault faultOf(const QSqlError &error)
 {
     // The low byte is the primary code; the rest tells details.

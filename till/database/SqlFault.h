@@ -15,6 +15,8 @@ Fault faultOf(const QSqlError &error);
 
 //! What can be done with a database file that is damaged.
 QString wayOutOfDamage();
+//! The same where no receipt can be set apart, or that would not help.
+QString wayBackFromDamage();
 
 } // namespace till
 

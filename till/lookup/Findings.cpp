@@ -2,6 +2,7 @@
 
 #include "till/archive/Upkeep.h"
 #include "till/database/DatabaseFile.h"
+#include "till/database/SqlFault.h"
 #include "till/receipt/Receipt.h"
 #include "till/storage/Storage.h"
 
@@ -30,12 +31,17 @@ QString summary(const CheckReport &report)
     return hasNone ? QStringLiteral("cannot be read") : counts + ", others cannot be read";
 }
 
-//! The lines of the receipt that hold, for whoever has to enter them anew.
-QString linesOf(const Storage &storage, qint64 id, const ReceiptView &view)
+//! What leads on where a receipt cannot even be set apart.
+Fault withoutSettingApart(const Fault &fault)
 {
-    ReceiptRecord record;
-    record.id = id;
-    record.lines = storage.lines(id);
+    return {fault.place, fault.reason,
+            fault.remedy == wayOutOfDamage() ? wayBackFromDamage() : fault.remedy};
+}
+
+//! What of the receipt holds, for whoever has to enter it anew.
+QString remainsOf(const Storage &storage, qint64 id, const ReceiptView &view)
+{
+    const ReceiptRecord record = storage.remains(id);
     return record.lines.isEmpty() ? "none of its lines can be read"
                                   : view.render(Receipt(record), {}, TaraControl::Absent);
 }
@@ -79,19 +85,19 @@ Result<Finding, Failure> setApartStored(const QString &database, const QString &
         return Failure{UsageError, {"set-apart", '"' + number + "\" is no number of a receipt"}};
     if (const Result<> checked = checkReadable(database); !checked)
         return Failure{StartFailed, checked.error()}; // else a database would be made there
-    const auto storage = Storage::open(database);
+    const auto storage = Storage::open(database, Storage::For::SettingApart);
     if (!storage)
-        return Failure{StartFailed, storage.error()};
+        return Failure{StartFailed, withoutSettingApart(storage.error())};
     const auto reason = (*storage)->setApart(id);
     if (!reason)
-        return Failure{CommandFailed, reason.error()};
+        return Failure{CommandFailed, withoutSettingApart(reason.error())};
     const QString copy = (*storage)->copyBefore();
     const QString before =
         copy.isEmpty() ? QString() : translator.text(broughtToFormat(database, copy)) + '\n';
     return Finding{
         AllWell,
         before + QString("receipt %1 is set apart (%2) and stays as it is\n").arg(number, *reason)
-            + linesOf(**storage, id, ReceiptView(translator, style))};
+            + remainsOf(**storage, id, ReceiptView(translator, style))};
 }
 
 } // namespace till

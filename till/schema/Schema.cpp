@@ -1,6 +1,7 @@
 #include "till/schema/Schema.h"
 
 #include "till/database/Database.h"
+#include "till/database/SqlFault.h"
 #include "till/schema/Upgrade.h"
 
 namespace till {
@@ -173,7 +174,8 @@ Result<> checkTables(Database &database)
             return database.fault(
                 QStringLiteral("the database is damaged (its %1 %2 is missing or altered)")
                     .arg(sql.section(QLatin1Char(' '), 1, 1).toLower(),
-                         sql.section(QLatin1Char(' '), 2, 2)));
+                         sql.section(QLatin1Char(' '), 2, 2)),
+                wayBackFromDamage());
     }
     return {};
 }

@@ -1,11 +1,15 @@
 #include "till/startup/SetupOptions.h"
 
+#include "till/database/DatabaseFile.h"
 #include "till/language/Translator.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QStandardPaths>
+
+#include <tuple>
 
 namespace till {
 
@@ -36,6 +40,19 @@ QString delivered(const QString &relative)
 QString defaultDatabase()
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/till.sqlite";
+}
+
+void prepareFolder(const QString &database)
+{
+    if (database == inMemory())
+        return;
+    const QString folder = QFileInfo(database).absolutePath();
+    // Where it cannot be made, the database says that it is missing.
+    std::ignore = makePrivateFolder(folder);
+    if (folder == QFileInfo(defaultDatabase()).absolutePath() && !QFileInfo(folder).isSymLink())
+        QFile::setPermissions(folder,
+                              QFile::permissions(folder)
+                                  & (QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 }
 
 QList<QCommandLineOption> setupOptions()

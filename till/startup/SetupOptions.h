@@ -14,6 +14,9 @@ namespace till {
 QString delivered(const QString &relative);
 //! The database where none is named.
 QString defaultDatabase();
+//! Makes the folder of the \a database where it is missing. That of the default one, which an
+//! earlier till may have made, is its owner's alone from now on.
+void prepareFolder(const QString &database);
 
 //! The options that say what a register is made of, which every program of the till has.
 QList<QCommandLineOption> setupOptions();

@@ -23,9 +23,12 @@ Storage::Storage(std::unique_ptr<Database> database)
 
 Storage::~Storage() = default;
 
-Result<std::unique_ptr<Storage>> Storage::open(const QString &path)
+Result<std::unique_ptr<Storage>> Storage::open(const QString &path, For use)
 {
-    auto database = Database::open(path, Database::Access::Till, checkOurs);
+    auto database = Database::open(path, Database::Access::Till, [use](Database &left) -> Result<> {
+        const Result<> ours = checkOurs(left);
+        return ours && use == For::Selling ? left.checkFile() : ours;
+    });
     if (!database)
         return database.error();
     const Result<QString> copy = prepareSchema(**database);
@@ -70,17 +73,27 @@ Result<std::optional<ReceiptRecord>> Storage::receipt(qint64 id) const
     return readReceipt(*m_database, id);
 }
 
-QList<LineRecord> Storage::lines(qint64 id) const
+ReceiptRecord Storage::remains(qint64 id) const
 {
+    ReceiptRecord remains;
+    remains.id = id;
     const auto read = readRows(*m_database, id);
-    QList<LineRecord> lines = read && *read ? (*read)->record.lines : QList<LineRecord>();
+    if (!read || !*read)
+        return remains;
+    const ReceiptRecord &record = (*read)->record;
+    if ((*read)->isHeaderWhole) {
+        remains.type = record.type;
+        remains.state = record.state;
+        remains.order = record.order;
+    }
+    remains.lines = record.lines;
     QSet<int> numbers;
-    lines.removeIf([&](const LineRecord &line) {
+    remains.lines.removeIf([&](const LineRecord &line) {
         const bool isSecond = numbers.contains(line.posnum);
         numbers.insert(line.posnum);
         return isSecond || !check(line, std::numeric_limits<int>::max());
     });
-    return lines;
+    return remains;
 }
 
 Result<QString> Storage::setApart(qint64 id)

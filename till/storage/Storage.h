@@ -39,13 +39,20 @@ struct JournalEntry
 class Storage
 {
 public:
+    //! What a database is opened for.
+    enum class For {
+        Selling,
+        SettingApart, //!< which a file that is damaged elsewhere does not stop
+    };
+
     /*!
      * Opens the database at \a path, or makes it when there is no file; ":memory:" is one that goes
      * with the object. A file that is in use, damaged, another program's or another version's, or
      * cannot be written is left as it was. One of the format before is brought to today's: see
-     * `copyBefore`. A file that was left by a killed till is checked as a whole.
+     * `copyBefore`. A file that was left by a killed till is checked as a whole before anything is
+     * sold on it.
      */
-    static Result<std::unique_ptr<Storage>> open(const QString &path);
+    static Result<std::unique_ptr<Storage>> open(const QString &path, For use = For::Selling);
     ~Storage();
     Q_DISABLE_COPY_MOVE(Storage)
 
@@ -73,9 +80,9 @@ public:
     //! The receipt with that number; nothing when there is none.
     Result<std::optional<ReceiptRecord>> receipt(qint64 id) const;
 
-    //! Those lines of the receipt that hold, whatever else of it does not, each number once; none
-    //! of one that cannot be read.
-    QList<LineRecord> lines(qint64 id) const;
+    //! What holds of the receipt's header and lines, whatever else of it does not, each line's
+    //! number once; no lines of one that cannot be read.
+    ReceiptRecord remains(qint64 id) const;
 
     //! Sets the receipt apart: it stays as it is, and is never taken up again. Returns the reason,
     //! what does not hold or that it is unfinished. A fault of an unknown number and of a finished

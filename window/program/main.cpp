@@ -1,17 +1,14 @@
-#include "till/database/DatabaseFile.h"
 #include "till/startup/SetupOptions.h"
 #include "window/desk/TillWindow.h"
 #include "window/program/JoinedOptions.h"
 
 #include <QtCore/QCommandLineParser>
-#include <QtCore/QFileInfo>
 #include <QtCore/QLoggingCategory>
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
 #include <csignal>
 #include <cstdio>
-#include <tuple>
 #include <vector>
 
 using namespace till;
@@ -58,9 +55,7 @@ private:
 
 int run(const Setup &setup, const QString &language)
 {
-    if (setup.database != QLatin1String(":memory:"))
-        // Where it cannot be made, the database says that it is missing.
-        std::ignore = makePrivateFolder(QFileInfo(setup.database).absolutePath());
+    prepareFolder(setup.database);
     Notes notes;
     CashDesk desk(setup, notes);
     TillWindow window(desk, notes, language);

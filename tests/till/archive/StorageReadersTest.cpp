@@ -220,12 +220,37 @@ TEST_F(StorageReaders, CheckOfADamagedFile_SaysSo)
     EXPECT_EQ(contents(path()), damaged);
 }
 
-TEST_F(StorageReaders, CheckWithoutATable_SaysSo)
+TEST_F(StorageReaders, CheckWithoutATableOfNoReceipts_CountsWhatHolds)
 {
-    leaveUnfinished(1);
-    query("DROP TABLE journal");
-    EXPECT_EQ(faultText(checked(path()).fileHolds),
-              path() + ": the database is damaged (its table journal is missing or altered)");
+    for (const QString table : {"journal", "setApart"}) {
+        leaveUnfinished(2);
+        query("DROP TABLE " + table);
+        const CheckReport report = checked(path());
+        EXPECT_THAT(faultText(report.fileHolds).toStdString(),
+                    HasSubstr("its table " + table.toStdString() + " is missing"));
+        EXPECT_EQ(report.whole, 1);
+        EXPECT_EQ(report.odd.size(), 0);
+        EXPECT_TRUE(report.hasAll);
+        EXPECT_FALSE(report.isGood());
+        QFile::remove(path());
+    }
+}
+
+TEST_F(StorageReaders, CheckWithoutATableOfReceipts_NamesEach)
+{
+    for (const QString table : {"positions", "softChecks", "pluginData"}) {
+        leaveUnfinished(2);
+        leaveUnfinished(3);
+        query("DROP TABLE " + table);
+        const CheckReport report = checked(path());
+        EXPECT_THAT(faultText(report.fileHolds).toStdString(),
+                    HasSubstr("its table " + table.toStdString() + " is missing"));
+        EXPECT_EQ(report.whole, 0);
+        ASSERT_EQ(report.odd.size(), 2);
+        EXPECT_EQ(report.odd[1].id, 2);
+        EXPECT_EQ(report.odd[1].reason, "no such table: " + table);
+        QFile::remove(path());
+    }
 }
 
 //! Whether the file is its owner's alone, whatever the umask.

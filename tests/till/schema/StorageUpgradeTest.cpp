@@ -128,7 +128,7 @@ TEST_F(StorageUpgrade, DamagedPluginData_StayDamaged)
     EXPECT_THAT(faultText(storage->unfinishedReceipt()).toStdString(),
                 HasSubstr("receipt 3: the data of plugin \"PackagingControl\" "
                           "under \"taraInfo\" are damaged"));
-    EXPECT_EQ(storage->lines(3).size(), 4);
+    EXPECT_EQ(storage->remains(3).lines.size(), 4);
 }
 
 //! What no till can have stored, which the first format took.
@@ -157,7 +157,7 @@ TEST_P(OutOfRange, IsNotAmongTheLinesThatAreShown)
     query(QStringLiteral("UPDATE %1 WHERE receipt = 3 AND place = 1").arg(GetParam().first));
     const auto storage = opened();
     ReceiptRecord shown;
-    shown.lines = storage->lines(3);
+    shown.lines = storage->remains(3).lines;
     shown.nextPosnum = 6;
     EXPECT_FALSE(shown.lines.isEmpty());
     EXPECT_EQ(faultText(check(shown)), QString());
