@@ -1,5 +1,7 @@
 #include "tests/model/TillProgram.h"
 
+#include "tests/support/Patience.h"
+
 #include <QtCore/QProcess>
 
 #include <sstream>
@@ -38,7 +40,6 @@ void TillProgram::takeRows(const std::string &script)
 
 TillProgram::Run TillProgram::run(const QStringList &arguments, const std::string &input) const
 {
-    constexpr int patience = -1; // a till that hangs is ended with its test, by ctest
     QProcess process;
     process.setStandardInputFile(write("input", input));
     process.start(TILL_PROGRAM,

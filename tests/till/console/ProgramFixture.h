@@ -1,6 +1,7 @@
 #ifndef TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
 #define TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
 
+#include "tests/support/Patience.h"
 #include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Sql.h"
 
@@ -12,8 +13,6 @@
 #include <gmock/gmock.h>
 
 #include <string>
-
-constexpr int patience = 60'000; //!< milliseconds, for a program that hangs
 
 //! What a run of the program left.
 struct RunResult

@@ -38,7 +38,7 @@ protected:
     {
         QProcess writer;
         writer.start(STORAGE_WRITER, {"steps", file, QString::number(call)});
-        EXPECT_TRUE(writer.waitForFinished(-1));
+        EXPECT_TRUE(writer.waitForFinished(patience));
         const QByteArray output = writer.readAllStandardOutput();
         EXPECT_EQ(writer.readAllStandardError(), QByteArray());
         EXPECT_EQ(writer.exitStatus(), QProcess::CrashExit) << output.constData();

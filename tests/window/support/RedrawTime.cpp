@@ -64,7 +64,7 @@ int main(int argc, char *argv[])
     window.switchOn();
     window.shelf().setMoving(false);
     static_cast<QWidget &>(window).show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    if (!QTest::qWaitForWindowExposed(&window, patience))
         return 1;
     const auto drawn = [&](const Command &command) {
         window.carryOut(command);

@@ -32,7 +32,7 @@ void WindowTest::open(const till::Setup &setup, const QString &language)
     window = std::make_unique<TillWindow>(*till, notes, language);
     window->switchOn();
     static_cast<QWidget &>(*window).show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get(), patience));
 }
 
 void WindowTest::close()
