@@ -50,6 +50,15 @@ TillProgram::Run TillProgram::run(const QStringList &arguments, const std::strin
             process.readAllStandardError().toStdString()};
 }
 
+std::string TillProgram::blamed(const Run &run, const QStringList &scripts)
+{
+    for (const QString &script : scripts) {
+        if (run.err.find(script.toStdString() + ':') != std::string::npos)
+            return script.toStdString() + ":\n" + contents(script).toStdString();
+    }
+    return {};
+}
+
 QString TillProgram::catalogue() const
 {
     std::string text = contents(TILL_SHARE_DIR "/catalogue.csv").toStdString();

@@ -79,7 +79,7 @@ void KilledTill::killUntilTelling(int kills)
     measure();
     while ((m_tally.all() < kills || !m_tally.isTelling()) && m_tally.all() < most
            && !HasFailure()) {
-        SCOPED_TRACE(testing::Message() << "seed " << testSeed() << " round " << m_tally.all());
+        SCOPED_TRACE(testing::Message() << repeatedBy(testSeed()) << " round " << m_tally.all());
         playAndKill();
         checkStored();
     }

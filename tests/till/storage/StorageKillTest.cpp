@@ -89,6 +89,7 @@ private:
 
 TEST_F(StorageKill, KilledAgainAndAgainWhileSaving_NothingAcknowledgedIsMissingOrHalfThere)
 {
+    SCOPED_TRACE(repeatedBy(testSeed()));
     Progress last;
     const int rounds = 40 * testEffort();
     constexpr int mostCalls = 150; // of about ten saves
