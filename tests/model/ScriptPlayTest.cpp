@@ -109,7 +109,7 @@ protected:
     //! where.
     std::string play() const
     {
-        const Run played = run(QStringList{"play"} + files);
+        const Run played = run(QStringList{"--plugin", pluginFile("Sound"), "play"} + files);
         const std::string all = std::to_string(files.size());
         const bool isWell =
             played.status == 0 && played.err.empty()
