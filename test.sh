@@ -15,9 +15,13 @@ export TEST_SEED=${TEST_SEED:-20240607}
 configure_dev
 cmake --build --preset dev
 
-rm -f build/dev/Testing/Temporary/LastTest.log
-built=$SECONDS status=0
+log=build/dev/Testing/Temporary/LastTest.log
+rm -f "$log"
+built=$SECONDS status=0 effort=
+[ "${TEST_EFFORT:-1}" = 1 ] || effort=" effort $TEST_EFFORT"
 ctest --preset dev -j "$(nproc)" "$@" || status=$?
-printf '\n%s; built in %s s, tested in %s s; seed %s\n' \
-    "$(tests_told build/dev)" "$built" $((SECONDS - built)) "$TEST_SEED"
+printf '\n'
+grep -aohE '[0-9]+ sequences of up to .* s, no difference' "$log" || true
+printf '%s; built in %s s, tested in %s s; seed %s%s\n' \
+    "$(tests_told build/dev)" "$built" $((SECONDS - built)) "$TEST_SEED" "$effort"
 exit "$status"

@@ -15,6 +15,19 @@ namespace {
 constexpr int MostSteps = 60;
 constexpr int DeepestNesting = 4;
 
+//! Its identifiers count, so that a finding is found again.
+class CountingPlugin : public TestPlugin
+{
+public:
+    QString getId() const override
+    {
+        return QStringLiteral("{%1}").arg(++m_given, 36, 10, QLatin1Char('0'));
+    }
+
+private:
+    mutable int m_given = 0;
+};
+
 class ReceiptRun
 {
 public:
@@ -255,7 +268,7 @@ private:
     Bytes m_bytes;
     FakeHost m_host;
     UnrulyHost m_unruly;
-    TestPlugin m_plugin;
+    CountingPlugin m_plugin;
     Promises m_promises;
     QString m_fault;
     int m_steps = 0;

@@ -27,12 +27,6 @@ protected:
         journal.clear();
     }
 
-    bool changeBy(double delta)
-    {
-        const auto info = plugin.packagingList.constFirst();
-        return plugin.modifyPackagingPositionQuantity(info, delta);
-    }
-
     FakeHost host; // the services that this test does not look at
     Journal journal;
     JournalingSession session{journal};
@@ -50,7 +44,7 @@ protected:
 
 TEST_F(PositionQuantityOrder, Change_LogsSetsTheModifierThenRuns)
 {
-    EXPECT_TRUE(changeBy(-1.5));
+    EXPECT_TRUE(plugin.changeGoodsBy(-1.5));
     EXPECT_EQ(journal, (Journal{"look up 3",
                                 "INFO Изменение количества позиции 3, размещенной в таре, на "
                                 "-1.500, в связи с изменением тары [g]",
@@ -61,7 +55,7 @@ TEST_F(PositionQuantityOrder, ChangeThatFails_LogsAnErrorAfterwards)
 {
     queue.answer = EContext::Error;
 
-    EXPECT_FALSE(changeBy(-1.5));
+    EXPECT_FALSE(plugin.changeGoodsBy(-1.5));
     EXPECT_EQ(journal,
               (Journal{"look up 3",
                        "INFO Изменение количества позиции 3, размещенной в таре, на -1.500, в "
@@ -75,7 +69,7 @@ TEST_F(PositionQuantityOrder, Change_ModifierIsSetWhenTheActionRuns)
     QVariant atRun;
     queue.whenRun = [&] { atRun = session.current().value(static_cast<modifiers::Type>(3)); };
 
-    changeBy(-1.5);
+    plugin.changeGoodsBy(-1.5);
 
     ASSERT_EQ(atRun.metaType(), QMetaType::fromType<Quantity>());
     EXPECT_EQ(atRun.value<Quantity>().amount(), 3.5);
@@ -86,7 +80,7 @@ TEST_F(PositionQuantityOrder, Change_KeepsOtherModifiersAndTheGroup)
 {
     session.current().set(static_cast<modifiers::Type>(4), "other");
 
-    changeBy(-1.5);
+    plugin.changeGoodsBy(-1.5);
 
     EXPECT_EQ(session.current().value(static_cast<modifiers::Type>(4)), QVariant("other"));
     EXPECT_EQ(position->getGroupId(), "g");
@@ -96,7 +90,7 @@ TEST_F(PositionQuantityOrder, Change_ReplacesAQuantityThatWasSet)
 {
     session.current().set(modifiers::Quantity, QVariant::fromValue(Quantity(99, quantModeNone)));
 
-    changeBy(2);
+    plugin.changeGoodsBy(2);
 
     EXPECT_EQ(session.current().value(modifiers::Quantity).value<Quantity>(),
               Quantity(7, quantModeRecalculated));
@@ -104,7 +98,7 @@ TEST_F(PositionQuantityOrder, Change_ReplacesAQuantityThatWasSet)
 
 TEST_F(PositionQuantityOrder, Change_ActionCarriesThePositionNumberOnly)
 {
-    changeBy(-1.5);
+    plugin.changeGoodsBy(-1.5);
 
     ASSERT_EQ(queue.actions.size(), 1);
     EXPECT_EQ(queue.actions[0].getType(), control::ApplyModifiers);
@@ -114,7 +108,7 @@ TEST_F(PositionQuantityOrder, Change_ActionCarriesThePositionNumberOnly)
 
 TEST_F(PositionQuantityOrder, Change_DoesNotTouchThePositionItself)
 {
-    changeBy(-1.5);
+    plugin.changeGoodsBy(-1.5);
 
     EXPECT_EQ(position->getBquant(), 5);
     EXPECT_EQ(position->getCquant(), 1000);
@@ -125,7 +119,7 @@ TEST_F(PositionQuantityOrder, Removal_LogsClearsTheGroupThenRuns)
     QString groupAtRun = "unseen";
     queue.whenRun = [&] { groupAtRun = position->getGroupId(); };
 
-    EXPECT_TRUE(changeBy(-5));
+    EXPECT_TRUE(plugin.changeGoodsBy(-5));
     EXPECT_EQ(journal, (Journal{"look up 3",
                                 "INFO Удаление позиции 3, размещенной в таре, в связи с "
                                 "изменением тары [g]",
@@ -137,7 +131,7 @@ TEST_F(PositionQuantityOrder, RemovalThatFails_LogsAnErrorAfterwards)
 {
     queue.answer = EContext::Cancel;
 
-    EXPECT_FALSE(changeBy(-5));
+    EXPECT_FALSE(plugin.changeGoodsBy(-5));
     EXPECT_EQ(journal,
               (Journal{"look up 3",
                        "INFO Удаление позиции 3, размещенной в таре, в связи с "
@@ -147,7 +141,7 @@ TEST_F(PositionQuantityOrder, RemovalThatFails_LogsAnErrorAfterwards)
 
 TEST_F(PositionQuantityOrder, Removal_ActionCarriesThePositionNumberOnly)
 {
-    changeBy(-5);
+    plugin.changeGoodsBy(-5);
 
     ASSERT_EQ(queue.actions.size(), 1);
     EXPECT_EQ(queue.actions[0].getType(), control::RemovePosition);
@@ -157,15 +151,15 @@ TEST_F(PositionQuantityOrder, Removal_ActionCarriesThePositionNumberOnly)
 
 TEST_F(PositionQuantityOrder, Removal_SetsNoModifier)
 {
-    changeBy(-5);
+    plugin.changeGoodsBy(-5);
 
     EXPECT_FALSE(session.current().isSet(modifiers::Quantity));
 }
 
 TEST_F(PositionQuantityOrder, TwoChanges_AreTwoActions)
 {
-    changeBy(1);
-    changeBy(2);
+    plugin.changeGoodsBy(1);
+    plugin.changeGoodsBy(2);
 
     ASSERT_EQ(queue.actions.size(), 2);
     control::args::Core(queue.actions[0]).setPositionNumber(77);
@@ -180,8 +174,8 @@ TEST_P(AnswerOfTheQueue, OnlyTwoIsSuccess)
 {
     queue.answer = GetParam();
 
-    EXPECT_EQ(changeBy(-1), GetParam() == 2);
-    EXPECT_EQ(changeBy(-5), GetParam() == 2);
+    EXPECT_EQ(plugin.changeGoodsBy(-1), GetParam() == 2);
+    EXPECT_EQ(plugin.changeGoodsBy(-5), GetParam() == 2);
     EXPECT_EQ(journal.filter("ERROR").size(), GetParam() == 2 ? 0 : 2);
 }
 
@@ -192,7 +186,7 @@ TEST_F(PositionQuantityOrder, ServicesThatAreMissing_AreMadeOnFirstUse)
     const Missing<Session> noSession;
     const Missing<ActionQueueController> noQueue;
 
-    EXPECT_FALSE(changeBy(-1)); // nobody carries actions out
+    EXPECT_FALSE(plugin.changeGoodsBy(-1)); // nobody carries actions out
     EXPECT_TRUE(Singleton<Session>::instance->getModifiers()->isSet(modifiers::Quantity));
     EXPECT_TRUE(Singleton<ActionQueueController>::instance);
 }
@@ -202,7 +196,7 @@ TEST_F(PositionQuantityOrder, PositionTakenOutWhileTheActionRuns_StaysInHandForT
     queue.whenRun = [this] { document->removePosition(3); };
     queue.answer = EContext::Error;
 
-    EXPECT_FALSE(changeBy(-5));
+    EXPECT_FALSE(plugin.changeGoodsBy(-5));
     EXPECT_EQ(journal.last(), "ERROR Не удалось удалить позицию, размещенную в тару []");
 }
 
@@ -210,7 +204,7 @@ TEST_F(PositionQuantityOrder, DocumentTakenAwayWhileTheActionRuns_DoesNotMatter)
 {
     queue.whenRun = [this] { plugin.disablePlugin(); };
 
-    EXPECT_TRUE(changeBy(-1));
+    EXPECT_TRUE(plugin.changeGoodsBy(-1));
 }
 
 } // namespace

@@ -1,11 +1,5 @@
-#include "tests/support/FakeHost.h"
-#include "tests/support/LogCapture.h"
+#include "tests/events/ReceiptEvents.h"
 #include "tests/support/Numbers.h"
-#include "tests/support/Printers.h"
-#include "tests/support/TestPlugin.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QtCore/QLocale>
 
@@ -15,16 +9,9 @@
 namespace {
 
 //! Goods of position 3 in a receipt, known to the plugin.
-class PositionQuantity : public testing::Test
+class PositionQuantity : public ReceiptEvents
 {
 protected:
-    PositionQuantity()
-    {
-        plugin.init();
-        plugin.setDocument(host.receipt());
-        host.journal.clear();
-    }
-
     ~PositionQuantity() override { QLocale::setDefault(QLocale::c()); }
 
     //! Goods whose count of pieces has nothing to do with their base quantity.
@@ -33,23 +20,13 @@ protected:
         host.putPosition(posnum, Tmc::PackagingGoods, QVariant(), 1000, quantity);
         plugin.putGoods(posnum);
     }
-
-    bool changeBy(double delta)
-    {
-        const auto info = plugin.packagingList.constFirst();
-        return plugin.modifyPackagingPositionQuantity(info, delta);
-    }
-
-    FakeHost host;
-    LogCapture log;
-    TestPlugin plugin;
 };
 
 TEST_F(PositionQuantity, UnknownPosition_FalseWithoutAWord)
 {
     plugin.putGoods(3);
 
-    EXPECT_FALSE(changeBy(-1));
+    EXPECT_FALSE(plugin.changeGoodsBy(-1));
     EXPECT_EQ(log.lines(), QStringList());
     EXPECT_EQ(host.journal, QStringList());
 }
@@ -58,7 +35,7 @@ TEST_F(PositionQuantity, UnknownPositionAndNoChange_FalseToo)
 {
     plugin.putGoods(3);
 
-    EXPECT_FALSE(changeBy(0));
+    EXPECT_FALSE(plugin.changeGoodsBy(0));
 }
 
 TEST_F(PositionQuantity, NoDocument_FalseWithoutAWord)
@@ -66,8 +43,8 @@ TEST_F(PositionQuantity, NoDocument_FalseWithoutAWord)
     putGoods(3, 5);
     plugin.disablePlugin();
 
-    EXPECT_FALSE(changeBy(-1));
-    EXPECT_FALSE(changeBy(0));
+    EXPECT_FALSE(plugin.changeGoodsBy(-1));
+    EXPECT_FALSE(plugin.changeGoodsBy(0));
     EXPECT_EQ(log.lines(), QStringList());
     EXPECT_EQ(host.journal, QStringList());
 }
@@ -86,7 +63,7 @@ TEST_P(NoChange, TrueWithoutAskingTheHost)
     putGoods(3, 5);
     host.receipt()->getPositionByPosnum(3)->setGroupId("{group}");
 
-    EXPECT_TRUE(changeBy(GetParam()));
+    EXPECT_TRUE(plugin.changeGoodsBy(GetParam()));
     EXPECT_EQ(log.lines(), QStringList());
     EXPECT_EQ(host.journal, QStringList());
     EXPECT_FALSE(host.modifiers().isSet(modifiers::Quantity));
@@ -101,7 +78,7 @@ TEST_F(PositionQuantity, NothingLeftAndNoChange_IsNotRemoved)
 {
     putGoods(3, 0);
 
-    EXPECT_TRUE(changeBy(0.0004));
+    EXPECT_TRUE(plugin.changeGoodsBy(0.0004));
     EXPECT_EQ(host.journal, QStringList());
 }
 
@@ -109,7 +86,7 @@ TEST_F(PositionQuantity, ChangeOfExactlyTheTolerance_IsMade)
 {
     putGoods(3, 5);
 
-    EXPECT_TRUE(changeBy(tolerance));
+    EXPECT_TRUE(plugin.changeGoodsBy(tolerance));
     EXPECT_EQ(log.lines().first(), "INFO Изменение количества позиции 3, размещенной в таре, на "
                                    "0.001, в связи с изменением тары");
 }
@@ -118,7 +95,7 @@ TEST_F(PositionQuantity, Change_AddsToTheBaseQuantity)
 {
     putGoods(3, 5);
 
-    EXPECT_TRUE(changeBy(-1.5));
+    EXPECT_TRUE(plugin.changeGoodsBy(-1.5));
     EXPECT_EQ(host.journal.first(), "change 3 to 3.500");
 }
 
@@ -126,7 +103,7 @@ TEST_F(PositionQuantity, Growth_IsAskedForToo)
 {
     putGoods(3, 5);
 
-    EXPECT_TRUE(changeBy(2.25));
+    EXPECT_TRUE(plugin.changeGoodsBy(2.25));
     EXPECT_EQ(host.journal.first(), "change 3 to 7.250");
     EXPECT_EQ(log.lines().first(), "INFO Изменение количества позиции 3, размещенной в таре, на "
                                    "2.250, в связи с изменением тары");
@@ -136,7 +113,7 @@ TEST_F(PositionQuantity, ChangeToNothing_IsARemoval)
 {
     putGoods(3, 5);
 
-    EXPECT_TRUE(changeBy(-5));
+    EXPECT_TRUE(plugin.changeGoodsBy(-5));
     EXPECT_EQ(host.journal.first(), "remove 3");
 }
 
@@ -144,7 +121,7 @@ TEST_F(PositionQuantity, ChangeToLessThanNothing_IsARemoval)
 {
     putGoods(3, 5);
 
-    EXPECT_TRUE(changeBy(-7));
+    EXPECT_TRUE(plugin.changeGoodsBy(-7));
     EXPECT_EQ(host.journal.first(), "remove 3");
 }
 
@@ -152,7 +129,7 @@ TEST_F(PositionQuantity, ExactlyTheToleranceLeft_IsARemoval)
 {
     putGoods(3, 0.001);
 
-    EXPECT_TRUE(changeBy(-tolerance)); // 0.001 less 0.0005 is 0.0005 exactly
+    EXPECT_TRUE(plugin.changeGoodsBy(-tolerance)); // 0.001 less 0.0005 is 0.0005 exactly
     EXPECT_EQ(host.journal.first(), "remove 3");
 }
 
@@ -160,7 +137,7 @@ TEST_F(PositionQuantity, JustAboveTheToleranceLeft_IsAChange)
 {
     putGoods(3, std::nextafter(0.001, 1.0));
 
-    EXPECT_TRUE(changeBy(-tolerance));
+    EXPECT_TRUE(plugin.changeGoodsBy(-tolerance));
     EXPECT_EQ(host.journal.first(), "change 3 to 0.001");
 }
 
@@ -168,7 +145,7 @@ TEST_F(PositionQuantity, QuantityThatIsNotANumber_IsNotAboveTheTolerance)
 {
     putGoods(3, notANumber);
 
-    EXPECT_TRUE(changeBy(1));
+    EXPECT_TRUE(plugin.changeGoodsBy(1));
     EXPECT_EQ(host.journal.first(), "remove 3");
 }
 
@@ -188,8 +165,8 @@ TEST_F(PositionQuantity, RefusedChange_LeavesTheRecords)
     plugin.packagingList[0]->usedTara = {{"{a}", 5}};
     host.refuseEverything = true;
 
-    EXPECT_FALSE(changeBy(-1));
-    EXPECT_FALSE(changeBy(-5));
+    EXPECT_FALSE(plugin.changeGoodsBy(-1));
+    EXPECT_FALSE(plugin.changeGoodsBy(-5));
     EXPECT_EQ(*plugin.taraList[0], (PackagingControl::TaraInfo{2, "{a}", 10, 5}));
     EXPECT_EQ(*plugin.packagingList[0], (PackagingControl::PackagingInfo{3, {{"{a}", 5}}}));
 }
@@ -201,7 +178,7 @@ TEST_F(PositionQuantity, RecordsFollow_OnlyWhenTheHostReports)
     plugin.packagingList[0]->usedTara = {{"{a}", 5}};
     host.late = true;
 
-    EXPECT_TRUE(changeBy(1));
+    EXPECT_TRUE(plugin.changeGoodsBy(1));
     EXPECT_EQ(plugin.taraList[0]->freeCapacity, 5);
     EXPECT_EQ(plugin.packagingList[0]->usedTara.value("{a}"), 5);
 
@@ -229,7 +206,7 @@ TEST_P(LocaleOfTheQuantityLog, DoesNotChangeTheNumbers)
     QLocale::setDefault(QLocale(GetParam()));
     putGoods(1234567, 50000);
 
-    changeBy(-12345.5);
+    plugin.changeGoodsBy(-12345.5);
 
     EXPECT_EQ(log.lines().first(), "INFO Изменение количества позиции 1234567, размещенной в "
                                    "таре, на -12345.500, в связи с изменением тары");

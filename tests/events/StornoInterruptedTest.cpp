@@ -33,22 +33,13 @@ protected:
             });
         host.storno(2);
     }
-
-    QStringList asked() const
-    {
-        QStringList result = host.journal;
-        result.removeIf([](const QString &line) {
-            return line.startsWith("save ") || line.startsWith("load ");
-        });
-        return result;
-    }
 };
 
 TEST_F(InterruptedStorno, NothingMeanwhile_ReducesBoth)
 {
     storno(nullptr);
 
-    EXPECT_EQ(asked(),
+    EXPECT_EQ(host.asked(),
               (QStringList{"switch off", "change 5 to 1.000", "remove 6", "switch on", "loyalty"}));
 }
 
@@ -60,7 +51,8 @@ TEST_F(InterruptedStorno, Suspension_SwitchesTheReceiptBackOnAndAsksForNothingMo
 
     EXPECT_EQ(plugin.heldDocument(), nullptr);
     EXPECT_TRUE(host.receipt()->isSwitchedOn());
-    EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
+    EXPECT_EQ(host.asked(),
+              (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
     EXPECT_THAT(valuesOf(plugin.packagingList),
                 ElementsAre(PackagingInfo{5, {{"B", 1.0}}}, PackagingInfo{6, {{"A", 1.0}}}));
 }
@@ -138,7 +130,7 @@ TEST_F(InterruptedStorno, SameReceiptSetAgain_ReducesTheRest)
 {
     storno([this] { plugin.setDocument(host.receipt()); });
 
-    EXPECT_EQ(asked(),
+    EXPECT_EQ(host.asked(),
               (QStringList{"switch off", "change 5 to 1.000", "remove 6", "switch on", "loyalty"}));
     EXPECT_EQ(position(6), nullptr);
     // Of the goods 5 the entry left the record that the walk held, not the one restored meanwhile.
@@ -152,7 +144,8 @@ TEST_F(InterruptedStorno, OtherGoodsStornoed_AreNotAskedForAnyMore)
 {
     storno([this] { host.storno(6); });
 
-    EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
+    EXPECT_EQ(host.asked(),
+              (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
     EXPECT_THAT(valuesOf(plugin.packagingList), ElementsAre(PackagingInfo{5, {{"B", 1.0}}}));
 }
 
@@ -208,7 +201,7 @@ TEST_F(InterruptedStorno, SameTaraStornoedAgain_OnlyLogsAndSaves)
 
     storno([this, tara] { host.publish(EActivityListener::eventPositionStorno, tara); });
 
-    EXPECT_EQ(asked(),
+    EXPECT_EQ(host.asked(),
               (QStringList{"switch off", "change 5 to 1.000", "remove 6", "switch on", "loyalty"}));
     EXPECT_EQ(log.lines().filter("При удалении позиции: 2").size(), 2);
 }

@@ -56,7 +56,7 @@ Command subtotal(bool yes)
 std::vector<Command> smallAlphabet()
 {
     std::vector<Command> commands{commandOf(Verb::Add, Pet1), commandOf(Verb::Add, Can3)};
-    for (const double quantity : {0.0, 0.0004, 0.0005, 0.5, 1.0, 5.0})
+    for (const double quantity : {0.0, 0.0004, 0.0005, 0.0006, 0.5, 1.0, 5.0})
         commands.push_back(commandOf(Verb::Add, Beer, quantity));
     commands.push_back(commandOf(Verb::Add, Dark, 0.5));
     for (const int which : {0, 1, 2}) {

@@ -2,6 +2,7 @@
 
 #include "host/ActionArguments.h"
 #include "host/Quantity.h"
+#include "tests/triggers/Actions.h"
 
 // What the cashier does, command by command.
 
@@ -51,7 +52,7 @@ void RealHost::changePosition(const Command &command)
     if (!position)
         return;
     if (command.verb == Verb::Storno)
-        perform(onPosition(control::StornoPosition, position->getPosnum()),
+        perform(actions::on(position->getPosnum(), control::StornoPosition),
                 EActivityListener::eventPositionStorno, false);
     else
         changeCount(*position, command.quantity, command.verb == Verb::Quantity);
@@ -69,7 +70,7 @@ void RealHost::changeCount(const RealPosition &position, double count, bool with
     if (withQuantity)
         modifiers().set(modifiers::Quantity, QVariant::fromValue(Quantity(
                                                  count * position.article().pack, quantModeNone)));
-    perform(onPosition(control::ApplyModifiers, position.getPosnum()),
+    perform(actions::on(position.getPosnum(), control::ApplyModifiers),
             EActivityListener::eventModifierApplied, false);
 }
 

@@ -3,6 +3,7 @@
 #include "host/ActionArguments.h"
 #include "host/Quantity.h"
 #include "tests/model/RealServices.h"
+#include "tests/triggers/Actions.h"
 
 #include <utility>
 
@@ -14,13 +15,6 @@ Event about(int code, const QSharedPointer<RealPosition> &position)
     if (position)
         event.addArgument("position", QVariant::fromValue(GoodsItemPtr(position)));
     return event;
-}
-
-control::Action onPosition(control::EActionType type, int posnum)
-{
-    const control::Action action(type, {});
-    control::args::Core(action).setPositionNumber(posnum);
-    return action;
 }
 
 void RealPlugin::addTrigger(const ActionTrigger &trigger)
@@ -107,7 +101,7 @@ bool RealHost::request(control::EActionType type, int posnum)
     bool isDone = false;
     if (m_depth < deepestRequest && (reply == Reply::Obey || reply == Reply::Deny)) {
         ++m_depth;
-        isDone = perform(onPosition(type, posnum),
+        isDone = perform(actions::on(posnum, type),
                          type == control::ApplyModifiers ? EActivityListener::eventModifierApplied2
                                                          : EActivityListener::eventPositionStorno,
                          true)
@@ -137,7 +131,7 @@ void RealHost::meanwhile()
         break;
     case Meanwhile::Storno:
         if (position)
-            perform(onPosition(control::StornoPosition, position->getPosnum()),
+            perform(actions::on(position->getPosnum(), control::StornoPosition),
                     EActivityListener::eventPositionStorno, false);
         break;
     case Meanwhile::Quantity:

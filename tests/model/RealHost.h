@@ -139,7 +139,6 @@ std::unique_ptr<RealPlugin> make(RealHost &host)
 inline constexpr auto otherModifier = static_cast<modifiers::Type>(1);
 //! Event \a code about \a position; without the argument when that is null.
 Event about(int code, const QSharedPointer<RealPosition> &position);
-control::Action onPosition(control::EActionType type, int posnum);
 
 } // namespace model
 

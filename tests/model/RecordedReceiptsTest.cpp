@@ -60,12 +60,6 @@ private:
     std::string m_text;
 };
 
-//! A plugin with \a fault.
-QString pluginFile(const char *fault)
-{
-    return QString(FAULTY_PLUGIN_DIR "/%1Plugin.so").arg(fault);
-}
-
 class RecordedReceipts : public TillProgram
 {
 protected:
@@ -103,10 +97,11 @@ private:
 
 TEST_F(RecordedReceipts, AtRandom_HoldWhenTheyArePlayed)
 {
+    SCOPED_TRACE(repeatedBy(testSeed()));
     const QStringList files = record(100 * testEffort());
     const Run played = play(files, "Sound");
     EXPECT_EQ(played.status, 0);
-    EXPECT_EQ(played.err, "");
+    EXPECT_EQ(played.err, "") << blamed(played, files);
     const std::string all = std::to_string(files.size());
     const std::size_t end = played.out.find('\n' + all + " of " + all + " scripts held; ");
     ASSERT_NE(end, std::string::npos) << played.out;
@@ -116,6 +111,7 @@ TEST_F(RecordedReceipts, AtRandom_HoldWhenTheyArePlayed)
 
 TEST_F(RecordedReceipts, OnBrokenPlugins_DoNotAllHold)
 {
+    SCOPED_TRACE(repeatedBy(testSeed()));
     constexpr int plenty = 50; // batches
     std::vector<const char *> faults{"Forgetful", "Careless",  "Mute",
                                      "Stubborn",  "Ungrouped", "Secretive"};

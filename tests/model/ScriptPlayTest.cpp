@@ -105,15 +105,18 @@ protected:
         }
     }
 
-    //! Plays all scripts; empty when the till says that all held, or else what it complains of.
+    //! Plays all scripts; empty when the till says that all held, or else what it complains of and
+    //! where.
     std::string play() const
     {
-        const Run played = run(QStringList("play") + files);
+        const Run played = run(QStringList{"--plugin", pluginFile("Sound"), "play"} + files);
         const std::string all = std::to_string(files.size());
         const bool isWell =
             played.status == 0 && played.err.empty()
             && played.out.find('\n' + all + " of " + all + " scripts held; ") != std::string::npos;
-        return isWell ? "" : "status " + std::to_string(played.status) + ": " + played.err;
+        return isWell ? ""
+                      : "status " + std::to_string(played.status) + ": " + played.err
+                            + blamed(played, files);
     }
 
     QStringList files;
@@ -124,6 +127,7 @@ protected:
 
 TEST_F(ScriptPlay, PrintedScripts_PlayToTheEndAndLeaveTheModelsRecords)
 {
+    SCOPED_TRACE(repeatedBy(testSeed()));
     const auto generator = scripts();
     const std::size_t wanted = 50U * static_cast<unsigned>(testEffort());
     rc::Random random(testSeed());
@@ -143,7 +147,9 @@ TEST_F(ScriptPlay, PrintedScripts_PlayToTheEndAndLeaveTheModelsRecords)
 TEST_F(ScriptPlay, ScriptThatStops_IsNoticed)
 {
     add("open\nadd PET1\nadd BEER 0.5\nqty 1 2\n");
-    EXPECT_NE(play().find("1.till:4: qty 1 2: refused"), std::string::npos);
+    const std::string said = play();
+    EXPECT_NE(said.find("1.till:4: qty 1 2: refused"), std::string::npos) << said;
+    EXPECT_NE(said.find("\nadd BEER 0.5\nqty 1 2\n"), std::string::npos) << said;
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "tests/model/TillProgram.h"
 
+#include "tests/support/Patience.h"
+
 #include <QtCore/QProcess>
 
 #include <sstream>
@@ -38,7 +40,6 @@ void TillProgram::takeRows(const std::string &script)
 
 TillProgram::Run TillProgram::run(const QStringList &arguments, const std::string &input) const
 {
-    constexpr int patience = -1; // a till that hangs is ended with its test, by ctest
     QProcess process;
     process.setStandardInputFile(write("input", input));
     process.start(TILL_PROGRAM,
@@ -47,6 +48,15 @@ TillProgram::Run TillProgram::run(const QStringList &arguments, const std::strin
         return {};
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
             process.readAllStandardError().toStdString()};
+}
+
+std::string TillProgram::blamed(const Run &run, const QStringList &scripts)
+{
+    for (const QString &script : scripts) {
+        if (run.err.find(script.toStdString() + ':') != std::string::npos)
+            return script.toStdString() + ":\n" + contents(script).toStdString();
+    }
+    return {};
 }
 
 QString TillProgram::catalogue() const

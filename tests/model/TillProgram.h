@@ -36,6 +36,13 @@ protected:
     void takeRows(const std::string &script);
     //! Runs the program with \a arguments on \a input, in English and quietly.
     Run run(const QStringList &arguments, const std::string &input = {}) const;
+    //! The first of \a scripts that a run complains of, as a text: the file goes with its folder.
+    static std::string blamed(const Run &run, const QStringList &scripts);
+    //! A plugin with \a fault, whose identifiers are the same every time.
+    static QString pluginFile(const char *fault)
+    {
+        return QString(FAULTY_PLUGIN_DIR "/%1Plugin.so").arg(fault);
+    }
 
 private:
     //! The sample shop's articles, and those that the scripts bring.

@@ -18,7 +18,8 @@ TEST_P(ReceiptStorno, MiddleOfThreeTara_TakesItsShareOfTheGoodsAlong)
 
     host.storno(3);
 
-    EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 4.000", "switch on", "loyalty"}));
+    EXPECT_EQ(host.asked(),
+              (QStringList{"switch off", "change 5 to 4.000", "switch on", "loyalty"}));
     EXPECT_EQ(quantity(5), 4.0);
     EXPECT_EQ(tara(), (QStringList{"tara 2: 0 of 1 free", "tara 4: 2 of 5 free"}));
     EXPECT_EQ(goods(), QStringList{"goods 5: 1 in 2, 3 in 4"});
@@ -52,7 +53,8 @@ TEST_P(ReceiptStorno, RefusedReduction_LeavesTheGoodsNamingTheLostTara)
 
     host.storno(2);
 
-    EXPECT_EQ(asked(), (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
+    EXPECT_EQ(host.asked(),
+              (QStringList{"switch off", "change 5 to 1.000", "switch on", "loyalty"}));
     EXPECT_TRUE(host.receipt()->isSwitchedOn());
     EXPECT_EQ(quantity(5), 3.0);
     EXPECT_EQ(tara(), QStringList{"tara 3: 4 of 5 free"});
@@ -72,7 +74,8 @@ TEST_P(ReceiptStorno, TaraOfTwoGoods_TakesBothAlong)
 
     host.storno(2);
 
-    EXPECT_EQ(asked(), (QStringList{"switch off", "remove 3", "remove 4", "switch on", "loyalty"}));
+    EXPECT_EQ(host.asked(),
+              (QStringList{"switch off", "remove 3", "remove 4", "switch on", "loyalty"}));
     EXPECT_TRUE(host.receipt()->getPositionList().isEmpty());
     EXPECT_THAT(goods(), IsEmpty());
     EXPECT_EQ(savedRecords(), records());
@@ -87,7 +90,7 @@ TEST_P(ReceiptStorno, TaraOfTwoGoodsOneElsewhereToo_RemovesOneAndReducesTheOther
 
     host.storno(2);
 
-    EXPECT_EQ(asked(),
+    EXPECT_EQ(host.asked(),
               (QStringList{"switch off", "remove 3", "change 4 to 1.000", "switch on", "loyalty"}));
     EXPECT_EQ(tara(), QStringList{"tara 6: 4 of 5 free"});
     EXPECT_EQ(goods(), QStringList{"goods 4: 1 in 6"});

@@ -18,7 +18,7 @@ TEST_P(ReceiptTara, TypicalSale_FollowsTheCashier)
     EXPECT_EQ(goods(), QStringList{"goods 3: 1.5 in 2"});
 
     EXPECT_EQ(enterQuantity(2, 2), EContext::Continue); // full, and of one goods only
-    EXPECT_EQ(asked(), QStringList{"change 3 to 3.000"});
+    EXPECT_EQ(host.asked(), QStringList{"change 3 to 3.000"});
     EXPECT_EQ(quantity(3), 3.0);
     EXPECT_EQ(tara(), QStringList{"tara 2: 0 of 3 free"});
     EXPECT_EQ(goods(), QStringList{"goods 3: 3 in 2"});
@@ -32,7 +32,7 @@ TEST_P(ReceiptTara, PartlyFilledTara_KeepsItsQuantity)
 
     EXPECT_EQ(enterQuantity(2, 2), EContext::Error);
 
-    EXPECT_EQ(asked(), QStringList{"error packingControlTaraAlmostFull"});
+    EXPECT_EQ(host.asked(), QStringList{"error packingControlTaraAlmostFull"});
     EXPECT_EQ(quantity(2), 1.0);
     EXPECT_EQ(tara(), QStringList{"tara 2: 0.5 of 1.5 free"});
     EXPECT_EQ(goods(), QStringList{"goods 3: 1 in 2"});
@@ -46,7 +46,7 @@ TEST_P(ReceiptTara, SharedTara_KeepsItsQuantity)
 
     EXPECT_EQ(enterQuantity(2, 2), EContext::Error);
 
-    EXPECT_EQ(asked(), QStringList{"error packingControlTaraUsedDiffGoods"});
+    EXPECT_EQ(host.asked(), QStringList{"error packingControlTaraUsedDiffGoods"});
     EXPECT_EQ(tara(), QStringList{"tara 2: 0 of 2 free"});
 }
 
@@ -60,7 +60,7 @@ TEST_P(ReceiptTara, GrownAndShrunkBelowItsContents_DrawsItsGoodsBackOut)
 
     enterQuantity(2, 1);
 
-    EXPECT_EQ(asked(), (QStringList{"change 3 to 4.500", "change 3 to 1.500"}));
+    EXPECT_EQ(host.asked(), (QStringList{"change 3 to 4.500", "change 3 to 1.500"}));
     EXPECT_EQ(quantity(3), 1.5);
     EXPECT_EQ(tara(), QStringList{"tara 2: 0 of 1.5 free"});
     EXPECT_EQ(goods(), QStringList{"goods 3: 1.5 in 2"});
@@ -109,7 +109,7 @@ TEST_P(ReceiptTara, GoodsBeforeAnyTara_ArePouredWhenTheyChange)
 
     EXPECT_EQ(tara(), QStringList{"tara 4: 2 of 5 free"});
     EXPECT_EQ(goods(), QStringList{"goods 3: 3 in 4"});
-    EXPECT_EQ(asked(), QStringList());
+    EXPECT_EQ(host.asked(), QStringList());
     EXPECT_EQ(savedRecords(), records());
 }
 
@@ -122,7 +122,7 @@ TEST_P(ReceiptTara, OtherGoods_AreNobodysBusiness)
 
     EXPECT_EQ(tara(), QStringList{"tara 2: 1.5 of 1.5 free"});
     EXPECT_THAT(goods(), IsEmpty());
-    EXPECT_EQ(asked(), QStringList());
+    EXPECT_EQ(host.asked(), QStringList());
 }
 
 INSTANTIATE_TEST_SUITE_P(By, ReceiptTara, testing::Values(Delivery::Notifier, Delivery::MetaObject),

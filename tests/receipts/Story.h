@@ -66,16 +66,6 @@ protected:
         return taraOf(other) + goodsOf(other);
     }
 
-    //! What the plugin asked of the host, apart from keeping its records.
-    QStringList asked() const
-    {
-        QStringList result = host.journal;
-        result.removeIf([](const QString &line) {
-            return line.startsWith("save ") || line.startsWith("load ");
-        });
-        return result;
-    }
-
     FakeHost host;
     TestPlugin plugin;
 

@@ -1,3 +1,5 @@
+#include "tests/support/Patience.h"
+
 #include <gtest/gtest.h>
 
 #include <QtCore/QDir>
@@ -59,7 +61,7 @@ QByteArray play(const std::string &script, const Variables &variables, const QSt
     QProcess till;
     till.setProcessEnvironment(environment);
     till.start(TILL_PROGRAM, QStringList{"play"} + options + QStringList{script.c_str()});
-    EXPECT_TRUE(till.waitForFinished(60000));
+    EXPECT_TRUE(till.waitForFinished(patience));
     EXPECT_EQ(till.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(till.exitCode(), 0) << till.readAllStandardError().toStdString();
     return till.readAllStandardOutput();
@@ -159,7 +161,7 @@ std::string decimalPoint(const Variables &variables)
     QProcess locale;
     locale.setProcessEnvironment(environment);
     locale.start("locale", {"decimal_point"});
-    EXPECT_TRUE(locale.waitForFinished());
+    EXPECT_TRUE(locale.waitForFinished(patience));
     return locale.readAllStandardOutput().trimmed().toStdString();
 }
 

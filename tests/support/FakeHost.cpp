@@ -189,6 +189,14 @@ void FakeHost::changeQuantity(int posnum, double quantity, EActivityListener::Ev
     publish(code, position);
 }
 
+QStringList FakeHost::asked() const
+{
+    QStringList result = journal;
+    result.removeIf(
+        [](const QString &line) { return line.startsWith("save ") || line.startsWith("load "); });
+    return result;
+}
+
 bool FakeHost::storno(int posnum)
 {
     const auto position = m_receipt->getPositionByPosnum(posnum);

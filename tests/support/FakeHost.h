@@ -69,6 +69,8 @@ public:
     bool dialogAnswer = false; //!< the cashier's answer to every question
 
     QStringList journal; //!< what the host was asked
+    //! The same without the keeping of the plugin's records.
+    QStringList asked() const;
     QList<Event> errors; //!< every event 29 that was published
 
     ModifiersContainer &modifiers();

@@ -56,6 +56,12 @@ public:
         packagingList.append(QSharedPointer<PackagingInfo>(new PackagingInfo{posnum, usedTara}));
         return packagingList.constLast();
     }
+
+    //! Changes the quantity of the goods of the first record.
+    bool changeGoodsBy(double delta)
+    {
+        return modifyPackagingPositionQuantity(packagingList.constFirst(), delta);
+    }
 };
 
 //! The records themselves, to be compared by value, or kept from what is changed later.

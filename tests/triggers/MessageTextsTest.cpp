@@ -148,7 +148,7 @@ TEST_F(MessageTexts, LogOfAUnion_IsSpelledExactly)
 
 TEST_F(MessageTexts, LogOfAStorno_IsSpelledExactly)
 {
-    plugin.stornoAllEmptyTara(control::Action(control::Subtotal, {}));
+    storno();
     EXPECT_EQ(log.lines(), QStringList{info(stornoLog)});
 }
 

@@ -21,8 +21,6 @@ class StornoAllEmptyTara : public TriggerTest<TestPlugin>
 protected:
     StornoAllEmptyTara() { host.addOther(90, 1); }
 
-    bool storno() { return plugin.stornoAllEmptyTara(control::Action(control::Subtotal, {})); }
-
     QStringList stornoes() const { return host.journal.filter("storno"); }
 
     void addEmptyTaras(const QList<int> &posnums)

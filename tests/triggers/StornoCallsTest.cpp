@@ -64,8 +64,6 @@ protected:
         EXPECT_CALL(*receipt, getPositionList()).WillOnce(Return(left));
     }
 
-    bool storno() { return plugin.stornoAllEmptyTara(control::Action(control::Subtotal, {})); }
-
     const QSharedPointer<testing::StrictMock<MockDocument>> receipt{
         new testing::StrictMock<MockDocument>};
     const QSharedPointer<testing::StrictMock<CountedDocumentLogic>> logic{

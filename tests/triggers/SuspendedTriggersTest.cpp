@@ -109,7 +109,7 @@ TEST_P(SuspendedTriggers, BeforeSubtotalWithoutEmptyTara_ContinuesWithoutAQuesti
 
 TEST_P(SuspendedTriggers, StornoAllEmptyTara_LogsAsksTheHostForNothingAndSucceeds)
 {
-    EXPECT_TRUE(plugin.stornoAllEmptyTara(control::Action(control::Subtotal, {})));
+    EXPECT_TRUE(storno());
     EXPECT_EQ(log.lines(), QStringList{"INFO Сторнирование пустой тары"});
     EXPECT_EQ(host.journal, QStringList());
 }

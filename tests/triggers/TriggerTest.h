@@ -47,6 +47,9 @@ protected:
         return call(ActionTrigger::After, action);
     }
 
+    //! The storno of empty tara by itself, as a subtotal would start it.
+    bool storno() { return plugin.stornoAllEmptyTara(control::Action(control::Subtotal, {})); }
+
     //! A position of goods sold into tara, in the receipt, without a record.
     GoodsItemPtr goods(int posnum, double quantity)
     {

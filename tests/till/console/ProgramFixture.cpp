@@ -9,13 +9,14 @@ QString ProgramTest::write(const QString &name, const QByteArray &contents) cons
     return path(name);
 }
 
-void ProgramTest::start(QProcess &process, const QStringList &arguments) const
+void ProgramTest::start(QProcess &process, const QStringList &arguments,
+                        const QString &program) const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("HOME", directory.path());
     environment.insert("XDG_DATA_HOME", path("data"));
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(TILL_PROGRAM), arguments);
+    process.start(program, arguments);
     ASSERT_TRUE(process.waitForStarted(patience));
 }
 
@@ -33,6 +34,19 @@ RunResult ProgramTest::run(const QStringList &arguments, const QByteArray &input
     QProcess process;
     start(process, arguments);
     process.write(input);
+    return resultOf(process);
+}
+
+RunResult ProgramTest::runInShell(const QString &line, const QStringList &arguments) const
+{
+    QProcess process;
+    start(process, QStringList{"-c", line, "sh", TILL_PROGRAM} + arguments, "sh");
+    return resultOf(process);
+}
+
+//! What the process leaves when it has nothing more to read.
+RunResult ProgramTest::resultOf(QProcess &process)
+{
     process.closeWriteChannel();
     if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit)
         return {-1, process.readAllStandardOutput().toStdString(), "did not end by itself"};

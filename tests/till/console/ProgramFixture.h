@@ -1,6 +1,7 @@
 #ifndef TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
 #define TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H
 
+#include "tests/support/Patience.h"
 #include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Sql.h"
 
@@ -12,8 +13,6 @@
 #include <gmock/gmock.h>
 
 #include <string>
-
-constexpr int patience = 60'000; //!< milliseconds, for a program that hangs
 
 //! What a run of the program left.
 struct RunResult
@@ -32,19 +31,25 @@ protected:
     //! Writes a file into the directory; its path.
     QString write(const QString &name, const QByteArray &contents) const;
 
-    //! Starts the program; its standard input stays open.
-    void start(QProcess &process, const QStringList &arguments) const;
+    //! Starts the program, or another; its standard input stays open.
+    void start(QProcess &process, const QStringList &arguments,
+               const QString &program = QStringLiteral(TILL_PROGRAM)) const;
     //! Starts a register on the database, and waits until it has carried out \a lines.
     void startRegister(QProcess &process, const QByteArray &lines) const;
     //! Runs \a sql on the database.
     void query(const QString &sql) const { till::rowsOf(database(), sql); }
     //! Runs the program on \a input to its end.
     RunResult run(const QStringList &arguments, const QByteArray &input = {}) const;
+    //! Lets a shell run \a line, in which "$@" is the program with \a arguments, to its end.
+    RunResult runInShell(const QString &line, const QStringList &arguments) const;
     //! Plays \a script, which must be done with nothing on standard error; what it prints.
     std::string play(const QByteArray &script, const QStringList &options = {}) const;
 
     //! The objects of a trace.
     static QList<QJsonObject> trace(const QByteArray &lines);
+
+private:
+    static RunResult resultOf(QProcess &process);
 };
 
 #endif // TESTS_TILL_CONSOLE_PROGRAMFIXTURE_H

@@ -46,7 +46,7 @@ private:
     void start();
     void send(TillProcess &till);
     QByteArray thinkOfCommand();
-    bool follow(TillProcess &till, Clock::time_point end);
+    bool follow(TillProcess &till, Clock::time_point end = TillProcess::givenUp());
     void read(const QJsonObject &note);
     void checkTakenUp() const;
     void checkRegistry(const Storage &storage) const;

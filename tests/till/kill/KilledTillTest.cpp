@@ -14,7 +14,7 @@ TEST_F(KilledTill, WhileItMakesItsDatabase_CanBeStartedAgain)
 {
     measure();
     for (int round = 0; round < 40 && !HasFailure(); ++round) {
-        SCOPED_TRACE(testing::Message() << "seed " << testSeed() << " round " << round);
+        SCOPED_TRACE(testing::Message() << repeatedBy(testSeed()) << " round " << round);
         const QString name = QStringLiteral("%1.db").arg(round);
         killWhileItMakes(name);
         checkUsable(name);

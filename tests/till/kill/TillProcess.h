@@ -1,6 +1,8 @@
 #ifndef TESTS_TILL_KILL_TILLPROCESS_H
 #define TESTS_TILL_KILL_TILLPROCESS_H
 
+#include "tests/support/Patience.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayList>
 #include <QtCore/QJsonObject>
@@ -28,8 +30,13 @@ public:
     //! Gives it one command to read.
     void send(const QByteArray &command);
 
+    //! When a till that hangs is given up.
+    static Clock::time_point givenUp()
+    {
+        return Clock::now() + std::chrono::milliseconds(patience);
+    }
     //! The next note of the trace; nothing when \a deadline passes before, or when it has ended.
-    std::optional<QJsonObject> nextNote(Clock::time_point deadline);
+    std::optional<QJsonObject> nextNote(Clock::time_point deadline = givenUp());
 
     //! Kills it at once and waits for its end. What it wrote before can still be read.
     void kill();

@@ -65,12 +65,10 @@ TEST_F(Export, Progress_IsForTerminals)
 TEST_F(Export, FullDisk_EndsTheExport)
 {
     sellMany(100);
-    QProcess shell;
-    shell.start("/bin/sh",
-                {"-c", "'" TILL_PROGRAM "' --db '" + database() + "' receipts --json > /dev/full"});
-    ASSERT_TRUE(shell.waitForFinished(patience));
-    EXPECT_EQ(shell.exitCode(), 3);
-    EXPECT_THAT(shell.readAllStandardError().toStdString(), HasSubstr("No space left"));
+    const RunResult failed =
+        runInShell("exec \"$@\" > /dev/full", {"--db", database(), "receipts", "--json"});
+    EXPECT_EQ(failed.status, 3);
+    EXPECT_THAT(failed.err, HasSubstr("No space left"));
 }
 
 } // namespace

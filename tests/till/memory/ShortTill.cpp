@@ -39,12 +39,6 @@ Environment preloaded(const Shortage &shortage)
     return Environment(variables);
 }
 
-//! The next note, however long it takes; nothing when the till has ended.
-std::optional<QJsonObject> nextNote(TillProcess &till)
-{
-    return till.nextNote(TillProcess::Clock::now() + std::chrono::hours(1));
-}
-
 QByteArrayList readSteps()
 {
     QFile file(SHORT_MEMORY_SCRIPT);
@@ -142,7 +136,7 @@ QString ShortTill::carryOut(TillProcess &till, const QByteArray &step)
 {
     till.send(step);
     qsizetype lines = step.count('\n') + 1;
-    while (const auto note = nextNote(till)) {
+    while (const auto note = till.nextNote()) {
         m_trace.read(*note);
         if ((*note)["kind"] == "outcome" && --lines == 0)
             return (*note)["outcome"].toString();
@@ -152,7 +146,7 @@ QString ShortTill::carryOut(TillProcess &till, const QByteArray &step)
 
 void ShortTill::readRest(TillProcess &till)
 {
-    while (const auto note = nextNote(till))
+    while (const auto note = till.nextNote())
         m_trace.read(*note);
 }
 

@@ -24,6 +24,11 @@ void leaveAProcess()
     close(file);
 }
 
+void goOn()
+{
+    std::fputs("the plugin goes on and on\n", stdout);
+}
+
 //! A plugin of the host's that goes wrong when so many pieces are added.
 class Faulty : public BaseActivityListener, public BasicPlugin, public DocumentWatcher
 {
@@ -64,7 +69,11 @@ public:
             break;
         case 16:
             for (;;)
-                std::fputs("the plugin goes on and on\n", stdout);
+                goOn();
+        case 17:
+            for (int line = 0; line < 700'000; ++line) // more than there is room for
+                goOn();
+            std::abort();
         default:
             break;
         }

@@ -90,7 +90,7 @@ TEST(ValueChange, OfRandomLists_MakesOneOfTheOther)
         const QVariantList before = list();
         const QVariantList after = list();
         const QList<ListChange> parts = partsOf(before, after);
-        ASSERT_EQ(QVariant(applied(before, parts)), QVariant(after)) << "seed " << testSeed();
+        ASSERT_EQ(QVariant(applied(before, parts)), QVariant(after)) << repeatedBy(testSeed());
         for (const ListChange &part : parts) {
             ASSERT_TRUE(part.added.size() <= part.removed
                         || part.at + part.added.size() == after.size());

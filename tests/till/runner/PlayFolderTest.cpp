@@ -61,18 +61,16 @@ TEST_F(PlayFolder, FolderThatCannotBeRead_IsWrong)
     script("all/a.till", good);
     script("all/closed/b.till", bad);
     // Whoever may read everything, as in a container, gives that up.
-    QProcess shell;
-    shell.start("sh", {"-c",
-                       "chmod 0 \"$1\"; shift; [ $(id -u) != 0 ] || set -- setpriv "
-                       "--bounding-set=-all --inh-caps=-all \"$@\"; exec \"$@\"",
-                       "sh", path("all/closed"), TILL_PROGRAM, "--lang", "en", "--quiet", "play",
-                       path("all")});
-    ASSERT_TRUE(shell.waitForFinished(patience));
-    const std::string out = shell.readAllStandardOutput().toStdString();
+    const RunResult done = runInShell("chmod 0 '" + path("all/closed")
+                                          + "'; [ $(id -u) != 0 ] || set -- setpriv "
+                                            "--bounding-set=-all --inh-caps=-all \"$@\"; "
+                                            "exec \"$@\"",
+                                      {"--lang", "en", "--quiet", "play", path("all")});
     EXPECT_EQ(chmod(QFile::encodeName(path("all/closed")).constData(), 0700), 0);
-    EXPECT_EQ(shell.exitCode(), 3);
-    EXPECT_THAT(out, HasSubstr("wrong     " + path("all/closed").toStdString()
-                               + "\nfound     Permission denied: no script in it is played\n"));
+    EXPECT_EQ(done.status, 3);
+    EXPECT_THAT(done.out,
+                HasSubstr("wrong     " + path("all/closed").toStdString()
+                          + "\nfound     Permission denied: no script in it is played\n"));
 }
 
 TEST_F(PlayFolder, FolderWithoutScripts_IsSaid)

@@ -149,25 +149,20 @@ TEST_F(Play, FaultInAnIncludedFile_NamesTheScriptToo)
 TEST_F(Play, TooFewFiles_PlayFewerAtATime)
 {
     const QStringList scripts(12, script("s.till", good));
-    QProcess shell;
-    shell.start("sh", QStringList{"-c", "ulimit -n 20; exec \"$@\"", "sh", TILL_PROGRAM, "--lang",
-                                  "en", "--quiet", "--jobs", "12", "play"}
-                          + scripts);
-    ASSERT_TRUE(shell.waitForFinished(patience));
-    EXPECT_EQ(shell.exitCode(), 0) << shell.readAllStandardError().toStdString();
-    EXPECT_THAT(shell.readAllStandardOutput().toStdString(), HasSubstr("12 of 12 scripts held"));
+    const RunResult done =
+        runInShell("ulimit -n 20; exec \"$@\"",
+                   QStringList{"--lang", "en", "--quiet", "--jobs", "12", "play"} + scripts);
+    EXPECT_EQ(done.status, 0) << done.err;
+    EXPECT_THAT(done.out, HasSubstr("12 of 12 scripts held"));
 }
 
 TEST_F(Play, ClosedStandardStreams_GiveTheirNumbersToNoFile)
 {
     const QString one = script("s.till", good);
-    QProcess shell;
-    shell.start("sh", {"-c", "exec \"$@\" <&- >&-", "sh", TILL_PROGRAM, "--junit", path("j.xml"),
-                       "play", one});
-    ASSERT_TRUE(shell.waitForFinished(patience));
-    EXPECT_EQ(shell.exitCode(), 3);
-    EXPECT_EQ(shell.readAllStandardError().toStdString(),
-              "till: standard output: Bad file descriptor\n");
+    const RunResult failed =
+        runInShell("exec \"$@\" <&- >&-", {"--junit", path("j.xml"), "play", one});
+    EXPECT_EQ(failed.status, 3);
+    EXPECT_EQ(failed.err, "till: standard output: Bad file descriptor\n");
     EXPECT_THAT(contents(path("j.xml")).toStdString(), HasSubstr("failures=\"0\" errors=\"0\""));
 }
 

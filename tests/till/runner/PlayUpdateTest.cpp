@@ -135,13 +135,11 @@ TEST_F(PlayUpdate, DifferenceThatCannotBeShown_IsNotMade)
 {
     const QByteArray text = "open\nexpect positions 7\n";
     const QString one = script("s.till", text);
-    QProcess shell;
-    shell.start("sh", {"-c", "exec \"$@\" > /dev/full", "sh", TILL_PROGRAM, "--quiet", "play",
-                       "--update", one});
-    ASSERT_TRUE(shell.waitForFinished(patience));
-    EXPECT_EQ(shell.exitCode(), 3);
+    const RunResult failed =
+        runInShell("exec \"$@\" > /dev/full", {"--quiet", "play", "--update", one});
+    EXPECT_EQ(failed.status, 3);
     EXPECT_EQ(contents(one), text);
-    EXPECT_THAT(shell.readAllStandardError().toStdString(),
+    EXPECT_THAT(failed.err,
                 HasSubstr("s.till: is left as it was, as the difference cannot be shown"));
 }
 

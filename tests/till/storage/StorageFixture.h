@@ -1,6 +1,7 @@
 #ifndef TESTS_TILL_STORAGE_STORAGEFIXTURE_H
 #define TESTS_TILL_STORAGE_STORAGEFIXTURE_H
 
+#include "tests/support/Patience.h"
 #include "tests/till/support/FolderTest.h"
 #include "tests/till/support/Results.h"
 #include "till/storage/Storage.h"

@@ -38,7 +38,7 @@ protected:
     {
         QProcess writer;
         writer.start(STORAGE_WRITER, {"steps", file, QString::number(call)});
-        EXPECT_TRUE(writer.waitForFinished(-1));
+        EXPECT_TRUE(writer.waitForFinished(patience));
         const QByteArray output = writer.readAllStandardOutput();
         EXPECT_EQ(writer.readAllStandardError(), QByteArray());
         EXPECT_EQ(writer.exitStatus(), QProcess::CrashExit) << output.constData();
@@ -89,6 +89,7 @@ private:
 
 TEST_F(StorageKill, KilledAgainAndAgainWhileSaving_NothingAcknowledgedIsMissingOrHalfThere)
 {
+    SCOPED_TRACE(repeatedBy(testSeed()));
     Progress last;
     const int rounds = 40 * testEffort();
     constexpr int mostCalls = 150; // of about ten saves

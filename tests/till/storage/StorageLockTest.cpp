@@ -15,7 +15,7 @@ protected:
     {
         QProcess process;
         process.start(STORAGE_WRITER, {"open", path()});
-        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_TRUE(process.waitForFinished(patience));
         EXPECT_EQ(process.readAllStandardError(), QByteArray());
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
     }

@@ -209,7 +209,7 @@ TEST_F(StorageVariant, TypeThatIsNotKnownHere_IsAnErrorThatNamesIt)
 {
     QProcess process;
     process.start(STORAGE_WRITER, {"foreign", path()});
-    ASSERT_TRUE(process.waitForFinished());
+    ASSERT_TRUE(process.waitForFinished(patience));
     ASSERT_EQ(process.readAllStandardOutput(), "saved\n");
 
     EXPECT_EQ(faultText(opened()->unfinishedReceipt()),

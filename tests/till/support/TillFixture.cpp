@@ -1,5 +1,7 @@
 #include "tests/till/support/TillFixture.h"
 
+#include "tests/till/support/SampleShop.h"
+
 namespace till {
 
 void PrintTo(const Outcome &outcome, std::ostream *out)
@@ -29,11 +31,7 @@ TillTest::~TillTest()
 
 till::Setup TillTest::setup() const
 {
-    return {directory.filePath("till.sqlite"),
-            QStringLiteral(TILL_SHARE_DIR "/catalogue.csv"),
-            QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE),
-            {},
-            {}};
+    return sampleShop(path("till.sqlite"));
 }
 
 void TillTest::start(const till::Setup &setup, const QString &language)

@@ -71,6 +71,7 @@ TEST_F(HostileNotes, MalformedPluginData_SayNothingOfTara)
 
 TEST_F(HostileNotes, AnyOrderOfNotes_KeepsEachOnce)
 {
+    SCOPED_TRACE(repeatedBy(testSeed()));
     static const std::vector<const char *> kinds{
         "command",  "outcome", "action", "result", "event",   "trigger",  "log",
         "question", "answer",  "data",   "script", "verdict", "position", "takeup"};

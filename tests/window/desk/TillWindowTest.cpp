@@ -201,7 +201,7 @@ TEST_F(TillWindowTest, Message_GoesByItself)
 
     window->banner().setLifetime(1);
 
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->banner().isTelling(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->banner().isTelling(); }, patience));
     EXPECT_TRUE(find("header").isVisible());
 }
 

@@ -56,7 +56,7 @@ TEST_F(Work, WhileAScriptRuns_CommandsShowWhatCanBeDone)
 
     click("scriptRun");
 
-    EXPECT_TRUE(QTest::qWaitFor([this] { return find("scriptOpen").isEnabled(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return find("scriptOpen").isEnabled(); }, patience));
     EXPECT_EQ(receipt()->lines().size(), 20);
     EXPECT_TRUE(couldPay);
 }

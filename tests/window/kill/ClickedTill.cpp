@@ -56,7 +56,7 @@ int main(int argc, char *argv[])
     hands.window = std::make_unique<TillWindow>(desk, notes, QStringLiteral("en"));
     hands.window->switchOn();
     static_cast<QWidget &>(*hands.window).show();
-    if (!QTest::qWaitForWindowActive(hands.window.get()))
+    if (!QTest::qWaitForWindowActive(hands.window.get(), patience))
         return 3;
     std::string line;
     while (std::getline(std::cin, line))

@@ -1,5 +1,7 @@
 #include "window/look/KeyDock.h"
 
+#include "tests/support/Patience.h"
+
 #include <QtTest/QTest>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
@@ -25,7 +27,7 @@ protected:
         window.resize(400, 300);
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, patience));
         press(Qt::Key_F9);
     }
 

@@ -1,4 +1,5 @@
 #include "window/receipt/ReceiptModel.h"
+#include "tests/till/support/SampleShop.h"
 #include "tests/window/support/WindowTest.h"
 
 #include <QtTest/QAbstractItemModelTester>
@@ -13,12 +14,7 @@ class ReceiptModelTest : public FolderTest
 {
 protected:
     ReceiptModelTest()
-        : desk({QStringLiteral(":memory:"),
-                QStringLiteral(TILL_SHARE_DIR "/catalogue.csv"),
-                QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE),
-                {},
-                {}},
-               notes)
+        : desk(sampleShop(QStringLiteral(":memory:")), notes)
         , model(Translator(QStringLiteral("en")))
         , tester(&model, QAbstractItemModelTester::FailureReportingMode::Warning)
         , changed(&model, &QAbstractItemModel::dataChanged)

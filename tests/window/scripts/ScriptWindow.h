@@ -40,8 +40,8 @@ protected:
     //! Waits until the script stands still, and its button says \a run again.
     void settle(const QString &run = "Run")
     {
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return part<QPushButton>("scriptRun").text() == run; }, 60000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return part<QPushButton>("scriptRun").text() == run; },
+                                    patience));
     }
     void runAll(const QString &run = "Run")
     {

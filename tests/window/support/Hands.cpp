@@ -123,7 +123,7 @@ void Hands::enter(const QString &text)
     press(Qt::Key_Return);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window.get()))
+    if (!QTest::qWaitForWindowActive(window.get(), patience))
         throw std::runtime_error("the window does not come back");
 }
 

@@ -1,6 +1,7 @@
 #ifndef TESTS_WINDOW_SUPPORT_HANDS_H
 #define TESTS_WINDOW_SUPPORT_HANDS_H
 
+#include "tests/support/Patience.h"
 #include "tests/window/support/PartOf.h"
 #include "window/desk/TillWindow.h"
 #include "window/receipt/ReceiptTable.h"

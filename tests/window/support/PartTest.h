@@ -1,6 +1,7 @@
 #ifndef TESTS_WINDOW_SUPPORT_PARTTEST_H
 #define TESTS_WINDOW_SUPPORT_PARTTEST_H
 
+#include "tests/support/Patience.h"
 #include "tests/support/Printers.h"
 #include "tests/till/support/TillFixture.h"
 #include "tests/window/support/PartOf.h"
@@ -22,7 +23,7 @@ protected:
         whole.resize(size);
         whole.show();
         whole.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&whole));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&whole, patience));
     }
 
     template <typename Widget>

@@ -41,15 +41,17 @@ protected:
     //! Waits until the buttons that clear fields have faded in or out, which is all that moves.
     void settle() const
     {
-        EXPECT_TRUE(QTest::qWaitFor([this] {
-            const auto fields = window->findChildren<QLineEdit *>();
-            return std::all_of(fields.cbegin(), fields.cend(), [](const QLineEdit *field) {
-                const auto *const button = field->findChild<QToolButton *>();
-                return !button
-                       || button->property("opacity").toDouble()
-                              == (field->text().isEmpty() ? 0 : 1);
-            });
-        }));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] {
+                const auto fields = window->findChildren<QLineEdit *>();
+                return std::all_of(fields.cbegin(), fields.cend(), [](const QLineEdit *field) {
+                    const auto *const button = field->findChild<QToolButton *>();
+                    return !button
+                           || button->property("opacity").toDouble()
+                                  == (field->text().isEmpty() ? 0 : 1);
+                });
+            },
+            patience));
         QCoreApplication::processEvents();
     }
     void save(const QPixmap &picture, const QString &state) const

@@ -1,6 +1,7 @@
 // What a command costs in the window, beside what it costs the register alone: milliseconds of the
 // median of many, on a receipt of so many positions.
 
+#include "tests/till/support/SampleShop.h"
 #include "tests/window/support/Hands.h"
 
 #include <QtCore/QElapsedTimer>
@@ -44,12 +45,7 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("packaging=false")); // as the window has it
     const int positions = argc > 1 ? std::atoi(argv[1]) : 1000;
     Notes notes;
-    CashDesk desk({QStringLiteral(":memory:"),
-                   QStringLiteral(TILL_SHARE_DIR "/catalogue.csv"),
-                   QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE),
-                   {},
-                   {}},
-                  notes);
+    CashDesk desk(sampleShop(QStringLiteral(":memory:")), notes);
     const Result<> started = desk.start();
     if (!started)
         return 1;
@@ -64,7 +60,7 @@ int main(int argc, char *argv[])
     window.switchOn();
     window.shelf().setMoving(false);
     static_cast<QWidget &>(window).show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    if (!QTest::qWaitForWindowExposed(&window, patience))
         return 1;
     const auto drawn = [&](const Command &command) {
         window.carryOut(command);

@@ -1,5 +1,6 @@
 #include "tests/window/support/WindowTest.h"
 
+#include "tests/till/support/SampleShop.h"
 #include "window/scripts/ScriptPanel.h"
 
 namespace till {
@@ -18,11 +19,7 @@ WindowTest::~WindowTest()
 
 till::Setup WindowTest::setup() const
 {
-    return {directory.filePath("till.sqlite"),
-            QStringLiteral(TILL_SHARE_DIR "/catalogue.csv"),
-            QStringLiteral(PACKAGINGCONTROL_PLUGIN_FILE),
-            {},
-            {}};
+    return sampleShop(path("till.sqlite"));
 }
 
 void WindowTest::open(const till::Setup &setup, const QString &language)
@@ -32,7 +29,7 @@ void WindowTest::open(const till::Setup &setup, const QString &language)
     window = std::make_unique<TillWindow>(*till, notes, language);
     window->switchOn();
     static_cast<QWidget &>(*window).show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get(), patience));
 }
 
 void WindowTest::close()
