@@ -121,7 +121,7 @@ bool Register::ask(const Question &question)
     m_notes.add("question", {{"key", question.text.key()}, {"text", question.text.text()}});
     const bool answer = m_front && m_front->ask(question);
     if (!answer)
-        m_declined = question.text;
+        m_declined = {messages::tillDeclined(), {}, question.text};
     const tr::Tr &taken = answer ? question.confirm : question.cancel;
     m_notes.add("answer", {{"key", taken.key()}, {"confirmed", answer}});
     return answer;
@@ -175,10 +175,8 @@ Outcome Register::outcomeOf(EContext::Result result) const
 {
     if (result == EContext::Continue)
         return Outcome::done();
-    if (result == EContext::Cancel && m_declined == tr::Tr()) // a plugin asked nobody
-        return {Outcome::Declined, {}, {}};
-    if (result == EContext::Cancel)
-        return {Outcome::Declined, {messages::tillDeclined(), {}, m_declined}, {}};
+    if (result == EContext::Cancel) // without a reason where a plugin asked nobody
+        return {Outcome::Declined, m_declined, {}};
     if (m_runner.wasStoppedByPlugin())
         return {Outcome::RefusedByPlugin, {m_shown, {}}, {}};
     return {Outcome::RefusedByRegister, m_runner.reason(), {}};

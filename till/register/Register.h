@@ -145,9 +145,9 @@ private:
     HostServices m_services;
     ActionRunner m_runner;
     QSharedPointer<Receipt> m_receipt;
-    Journal m_journal; //!< of the command that is under way
-    tr::Tr m_shown;    //!< the last message of that command
-    tr::Tr m_declined; //!< the last question of it that was answered no
+    Journal m_journal;  //!< of the command that is under way
+    tr::Tr m_shown;     //!< the last message of that command
+    Message m_declined; //!< that a question of it was answered no, the last such; empty without one
     Observers<> m_receiptObservers;
     bool m_isReceiptTouched = false; //!< and nobody was told yet
     bool m_isPluginReady = false;
