@@ -122,10 +122,14 @@ Result<KeptJournal> Archive::journal(qint64 id)
 
 KeptReceipt Archive::kept(const ReadReceipt &read) const
 {
-    return {read.record,        timeOf(read.opened),
-            timeOf(read.ended), read.positions,
-            read.total,         m_setApart.value(read.record.id),
-            read.recordHolds,   {}};
+    return {.record = read.record,
+            .opened = timeOf(read.opened),
+            .ended = timeOf(read.ended),
+            .positions = read.positions,
+            .total = read.total,
+            .setApart = m_setApart.value(read.record.id),
+            .recordHolds = read.recordHolds,
+            .dataHold = {}};
 }
 
 } // namespace till

@@ -117,17 +117,10 @@ QString csvRow(const KeptReceipt &receipt)
 {
     const ReceiptRecord &record = receipt.record;
     const QString number = QString::number(record.id);
-    if (!receipt.recordHolds)
-        return csvLine({number,
-                        {},
-                        {},
-                        {},
-                        {},
-                        {},
-                        {},
-                        {},
-                        receipt.setApart,
-                        receipt.recordHolds.error().reason});
+    if (!receipt.recordHolds) {
+        const QString &fault = receipt.recordHolds.error().reason;
+        return csvLine({number, {}, {}, {}, {}, {}, {}, {}, receipt.setApart, fault});
+    }
     return csvLine({number,
                     wordOfType(record.type),
                     wordOf(record.state),
