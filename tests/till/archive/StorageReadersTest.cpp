@@ -39,6 +39,20 @@ protected:
     QString killed() const { return path("killed-till.db"); }
 
     static CheckReport checked(const QString &path) { return must(checkDatabase(path)); }
+
+    //! The check of a new database of receipts of these sizes without \a table, which it names.
+    CheckReport checkedWithout(const QString &table, const QList<int> &sizes) const
+    {
+        QFile::remove(path());
+        for (const int size : sizes)
+            leaveUnfinished(size);
+        query("DROP TABLE " + table);
+        const CheckReport report = checked(path());
+        EXPECT_THAT(faultText(report.fileHolds).toStdString(),
+                    HasSubstr("its table " + table.toStdString() + " is missing"));
+        EXPECT_FALSE(report.isGood());
+        return report;
+    }
 };
 
 TEST_F(StorageReaders, BesideATill_SeeWhatItSavedAndDoNotStopIt)
@@ -223,33 +237,21 @@ TEST_F(StorageReaders, CheckOfADamagedFile_SaysSo)
 TEST_F(StorageReaders, CheckWithoutATableOfNoReceipts_CountsWhatHolds)
 {
     for (const QString table : {"journal", "setApart"}) {
-        leaveUnfinished(2);
-        query("DROP TABLE " + table);
-        const CheckReport report = checked(path());
-        EXPECT_THAT(faultText(report.fileHolds).toStdString(),
-                    HasSubstr("its table " + table.toStdString() + " is missing"));
+        const CheckReport report = checkedWithout(table, {2});
         EXPECT_EQ(report.whole, 1);
         EXPECT_EQ(report.odd.size(), 0);
         EXPECT_TRUE(report.hasAll);
-        EXPECT_FALSE(report.isGood());
-        QFile::remove(path());
     }
 }
 
 TEST_F(StorageReaders, CheckWithoutATableOfReceipts_NamesEach)
 {
     for (const QString table : {"positions", "softChecks", "pluginData"}) {
-        leaveUnfinished(2);
-        leaveUnfinished(3);
-        query("DROP TABLE " + table);
-        const CheckReport report = checked(path());
-        EXPECT_THAT(faultText(report.fileHolds).toStdString(),
-                    HasSubstr("its table " + table.toStdString() + " is missing"));
+        const CheckReport report = checkedWithout(table, {2, 3});
         EXPECT_EQ(report.whole, 0);
         ASSERT_EQ(report.odd.size(), 2);
         EXPECT_EQ(report.odd[1].id, 2);
         EXPECT_EQ(report.odd[1].reason, "no such table: " + table);
-        QFile::remove(path());
     }
 }
 
