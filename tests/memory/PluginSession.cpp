@@ -1,7 +1,7 @@
 #include "host/BaseActivityListener.h"
 #include "host/DocumentWatcher.h"
+#include "tests/support/Actions.h"
 #include "tests/support/FakeHost.h"
-#include "tests/triggers/Actions.h"
 #include "till/plugins/PluginLoader.h"
 
 #include <cstdio>

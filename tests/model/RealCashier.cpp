@@ -2,7 +2,7 @@
 
 #include "host/ActionArguments.h"
 #include "host/Quantity.h"
-#include "tests/triggers/Actions.h"
+#include "tests/support/Actions.h"
 
 // What the cashier does, command by command.
 

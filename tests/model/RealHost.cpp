@@ -3,7 +3,7 @@
 #include "host/ActionArguments.h"
 #include "host/Quantity.h"
 #include "tests/model/RealServices.h"
-#include "tests/triggers/Actions.h"
+#include "tests/support/Actions.h"
 
 #include <utility>
 

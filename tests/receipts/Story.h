@@ -2,10 +2,10 @@
 #define TESTS_RECEIPTS_STORY_H
 
 #include "host/Quantity.h"
+#include "tests/support/Actions.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TestPlugin.h"
-#include "tests/triggers/Actions.h"
 
 #include <QtCore/QLocale>
 

@@ -1,11 +1,11 @@
 #ifndef TESTS_TRIGGERS_TRIGGERTEST_H
 #define TESTS_TRIGGERS_TRIGGERTEST_H
 
+#include "tests/support/Actions.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TestPlugin.h"
-#include "tests/triggers/Actions.h"
 
 #include <gtest/gtest.h>
 

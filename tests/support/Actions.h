@@ -1,5 +1,5 @@
-#ifndef TESTS_TRIGGERS_ACTIONS_H
-#define TESTS_TRIGGERS_ACTIONS_H
+#ifndef TESTS_SUPPORT_ACTIONS_H
+#define TESTS_SUPPORT_ACTIONS_H
 
 #include "host/Action.h"
 #include "host/ActionArguments.h"
@@ -38,4 +38,4 @@ inline control::Action unite(const GoodsItemPtrList &deleted, const GoodsItemPtr
 
 } // namespace actions
 
-#endif // TESTS_TRIGGERS_ACTIONS_H
+#endif // TESTS_SUPPORT_ACTIONS_H
