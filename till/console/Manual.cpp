@@ -10,7 +10,7 @@ namespace till {
 namespace {
 
 //! \a text as it is to be read, whatever signs it holds.
-QString plain(QString text)
+QString roff(QString text)
 {
     text.replace('\\', QLatin1String("\\e")).replace('-', QLatin1String("\\-"));
     return text.startsWith('.') || text.startsWith('\'') ? "\\&" + text : text;
@@ -19,7 +19,7 @@ QString plain(QString text)
 //! An entry of a list: what it is about, and what is said of it.
 QString entry(const QString &subject, const QString &text)
 {
-    return ".TP\n.B " + plain(subject) + '\n' + plain(text) + '\n';
+    return ".TP\n.B " + roff(subject) + '\n' + roff(text) + '\n';
 }
 
 QString section(const char *name, const QString &text)
@@ -72,8 +72,8 @@ QString commands()
 QString manualPage()
 {
     return QStringLiteral(".TH TILL 1 \"\" \"till " TILL_VERSION "\"\n")
-           + section("NAME", plain("till - a small cash register with packaging control") + '\n')
-           + section("SYNOPSIS", ".B till\n" + plain("[OPTION...] [COMMAND [WORD...]]") + '\n')
+           + section("NAME", roff("till - a small cash register with packaging control") + '\n')
+           + section("SYNOPSIS", ".B till\n" + roff("[OPTION...] [COMMAND [WORD...]]") + '\n')
            + section("DESCRIPTION", modes()) + section("OPTIONS", options())
            + section("COMMANDS OF THE REGISTER", commands()) + section("EXIT STATUS", statuses())
            + section("SEE ALSO",

@@ -8,7 +8,7 @@ namespace till {
 
 namespace {
 
-LineRecord lineOf(const QJsonObject &note)
+LineRecord lineOfNote(const QJsonObject &note)
 {
     const ArticleData article{note["article"].toString(),      note["name"].toString(),
                               note["price"].toInteger(),       note["taraMode"].toInt(),
@@ -70,7 +70,7 @@ void RebuiltReceipt::readHeader(const QJsonObject &note)
 //! Lines are in the order of their numbers.
 void RebuiltReceipt::readLine(const QJsonObject &note)
 {
-    const LineRecord line = lineOf(note);
+    const LineRecord line = lineOfNote(note);
     const auto place =
         std::lower_bound(record.lines.begin(), record.lines.end(), line.posnum,
                          [](const auto &other, int posnum) { return other.posnum < posnum; });

@@ -17,7 +17,7 @@ constexpr auto StreamVersion = QDataStream::Qt_6_4;
 
 //! What \a value holds, which must be of that type.
 template <typename Type>
-const Type &held(const QVariant &value)
+const Type &valueOf(const QVariant &value)
 {
     return *static_cast<const Type *>(value.constData());
 }
@@ -57,17 +57,17 @@ private:
     {
         switch (type) {
         case QMetaType::QVariant:
-            return visit(held<QVariant>(value));
+            return visit(valueOf<QVariant>(value));
         case QMetaType::QVariantPair:
             visit(static_cast<const std::pair<QVariant, QVariant> *>(value.constData())->first);
             return visit(
                 static_cast<const std::pair<QVariant, QVariant> *>(value.constData())->second);
         case QMetaType::QVariantList:
-            return visitAll(held<QVariantList>(value));
+            return visitAll(valueOf<QVariantList>(value));
         case QMetaType::QVariantMap:
-            return visitAll(held<QVariantMap>(value));
+            return visitAll(valueOf<QVariantMap>(value));
         case QMetaType::QVariantHash:
-            return visitAll(held<QVariantHash>(value));
+            return visitAll(valueOf<QVariantHash>(value));
         default:
             if (type > QMetaType::LastCoreType)
                 visitContainer(value);

@@ -11,7 +11,7 @@ namespace {
 
 using Kind = ExpectedForm::Kind;
 
-bool isCount(const QString &word)
+bool isCountWord(const QString &word)
 {
     static const QRegularExpression form(QStringLiteral("^[0-9]{1,9}\\z"));
     return form.match(word).hasMatch();
@@ -28,7 +28,7 @@ Outcome checkWord(Kind kind, const QString &word, const Outcome &usage)
         return notANumber(word);
     if (kind == Kind::Money && !parseMoney(word))
         return notMoney(word);
-    return kind == Kind::Count && !isCount(word) ? usage : Outcome::done();
+    return kind == Kind::Count && !isCountWord(word) ? usage : Outcome::done();
 }
 
 //! Reads the words of an expectation one by one.

@@ -10,16 +10,16 @@ namespace till {
 namespace {
 
 //! Feeds the parser line by line, which is how it comes to know where a row starts.
-class Reader
+class CsvReader
 {
 public:
-    explicit Reader(char separator)
+    explicit CsvReader(char separator)
     {
         csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI);
         csv_set_delim(&m_parser, static_cast<unsigned char>(separator));
     }
-    ~Reader() { csv_free(&m_parser); }
-    Q_DISABLE_COPY_MOVE(Reader)
+    ~CsvReader() { csv_free(&m_parser); }
+    Q_DISABLE_COPY_MOVE(CsvReader)
 
     Result<void, CsvFault> read(const QByteArray &text,
                                 const std::function<bool(const CsvRow &)> &take)
@@ -83,14 +83,14 @@ private:
 
     static void fieldEnded(void *field, size_t size, void *reader)
     {
-        auto &row = static_cast<Reader *>(reader)->m_row;
+        auto &row = static_cast<CsvReader *>(reader)->m_row;
         row.fields.append(QByteArray(static_cast<const char *>(field), qsizetype(size)).trimmed());
     }
 
     //! A line ends one row at most.
     static void rowEnded(int, void *reader)
     {
-        auto *self = static_cast<Reader *>(reader);
+        auto *self = static_cast<CsvReader *>(reader);
         self->m_isRowWhole = true;
         self->m_inRow = false;
     }
@@ -107,7 +107,7 @@ private:
 Result<void, CsvFault> readCsv(const QByteArray &text, char separator,
                                const std::function<bool(const CsvRow &)> &take)
 {
-    return Reader(separator).read(text, take);
+    return CsvReader(separator).read(text, take);
 }
 
 } // namespace till

@@ -10,7 +10,7 @@ namespace till {
 
 namespace {
 
-QString row(const QString &what, const QString &finding)
+QString findingRow(const QString &what, const QString &finding)
 {
     constexpr int width = 16;
     return what.leftJustified(width) + finding + '\n';
@@ -59,13 +59,14 @@ Result<Finding, Failure> checkStored(const QString &database)
     const auto report = checkDatabase(database);
     if (!report)
         return Failure{StartFailed, report.error()};
-    QString text = row("file", report->fileHolds ? "whole" : report->fileHolds.error().reason)
-                   + row("receipts", summary(*report));
+    QString text =
+        findingRow("file", report->fileHolds ? "whole" : report->fileHolds.error().reason)
+        + findingRow("receipts", summary(*report));
     for (const OddReceipt &receipt : report->odd)
-        text += row("receipt " + QString::number(receipt.id),
-                    (receipt.isSetApart ? "set apart: " : "damaged: ") + receipt.reason);
+        text += findingRow("receipt " + QString::number(receipt.id),
+                           (receipt.isSetApart ? "set apart: " : "damaged: ") + receipt.reason);
     for (const JournalFault &fault : report->journalFaults)
-        text += row("journal of " + QString::number(fault.receipt), fault.reason);
+        text += findingRow("journal of " + QString::number(fault.receipt), fault.reason);
     return Finding{report->isGood() ? AllWell : CommandFailed, text};
 }
 

@@ -24,7 +24,7 @@ QString interfaceId()
     return QStringLiteral("PackagingControl");
 }
 
-QString quoted(const QString &text)
+QString inQuotes(const QString &text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
@@ -85,8 +85,8 @@ Result<PluginMetadata, PluginError> readRecord(const QPluginLoader &library, con
     if (metadata.interfaceId == interfaceId())
         return metadata;
     return PluginError{PluginError::WrongInterface, path,
-                       QStringLiteral("interface ") + quoted(interfaceId()),
-                       QStringLiteral("interface ") + quoted(metadata.interfaceId)};
+                       QStringLiteral("interface ") + inQuotes(interfaceId()),
+                       QStringLiteral("interface ") + inQuotes(metadata.interfaceId)};
 }
 
 //! The missing part, or null when \a loaded has them all.
@@ -112,11 +112,11 @@ PluginError wrongObject(const QString &path, const LoadedPlugin &loaded)
 {
     const QString found =
         loaded.object ? QStringLiteral("an object of class ")
-                            + quoted(QString::fromUtf8(loaded.object->metaObject()->className()))
+                            + inQuotes(QString::fromUtf8(loaded.object->metaObject()->className()))
                       : QStringLiteral("no object");
     return {PluginError::WrongObject, path,
             QStringLiteral("an object that answers to ")
-                + quoted(QString::fromLatin1(missingPart(loaded))),
+                + inQuotes(QString::fromLatin1(missingPart(loaded))),
             found};
 }
 

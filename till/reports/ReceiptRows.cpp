@@ -15,7 +15,7 @@ constexpr int numberWidth = 8;
 constexpr int timeWidth = 16;
 constexpr int totalWidth = 12;
 
-QString gap()
+QString columnGap()
 {
     return QStringLiteral("  ");
 }
@@ -57,7 +57,7 @@ QString ReceiptRows::line(const QString &number, const QString &opened, const QS
     const QString beginning =
         QStringList{rightAligned(number, numberWidth), leftAligned(opened, timeWidth),
                     rightAligned(total, totalWidth), QString()}
-            .join(gap());
+            .join(columnGap());
     return beginning + elided(words, m_style.columns() - displayWidth(beginning));
 }
 

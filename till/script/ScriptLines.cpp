@@ -27,7 +27,7 @@ Result<QString> readText(const QString &path)
 }
 
 //! Takes the lines of a file up, and of those that it includes.
-class Reader
+class LineReader
 {
 public:
     Result<> read(const QString &path, const QString &text)
@@ -87,7 +87,7 @@ Result<QList<ScriptLine>> readScript(const QString &path)
     const Result<QString> text = readText(path);
     if (!text)
         return text.error();
-    Reader reader;
+    LineReader reader;
     if (const Result<> read = reader.read(path, *text); !read)
         return read.error();
     return reader.lines();

@@ -32,10 +32,10 @@ QString typeOf(Verdict::End end)
                                          : "wrong";
 }
 
-class Writer
+class JunitWriter
 {
 public:
-    explicit Writer(QByteArray &bytes)
+    explicit JunitWriter(QByteArray &bytes)
         : m_xml(&bytes)
     {
         m_xml.setAutoFormatting(true);
@@ -127,7 +127,7 @@ private:
 QByteArray junit(const QList<Verdict> &verdicts, const QStringList &scripts)
 {
     QByteArray bytes;
-    Writer(bytes).write(verdicts, scripts);
+    JunitWriter(bytes).write(verdicts, scripts);
     return bytes;
 }
 

@@ -14,7 +14,7 @@ namespace till {
 
 namespace {
 
-constexpr int padding = 5;
+constexpr int tilePadding = 5;
 constexpr int gap = 4;
 constexpr int nameLines = 2;
 
@@ -44,7 +44,7 @@ void drawName(QPainter &painter, const QRect &area, const QString &text)
 QSize ArticleDelegate::tileSize(const QFont &font)
 {
     const QFontMetrics metrics(font);
-    const int height = (nameLines + 1) * metrics.height() + 2 * padding + gap;
+    const int height = (nameLines + 1) * metrics.height() + 2 * tilePadding + gap;
     return {metrics.averageCharWidth() * 19, std::max(height, touchHeight + gap)};
 }
 
@@ -69,12 +69,12 @@ void ArticleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->drawRoundedRect(tile.adjusted(1, 1, -1, -1), 4, 4);
     painter->setPen(option.palette.color(QPalette::ButtonText));
     painter->setFont(option.font);
-    const QRect inside = tile.adjusted(padding, padding, -padding, -padding);
+    const QRect inside = tile.adjusted(tilePadding, tilePadding, -tilePadding, -tilePadding);
     drawName(*painter, inside, printable(article.name));
     const QString price = toText(article.price);
     QFont bold = option.font;
     bold.setBold(true);
-    const int priceWidth = QFontMetrics(bold).horizontalAdvance(price) + padding;
+    const int priceWidth = QFontMetrics(bold).horizontalAdvance(price) + tilePadding;
     painter->drawText(inside, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine,
                       painter->fontMetrics().elidedText(printable(article.code), Qt::ElideRight,
                                                         std::max(inside.width() - priceWidth, 0)));
