@@ -7,73 +7,87 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${build_packages[@]}" "${check_packages[@]}"
 build=build/lint
-# The linters read the sources and what moc makes of them; nothing has to be compiled. They read
-# batches of sources, as most of their time goes into Qt's headers.
-CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 \
-    -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
-cmake --build "$build" --target autogen >/dev/null
-# Clang's analyzer follows paths only in the file that it is given, and in those that this one includes
-# itself if its name has UnifiedSource in it.
-find "$build" -name 'UnifiedSource_*' -delete
-find "$build" -name 'unity_*.cxx' -print0 | while IFS= read -r -d '' batch; do
-    cp "$batch" "${batch/\/unity_//UnifiedSource_}"
-done
-sed -i 's:/unity_:/UnifiedSource_:g' "$build/compile_commands.json"
+# The linters read the sources and what moc makes of them; of the rest only the common headers of the
+# till and of its window are compiled.
+CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPACKAGINGCONTROL_WERROR=ON \
+    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON >/dev/null
+cmake --build "$build" --target autogen \
+    {till/CMakeFiles/till,window/CMakeFiles/window}_precompiled.dir/cmake_pch.hxx.pch >/dev/null
 
-# batches FILTER: the batches of the modules in build/lint whose paths match.
-batches() {
-    find "$build" -path "$1" -name 'UnifiedSource_*.cxx' -print0 | sort -rz
+plugin=(plugin registry events triggers)
+host=(host log4qt)
+others=(contract till window)
+
+# sources MODULE...: the sources of these modules, but for templates that others fill in.
+sources() {
+    git ls-files -- "${@/%//*.cpp}" | grep -vE '^contract/(rows|template)/'
 }
 
-mapfile -t plugin < <(git ls-files 'plugin/*.cpp' 'registry/*.cpp' 'events/*.cpp' 'triggers/*.cpp')
-mapfile -t others < <(git ls-files 'host/*.cpp' 'log4qt/*.cpp' 'till/*.cpp' 'window/*.cpp')
-
-# The till's modules are small, and read together as far as the names in them go together.
-mapfile -t flags < <(grep -B 1 -E '"file": ".*/(till|window)/' "$build/compile_commands.json" \
-    | grep -oE -- '-(D[^ ]+|I[^ ]+|isystem [^ ]+)' | sed 's/isystem /isystem/; s/\\\\\\"/"/g' | sort -u)
-flags+=(-std=c++20 -fPIC)
-# join BATCHES...: tells a file that has them all, or several.
-join() {
-    local all
-    all=$(mktemp "$build/UnifiedSource_XXXXXX.cxx")
-    cat "$@" >"$all"
-    if [ $# -eq 1 ] || clang++ "${flags[@]}" -fsyntax-only -ferror-limit=1 "$all" 2>/dev/null; then
-        printf '%s\0' "$all"
-    else
-        rm "$all"
-        join "${@:1:$#/2}"
-        join "${@:$#/2+1}"
-    fi
+# command_of SOURCE: how it is compiled.
+command_of() {
+    sed -n "s:^ *\"command\"\: \"\(.* -c $PWD/$1\)\",\$:\1:p" "$build/compile_commands.json" \
+        | sed 's/\\\(.\)/\1/g' | head -n 1 | grep . || { echo "$1 is not compiled in $build" >&2; return 1; }
 }
-mapfile -d '' -t small < <(batches "$build/till/*"; batches "$build/window/*")
-mapfile -d '' -t joined < <(for ((i = 0; i < ${#small[@]}; i += 10)); do join "${small[@]:i:10}"; done)
-mapfile -d '' -t apart < <(for module in plugin host log4qt contract; do batches "$build/$module/*"; done)
-for source in "${plugin[@]}" "${others[@]}"; do
-    grep -qsF "/$source\"" "${joined[@]}" "${apart[@]}" \
-        || { echo "$source is in no batch that is read" >&2; exit 1; }
-done
 
-# tidy ARGUMENTS...: reads the files that it is given.
+# flags_of MODULE...: where the sources of these modules find their headers, and what is defined for them.
+flags_of() {
+    local modules="$*"
+    grep -B 1 -E "\"file\": \"$PWD/($build/)?(${modules// /|})/" "$build/compile_commands.json" \
+        | grep -oE -- '-(D[^ ]+|I[^ ]+|isystem [^ ]+)' | sed 's/isystem /isystem/; s/\\\\\\"/"/g' | sort -u
+}
+
+# together NAME PARTS MODULE...: tells files that include the sources of the modules, as many as PARTS. Most
+# of the linters' time goes into Qt's headers, so that they are read a few times and not for each source;
+# the names in the sources' unnamed namespaces differ for that. Clang's analyzer follows paths in the
+# file that it is given, and in those that this one includes itself if its name has UnifiedSource in it.
+together() {
+    local name=$1 parts=$2 file
+    shift 2
+    for ((part = 0; part < parts; ++part)); do
+        file=$PWD/$build/UnifiedSource_$name$part.cxx
+        sources "$@" | awk -v parts="$parts" -v part="$part" 'NR % parts == part' \
+            | sed "s:.*:#include \"$PWD/&\":" >"$file"
+        printf '%s\n' "$file"
+    done
+}
+
+# tidy PARTS MODULE...: a line for each file to be read, with what it is compiled with. What is not loaded
+# into a host has a quarter of the steps that the analyzer takes through a function by itself, and half of
+# its time.
 tidy() {
-    xargs -0 -I '{}' -P "$(nproc)" clang-tidy --quiet --checks=-bugprone-suspicious-include '{}' "$@"
+    local parts=$1 file analyzer=()
+    shift
+    [[ " ${plugin[*]} ${host[*]} " == *" $1 "* ]] || analyzer=(-Xclang -analyzer-config -Xclang max-nodes=50000)
+    together "$1" "$parts" "$@" | while IFS= read -r file; do
+        printf '%q ' clang-tidy --quiet --checks=-bugprone-suspicious-include "$file" -- -std=c++20 -fPIC \
+            "${analyzer[@]}"
+        flags_of "$@" | while IFS= read -r flag; do printf '%q ' "$flag"; done
+        printf '\n'
+    done
 }
-echo "clang-tidy: $((${#plugin[@]} + ${#others[@]})) sources"
-printf '%s\0' "${apart[@]}" | tidy -p "$build"
-printf '%s\0' "${joined[@]}" | tidy -- "${flags[@]}"
+# at_once: carries out the commands on the lines of its input, as many together as there are cores.
+at_once() {
+    xargs -d '\n' -n 1 -P "$(nproc)" bash -c
+}
 
-# Batches hide what a source forgot to include, so each is compiled alone too, but for its code.
-alone=build/lint-alone
-CXX=clang++ cmake -S . -B "$alone" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPACKAGINGCONTROL_WERROR=ON \
-    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
-cmake --build "$alone" --target autogen >/dev/null
-echo "each alone: $((${#plugin[@]} + ${#others[@]})) sources"
-for source in "${plugin[@]}" "${others[@]}"; do
-    sed -n "s:^ *\"command\"\: \"\(.* -c $PWD/$source\)\",\$:\1:p" "$alone/compile_commands.json" \
-        | head -n 1 | grep . || { echo "$source is not compiled in $alone" >&2; exit 1; }
-done | sed 's/\\\(.\)/\1/g' | xargs -d '\n' -P "$(nproc)" -I '{}' sh -c "cd $alone && {} -fsyntax-only"
+echo "clang-tidy: $(sources "${plugin[@]}" "${host[@]}" "${others[@]}" | wc -l) sources"
+{
+    tidy 4 till
+    tidy 2 window
+    tidy 2 contract
+    tidy 1 "${host[@]}"
+    tidy 1 "${plugin[@]}"
+} | at_once
 
-echo "clazy: ${#plugin[@]} sources"
-batches '*/plugin/*' | CLAZY_CHECKS=level1 xargs -0 -n 1 -P "$(nproc)" clazy-standalone -p "$build" \
-    --header-filter='/(plugin|registry|events|triggers)/[^/]*\.(h|cpp)$' \
-    --extra-arg=-Werror --extra-arg=-Wno-error=unknown-warning-option
+# Read together they hide what one of them forgot to include, so each is compiled alone too, but for its code.
+mapfile -t alone < <(sources "${plugin[@]}" "${host[@]}" till window)
+echo "each alone: ${#alone[@]} sources"
+for source in "${alone[@]}"; do
+    printf 'cd %q && %s -fsyntax-only\n' "$build" "$(command_of "$source")"
+done | at_once
+
+echo "clazy: $(sources "${plugin[@]}" | wc -l) sources"
+mapfile -t flags < <(flags_of "${plugin[@]}")
+CLAZY_CHECKS=level1 clazy-standalone --header-filter='/(plugin|registry|events|triggers)/[^/]*\.(h|cpp)$' \
+    "$(together clazy 1 "${plugin[@]}")" \
+    -- -std=c++20 -fPIC "${flags[@]}" -Werror -Wno-error=unknown-warning-option
