@@ -23,12 +23,12 @@ void Stage::begin()
     receipt = granted(driver->open(), "open");
 }
 
-int Stage::tara()
+int Stage::tara() const
 {
     return granted(driver->addTara(5.0, 2.0), "addTara");
 }
 
-int Stage::goods()
+int Stage::goods() const
 {
     return granted(driver->addGoods(4.0), "addGoods");
 }

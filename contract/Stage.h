@@ -21,9 +21,9 @@ struct Stage
     //! Has the host take up the probe and open a sale.
     void begin();
     //! A position of two pieces of tara, 5 each; its number.
-    int tara();
+    int tara() const;
     //! A position of 4 of goods; its number.
-    int goods();
+    int goods() const;
     //! The position of that number in the receipt, which must be there.
     GoodsItemPtr position(int posnum) const;
 };

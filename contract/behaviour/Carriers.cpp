@@ -6,6 +6,8 @@
 #include "host/Quantity.h"
 #include "host/Session.h"
 
+#include <QtCore/QList>
+
 // What carries values between host and plugin: events, actions, modifiers.
 
 namespace contract {
@@ -69,10 +71,10 @@ Finding sharedArguments()
 Finding sharedByCopies()
 {
     const control::Action action = emptyAction();
-    const control::Action copy = action;
+    const QList<control::Action> copies = {action};
     control::args::Core(action).setPositionNumber(3);
     const int needed = control::args::Core(action).positionNumber();
-    const int seen = control::args::Core(copy).positionNumber();
+    const int seen = control::args::Core(copies.first()).positionNumber();
     return judge(
         {{seen == needed,
           QStringLiteral("position %1 in a copy and %2 in the action").arg(seen).arg(needed)}});

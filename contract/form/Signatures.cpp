@@ -36,6 +36,9 @@ Row form(const char *what, bool holds)
     return {holds, QStringLiteral("not %1").arg(QString::fromLatin1(what))};
 }
 
+template <class Type, class Base>
+constexpr bool derives = std::is_convertible_v<Type *, Base *>;
+
 // The call on an object of the type compiles and gives exactly the result.
 #define GIVES(Type, call, Result)                                                                  \
     form(#Type "::" #call " giving " #Result, []<class T>(std::type_identity<T>) {                 \
@@ -56,8 +59,7 @@ Row form(const char *what, bool holds)
     }(std::type_identity<Type>()))
 #define MADE_FROM(Type, ...)                                                                       \
     form(#Type " made from (" #__VA_ARGS__ ")", std::is_constructible_v<Type, __VA_ARGS__>)
-#define DERIVES(Type, Base)                                                                        \
-    form(#Type " derived from " #Base, std::is_convertible_v<Type *, Base *>)
+#define DERIVES(Type, Base) form(#Type " derived from " #Base, derives<Type, Base>)
 
 Finding bases()
 {

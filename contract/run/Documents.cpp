@@ -3,7 +3,7 @@
 
 #include <QtCore/QMetaType>
 
-#include <cstring>
+#include <bit>
 
 namespace contract {
 
@@ -26,7 +26,7 @@ QVariantList storedTree()
 
 bool hasSameBits(double one, double other)
 {
-    return std::memcmp(&one, &other, sizeof one) == 0;
+    return std::bit_cast<quint64>(one) == std::bit_cast<quint64>(other);
 }
 
 Finding compareWithStored(const QVariant &seen)
