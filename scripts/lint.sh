@@ -8,11 +8,12 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 need_packages "${build_packages[@]}" "${check_packages[@]}"
 build=build/lint
 # The linters read the sources and what moc makes of them; of the rest only the common headers of the
-# till and of its window are compiled.
+# till and of its window are compiled, and what those depend on.
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPACKAGINGCONTROL_WERROR=ON \
     -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON >/dev/null
 cmake --build "$build" --target autogen \
-    {till/CMakeFiles/till,window/CMakeFiles/window}_precompiled.dir/cmake_pch.hxx.pch >/dev/null
+    {till/CMakeFiles/till,window/CMakeFiles/window}_precompiled.dir/cmake_pch.hxx.pch \
+    >"$build/build.log" || { cat "$build/build.log" >&2; exit 1; }
 
 plugin=(plugin registry events triggers)
 host=(host log4qt)
