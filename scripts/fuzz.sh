@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets with sanitizers and runs them from the corpus in the tree. Any finding
-# fails, and its input stays in build/fuzz/findings.
+# fails, and its input stays in build/asan/fuzzing/findings. FUZZ_BUILD names another folder than
+# build/asan.
 #
 #   scripts/fuzz.sh             as CI does: 200,000 runs of the plugin, fewer of the till's readers
 #   scripts/fuzz.sh FACTOR      FACTOR times as many
-#   scripts/fuzz.sh --renew     keeps what the runs in build/fuzz/new found, minimised, as the corpus
+#   scripts/fuzz.sh --renew     keeps what earlier runs found, minimised, as the corpus
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/dependencies.sh
@@ -12,19 +13,18 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/figures.sh
 . scripts/figures.sh
 
-need_packages "${build_packages[@]}" "${check_packages[@]}"
-build=build/fuzz
-log=$build/logs
-findings=$build/findings
+need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}"
+build=${FUZZ_BUILD:-build/asan}
+fuzzing=$build/fuzzing
+log=$fuzzing/logs
+findings=$fuzzing/findings
 
 # Name, runs, longest input and processes of each target: the runs of the plugin are by far the most,
 # so half of them begin at another seed beside the others.
 targets=("receipt 200000 256 2" "catalogue 50000 256 1" "till 8000 160 1")
 
 mkdir -p "$log" "$findings"
-CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DPACKAGINGCONTROL_FUZZ=ON -DPACKAGINGCONTROL_SANITIZE=ON -DCMAKE_UNITY_BUILD=ON \
-    >"$log/build.log"
+cmake --preset asan -B "$build" >"$log/build.log"
 cmake --build "$build" --target fuzz_receipt fuzz_catalogue fuzz_till >>"$log/build.log" \
     || { cat "$log/build.log" >&2; exit 1; }
 
@@ -36,13 +36,13 @@ words() {
 if [ "${1-}" = --renew ]; then
     for target in "${targets[@]}"; do
         read -r name _ length _ <<<"$target"
-        mkdir -p "$build/new/$name" "$build/merged/$name"
-        rm -f "$build/merged/$name"/*
-        "$build/bin/fuzz_$name" -merge=1 -max_len="$length" "$build/merged/$name" \
-            "fuzz/corpus/$name" "$build/new/$name" 2>"$log/merge-$name.log"
+        mkdir -p "$fuzzing/new/$name" "$fuzzing/merged/$name"
+        rm -f "$fuzzing/merged/$name"/*
+        "$build/bin/fuzz_$name" -merge=1 -max_len="$length" "$fuzzing/merged/$name" \
+            "fuzz/corpus/$name" "$fuzzing/new/$name" 2>"$log/merge-$name.log"
         # Of those that say something new, the tree keeps 150: any, as they are named by their hash.
         find "fuzz/corpus/$name" -type f -delete
-        find "$build/merged/$name" -type f | sort | head -150 \
+        find "$fuzzing/merged/$name" -type f | sort | head -150 \
             | xargs -r cp -t "fuzz/corpus/$name"
         echo "fuzz/corpus/$name: $(find "fuzz/corpus/$name" -type f | wc -l) files"
     done
@@ -55,13 +55,13 @@ echo "Fuzzing with seed $seed; TEST_SEED=N tries another"
 pids=()
 for target in "${targets[@]}"; do
     read -r name runs length processes <<<"$target"
-    mkdir -p "$build/new/$name"
+    mkdir -p "$fuzzing/new/$name"
     for ((i = 1; i <= processes; ++i)); do
         # shellcheck disable=SC2046
         "$build/bin/fuzz_$name" -runs=$((runs * factor / processes)) -max_len="$length" -timeout=20 \
             -seed=$(((seed + i) % 4294967295 + 1)) -print_final_stats=1 \
             -artifact_prefix="$findings/$name-" $(words "$name") \
-            "$build/new/$name" "fuzz/corpus/$name" >"$log/$name-$i.log" 2>&1 &
+            "$fuzzing/new/$name" "fuzz/corpus/$name" >"$log/$name-$i.log" 2>&1 &
         pids+=($!)
     done
 done
