@@ -7,11 +7,12 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${build_packages[@]}" "${check_packages[@]}"
 build=build/lint
-# The linters read the sources and what moc makes of them; of the rest only the common headers of the
-# till and of its window are compiled, and what those depend on.
+# The linters read the sources and what moc makes of them. Read together those hide what one of them forgot
+# to include, so that each is compiled alone, too: here those of the plugin and of its host, on which the
+# common headers of the till and of its window depend.
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPACKAGINGCONTROL_WERROR=ON \
     -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON >/dev/null
-cmake --build "$build" --target autogen \
+cmake --build "$build" --target autogen PackagingControlObjects PackagingHost log4qt \
     {till/CMakeFiles/till,window/CMakeFiles/window}_precompiled.dir/cmake_pch.hxx.pch \
     >"$build/build.log" || { cat "$build/build.log" >&2; exit 1; }
 
@@ -80,8 +81,8 @@ echo "clang-tidy: $(sources "${plugin[@]}" "${host[@]}" "${others[@]}" | wc -l) 
     tidy 1 "${plugin[@]}"
 } | at_once
 
-# Read together they hide what one of them forgot to include, so each is compiled alone too, but for its code.
-mapfile -t alone < <(sources "${plugin[@]}" "${host[@]}" till window)
+# The sources with common headers are compiled alone but for their code.
+mapfile -t alone < <(sources till window)
 echo "each alone: ${#alone[@]} sources"
 for source in "${alone[@]}"; do
     printf 'cd %q && %s -fsyntax-only\n' "$build" "$(command_of "$source")"
