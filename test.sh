@@ -2,7 +2,8 @@
 # Builds everything and runs all tests. Arguments go to ctest: ./test.sh -R Receipt
 #
 # What is tried at random is the same every time. TEST_SEED=N ./test.sh tries something else, and
-# TEST_EFFORT=10 ./test.sh ten times as much. CXX=g++ ./test.sh builds with GCC instead of Clang.
+# TEST_EFFORT=10 ./test.sh ten times as much, on a plugin and a host that are optimised a little.
+# CXX=g++ ./test.sh builds with GCC instead of Clang.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 # shellcheck source=scripts/dependencies.sh

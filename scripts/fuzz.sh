@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets with sanitizers and runs them from the corpus in the tree. Any finding
-# fails, and its input stays in build/asan/fuzzing/findings. FUZZ_BUILD names another folder than
-# build/asan.
+# fails, and its input stays in build/fuzzing/findings. FUZZ_BUILD names another folder to build in
+# than build/asan, with Clang.
 #
 #   scripts/fuzz.sh             as CI does: 200,000 runs of the plugin, fewer of the till's readers
 #   scripts/fuzz.sh FACTOR      FACTOR times as many
@@ -15,7 +15,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${build_packages[@]}" "${test_packages[@]}" "${check_packages[@]}"
 build=${FUZZ_BUILD:-build/asan}
-fuzzing=$build/fuzzing
+fuzzing=build/fuzzing
 log=$fuzzing/logs
 findings=$fuzzing/findings
 

@@ -7,11 +7,11 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${build_packages[@]}" "${check_packages[@]}"
 build=build/lint
-# The linters read the sources and what moc makes of them. Read together those hide what one of them forgot
-# to include, so that each is compiled alone, too: here those of the plugin and of its host, on which the
-# common headers of the till and of its window depend.
+# The linters read the sources and what moc makes of them. Read together, one source hides what another
+# forgot to include, so each is compiled alone, too: by this build those of the plugin and of its host, on
+# which the common headers of the till and of its window depend, and the others below.
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPACKAGINGCONTROL_WERROR=ON \
-    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON >/dev/null
+    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_DISABLE_FIND_PACKAGE_Log4Qt=ON >/dev/null
 cmake --build "$build" --target autogen PackagingControlObjects PackagingHost log4qt \
     {till/CMakeFiles/till,window/CMakeFiles/window}_precompiled.dir/cmake_pch.hxx.pch \
     >"$build/build.log" || { cat "$build/build.log" >&2; exit 1; }

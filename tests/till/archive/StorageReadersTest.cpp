@@ -224,10 +224,7 @@ TEST_F(StorageReaders, CheckOfWhatWasSetApart_IsGood)
 
 TEST_F(StorageReaders, CheckOfADamagedFile_SaysSo)
 {
-    leaveUnfinished(200);
-    QByteArray damaged = contents(path());
-    damaged.replace(damaged.size() / 8192 * 4096, 4096, QByteArray(4096, '\x5a'));
-    overwrite(path(), damaged);
+    const QByteArray damaged = leaveDamaged();
     const CheckReport report = checked(path());
     EXPECT_THAT(faultText(report.fileHolds).toStdString(), HasSubstr("damaged"));
     EXPECT_FALSE(report.isGood());

@@ -29,6 +29,14 @@ void ProgramTest::startRegister(QProcess &process, const QByteArray &lines) cons
         said += process.readAllStandardOutput();
 }
 
+void ProgramTest::endRegister(QProcess &process, const QByteArray &lines)
+{
+    process.write(lines);
+    process.closeWriteChannel();
+    ASSERT_TRUE(process.waitForFinished(patience));
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+}
+
 RunResult ProgramTest::run(const QStringList &arguments, const QByteArray &input) const
 {
     QProcess process;

@@ -36,6 +36,8 @@ protected:
                const QString &program = QStringLiteral(TILL_PROGRAM)) const;
     //! Starts a register on the database, and waits until it has carried out \a lines.
     void startRegister(QProcess &process, const QByteArray &lines) const;
+    //! Ends it after \a lines, all of which must hold.
+    static void endRegister(QProcess &process, const QByteArray &lines);
     //! Runs \a sql on the database.
     void query(const QString &sql) const { till::rowsOf(database(), sql); }
     //! Runs the program on \a input to its end.

@@ -47,6 +47,13 @@ void PrintTo(const ToldReceipt &receipt, std::ostream *out)
         *out << "\n    " << note.toStdString();
 }
 
+ToldReceipt TraceReader::toTakeUp() const
+{
+    ToldReceipt receipt = m_acknowledged.isOpen() ? m_acknowledged.asTakenUp() : ToldReceipt();
+    receipt.journal.clear();
+    return receipt;
+}
+
 void TraceReader::restart()
 {
     forgetUnderWay();

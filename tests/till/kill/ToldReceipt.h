@@ -68,6 +68,8 @@ public:
     //! Receipts before the newest.
     const QList<ToldReceipt> &finished() const { return m_finished; }
 
+    //! What the next till has to tell that it takes up: the newest receipt, if it is open.
+    ToldReceipt toTakeUp() const;
     //! The receipt as the started till told that it took it up; number 0 when it took up none.
     const ToldReceipt &takenUp() const { return m_takenUp; }
 

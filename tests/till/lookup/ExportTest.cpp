@@ -19,10 +19,7 @@ TEST_F(Export, ExportThatTakesLong_StopsNoTill)
     ASSERT_TRUE(exporting.waitForReadyRead(patience)); // then its pipe is full
     QProcess till;
     start(till, {"--db", database()});
-    till.write("open\nadd CAN3\nadd BEER 2\npay\nopen\nadd CHIPS\n");
-    till.closeWriteChannel();
-    ASSERT_TRUE(till.waitForFinished(patience));
-    EXPECT_EQ(till.exitCode(), 0) << till.readAllStandardError().toStdString();
+    endRegister(till, "open\nadd CAN3\nadd BEER 2\npay\nopen\nadd CHIPS\n");
     EXPECT_EQ(exporting.state(), QProcess::Running);
     ASSERT_TRUE(exporting.waitForFinished(patience));
     EXPECT_EQ(exporting.exitCode(), 0);
@@ -40,10 +37,7 @@ TEST_F(Export, BesideATill_HasItsLastCommand)
     const RunResult second = run({"--db", database()}, "show\n");
     EXPECT_EQ(second.status, 3);
     EXPECT_THAT(second.err, HasSubstr("another till has this database open"));
-    till.write("add BAG\nexpect total 164.90\n");
-    till.closeWriteChannel();
-    ASSERT_TRUE(till.waitForFinished(patience));
-    EXPECT_EQ(till.exitCode(), 0);
+    endRegister(till, "add BAG\nexpect total 164.90\n");
 }
 
 TEST_F(Export, Progress_IsForTerminals)

@@ -238,10 +238,7 @@ TEST_F(Upkeep, BackUpAndCheckBesideATill_DoNotDisturbIt)
     EXPECT_EQ(check().status, 0);
     EXPECT_EQ(run({"--db", database(), "backup", path("copy.sqlite")}).status, 0);
     EXPECT_EQ(run({"--db", database(), "backup", path("copy.sqlite")}).status, 3);
-    till.write("add BAG\nexpect total 164.90\n");
-    till.closeWriteChannel();
-    ASSERT_TRUE(till.waitForFinished(patience));
-    EXPECT_EQ(till.exitCode(), 0);
+    endRegister(till, "add BAG\nexpect total 164.90\n");
     EXPECT_EQ(run({"--db", path("copy.sqlite")}, "expect total 129.90\n").status, 0);
 }
 

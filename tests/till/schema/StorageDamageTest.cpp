@@ -61,10 +61,7 @@ TEST_F(StorageDamage, TruncatedAnywhere_IsRefused)
 
 TEST_F(StorageDamage, PageOverwritten_IsAnErrorOfTheReading)
 {
-    leaveUnfinished(200);
-    QByteArray damaged = contents(path());
-    damaged.replace(damaged.size() / 8192 * 4096, 4096, QByteArray(4096, '\x5a'));
-    overwrite(path(), damaged);
+    const QByteArray damaged = leaveDamaged();
     const std::string fault = unreadable().toStdString();
     EXPECT_THAT(fault, HasSubstr("damaged"));
     EXPECT_THAT(fault, HasSubstr("\"till set-apart NUMBER\" leaves one out"));

@@ -115,6 +115,16 @@ ReceiptRecord StorageTest::leaveUnfinished(int count) const
     return record;
 }
 
+QByteArray StorageTest::leaveDamaged() const
+{
+    constexpr qsizetype page = 4096;
+    leaveUnfinished(200);
+    QByteArray damaged = contents(path());
+    damaged.replace(damaged.size() / page / 2 * page, page, QByteArray(page, '\x5a'));
+    overwrite(path(), damaged);
+    return damaged;
+}
+
 LineRecord oddLine()
 {
     const ArticleData article{QString::fromUtf8("Ж-1'\"%1"),

@@ -49,6 +49,8 @@ protected:
     static ReceiptRecord receiptOf(int count);
     //! A database with one unfinished receipt of that many positions; what was saved.
     ReceiptRecord leaveUnfinished(int count) const;
+    //! A database of many pages, the middle one of which holds nothing of it any more; its bytes.
+    QByteArray leaveDamaged() const;
 };
 
 //! What the database at \a path, which a storage may have open, has in the journal of that receipt.
