@@ -7,14 +7,11 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 need_packages "${build_packages[@]}" "${check_packages[@]}"
 build=build/lint
-# The linters read the sources and what moc makes of them. Read together, one source hides what another
-# forgot to include, so each is compiled alone, too: by this build those of the plugin and of its host, on
-# which the common headers of the till and of its window depend, and the others below.
+# The linters read the sources and what moc makes of them.
 CXX=clang++ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPACKAGINGCONTROL_WERROR=ON \
-    -DCMAKE_GLOBAL_AUTOGEN_TARGET=ON -DCMAKE_DISABLE_FIND_PACKAGE_Log4Qt=ON >/dev/null
-cmake --build "$build" --target autogen PackagingControlObjects PackagingHost log4qt \
-    {till/CMakeFiles/till,window/CMakeFiles/window}_precompiled.dir/cmake_pch.hxx.pch \
-    >"$build/build.log" || { cat "$build/build.log" >&2; exit 1; }
+    -DCMAKE_DISABLE_FIND_PACKAGE_Log4Qt=ON >/dev/null
+# As the build does, but for the libraries that it would make first.
+find "$build" -name AutogenInfo.json -exec cmake -E cmake_autogen {} Debug \;
 
 plugin=(plugin registry events triggers)
 host=(host log4qt)
@@ -74,15 +71,20 @@ at_once() {
 
 echo "clang-tidy: $(sources "${plugin[@]}" "${host[@]}" "${others[@]}" | wc -l) sources"
 {
-    tidy 4 till
-    tidy 2 window
-    tidy 2 contract
+    tidy 2 till
+    tidy 1 contract
+    tidy 1 window
     tidy 1 "${host[@]}"
     tidy 1 "${plugin[@]}"
 } | at_once
 
-# The sources with common headers are compiled alone but for their code.
-mapfile -t alone < <(sources till window)
+# Read together, one source hides what another forgot to include, so each is compiled alone, too, but for its
+# code; those of the till and of its window with the headers that they have in common.
+common=({till/CMakeFiles/till,window/CMakeFiles/window}_precompiled.dir/cmake_pch.hxx.cxx)
+for source in "${common[@]/#/$build/}"; do
+    printf 'cd %q && %s\n' "$build" "$(command_of "$source")"
+done | at_once
+mapfile -t alone < <(sources "${plugin[@]}" "${host[@]}" till window)
 echo "each alone: ${#alone[@]} sources"
 for source in "${alone[@]}"; do
     printf 'cd %q && %s -fsyntax-only\n' "$build" "$(command_of "$source")"
