@@ -61,7 +61,7 @@ if ! grep -q "Log4Qt found in $prefix/" "$build/configure.log"; then
     exit 1
 fi
 cmake --build "$build/build" "${targets[@]}" >"$build/build.log" 2>&1 || { cat "$build/build.log" >&2; exit 1; }
-if ! readelf -d "$build/build/lib/packagingcontrol/plugins/PackagingControl.so" | grep -q 'NEEDED.*log4qt'; then
+if ! readelf -d "$build/build/lib/packagingcontrol/plugins/PackagingControl.so" | grep 'NEEDED.*log4qt' >/dev/null; then
     echo "The plugin does not use a Log4Qt." >&2
     exit 1
 fi
