@@ -51,7 +51,7 @@ fi
 
 # Where memory came from is told five calls deep, which saves a sixth of the time: a finding's input, run by
 # itself, tells all.
-export ASAN_OPTIONS=malloc_context_size=5
+export ASAN_OPTIONS=malloc_context_size=5${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 factor=${1:-1}
 seed=${TEST_SEED:-20240607}
 echo "Fuzzing with seed $seed; TEST_SEED=N tries another"
