@@ -96,8 +96,8 @@ done | at_once
 
 echo "clazy: $(sources "${plugin[@]}" | wc -l) sources"
 mapfile -t flags < <(flags_of "${plugin[@]}")
-together=$(together clazy 1 "${plugin[@]}")
-[ -s "$together" ]
+reading=$(together clazy 1 "${plugin[@]}")
+[ -s "$reading" ]
 CLAZY_CHECKS=level1 clazy-standalone --header-filter='/(plugin|registry|events|triggers)/[^/]*\.(h|cpp)$' \
-    "$together" \
+    "$reading" \
     -- -std=c++20 -fPIC "${flags[@]}" -Werror -Wno-error=unknown-warning-option
